@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+
+namespace norvane {
+
+/// A colour in the host's form: low byte red, then green, then blue. With the top bit set the low
+/// byte is the index of a system colour, which only a drawing surface resolves.
+using Colour = std::int32_t;
+
+constexpr Colour systemColour(std::uint8_t index) {
+  return static_cast<Colour>(0x80000000U | index);
+}
+
+constexpr bool isSystemColour(Colour colour) { return colour < 0; }
+
+namespace colours {
+constexpr Colour white = 0xFFFFFF;
+constexpr Colour greyText = systemColour(0x11);
+constexpr Colour light3D = systemColour(0x16);
+}  // namespace colours
+
+}  // namespace norvane

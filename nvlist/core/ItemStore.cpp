@@ -1,0 +1,52 @@
+#include <nvlist/core/ItemStore.h>
+
+#include <limits>
+
+#include <nvlist/objects/Failure.h>
+
+namespace norvane {
+
+ListItem& ItemStore::touch(std::int32_t index) {
+  Ref<ListItem>& reference = slot(index);
+  if (!reference) reference = makeRef<ListItem>();
+  return *reference;
+}
+
+Ref<ListItem>& ItemStore::slot(std::int32_t index) {
+  if (!holds(index)) throw Failure::subscriptOutOfRange();
+  return slots_[static_cast<std::size_t>(index)];
+}
+
+void ItemStore::grow() {
+  if (upperBound() == std::numeric_limits<std::int32_t>::max()) throw Failure::overflow();
+  slots_.emplace_back();
+}
+
+// References are let go last: an item's objects may run host code as they are destroyed.
+
+void ItemStore::shrink() {
+  const Ref<ListItem> last = std::move(slots_.back());
+  slots_.pop_back();
+}
+
+void ItemStore::reset() {
+  std::deque<Ref<ListItem>> old(1);
+  slots_.swap(old);
+}
+
+void ItemStore::moveLastTo(std::int32_t index) {
+  slot(index);
+  if (index == upperBound()) return;
+  Ref<ListItem> last = std::move(slots_.back());
+  slots_.pop_back();
+  slots_.insert(slots_.begin() + index, std::move(last));
+}
+
+void ItemStore::moveDownOnto(std::int32_t index) {
+  const Ref<ListItem> removed = std::move(slot(index));
+  Ref<ListItem> last = slots_.back();
+  slots_.erase(slots_.begin() + index);
+  slots_.push_back(std::move(last));
+}
+
+}  // namespace norvane

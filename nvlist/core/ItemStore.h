@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+
+#include <nvlist/core/ListItem.h>
+
+namespace norvane {
+
+/// The array of the list: references to items from 0 to upperBound(). There is always at least one
+/// slot. A slot may be empty; it gets a blank item the first time it is touched.
+///
+/// The slots stand in a deque, so that adding and removing at either end costs nothing more than
+/// the slot itself, and in the middle moves the shorter side only.
+class ItemStore {
+ public:
+  std::int32_t upperBound() const { return static_cast<std::int32_t>(slots_.size()) - 1; }
+
+  bool holds(std::int32_t index) const { return index >= 0 && index <= upperBound(); }
+
+  /// The item in a slot, made if the slot is empty. Throws Failure 9 outside the bounds.
+  ListItem& touch(std::int32_t index);
+
+  /// The reference in a slot, to be read or replaced. Throws Failure 9 outside the bounds.
+  Ref<ListItem>& slot(std::int32_t index);
+
+  /// One more, empty slot at the end.
+  void grow();
+  /// Drops the last slot with its reference.
+  void shrink();
+  /// A single empty slot again; all references are dropped.
+  void reset();
+
+  /// Moves the reference in the last slot to `index` and those behind it up by one.
+  void moveLastTo(std::int32_t index);
+  /// Takes the reference at `index` out and moves those behind it down by one. The last slot keeps
+  /// the reference that stood there, as after a move slot by slot.
+  void moveDownOnto(std::int32_t index);
+
+ private:
+  std::deque<Ref<ListItem>> slots_ = std::deque<Ref<ListItem>>(1);
+};
+
+}  // namespace norvane

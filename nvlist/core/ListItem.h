@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string>
+
+#include <nvlist/core/Boolean.h>
+#include <nvlist/core/Colour.h>
+#include <nvlist/core/Picture.h>
+#include <nvlist/core/Ref.h>
+#include <nvlist/core/Variant.h>
+#include <nvlist/core/enumerations.h>
+
+namespace norvane {
+
+/// One entry of a list. It has no behaviour: every member may be read and written. A new record has
+/// every field in the zero state of its type; ItemsAdd then writes all of them.
+///
+/// The four variant colours hold a colour or the text "def", which says that the item has no colour
+/// of its own and takes what the style of the list gives. The two colours of the disabled state are
+/// plain numbers and cannot say so.
+class ListItem : public Shared {
+ public:
+  Boolean Checked;          ///< the check mark
+  Variant ForeColor;        ///< text colour
+  Variant BackColor;        ///< background colour
+  Variant ForeColorSelect;  ///< text colour while selected
+  Variant BackColorSelect;  ///< background colour while selected
+  Colour ForeColorDis = 0;  ///< text colour while disabled
+  Colour BackColorDis = 0;  ///< background colour while disabled
+  Picture Icon;
+  Picture IconSelected;  ///< icon while selected; empty: Icon serves then too
+  Boolean AllowEdit;     ///< may be edited in place, given the list's AllowEdit too
+  std::string Text;
+  Boolean Enabled;  ///< a disabled item cannot become the current one
+  Boolean Selected;
+  Variant Tag;  ///< free value of the host
+  cItemAlignment Alignment = cLeft;
+  Boolean Bold;
+  Boolean Italic;
+  Boolean Underline;
+  std::string Key;  ///< the host's key; neither unique nor indexed
+};
+
+}  // namespace norvane

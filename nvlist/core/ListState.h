@@ -1,0 +1,109 @@
+#pragma once
+
+#include <string>
+
+#include <nvlist/core/Boolean.h>
+#include <nvlist/core/Colour.h>
+#include <nvlist/core/Font.h>
+#include <nvlist/core/ItemStore.h>
+#include <nvlist/core/Rectangle.h>
+#include <nvlist/core/Variant.h>
+#include <nvlist/core/enumerations.h>
+
+namespace norvane {
+
+/// What the list reads and writes of one of its scroll bars. `Tag` holds the wanted visibility as
+/// "True" or "False"; `Visible` follows it when the bars are placed.
+struct ScrollBarRecord {
+  std::int32_t Min = 0;
+  std::int32_t Max = 0;
+  std::int32_t Value = 0;
+  float Left = 0;
+  float Top = 0;
+  float Width = 17;
+  float Height = 17;
+  Boolean Visible = false;
+  std::string Tag = "False";
+};
+
+/// Everything an nvList knows. A field with the name of a public property is what that property
+/// reads; the others have no public surface. Lengths are pixels.
+///
+/// The loop variables stand here and not in the operations that loop: a call that comes back in
+/// through a handler of the host, while a loop yields, moves the outer loop on. They only ever hold
+/// whole numbers, but for InsertIndex, which takes whatever the host gave as index.
+struct ListState {
+  std::int32_t TopIndex = 0;  ///< item in the top row; negative where the list is shorter than it
+  norvane::Font Font;         ///< a clone of its own
+  Colour ForeColor = 0;
+  Colour BackColor = colours::white;
+  Boolean Enabled = true;
+  Boolean ClickOnIndexChange = false;
+  std::int32_t ListIndex = 0;  ///< the current item; -1 none
+  cColorStyle ColorStyle = cXPBlue;
+  Colour BorderColor = 0;
+  Boolean HoverSelect = false;
+  cListStyle Style = cDefault;
+  Boolean FullRowSelect = true;
+  Boolean AllowEdit = false;
+  Colour ValueColor = 0xFF0000;  ///< selection colour
+  Boolean IconSelect = true;
+  Boolean BorderVisible = true;
+  float IndentTop = 3;
+  float IndentLeft = 3;
+  float IndentRight = 3;
+  float IndentBottom = 3;
+  float DistPicText = 2;
+  Boolean AutoCheckScroll = true;
+  float IconW = 16;
+  float IconH = 16;
+  cScrollColorStyle ScrollColorStyle = cXPScrollBlue;
+  Boolean GridLines = false;
+  Colour GridLineColor = 0xC0C0C0;
+  Boolean MultiSelect = false;
+  std::int32_t NewIndex = 0;  ///< where ItemsAdd last put an item
+  Boolean ShowFocusRect = false;
+  cWheelFunction WheelFunction = cWheelScroll;
+  std::int32_t WheelScrollLines = 1;
+  float MinHeight = 0;  ///< row height; 0: the height of the font
+  Ref<Object> Recordset;
+  Boolean AutoRedraw = true;
+  ScrollBarConstants ScrollBars = vbVertical;
+  Boolean AllowItemMoving = false;
+  Rectangle FocusRect;      ///< of the last selected row painted
+  Colour RowBackColor = 0;  ///< of the row being painted
+  ItemStore Items;
+  Boolean IsRedrawing = false;
+  std::int32_t HoverIndex = -1;  ///< where a dragged item would land; -1 none
+  std::int32_t LoopIndex = 0;
+  std::int32_t LoopIndex2 = 0;
+  Boolean TopIndexRepair = false;  ///< Redraw is setting a bad TopIndex right
+  std::int32_t SweepIndex = 0;
+  Variant InsertIndex;
+  Boolean HasFocus = false;
+  Boolean ItemsDimensioned = false;  ///< false: the list is empty and slot 0 is no item
+  Picture PaintIcon;                 ///< check box of the row being painted
+  Variant MouseDownX;
+  Variant MouseDownY;
+  Boolean MouseDownActive = false;
+  Boolean EditActive = false;
+  Boolean ShiftDown = false;
+  Boolean CtrlDown = false;
+  std::int32_t SelectAnchor = -1;  ///< where a range selection starts; -1 none
+  Boolean VisibleItemsChecked = false;
+  Boolean SuppressRedraw = false;  ///< Redraw returns at once
+  Boolean ClickPending = false;    ///< the next change of ListIndex scrolls it into view
+  Ref<Object> ReadBag;
+  Variant ReadBagContents;
+  float ItemHeightValue = 0;      ///< cached row height, not rounded
+  std::int32_t MaxItemWidth = 0;  ///< widest item measured
+  Boolean WheelMoved = false;
+
+  ScrollBarRecord VScroll1;
+  ScrollBarRecord HScroll1;
+
+  /// False only where no item can be selected: spares adding items a look at all of them.
+  bool mayHaveSelection = false;
+};
+
+}  // namespace norvane

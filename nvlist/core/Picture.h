@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include <nvlist/core/Ref.h>
+
+namespace norvane {
+
+/// A picture as the library sees it: a handle, a size and the file it came from. Platforms derive
+/// from it and keep what they draw with.
+class PictureObject : public Shared {
+ public:
+  virtual ~PictureObject() = default;
+
+  /// What tells pictures apart; never 0, which stands for "no picture".
+  virtual std::uintptr_t handle() const { return reinterpret_cast<std::uintptr_t>(this); }
+
+  /// Natural size in pixels.
+  virtual float width() const = 0;
+  virtual float height() const = 0;
+
+  /// The bytes of the file that the picture was read from; empty where there was none.
+  virtual std::vector<std::byte> fileBytes() const { return {}; }
+};
+
+/// A reference to a shared picture; it may be empty. The host's picture is shared, never copied.
+using Picture = Ref<PictureObject>;
+
+}  // namespace norvane

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <atomic>
+#include <cstddef>
+#include <cstdint>
+#include <utility>
+
+namespace norvane {
+
+/// Base of everything that is held by reference: it carries the count of its references.
+class Shared {
+ public:
+  Shared() = default;
+  Shared(const Shared&) {}
+  Shared& operator=(const Shared&) { return *this; }
+
+  void retain() const { references_.fetch_add(1, std::memory_order_relaxed); }
+  /// Whether that was the last reference.
+  bool releaseLast() const { return references_.fetch_sub(1, std::memory_order_acq_rel) == 1; }
+
+ protected:
+  ~Shared() = default;
+
+ private:
+  mutable std::atomic<std::int32_t> references_ = 0;
+};
+
+/// A counted reference of the size of one pointer; it may be empty. The last reference to go
+/// deletes the object. The count lives in the object, so that a list of a million items pays for
+/// no second block.
+template <class T>
+class Ref {
+ public:
+  Ref() = default;
+  Ref(std::nullptr_t) {}
+  explicit Ref(T* object) : object_(object) { retain(); }
+  Ref(const Ref& other) : object_(other.object_) { retain(); }
+  Ref(Ref&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
+  template <class Derived>
+  Ref(const Ref<Derived>& other) : object_(other.get()) {
+    retain();
+  }
+  Ref& operator=(const Ref& other) noexcept {
+    Ref(other).swap(*this);
+    return *this;
+  }
+  Ref& operator=(Ref&& other) noexcept {
+    Ref(std::move(other)).swap(*this);
+    return *this;
+  }
+  ~Ref() {
+    if (object_ && object_->releaseLast()) delete object_;
+  }
+
+  void swap(Ref& other) noexcept { std::swap(object_, other.object_); }
+
+  T* get() const { return object_; }
+  T* operator->() const { return object_; }
+  T& operator*() const { return *object_; }
+  explicit operator bool() const { return object_ != nullptr; }
+
+  friend bool operator==(const Ref& a, const Ref& b) { return a.object_ == b.object_; }
+
+ private:
+  void retain() const {
+    if (object_) object_->retain();
+  }
+
+  T* object_ = nullptr;
+};
+
+template <class T, class... Arguments>
+Ref<T> makeRef(Arguments&&... arguments) {
+  return Ref<T>(new T(std::forward<Arguments>(arguments)...));
+}
+
+}  // namespace norvane

@@ -1,0 +1,154 @@
+#include <nvlist/core/Variant.h>
+#include <nvlist/core/numbers.h>
+
+#include <bit>
+#include <cmath>
+
+namespace norvane {
+namespace {
+
+Object* objectAt(std::uintptr_t address) { return reinterpret_cast<Object*>(address); }
+
+bool isTrueText(std::string_view text) {
+  return text.size() == 4 && (text[0] | 0x20) == 't' && (text[1] | 0x20) == 'r' &&
+         (text[2] | 0x20) == 'u' && (text[3] | 0x20) == 'e';
+}
+
+bool isFalseText(std::string_view text) {
+  return text.size() == 5 && (text[0] | 0x20) == 'f' && (text[1] | 0x20) == 'a' &&
+         (text[2] | 0x20) == 'l' && (text[3] | 0x20) == 's' && (text[4] | 0x20) == 'e';
+}
+
+}  // namespace
+
+Variant::Variant(float number) : bits_(pack(Type::Single, std::bit_cast<std::uint32_t>(number))) {}
+
+Variant::Variant(std::string text) {
+  static TextBlock emptyText{{}, 1, true};
+  static TextBlock mark{std::string(defaultMark), 1, true};
+  static_assert(alignof(TextBlock) > tagMask);
+  TextBlock* block = text.empty()          ? &emptyText
+                     : text == defaultMark ? &mark
+                                           : new TextBlock{std::move(text), 1, false};
+  bits_ = reinterpret_cast<std::uintptr_t>(block) | static_cast<std::uint64_t>(Type::Text);
+}
+
+Variant::Variant(const Ref<Object>& object) {
+  static_assert(alignof(Object) > tagMask || sizeof(void*) < 8);
+  bits_ = reinterpret_cast<std::uintptr_t>(object.get()) | static_cast<std::uint64_t>(Type::Object);
+  retain();
+}
+
+void Variant::retainShared() const {
+  if (isText()) {
+    if (!textBlock()->isPermanent) textBlock()->references.fetch_add(1, std::memory_order_relaxed);
+  } else if (address() != 0) {
+    objectAt(address())->retain();
+  }
+}
+
+void Variant::releaseShared() const {
+  if (isText()) {
+    if (!textBlock()->isPermanent &&
+        textBlock()->references.fetch_sub(1, std::memory_order_acq_rel) == 1)
+      delete textBlock();
+  } else if (address() != 0) {
+    if (objectAt(address())->releaseLast()) delete objectAt(address());
+  }
+}
+
+Ref<Object> Variant::object() const {
+  return type() == Type::Object ? Ref<Object>(objectAt(address())) : Ref<Object>();
+}
+
+bool Variant::isNumeric() const {
+  switch (type()) {
+    case Type::Text:
+      return numberOf(text()).has_value();
+    case Type::Object:
+      return false;
+    default:
+      return true;
+  }
+}
+
+double Variant::toNumber() const {
+  switch (type()) {
+    case Type::Empty:
+      return 0;
+    case Type::Int32:
+      return static_cast<std::int32_t>(payload());
+    case Type::Int16:
+    case Type::Boolean:
+      return static_cast<std::int16_t>(payload());
+    case Type::Single:
+      return std::bit_cast<float>(payload());
+    case Type::Text:
+      if (const auto number = numberOf(text())) return *number;
+      break;
+    case Type::Object:
+      break;
+  }
+  throw Failure::typeMismatch();
+}
+
+std::int32_t Variant::toInt32() const {
+  if (type() == Type::Int32) return static_cast<std::int32_t>(payload());
+  return checked::nearest<std::int32_t>(toNumber());
+}
+
+std::int16_t Variant::toInt16() const { return checked::nearest<std::int16_t>(toNumber()); }
+
+float Variant::toSingle() const {
+  const double number = toNumber();
+  const auto result = static_cast<float>(number);
+  if (std::isinf(result) && !std::isinf(number)) throw Failure::overflow();
+  return result;
+}
+
+Boolean Variant::toBoolean() const {
+  if (type() == Type::Boolean) return Boolean::ofNumber(static_cast<std::int16_t>(payload()));
+  if (isTrueText(text())) return true;
+  if (isFalseText(text())) return false;
+  return toNumber() != 0;
+}
+
+std::string Variant::toText() const& {
+  switch (type()) {
+    case Type::Empty:
+      return {};
+    case Type::Int16:
+    case Type::Int32:
+      return textOf(toInt32());
+    case Type::Single:
+      return textOf(std::bit_cast<float>(payload()));
+    case Type::Boolean:
+      return toBoolean() ? "True" : "False";
+    case Type::Text:
+      return textBlock()->text;
+    case Type::Object:
+      break;
+  }
+  throw Failure::typeMismatch();
+}
+
+std::string Variant::toText() && {
+  if (isText() && !textBlock()->isPermanent && textBlock()->references == 1)
+    return std::move(textBlock()->text);
+  return std::as_const(*this).toText();
+}
+
+std::partial_ordering compareText(std::string_view a, const Variant& b) {
+  if (b.isText() || b.isEmpty()) return a.compare(b.text()) <=> 0;
+  const double other = b.toNumber();
+  if (const auto number = numberOf(a)) return *number <=> other;
+  throw Failure::typeMismatch();
+}
+
+std::partial_ordering compare(const Variant& a, const Variant& b) {
+  if (a.isText()) return compareText(a.text(), b);
+  if (b.isText()) return 0 <=> compareText(b.text(), a);
+  return a.toNumber() <=> b.toNumber();
+}
+
+}  // namespace norvane

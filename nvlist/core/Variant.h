@@ -1,0 +1,118 @@
+#pragma once
+
+#include <atomic>
+#include <compare>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include <nvlist/core/Boolean.h>
+#include <nvlist/core/Ref.h>
+
+namespace norvane {
+
+/// Base of a host's object that a Variant can hold.
+class Object : public Shared {
+ public:
+  virtual ~Object() = default;
+};
+
+/// A tagged value: nothing, a number, a truth value, a text (UTF-8) or an object reference.
+///
+/// It takes eight bytes, since a list of a million items holds five million of them: the low three
+/// bits are the tag, above them stand a number or the address of a shared text or object.
+/// Conversions throw Failure 13, Type mismatch, where there is no sensible result, and Failure 6,
+/// Overflow, where it does not fit.
+class Variant {
+ public:
+  enum class Type : std::uint8_t { Empty, Int16, Int32, Single, Boolean, Text, Object };
+
+  Variant() = default;
+  Variant(std::int16_t number) : bits_(pack(Type::Int16, static_cast<std::uint16_t>(number))) {}
+  Variant(std::int32_t number) : bits_(pack(Type::Int32, static_cast<std::uint32_t>(number))) {}
+  Variant(float number);
+  /// Kept as a 32-bit float, the only float there is.
+  Variant(double number) : Variant(static_cast<float>(number)) {}
+  Variant(Boolean value) : bits_(pack(Type::Boolean, static_cast<std::uint16_t>(value.number()))) {}
+  Variant(bool value) : Variant(Boolean(value)) {}
+  Variant(std::string text);
+  Variant(std::string_view text) : Variant(std::string(text)) {}
+  Variant(const char* text) : Variant(std::string_view(text)) {}
+  Variant(const Ref<Object>& object);
+  Variant(const Variant& other) : bits_(other.bits_) { retain(); }
+  Variant(Variant&& other) noexcept : bits_(std::exchange(other.bits_, 0)) {}
+  Variant& operator=(Variant other) noexcept {
+    std::swap(bits_, other.bits_);
+    return *this;
+  }
+  ~Variant() { release(); }
+
+  Type type() const { return static_cast<Type>(bits_ & tagMask); }
+  bool isEmpty() const { return bits_ == 0; }
+  bool isText() const { return type() == Type::Text; }
+  /// A number, a truth value, nothing, or a text that reads as a number.
+  bool isNumeric() const;
+
+  /// The text held, without a copy; empty where the value is no text. Lives as long as the value.
+  std::string_view text() const;
+  /// The object held; empty where the value is none.
+  Ref<Object> object() const;
+
+  /// Nothing counts as 0, a truth value as its number, a text as the number it reads as.
+  double toNumber() const;
+  /// Rounded to the nearest whole number, halves to the even one.
+  std::int32_t toInt32() const;
+  std::int16_t toInt16() const;
+  float toSingle() const;
+  /// True for every number but 0, and for the text "True" in any capitalisation.
+  Boolean toBoolean() const;
+  /// Numbers in decimal form, truth values as "True" and "False", nothing as the empty text.
+  std::string toText() const&;
+  /// The same; a text that nobody else holds is moved out.
+  std::string toText() &&;
+
+ private:
+  struct TextBlock;
+  static constexpr std::uint64_t tagMask = 7;
+
+  static constexpr std::uint64_t pack(Type type, std::uint32_t payload) {
+    return std::uint64_t{payload} << 32 | static_cast<std::uint64_t>(type);
+  }
+  std::uint32_t payload() const { return static_cast<std::uint32_t>(bits_ >> 32); }
+  std::uintptr_t address() const { return static_cast<std::uintptr_t>(bits_ & ~tagMask); }
+  TextBlock* textBlock() const { return reinterpret_cast<TextBlock*>(address()); }
+
+  void retain() const {
+    if (type() >= Type::Text) retainShared();
+  }
+  void release() const {
+    if (type() >= Type::Text) releaseShared();
+  }
+  void retainShared() const;
+  void releaseShared() const;
+
+  std::uint64_t bits_ = 0;
+};
+
+/// A text shared by the variants that hold it. The few that every list needs are never counted.
+struct Variant::TextBlock {
+  std::string text;
+  std::atomic<std::int32_t> references = 1;
+  bool isPermanent = false;
+};
+
+inline std::string_view Variant::text() const {
+  return isText() ? std::string_view(textBlock()->text) : std::string_view();
+}
+
+/// Compares as hosts do: two texts byte by byte; a text with a number after turning the text into
+/// a number (Failure 13 where it reads as none); nothing as 0 or as the empty text, as the other
+/// side wants it. An object compares with nothing: Failure 13.
+std::partial_ordering compare(const Variant& a, const Variant& b);
+std::partial_ordering compareText(std::string_view a, const Variant& b);
+
+/// The mark in an item's colour that says: no colour of its own.
+inline constexpr std::string_view defaultMark = "def";
+
+}  // namespace norvane

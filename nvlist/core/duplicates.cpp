@@ -1,0 +1,51 @@
+#include <nvlist/core/numbers.h>
+#include <nvlist/core/repeatedTexts.h>
+#include <nvlist/core/text.h>
+#include <nvlist/nvList.h>
+
+#include <string>
+#include <vector>
+
+namespace norvane {
+
+void nvList::ItemsRemoveDouble(Boolean IgnoreLetterSize) {
+  trapped(here, "ItemsRemoveDouble", [&](Trap& on) {
+    if (!state_.ItemsDimensioned) return;
+    const Boolean autoRedraw = state_.AutoRedraw;
+    const Boolean autoCheckScroll = state_.AutoCheckScroll;
+    state_.AutoRedraw = false;
+    state_.AutoCheckScroll = false;
+
+    std::vector<std::int32_t> doomed;
+    on.step([&] {
+      std::vector<std::string> upperCased;
+      std::vector<std::string_view> texts;
+      const auto count = static_cast<std::size_t>(ItemsCount());
+      texts.reserve(count);
+      if (IgnoreLetterSize) upperCased.reserve(count);
+      for (state_.LoopIndex2 = 0; state_.LoopIndex2 <= state_.Items.upperBound();
+           ++state_.LoopIndex2) {
+        const std::string& text = item(state_.LoopIndex2).Text;
+        texts.push_back(IgnoreLetterSize ? upperCased.emplace_back(upperCase(text)) : text);
+      }
+      doomed = repeatedTexts(texts);
+    });
+
+    // From the back, so that the indexes in front stay what they are.
+    if (!doomed.empty()) {
+      for (state_.LoopIndex2 = static_cast<std::int32_t>(doomed.size()) - 1; state_.LoopIndex2 >= 0;
+           --state_.LoopIndex2) {
+        on.step([&] {
+          const std::int32_t index = doomed.at(static_cast<std::size_t>(state_.LoopIndex2));
+          ItemsRemove(Variant(checked::narrow<std::int16_t>(index)));
+        });
+      }
+    }
+
+    state_.AutoRedraw = autoRedraw;
+    state_.AutoCheckScroll = autoCheckScroll;
+    updateAfterChange(on);
+  });
+}
+
+}  // namespace norvane

@@ -1,0 +1,204 @@
+#include <nvlist/core/numbers.h>
+#include <nvlist/nvList.h>
+
+#include <utility>
+
+namespace norvane {
+
+bool nvList::WrongIndex(const Variant& Index) const {
+  if (!Index.isNumeric()) return true;
+  const double number = Index.toNumber();
+  return !(number >= 0 && number <= state_.Items.upperBound());
+}
+
+void nvList::ItemsAdd(Variant aText, Variant aIndex, Picture aIcon, Picture aIconSelected,
+                      Boolean aChecked, Variant aForeColor, Variant aBackColor, Boolean aAllowEdit,
+                      cItemAlignment aAlignment, Variant aForeColorSelected,
+                      Variant aBackColorSelected, Boolean aEnabled, Variant aTag,
+                      Variant aForeColorDis, Variant aBackColorDis, Boolean aBold, Boolean aItalic,
+                      Boolean aUnderline, Variant aKey) {
+  ItemsAdd(NewItem{std::move(aText), std::move(aIndex), std::move(aIcon), std::move(aIconSelected),
+                   aChecked, std::move(aForeColor), std::move(aBackColor), aAllowEdit, aAlignment,
+                   std::move(aForeColorSelected), std::move(aBackColorSelected), aEnabled,
+                   std::move(aTag), std::move(aForeColorDis), std::move(aBackColorDis), aBold,
+                   aItalic, aUnderline, std::move(aKey)});
+}
+
+void nvList::ItemsAdd(NewItem values) {
+  trapped(here, "ItemsAdd", [&](Trap& on) {
+    ItemStore& items = state_.Items;
+    bool insert = false;
+    if (state_.ItemsDimensioned) {
+      on.step([&] { items.grow(); });
+      state_.InsertIndex = items.upperBound();
+      insert = on.test([&] {
+        const double index = values.aIndex.toNumber();
+        return index >= 0 && index < items.upperBound();
+      });
+    } else {
+      on.step([&] { items.reset(); });
+      state_.ItemsDimensioned = true;
+      state_.InsertIndex = 0;
+    }
+
+    ListItem* added = nullptr;
+    on.step([&] { added = &item(items.upperBound()); });
+    if (added) writeItem(on, *added, values);
+
+    if (state_.AutoRedraw.isTrue()) {
+      on.step([&] { SetNoneSelected(); });
+      state_.ListIndex = -1;
+      state_.SelectAnchor = -1;
+    }
+
+    if (insert) {
+      on.step([&] {
+        const std::int32_t index = values.aIndex.toInt32();
+        items.moveLastTo(index);
+        state_.LoopIndex = index;
+      });
+      state_.InsertIndex = values.aIndex;
+    }
+    on.step([&] { state_.NewIndex = state_.InsertIndex.toInt32(); });
+
+    if (state_.AutoRedraw) on.step([&] { CheckItemWidth(state_.InsertIndex); });
+
+    // A row count plus a height: more rows than can be in view, and cheap to tell. Past it an added
+    // item costs no repaint.
+    float repaintLimit = 0;
+    on.step([&] {
+      const float height = surface_.TextHeight("A");
+      if (height == 0) throw Failure::divisionByZero();
+      repaintLimit = surface_.ScaleHeight() / height + height;
+    });
+    if (state_.AutoCheckScroll) on.step([&] { CheckScroll(); });
+    if (repaintLimit > static_cast<float>(ItemsCount()) && state_.AutoRedraw)
+      on.step([&] { Redraw(); });
+  });
+}
+
+void nvList::writeItem(Trap& on, ListItem& item, NewItem& values) {
+  on.step([&] { item.Text = std::move(values.aText).toText(); });
+  item.Icon = std::move(values.aIcon);
+  item.IconSelected = std::move(values.aIconSelected);
+  item.Checked = values.aChecked;
+  item.ForeColor = std::move(values.aForeColor);
+  item.BackColor = std::move(values.aBackColor);
+  item.ForeColorSelect = std::move(values.aForeColorSelected);
+  item.BackColorSelect = std::move(values.aBackColorSelected);
+  on.step([&] { item.ForeColorDis = values.aForeColorDis.toInt32(); });
+  on.step([&] { item.BackColorDis = values.aBackColorDis.toInt32(); });
+  item.AllowEdit = values.aAllowEdit;
+  item.Enabled = values.aEnabled;
+  item.Selected = false;
+  item.Alignment = values.aAlignment;
+  item.Bold = values.aBold;
+  item.Italic = values.aItalic;
+  item.Underline = values.aUnderline;
+  item.Tag = std::move(values.aTag);
+  on.step([&] { item.Key = std::move(values.aKey).toText(); });
+}
+
+void nvList::ItemsRemove(Variant& Index) {
+  trapped(here, "ItemsRemove", [&](Trap& on) {
+    if (!state_.ItemsDimensioned || WrongIndex(Index)) return;
+    on.step([&] { Index = Index.toInt32(); });
+    moveDownOnto(on, Index.toInt32());
+    if (ItemsCount() < 2)
+      on.step([&] { ItemsClear(); });
+    else
+      on.step([&] { state_.Items.shrink(); });
+    updateAfterChange(on);
+  });
+}
+
+/// Moves the references behind `index` down by one, with a yield after each. Where nothing waits,
+/// a yield does nothing and the rest moves in one go.
+void nvList::moveDownOnto(Trap& on, std::int32_t index) {
+  ItemStore& items = state_.Items;
+  if (index >= items.upperBound()) return;
+  state_.LoopIndex = index - 1;
+  while (state_.LoopIndex < items.upperBound() - 1) {
+    ++state_.LoopIndex;
+    if (!on.test([&] { return container_.EventsWaiting(); })) {
+      on.step([&] { items.moveDownOnto(state_.LoopIndex); });
+      state_.LoopIndex = items.upperBound() - 1;
+      return;
+    }
+    on.step([&] { items.slot(state_.LoopIndex) = items.slot(state_.LoopIndex + 1); });
+    on.step([&] { container_.DoEvents(); });
+  }
+}
+
+void nvList::ItemsClear() {
+  trapped(here, "ItemsClear", [&](Trap& on) {
+    on.step([&] { state_.Items.reset(); });
+    state_.mayHaveSelection = false;
+    state_.ItemsDimensioned = false;
+    state_.MaxItemWidth = 0;
+    state_.ListIndex = 0;
+    updateAfterChange(on);
+  });
+}
+
+void nvList::ItemsSelectedRemove() {
+  trapped(here, "ItemsSelectedRemove", [&](Trap& on) {
+    if (!state_.ItemsDimensioned) return;
+    state_.SweepIndex = 0;
+    state_.InsertIndex = state_.Items.upperBound();
+    while (state_.ItemsDimensioned &&
+           !on.test([&] { return state_.SweepIndex > state_.InsertIndex.toInt32(); })) {
+      if (on.test([&] { return item(state_.SweepIndex).Selected; })) {
+        on.step([&] { ItemsRemove(Variant(state_.SweepIndex)); });
+        on.step([&] { state_.SweepIndex = checked::subtract(state_.SweepIndex, 1); });
+        on.step([&] { state_.InsertIndex = checked::subtract(state_.InsertIndex.toInt32(), 1); });
+      }
+      on.step([&] { yield(); });
+      on.step([&] { state_.SweepIndex = checked::add(state_.SweepIndex, 1); });
+    }
+    if (state_.ItemsDimensioned) on.step([&] { TopIndex(0); });
+    on.step([&] { yield(); });
+    if (state_.AutoRedraw) on.step([&] { CheckItemWidth(); });
+    if (state_.AutoCheckScroll) on.step([&] { CheckScroll(); });
+    on.step([&] { yield(); });
+    if (state_.AutoRedraw) on.step([&] { Redraw(); });
+  });
+}
+
+std::int32_t nvList::ItemsCount() {
+  return state_.ItemsDimensioned ? state_.Items.upperBound() + 1 : 0;
+}
+
+std::int32_t nvList::ItemsSelectCount() {
+  return countItems("ItemsSelectCount", &ListItem::Selected);
+}
+
+std::int32_t nvList::ItemsCheckCount() { return countItems("ItemsCheckCount", &ListItem::Checked); }
+
+std::int32_t nvList::countItems(const char* procedure, Boolean ListItem::*mark) {
+  std::int32_t count = 0;
+  trapped(here, procedure, [&](Trap& on) {
+    if (!state_.ItemsDimensioned) return;
+    state_.LoopIndex = 0;
+    state_.SweepIndex = 0;
+    while (state_.LoopIndex <= state_.Items.upperBound()) {
+      if (on.test([&] { return item(state_.LoopIndex).*mark; }))
+        on.step([&] { state_.SweepIndex = checked::add(state_.SweepIndex, 1); });
+      on.step([&] { yield(); });
+      on.step([&] { state_.LoopIndex = checked::add(state_.LoopIndex, 1); });
+    }
+    count = state_.SweepIndex;
+  });
+  return count;
+}
+
+std::int32_t nvList::NewIndex() { return state_.NewIndex; }
+
+/// What every change of the items ends with.
+void nvList::updateAfterChange(Trap& on) {
+  if (state_.AutoRedraw) on.step([&] { CheckItemWidth(); });
+  if (state_.AutoCheckScroll) on.step([&] { CheckScroll(); });
+  if (state_.AutoRedraw) on.step([&] { Redraw(); });
+}
+
+}  // namespace norvane

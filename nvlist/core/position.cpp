@@ -1,0 +1,43 @@
+#include <nvlist/core/numbers.h>
+#include <nvlist/nvList.h>
+
+namespace norvane {
+
+std::int32_t nvList::ListIndex() { return state_.ListIndex; }
+
+std::int32_t nvList::TopIndex() { return state_.TopIndex; }
+
+void nvList::TopIndex(std::int32_t value) {
+  trapped(here, "TopIndex", [&](Trap& on) {
+    std::int32_t visible = 0;
+    on.step([&] { visible = VisibleItems(); });
+    if (value < 0) value = 0;
+    // A repair ends at 0 on a short list too.
+    if (!state_.TopIndexRepair &&
+        on.test([&] { return checked::add(value, visible) > ItemsCount(); }))
+      on.step([&] { value = checked::subtract(ItemsCount(), visible); });
+    state_.TopIndex = value;
+    on.step([&] { container_.PropertyChanged("TopIndex"); });
+    if (state_.TopIndexRepair) return;
+    on.step([&] {
+      const std::int32_t last = checked::subtract(ItemsCount(), visible);
+      if (state_.VScroll1.Max < last) state_.VScroll1.Max = last;
+    });
+    state_.VScroll1.Value = value;
+    if (state_.AutoRedraw) on.step([&] { Redraw(); });
+  });
+}
+
+void nvList::SetNoneSelected() {
+  trapped(here, "SetNoneSelected", [&](Trap& on) {
+    const std::int32_t last = state_.Items.upperBound();
+    if (state_.mayHaveSelection) {
+      for (state_.LoopIndex = 0; state_.LoopIndex <= last; ++state_.LoopIndex)
+        on.step([&] { item(state_.LoopIndex).Selected = false; });
+    }
+    state_.LoopIndex = last;
+    state_.mayHaveSelection = false;
+  });
+}
+
+}  // namespace norvane

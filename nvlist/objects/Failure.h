@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+
+namespace norvane {
+
+/// A step that could not be done: its number and its text, as the reporter shows them.
+///
+/// Inside the library every failure is thrown as one of these and caught by the trap of the
+/// procedure in which it happens (Trap.h). A host's own handler may throw one too.
+class Failure : public std::runtime_error {
+ public:
+  Failure(std::int32_t number, const std::string& description)
+      : std::runtime_error(description), number_(number) {}
+
+  std::int32_t number() const { return number_; }
+
+  static Failure invalidCall() { return {5, "Invalid procedure call or argument"}; }
+  static Failure overflow() { return {6, "Overflow"}; }
+  static Failure outOfMemory() { return {7, "Out of memory"}; }
+  static Failure subscriptOutOfRange() { return {9, "Subscript out of range"}; }
+  static Failure divisionByZero() { return {11, "Division by zero"}; }
+  static Failure typeMismatch() { return {13, "Type mismatch"}; }
+  static Failure invalidPattern() { return {93, "Invalid pattern string"}; }
+  static Failure automation(const std::string& what) { return {440, "Automation error: " + what}; }
+
+ private:
+  std::int32_t number_;
+};
+
+}  // namespace norvane

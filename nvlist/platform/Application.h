@@ -1,0 +1,83 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include <nvlist/core/Variant.h>
+
+namespace norvane {
+
+/// What the running program says of itself.
+struct ApplicationFacts {
+  /// File name of the program without its ending.
+  std::string EXEName;
+  std::int32_t Major = 0;
+  std::int32_t Minor = 0;
+  std::int32_t Revision = 0;
+  /// Folder of the program, in the form of the system it runs on.
+  std::string Path;
+};
+
+/// A host's own receiver of failures. It is asked before the box is shown.
+class ErrorHandler {
+ public:
+  virtual ~ErrorHandler() = default;
+
+  /// Takes over one failure: no box appears where this returns. Throwing hands it back.
+  /// `programPath` is the full path of the running program.
+  virtual void RaiseError(const std::string& programPath, const ApplicationFacts& application,
+                          std::int32_t Number, const std::string& Description,
+                          const std::string& Procedure, std::int32_t Line, const std::string& Kind,
+                          const std::string& Module) = 0;
+};
+
+/// The program around the controls: its settings, its log files, its boxes. There is one for the
+/// whole program, and it serves the reporter of failures.
+///
+/// Making an object of a derived class puts it to use; destroying it puts the one before it back.
+/// Where none was made, failures are written to the standard error stream.
+class Application {
+ public:
+  Application();
+  virtual ~Application();
+  Application(const Application&) = delete;
+  Application& operator=(const Application&) = delete;
+
+  /// The application in use; never missing.
+  static Application& inUse();
+
+  /// Registers the handler that gets each failure before any box; nullptr takes it away.
+  void registerErrorHandler(std::shared_ptr<ErrorHandler> handler) {
+    handler_ = std::move(handler);
+  }
+
+  /// The outside handler for one report, or nullptr. Here: the registered one.
+  virtual std::shared_ptr<ErrorHandler> createErrorHandler() { return handler_; }
+
+  virtual ApplicationFacts facts() = 0;
+  /// Full path of the running program.
+  virtual std::string programPath() = 0;
+
+  /// The value `name` of the user's settings under `key`, whose levels are parted by backslashes:
+  /// a text, or a number for a 4-byte value; empty where there is no such key or value.
+  virtual Variant readSetting(std::string_view key, std::string_view name) = 0;
+
+  /// Appends the text to a file, which is made if it is missing. The last backslash of the path
+  /// parts folder and file; elsewhere than on Windows it counts as a slash. Throws on failure.
+  virtual void appendToFile(const std::string& path, const std::string& text) = 0;
+
+  /// Date and time of day in the form in which the program's user reads them.
+  virtual std::string dateText() = 0;
+  virtual std::string timeText() = 0;
+
+  /// Shows a modal box and returns when it is closed. Style 16 is a critical stop with one OK.
+  virtual void MsgBox(const std::string& text, std::int32_t style, const std::string& title) = 0;
+
+ private:
+  Application* before_;
+  std::shared_ptr<ErrorHandler> handler_;
+};
+
+}  // namespace norvane

@@ -1,0 +1,16 @@
+#include <nvlist/platform/headless/HeadlessContainer.h>
+
+namespace norvane {
+
+void HeadlessContainer::PropertyChanged(std::string_view property) {
+  if (onPropertyChanged) onPropertyChanged(property);
+}
+
+void HeadlessContainer::DoEvents() {
+  if (queue_.empty()) return;
+  const std::function<void()> message = std::move(queue_.front());
+  queue_.pop_front();
+  if (message) message();
+}
+
+}  // namespace norvane

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <nvlist/platform/headless/Recording.h>
+
+namespace norvane {
+
+/// Size of a character of every font, in pixels.
+struct FontMeasure {
+  float width = 7;
+  float boldWidth = 8;
+  float height = 13;
+};
+
+/// A surface without a screen: it records the calls instead of drawing them.
+///
+/// Its image is the recording of what was drawn since the last Cls, which covers all that went
+/// before; so a program may run for long without the recording growing.
+class HeadlessSurface : public Surface {
+ public:
+  /// Size in pixels.
+  HeadlessSurface(float width, float height) : width_(width), height_(height) {}
+
+  void resize(float width, float height);
+  /// How texts are measured from now on.
+  void fontMeasure(const FontMeasure& measure) { measure_ = measure; }
+
+  /// The calls since the last Cls, that one included.
+  const Recording& image() const { return image_; }
+  /// Draws the image onto another surface, with the colours and the font it began with.
+  void replay(Surface& onto) const;
+  /// How many times the whole image was cleared; a repaint clears it once.
+  int frames() const { return frames_; }
+
+  void Cls() override;
+  void Line(LineMode mode, float x1, float y1, float x2, float y2, Colour colour) override;
+  void PaintPicture(const Picture& picture, float x, float y) override;
+  void PaintPicture(const Picture& picture, float x, float y, float width, float height) override;
+  float TextWidth(std::string_view text) override;
+  float TextHeight(std::string_view text) override;
+  float CurrentX() const override { return currentX_; }
+  void CurrentX(float x) override;
+  float CurrentY() const override { return currentY_; }
+  void CurrentY(float y) override;
+  float ScaleWidth() const override { return width_; }
+  float ScaleHeight() const override { return height_; }
+  void BackColor(Colour colour) override;
+  void ForeColor(Colour colour) override;
+  void Font(const norvane::Font& font) override;
+  void FontBold(Boolean on) override;
+  void FontItalic(Boolean on) override;
+  void FontUnderline(Boolean on) override;
+  std::uintptr_t hDC() const override { return reinterpret_cast<std::uintptr_t>(&image_); }
+  void DrawTextA(std::uintptr_t hDC, std::string_view text, std::int32_t length,
+                 const Rectangle& rectangle, TextFormat format) override;
+  void DrawFocusRect(std::uintptr_t hDC, const Rectangle& rectangle) override;
+  void Print(std::string_view text) override;
+
+ private:
+  /// What stays until it is set again.
+  struct Settings {
+    Colour backColor = colours::white;
+    Colour foreColor = 0;
+    norvane::Font font;
+    Boolean bold = false;
+    Boolean italic = false;
+    Boolean underline = false;
+  };
+
+  float width_;
+  float height_;
+  FontMeasure measure_;
+  float currentX_ = 0;
+  float currentY_ = 0;
+  Settings settings_;
+  Settings settingsOfImage_;
+  Recording image_;
+  int frames_ = 0;
+};
+
+}  // namespace norvane

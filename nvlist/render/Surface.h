@@ -1,0 +1,90 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include <nvlist/core/Boolean.h>
+#include <nvlist/core/Colour.h>
+#include <nvlist/core/Font.h>
+#include <nvlist/core/Picture.h>
+#include <nvlist/core/Rectangle.h>
+
+namespace norvane {
+
+/// How Surface::Line draws.
+enum class LineMode : std::int32_t {
+  plainLine = 6,    ///< one line from the first point to the second
+  outlineBox = 22,  ///< the outline of the rectangle between the points
+  filledBox = 38    ///< that rectangle filled, outline included
+};
+
+/// How Surface::DrawTextA lays a text out. Neither is single-line.
+enum class TextFormat : std::uint32_t {
+  right = 2,       ///< each line ends at the rectangle's right; tabs are not expanded
+  expandTabs = 64  ///< from the left; a tab goes on to the next stop of eight characters
+};
+
+/// What the list draws on: an image that persists between calls, with a current position, a font
+/// and a text colour that stay until they are set again. All lengths are pixels; texts are UTF-8,
+/// and a platform draws a replacement character for bytes that are no UTF-8.
+///
+/// Nothing asks for a refresh: the platform shows the image whenever the window needs it. Any call
+/// may throw; the list then reports the failure (objects/Trap.h).
+class Surface {
+ public:
+  virtual ~Surface() = default;
+
+  /// Fills the whole image with the background colour; the current position becomes (0, 0).
+  virtual void Cls() = 0;
+
+  /// Draws one pixel wide, both end points included, and leaves the current position at (x2, y2).
+  virtual void Line(LineMode mode, float x1, float y1, float x2, float y2, Colour colour) = 0;
+
+  /// Draws a picture with its top left at (x, y), at its natural size or scaled to fit exactly. The
+  /// current position stays.
+  virtual void PaintPicture(const Picture& picture, float x, float y) = 0;
+  virtual void PaintPicture(const Picture& picture, float x, float y, float width,
+                            float height) = 0;
+
+  /// Size of a text in the current font with its current flags; of several lines the widest and
+  /// all together. The empty text is one line high.
+  virtual float TextWidth(std::string_view text) = 0;
+  virtual float TextHeight(std::string_view text) = 0;
+
+  virtual float CurrentX() const = 0;
+  virtual void CurrentX(float x) = 0;
+  virtual float CurrentY() const = 0;
+  virtual void CurrentY(float y) = 0;
+
+  /// Size of the client area.
+  virtual float ScaleWidth() const = 0;
+  virtual float ScaleHeight() const = 0;
+
+  /// The colour of Cls. Default: white.
+  virtual void BackColor(Colour colour) = 0;
+  /// The colour in which texts are written. Default: black.
+  virtual void ForeColor(Colour colour) = 0;
+
+  /// The font with its own flags; an empty reference keeps the font there is.
+  virtual void Font(const norvane::Font& font) = 0;
+  virtual void FontBold(Boolean on) = 0;
+  virtual void FontItalic(Boolean on) = 0;
+  virtual void FontUnderline(Boolean on) = 0;
+
+  /// The image's handle, for the two calls below.
+  virtual std::uintptr_t hDC() const = 0;
+
+  /// Writes the first `length` bytes of the text, all of it for -1, on a transparent background
+  /// into the rectangle, which clips it. A `&` underlines the character behind it and is not shown
+  /// itself; two of them show one. Line breaks begin a new line.
+  virtual void DrawTextA(std::uintptr_t hDC, std::string_view text, std::int32_t length,
+                         const Rectangle& rectangle, TextFormat format) = 0;
+
+  /// Inverts a dotted outline along the rectangle; a second call at the same place undoes it.
+  virtual void DrawFocusRect(std::uintptr_t hDC, const Rectangle& rectangle) = 0;
+
+  /// Writes the text at the current position, which goes to the start of the next line.
+  virtual void Print(std::string_view text) = 0;
+};
+
+}  // namespace norvane

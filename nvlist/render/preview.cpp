@@ -1,0 +1,40 @@
+#include <nvlist/nvList.h>
+#include <nvlist/render/art.h>
+
+namespace norvane {
+
+/// What the list shows in a designer: one sample row with the name of the control. The margin of
+/// the pictures is a fixed one, that of the name is IndentLeft.
+void nvList::paintPreview(Trap& on) {
+  constexpr float margin = 3;
+  constexpr float iconSize = 16;
+  const bool hasCheckBox = state_.Style == cCheckBoxes || state_.Style == cCheckBoxesIcons;
+  const bool hasIcon = state_.Style == cIcons || state_.Style == cCheckBoxesIcons;
+
+  on.step([&] { surface_.Cls(); });
+  float textHeight = 0;
+  on.step([&] { textHeight = surface_.TextHeight("A"); });
+  float nameLeft = state_.IndentLeft;
+  float iconLeft = margin;
+  if (hasCheckBox) {
+    Picture box;
+    on.step([&] { box = art::checkBox(false, true); });
+    const float width = box ? box->width() : 0;
+    const float height = box ? box->height() : 0;
+    on.step([&] { surface_.PaintPicture(box, margin, (textHeight - height) / 2 + margin); });
+    nameLeft += hasIcon ? width + margin : width + state_.DistPicText;
+    iconLeft += width + margin;
+  }
+  if (hasIcon) {
+    on.step([&] {
+      surface_.PaintPicture(art::sampleIcon(), iconLeft, (textHeight - iconSize) / 2 + margin,
+                            iconSize, iconSize);
+    });
+    nameLeft += iconSize + state_.DistPicText;
+  }
+  on.step([&] { surface_.CurrentX(nameLeft); });
+  on.step([&] { surface_.CurrentY(state_.IndentTop); });
+  on.ignoring([&] { surface_.Print(container_.Name()); });
+}
+
+}  // namespace norvane

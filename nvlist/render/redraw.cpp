@@ -1,0 +1,125 @@
+#include <nvlist/core/numbers.h>
+#include <nvlist/nvList.h>
+#include <nvlist/render/RepaintValues.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace norvane {
+
+using checked::nearest;
+
+Boolean nvList::IsDesignMode() {
+  Boolean design = false;
+  trapped(here, "IsDesignMode",
+          [&](Trap& on) { on.step([&] { design = !container_.UserMode(); }); });
+  return design;
+}
+
+float nvList::unroundedItemHeight() {
+  return state_.MinHeight != 0 ? state_.MinHeight : surface_.TextHeight("A");
+}
+
+std::int32_t nvList::ItemHeight() {
+  std::int32_t height = 0;
+  trapped(here, "ItemHeight", [&](Trap& on) {
+    on.step([&] { height = nearest<std::int32_t>(unroundedItemHeight()); });
+  });
+  return height;
+}
+
+std::int32_t nvList::VisibleItems() {
+  std::int32_t count = 0;
+  trapped(here, "VisibleItems", [&](Trap& on) {
+    state_.VisibleItemsChecked = true;
+    std::int32_t height = 0;
+    on.step([&] { height = ItemHeight(); });
+    if (height <= 0) return;
+    on.step([&] {
+      double limit = double{surface_.ScaleHeight()} - height;
+      if (state_.HScroll1.Tag == "True") limit -= state_.HScroll1.Height;
+      const double room = limit - state_.IndentTop;
+      if (room >= 0) count = nearest<std::int32_t>(std::floor(room / height) + 1);
+    });
+  });
+  return count;
+}
+
+void nvList::Redraw() {
+  trapped(here, "Redraw", [&](Trap& on) {
+    if (on.test([&] { return IsDesignMode(); })) {
+      paintPreview(on);
+      return;
+    }
+    if (!state_.ItemsDimensioned) {
+      on.step([&] { surface_.Cls(); });
+      return;
+    }
+    if (!state_.SuppressRedraw) {
+      // A call from inside a repaint is dropped. So is every later one where a failure has left a
+      // repaint in the middle, until a key or the wheel moves the list.
+      if (state_.IsRedrawing) return;
+      state_.IsRedrawing = true;
+      paintFace(on);
+    }
+    state_.IsRedrawing = false;
+  });
+}
+
+/// Paints everything; ends early where the properties begin to be read anew in the middle of it.
+void nvList::paintFace(Trap& on) {
+  on.step([&] { surface_.Cls(); });
+  if (state_.TopIndex > 0 && WrongIndex(state_.TopIndex)) {
+    state_.TopIndexRepair = true;
+    on.step([&] { TopIndex(0); });
+    state_.TopIndexRepair = false;
+  }
+
+  // Where the list is shorter than the window TopIndex may be negative; item 0 is on top then.
+  state_.LoopIndex = std::max(state_.TopIndex, 0);
+  on.step([&] { surface_.CurrentY(state_.IndentTop); });
+
+  RepaintValues repaint;
+  if (state_.HScroll1.Visible) {
+    const ScrollBarRecord& bar = state_.HScroll1;
+    on.step([&] {
+      repaint.ItemRight = nearest<std::int32_t>(double{surface_.ScaleWidth()} + bar.Max);
+    });
+    on.step(
+        [&] { repaint.ItemLeft = nearest<std::int32_t>(double{state_.IndentLeft} - bar.Value); });
+    repaint.ScrollOffset = bar.Value;
+  } else {
+    on.step([&] { repaint.ItemRight = nearest<std::int32_t>(surface_.ScaleWidth()); });
+    on.step([&] { repaint.ItemLeft = nearest<std::int32_t>(state_.IndentLeft); });
+  }
+
+  const bool rowsHaveHeight = state_.ItemHeightValue > 0 && ItemHeight() > 0;
+  while (rowsHaveHeight && !on.test([&] {
+    return state_.LoopIndex > state_.Items.upperBound() ||
+           surface_.CurrentY() + state_.ItemHeightValue > surface_.ScaleHeight();
+  })) {
+    if (WrongIndex(state_.LoopIndex)) break;
+    if (state_.SuppressRedraw) return;
+    paintRow(on, repaint);
+    ++state_.LoopIndex;
+    if (state_.SuppressRedraw) return;
+  }
+
+  // Leaves its mark that the rows were counted.
+  on.step([&] { VisibleItems(); });
+  paintCorner(on);
+}
+
+/// Closes the square that two scroll bars leave free.
+void nvList::paintCorner(Trap& on) {
+  const ScrollBarRecord& horizontal = state_.HScroll1;
+  const ScrollBarRecord& vertical = state_.VScroll1;
+  if (!horizontal.Visible || !vertical.Visible) return;
+  on.step([&] {
+    surface_.Line(LineMode::filledBox, horizontal.Left + horizontal.Width,
+                  vertical.Top + vertical.Height, surface_.ScaleWidth(), surface_.ScaleHeight(),
+                  state_.BackColor);
+  });
+}
+
+}  // namespace norvane
