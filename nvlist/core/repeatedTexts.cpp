@@ -1,6 +1,7 @@
 #include <nvlist/core/repeatedTexts.h>
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cstddef>
 #include <set>
@@ -11,12 +12,70 @@ namespace norvane {
 
 namespace {
 
+constexpr std::uint64_t base = 0x9E3779B97F4A7C15;
+constexpr std::size_t blockSize = 64;
+
+constexpr std::uint64_t inverse(std::uint64_t odd) {
+  std::uint64_t result = odd;
+  // Each round doubles the number of right bits, which are three to begin with.
+  for (int round = 0; round < 5; ++round) result *= 2 - odd * result;
+  return result;
+}
+
+constexpr auto powersOf(std::uint64_t number) {
+  std::array<std::uint64_t, blockSize + 1> powers = {1};
+  for (std::size_t i = 1; i < powers.size(); ++i) powers[i] = powers[i - 1] * number;
+  return powers;
+}
+
+constexpr auto powers = powersOf(base);
+constexpr auto inversePowers = powersOf(inverse(base));
+
+/// The hash of the text with, behind it, the text that has the given hash. It is the sum of the
+/// bytes, each times its power of the base, the first byte having the lowest; so it is easily
+/// carried on to the left. A byte counts one more than it is, or zero bytes would not show.
+std::uint64_t hashBefore(std::uint64_t hash, std::string_view text) {
+  const auto weight = [&](std::size_t at) -> std::uint64_t {
+    return static_cast<unsigned char>(text[at]) + 1u;
+  };
+  std::size_t at = text.size();
+  // Four at once, for the sake of long texts: four products need not wait for each other.
+  for (; at >= 4; at -= 4) {
+    hash = hash * powers[4] + weight(at - 1) * powers[3] + weight(at - 2) * powers[2] +
+           weight(at - 3) * powers[1] + weight(at - 4);
+  }
+  while (at > 0) hash = hash * base + weight(--at);
+  return hash;
+}
+
+std::uint64_t mixed(std::uint64_t hash) { return (hash ^ hash >> 32) * base; }
+
+/// A set of hashes that may claim to hold some it does not. Small enough to stay close at hand.
+class Filter {
+ public:
+  explicit Filter(std::size_t count)
+      : words_(std::bit_ceil(count / 4 + 1)), shift_(58 - std::countr_zero(words_.size())) {}
+
+  void add(std::uint64_t mix) { words_[wordOf(mix)] |= bitOf(mix); }
+  bool mayHold(std::uint64_t mix) const { return (words_[wordOf(mix)] & bitOf(mix)) != 0; }
+
+ private:
+  std::size_t wordOf(std::uint64_t mix) const {
+    return static_cast<std::size_t>(mix >> shift_ >> 6);
+  }
+  std::uint64_t bitOf(std::uint64_t mix) const { return std::uint64_t{1} << (mix >> shift_ & 63); }
+
+  std::vector<std::uint64_t> words_;
+  int shift_;
+};
+
 /// Finds repeated texts without searching all that was kept for each of them.
 ///
 /// The texts asked for are all known beforehand, so it goes the other way: whenever a comma is
 /// written, every text that ends right before it is looked up in a table and marked as seen. Of
-/// those only the ones matter whose number of commas and length some text has, and from one length
-/// to the next longer one their hash is carried on.
+/// those only the ones matter whose number of commas and length some text has. One with commas
+/// consists of a tail, which is all behind its first comma, and of the end of the part before; it
+/// is looked for only where the tail is the tail of some text.
 class RepeatedTexts {
  public:
   explicit RepeatedTexts(std::span<const std::string_view> texts);
@@ -25,7 +84,6 @@ class RepeatedTexts {
 
  private:
   static constexpr std::uint32_t noText = 0x7FFFFFFF;
-  static constexpr std::uint64_t base = 0x9E3779B97F4A7C15;
 
   struct Slot {
     std::uint32_t tag = 0;
@@ -39,32 +97,21 @@ class RepeatedTexts {
     std::vector<std::size_t> lengths;
   };
 
-  /// A comma in what was kept, and what it takes to hash from it to a later one: the sum of the
-  /// weights before it, each times its power of the base, and the inverse of its own power.
-  struct Comma {
-    std::size_t position;
-    std::uint64_t sum;
-    std::uint64_t inversePower;
+  /// Where a part begins, and what it takes to hash from there: the hash of all that was kept
+  /// before, and the inverse of the power that its first byte has in such a hash.
+  struct Part {
+    std::size_t begin = 0;
+    std::uint64_t hashUpTo = 0;
+    std::uint64_t inversePower = 1;
   };
 
-  static constexpr std::uint64_t inverse(std::uint64_t odd) {
-    std::uint64_t result = odd;
-    // Each round doubles the number of right bits, which are three to begin with.
-    for (int round = 0; round < 5; ++round) result *= 2 - odd * result;
-    return result;
-  }
-  /// What a byte adds to a hash; never 0, so that a zero byte counts too.
-  static std::uint64_t weight(char byte) { return static_cast<unsigned char>(byte) + 1u; }
-  /// The first byte has the lowest power of the base, so that a hash is carried on to the left.
-  static std::uint64_t extended(char byte, std::uint64_t hash) {
-    return hash * base + weight(byte);
-  }
-  static std::uint64_t mixed(std::uint64_t hash) { return (hash ^ hash >> 32) * base; }
-
-  std::size_t find(std::uint64_t hash, std::string_view text) const;
+  /// The slot of the text, or the empty one where it would stand.
+  std::size_t find(std::uint64_t mix, std::string_view text) const;
+  void addTails(std::string_view text);
   void keep(std::string_view text);
-  Comma& comma(std::size_t index) { return commas_[index & (commas_.size() - 1)]; }
-  void markEndings(const Group& group);
+  void extendHash(std::string_view text);
+  void markEndings(std::size_t end);
+  Part& part(std::size_t index) { return parts_[index & (parts_.size() - 1)]; }
 
   std::span<const std::string_view> texts_;
   std::vector<Slot> slots_;
@@ -72,46 +119,69 @@ class RepeatedTexts {
   /// Where each text stands in the table.
   std::vector<std::uint32_t> slotOfText_;
   std::vector<Group> groups_;
+  Filter filter_;
+  Filter tails_;
 
   std::string seen_;
-  /// The last commas, as many as the texts can reach back; a ring.
-  std::vector<Comma> commas_;
-  std::size_t commaCount_ = 0;
-  std::uint64_t sum_ = 0;
+  /// The last parts, as many as the texts can reach back; a ring.
+  std::vector<Part> parts_;
+  std::size_t lastPart_ = 0;
+  /// The hash of all that was kept, and the power that its next byte gets.
+  std::uint64_t hash_ = 0;
   std::uint64_t power_ = 1;
   std::uint64_t inversePower_ = 1;
 };
 
-RepeatedTexts::RepeatedTexts(std::span<const std::string_view> texts) : texts_(texts) {
+RepeatedTexts::RepeatedTexts(std::span<const std::string_view> texts)
+    : texts_(texts), filter_(texts.size()), tails_(0) {
   slots_.resize(std::bit_ceil(std::max<std::size_t>(texts.size() * 2, 2)));
   shift_ = 64 - std::countr_zero(slots_.size());
   slotOfText_.reserve(texts.size());
   std::set<std::pair<std::size_t, std::size_t>> shapes;
+  std::size_t commaCount = 0;
   for (std::size_t i = 0; i < texts.size(); ++i) {
-    std::uint64_t hash = 0;
-    std::size_t commas = 0;
-    for (std::size_t k = texts[i].size(); k-- > 0;) {
-      hash = extended(texts[i][k], hash);
-      commas += texts[i][k] == ',';
-    }
-    const std::size_t slot = find(hash, texts[i]);
-    slotOfText_.push_back(static_cast<std::uint32_t>(slot));
-    if (slots_[slot].text != noText) continue;
-    slots_[slot].tag = static_cast<std::uint32_t>(mixed(hash));
-    slots_[slot].text = static_cast<std::uint32_t>(i) & noText;
+    const std::uint64_t mix = mixed(hashBefore(0, texts[i]));
+    const std::size_t at = find(mix, texts[i]);
+    slotOfText_.push_back(static_cast<std::uint32_t>(at));
+    if (slots_[at].text != noText) continue;
+    slots_[at].tag = static_cast<std::uint32_t>(mix);
+    slots_[at].text = static_cast<std::uint32_t>(i) & noText;
+    filter_.add(mix);
+    const auto commas = static_cast<std::size_t>(std::ranges::count(texts[i], ','));
+    commaCount += commas;
     shapes.emplace(commas, texts[i].size());
   }
   for (const auto& [commas, length] : shapes) {
     if (groups_.empty() || groups_.back().commas != commas) groups_.push_back({commas, {}});
     groups_.back().lengths.push_back(length);
   }
+  if (commaCount == 0) return;
+  tails_ = Filter(commaCount);
+  for (const Slot& slot : slots_) {
+    if (slot.text != noText) addTails(texts[slot.text]);
+  }
 }
 
-/// The slot of the text, or the empty one where it would stand.
-std::size_t RepeatedTexts::find(std::uint64_t hash, std::string_view text) const {
-  const std::uint64_t mix = mixed(hash);
+/// Adds the tail of the text, and those shorter ends of it that are tails for some other number of
+/// commas, so that a search from short to long tails can stop at the first that is missing.
+void RepeatedTexts::addTails(std::string_view text) {
+  std::uint64_t hash = 0;
+  std::size_t commas = 0;
+  auto group = groups_.begin();
+  for (std::size_t comma = text.rfind(','); comma != std::string_view::npos;
+       comma = text.rfind(',')) {
+    hash = hashBefore(hash, text.substr(comma + 1));
+    ++commas;
+    while (group->commas < commas) ++group;
+    if (group->commas == commas) tails_.add(mixed(hash));
+    hash = hashBefore(hash, ",");
+    text = text.substr(0, comma);
+  }
+}
+
+std::size_t RepeatedTexts::find(std::uint64_t mix, std::string_view text) const {
   const auto tag = static_cast<std::uint32_t>(mix);
-  std::size_t at = static_cast<std::size_t>(mix >> shift_);
+  auto at = static_cast<std::size_t>(mix >> shift_);
   while (slots_[at].text != noText && (slots_[at].tag != tag || texts_[slots_[at].text] != text)) {
     at = (at + 1) & (slots_.size() - 1);
   }
@@ -121,7 +191,7 @@ std::size_t RepeatedTexts::find(std::uint64_t hash, std::string_view text) const
 std::vector<std::int32_t> RepeatedTexts::run() {
   std::vector<std::int32_t> result;
   if (texts_.empty()) return result;
-  commas_.resize(std::bit_ceil(groups_.back().commas + 2));
+  parts_.resize(std::bit_ceil(groups_.back().commas + 2));
   for (std::size_t i = 0; i < texts_.size(); ++i) {
     if (slots_[slotOfText_[i]].wasSeen) {
       result.push_back(static_cast<std::int32_t>(i));
@@ -133,36 +203,53 @@ std::vector<std::int32_t> RepeatedTexts::run() {
 }
 
 void RepeatedTexts::keep(std::string_view text) {
+  std::size_t begin = seen_.size();
   seen_ += text;
   seen_ += ',';
-  for (std::size_t at = seen_.size() - text.size() - 1; at < seen_.size(); ++at) {
-    if (seen_[at] == ',') {
-      comma(commaCount_++) = {at, sum_, inversePower_};
-      for (const Group& group : groups_) {
-        if (group.commas >= commaCount_) break;
-        markEndings(group);
-      }
-    }
-    sum_ += weight(seen_[at]) * power_;
-    power_ *= base;
-    inversePower_ *= inverse(base);
+  while (begin < seen_.size()) {
+    const std::size_t end = seen_.find(',', begin);
+    extendHash(std::string_view(seen_).substr(begin, end - begin));
+    markEndings(end);
+    extendHash(",");
+    begin = end + 1;
+    part(++lastPart_) = {begin, hash_, inversePower_};
   }
 }
 
-/// Marks the texts of the group that end right before the last comma.
-void RepeatedTexts::markEndings(const Group& group) {
-  const std::size_t last = commaCount_ - 1;
-  const std::size_t part = last - group.commas;
-  const std::size_t end = comma(last).position;
-  const std::size_t partBegin = part == 0 ? 0 : comma(part - 1).position + 1;
-  std::size_t begin = comma(part).position;
-  auto length = std::ranges::lower_bound(group.lengths, end - begin);
-  if (length == group.lengths.end() || *length > end - partBegin) return;
-  std::uint64_t hash = (comma(last).sum - comma(part).sum) * comma(part).inversePower;
-  for (; length != group.lengths.end() && *length <= end - partBegin; ++length) {
-    while (end - begin < *length) hash = extended(seen_[--begin], hash);
-    Slot& slot = slots_[find(hash, std::string_view(seen_).substr(begin, *length))];
-    if (slot.text != noText) slot.wasSeen = 1;
+void RepeatedTexts::extendHash(std::string_view text) {
+  while (!text.empty()) {
+    const std::string_view block = text.substr(0, blockSize);
+    text.remove_prefix(block.size());
+    hash_ += power_ * hashBefore(0, block);
+    power_ *= powers[block.size()];
+    inversePower_ *= inversePowers[block.size()];
+  }
+}
+
+/// Marks the texts that end where the last part does.
+void RepeatedTexts::markEndings(std::size_t end) {
+  const std::string_view seen = seen_;
+  for (const Group& group : groups_) {
+    if (group.commas > lastPart_) return;
+    const std::size_t first = lastPart_ - group.commas;
+    const std::size_t longest = end - part(first).begin;
+    std::size_t begin = group.commas == 0 ? end : part(first + 1).begin;
+    auto length = std::ranges::lower_bound(group.lengths, end - begin);
+    if (length == group.lengths.end() || *length > longest) continue;
+    std::uint64_t hash = 0;
+    if (group.commas > 0) {
+      hash = (hash_ - part(first + 1).hashUpTo) * part(first + 1).inversePower;
+      if (!tails_.mayHold(mixed(hash))) return;
+    }
+    for (; length != group.lengths.end() && *length <= longest; ++length) {
+      const std::size_t longer = end - *length;
+      hash = hashBefore(hash, seen.substr(longer, begin - longer));
+      begin = longer;
+      const std::uint64_t mix = mixed(hash);
+      if (!filter_.mayHold(mix)) continue;
+      Slot& slot = slots_[find(mix, seen.substr(begin, *length))];
+      if (slot.text != noText) slot.wasSeen = 1;
+    }
   }
 }
 

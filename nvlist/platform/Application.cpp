@@ -36,4 +36,6 @@ Application& Application::inUse() {
   return *current;
 }
 
+bool Application::anyInUse() { return current && !dynamic_cast<BareApplication*>(current); }
+
 }  // namespace norvane

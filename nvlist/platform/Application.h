@@ -47,6 +47,8 @@ class Application {
 
   /// The application in use; never missing.
   static Application& inUse();
+  /// Whether a platform or the host made the one in use.
+  static bool anyInUse();
 
   /// Registers the handler that gets each failure before any box; nullptr takes it away.
   void registerErrorHandler(std::shared_ptr<ErrorHandler> handler) {

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include <nvlist/objects/Error.h>
+#include <nvlist/objects/Failure.h>
+#include <nvlist/platform/headless/HeadlessApplication.h>
+#include <nvlist/platform/headless/HeadlessList.h>
+
+namespace norvane {
+
+/// A list without a screen in a program that collects every report.
+class ListTest : public testing::Test {
+ protected:
+  ~ListTest() override { Error().SilentError(false); }
+
+  void silent() { Error().SilentError(true); }
+
+  void add(const std::vector<std::string>& texts) {
+    for (const std::string& text : texts) list.ItemsAdd(text);
+  }
+
+  /// The texts of all items, parted by blanks.
+  std::string texts() {
+    std::string result;
+    ItemStore items = list.state().Items;
+    for (int i = 0; i < list.ItemsCount(); ++i) result += (i ? " " : "") + items.touch(i).Text;
+    return result;
+  }
+
+  const ListItem& item(int index) {
+    ItemStore items = list.state().Items;
+    return items.touch(index);
+  }
+
+  /// "number procedure" of each report so far, parted by commas; forgets them.
+  std::string reports() {
+    std::string result;
+    for (const auto& box : application.boxes) {
+      const std::string number = box.text.substr(11, box.text.find('\r') - 11);
+      const std::string place = box.text.substr(0, box.text.find("\r\nVersion"));
+      result += (result.empty() ? "" : ", ") + number + " " + place.substr(place.rfind('/') + 1);
+    }
+    application.boxes.clear();
+    return result;
+  }
+
+  HeadlessApplication application;
+  HeadlessList headless{200, 100};
+  nvList& list = headless.list();
+};
+
+}  // namespace norvane

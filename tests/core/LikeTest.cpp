@@ -1,0 +1,203 @@
+#include <nvlist/core/like.h>
+#include <nvlist/core/text.h>
+#include <nvlist/objects/Failure.h>
+#include <nvlist/platform/Application.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <memory>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace norvane {
+namespace {
+
+bool binary(std::string_view text, std::string_view pattern) {
+  return LikePattern(pattern, false).matches(text);
+}
+
+bool folded(std::string_view text, std::string_view pattern) {
+  return LikePattern(pattern, true).matches(text);
+}
+
+/// The same answer from a plain walk over all possibilities.
+bool walked(std::u32string_view text, std::u32string_view pattern) {
+  if (pattern.empty()) return text.empty();
+  if (pattern[0] == U'*') {
+    return walked(text, pattern.substr(1)) || (!text.empty() && walked(text.substr(1), pattern));
+  }
+  const std::size_t width = pattern[0] == U'[' ? pattern.find(U']') + 1 : 1;
+  const std::u32string_view rest = pattern.substr(width);
+  if (width == 2) return walked(text, rest);
+  if (text.empty()) return false;
+  bool fits = pattern[0] == U'?' || pattern[0] == text[0];
+  if (pattern[0] == U'#') fits = text[0] >= U'0' && text[0] <= U'9';
+  if (width > 2) {
+    std::u32string_view set = pattern.substr(1, width - 2);
+    const bool isNegated = set.size() > 1 && set[0] == U'!';
+    if (isNegated) set.remove_prefix(1);
+    fits = (set.find(text[0]) != std::u32string_view::npos) != isNegated;
+  }
+  return fits && walked(text.substr(1), rest);
+}
+
+std::u32string decoded(std::string_view text) {
+  std::u32string result;
+  for (std::size_t at = 0; at < text.size();) result += decodeNext(text, at);
+  return result;
+}
+
+TEST(Like, MatchesTheWholeText) {
+  const struct {
+    std::string_view pattern;
+    std::vector<std::string_view> hits;
+    std::vector<std::string_view> misses;
+  } cases[] = {
+      {"", {""}, {"a"}},
+      {"abc", {"abc"}, {"ab", "abcd", "xabc", "Abc"}},
+      {"a?c",
+       {"abc", "a?c",
+        "a\xC3\xA4"
+        "c",
+        "a\xA4"
+        "c"},
+       {"ac", "abbc"}},
+      {"##", {"09"}, {"0", "0a", "123", "\xD9\xA1\xD9\xA2"}},
+      {"*", {"", "abc"}, {}},
+      {"a*", {"a", "abc"}, {"", "ba"}},
+      {"*a", {"a", "cba"}, {"", "ab"}},
+      {"ab*ba", {"abba", "abcba"}, {"aba", "abb"}},
+      {"*ab*", {"ab", "xaby", "aab"}, {"", "a", "ba", "axb"}},
+      {"*a?c*d", {"abcd", "aabcxd", "xaxcd"}, {"acd", "abcda"}},
+      {"*aab*aab*", {"aaabaab", "aabxaab"}, {"aabaa", "aaab"}},
+      {"*#?*", {"x1y", "12"}, {"1", "x1"}},
+      {"***a**?*", {"ab", "xay"}, {"a", "xa"}},
+      {"[abc]", {"a", "c"}, {"", "d", "ab"}},
+      {"[a-cx-z5]*", {"a", "b1", "y", "5"}, {"d", "w", "-", "B"}},
+      {"[!a-c]", {"d", "!", "\xC3\xA4", "\xFF"}, {"", "a", "dd"}},
+      {"[-a]", {"-", "a"}, {"b"}},
+      {"[a-]", {"-", "a"}, {"b", "]"}},
+      {"[!-a]", {"b"}, {"-", "a"}},
+      {"[a-c-e]", {"b", "-", "e"}, {"d"}},
+      {"[a!]", {"a", "!"}, {"b"}},
+      {"[!]", {"!"}, {"", "a", "[!]"}},
+      {"[!!]", {"a"}, {"!"}},
+      {"[]", {""}, {"a", "[]"}},
+      {"a[]b*[]*c", {"abc", "abxc"}, {"a[]bc"}},
+      {"[?*#[]", {"?", "*", "#", "["}, {"a", "1", "]"}},
+      {"a]", {"a]"}, {"a"}},
+      {"[]]", {"]"}, {""}},
+      {"[\xC3\xA0-\xC3\xBC]", {"\xC3\xA4"}, {"\xC3\xBD", "\xC3", "\xA4", "a"}},
+      {{"a\0*", 3}, {{"a\0b", 3}}, {"a"}},
+  };
+  for (const auto& [pattern, hits, misses] : cases) {
+    for (const auto text : hits) EXPECT_TRUE(binary(text, pattern)) << pattern << " : " << text;
+    for (const auto text : misses) EXPECT_FALSE(binary(text, pattern)) << pattern << " : " << text;
+  }
+}
+
+TEST(Like, FoldsCaseWhereAsked) {
+  const struct {
+    std::string_view pattern;
+    std::string_view text;
+    bool matches;
+  } cases[] = {
+      {"aB*Z", "Abxz", true},
+      {"*\xC3\x84*", "x\xC3\xA4y", true},
+      {"*\xCE\xA3", "\xCF\x83\xCF\x82", true},
+      {"k", "\xE2\x84\xAA", true},
+      {"\xE2\x84\xAA*", "K", true},
+      {"\xC3\x9F", "ss", false},
+      {"[a-c]", "B", true},
+      {"[A-C]", "b", true},
+      {"[!a-c]", "B", false},
+      {"[!a-c]", "D", true},
+      {"[@-_]", "B", false},
+      {"[a-Z]", "M", true},
+      {"[\xC3\x80-\xC3\x96]", "\xC3\xA4", true},
+      {"\xE4", "\xC4", false},
+      {"@[`]{", "`@[", false},
+  };
+  for (const auto& [pattern, text, matches] : cases) {
+    EXPECT_EQ(folded(text, pattern), matches) << pattern << " : " << text;
+  }
+}
+
+TEST(Like, RefusesMalformedPatternsAndReportsThem) {
+  for (const std::string_view pattern :
+       {"[", "a[bc", "[!", "*[a", "[b-a]", "[!z-a]", "[a--]", "[\xC3\xA4-a]", "x[]["}) {
+    for (const bool ignoreCase : {false, true}) {
+      try {
+        LikePattern(pattern, ignoreCase).matches("");
+        ADD_FAILURE() << pattern;
+      } catch (const Failure& failure) {
+        EXPECT_EQ(failure.number(), Failure::invalidPattern().number());
+      }
+    }
+  }
+  EXPECT_THROW(LikePattern("[a-Z]", false), Failure);
+  EXPECT_THROW(LikePattern("[Z-a]", true), Failure);
+}
+
+struct Reports : ErrorHandler {
+  void RaiseError(const std::string&, const ApplicationFacts&, std::int32_t number,
+                  const std::string&, const std::string& procedure, std::int32_t,
+                  const std::string& kind, const std::string& module) override {
+    lines.push_back(std::to_string(number) + " " + kind + " " + module + "." + procedure);
+  }
+  std::vector<std::string> lines;
+};
+
+TEST(Like, ComparisonsReportUnderTheirOwnNames) {
+  const auto reports = std::make_shared<Reports>();
+  Application::inUse().registerErrorHandler(reports);
+  EXPECT_TRUE(LikeCompBinary("abc", "a*").isTrue());
+  EXPECT_FALSE(LikeCompBinary("abc", "A*"));
+  EXPECT_TRUE(LikeCompText("abc", "A*").isTrue());
+  EXPECT_FALSE(LikeCompBinary("[", "["));
+  EXPECT_FALSE(LikeCompText("b", "[c-a]"));
+  Application::inUse().registerErrorHandler(nullptr);
+  EXPECT_EQ(reports->lines, (std::vector<std::string>{"93 Modul basCompareBinary.LikeCompBinary",
+                                                      "93 Modul basComparyText.LikeCompText"}));
+}
+
+TEST(Like, AgreesWithAPlainWalkAlsoOverStrayBytes) {
+  const std::string_view patternPieces[] = {
+      "a",  "b",    "*",    "*",    "?", "#",        "[ab]",        "[!ab]",
+      "[]", "\xE2", "\x82", "\xAC", "7", "\xC3\xA4", "[!\xC3\xA4]", "[\xE2\x82]"};
+  const std::string_view textPieces[] = {"a", "b", "7", "\xE2", "\x82", "\xAC", "\xC3\xA4", "a"};
+  std::mt19937 random(3);
+  int hits = 0;
+  for (int round = 0; round < 200000; ++round) {
+    std::string pattern, text;
+    std::u32string walkedPattern;
+    for (auto left = random() % 7; left > 0; --left) pattern += patternPieces[random() % 16];
+    for (auto left = random() % 8; left > 0; --left) text += textPieces[random() % 8];
+    const bool expected = walked(decoded(text), decoded(pattern));
+    ASSERT_EQ(binary(text, pattern), expected)
+        << testing::PrintToString(pattern) << testing::PrintToString(text);
+    ASSERT_EQ(folded(text, pattern), expected)
+        << testing::PrintToString(pattern) << testing::PrintToString(text);
+    hits += expected;
+  }
+  EXPECT_GT(hits, 2000);
+}
+
+TEST(Like, StaysBoundedWithManyAsterisks) {
+  std::string stars;
+  for (int i = 0; i < 2000; ++i) stars += "*a?";
+  const std::string text(100000, 'a');
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_TRUE(binary(text, stars + "*"));
+  EXPECT_FALSE(binary(text, stars + "*b"));
+  EXPECT_FALSE(binary(text, stars + "*b*"));
+  EXPECT_FALSE(folded(text, stars + "*[b]*"));
+  EXPECT_FALSE(binary(text, std::string(2000, '*') + "b" + std::string(2000, '*')));
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+}
+
+}  // namespace
+}  // namespace norvane

@@ -1,0 +1,90 @@
+#include <nvlist/core/repeatedTexts.h>
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <random>
+#include <string>
+
+namespace norvane {
+namespace {
+
+using Places = std::vector<std::int32_t>;
+
+Places searched(std::span<const std::string_view> texts) {
+  Places result;
+  std::string seen;
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    const std::string part = std::string(texts[i]) + ",";
+    if (seen.find(part) != std::string::npos) {
+      result.push_back(static_cast<std::int32_t>(i));
+    } else {
+      seen += part;
+    }
+  }
+  return result;
+}
+
+std::vector<std::string_view> viewsOf(const std::vector<std::string>& texts) {
+  return {texts.begin(), texts.end()};
+}
+
+TEST(RepeatedTexts, FindsWhatEndsBeforeACommaOfTheKeptOnes) {
+  const struct {
+    std::vector<std::string_view> texts;
+    Places repeated;
+  } cases[] = {
+      {{}, {}},
+      {{"a", "b", "a", "a"}, {2, 3}},
+      {{"abc", "bc", "ab", "c"}, {1, 3}},
+      {{"bc", "abc", "abc"}, {2}},
+      {{"b", "c", "b,c"}, {2}},
+      {{"b", "x", "c", "b,c"}, {}},
+      // What is repeated is not kept: "c" is, so that b and d stand side by side.
+      {{"c", "b", "c", "d", "b,d"}, {2, 4}},
+      {{"", "", "a", ""}, {1, 3}},
+      {{"a", ""}, {1}},
+      {{",", "", ",", ",,"}, {1, 2}},
+      {{"ab", "cd", "b,cd", ",cd", "ab,cd", "a,cd"}, {2, 3, 4}},
+      {{"a,b", "a", "b", "b,a", "b,b,a"}, {1, 2, 4}},
+      {{std::string_view("\0", 1), std::string_view("\0\0", 2), std::string_view("\0", 1)}, {2}},
+      {{"A", "a", "\xC3\xA4", "\xA4"}, {3}},
+  };
+  for (const auto& [texts, repeated] : cases) {
+    EXPECT_EQ(repeatedTexts(texts), repeated) << testing::PrintToString(texts);
+  }
+}
+
+TEST(RepeatedTexts, AgreesWithAPlainSearch) {
+  std::mt19937 random(7);
+  for (int round = 0; round < 4000; ++round) {
+    const auto longest = 1 + random() % 12;
+    const char* const alphabet = round % 2 == 0 ? "ab,," : "abbbaa,a";
+    std::vector<std::string> texts(random() % 60);
+    for (std::string& text : texts) {
+      for (auto left = random() % (longest + 1); left > 0; --left) {
+        text += alphabet[random() % (round % 2 == 0 ? 4 : 8)];
+      }
+    }
+    const std::vector<std::string_view> views = viewsOf(texts);
+    ASSERT_EQ(repeatedTexts(views), searched(views)) << testing::PrintToString(texts);
+  }
+}
+
+TEST(RepeatedTexts, TakesManyAndLongTextsInItsStride) {
+  std::vector<std::string> texts;
+  for (int i = 0; i < 300000; ++i) texts.push_back("Smith " + std::to_string(i) + ", John");
+  std::string commas, letters;
+  for (int i = 0; i < 300000; ++i) {
+    commas += i % 3 == 0 ? "," : "x";
+    letters += static_cast<char>('a' + i % 26);
+  }
+  texts.insert(texts.end(), {commas, letters, commas.substr(1), letters.substr(1), " John"});
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_EQ(repeatedTexts(viewsOf(texts)), (Places{300002, 300003, 300004}));
+  // A search through all that was kept would take minutes.
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+}
+
+}  // namespace
+}  // namespace norvane

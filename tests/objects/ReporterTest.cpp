@@ -1,0 +1,151 @@
+#include "../Lists.h"
+
+namespace norvane {
+namespace {
+
+/// A failure in a known procedure, and all that becomes of it.
+class Reporter : public ListTest {
+ protected:
+  void fail() {
+    list.ItemsAdd("x");
+    list.ItemsAdd("y", "no number");
+  }
+
+  class Handler : public ErrorHandler {
+   public:
+    void RaiseError(const std::string& programPath, const ApplicationFacts& program,
+                    std::int32_t Number, const std::string& Description,
+                    const std::string& Procedure, std::int32_t Line, const std::string& Kind,
+                    const std::string& Module) override {
+      got += programPath + "|" + program.EXEName + "|" + std::to_string(Number) + "|" +
+             Description + "|" + Procedure + "|" + (Line > 0 ? "line" : "none") + "|" + Kind + "|" +
+             Module;
+      if (refuses) throw std::runtime_error("not mine");
+    }
+    std::string got;
+    bool refuses = false;
+  };
+
+  Variant& logFolder() { return application.settings[{"Software\\Norvane", "ErrorLog"}]; }
+};
+
+TEST_F(Reporter, ShowsSixLinesInABox) {
+  application.program = {"host", 3, 4, 5, "C:\\host"};
+  fail();
+  ASSERT_EQ(application.boxes.size(), 1U);
+  const auto& box = application.boxes[0];
+  EXPECT_EQ(box.title, "Error");
+  EXPECT_EQ(box.style, 16);
+  const std::size_t line = box.text.find("Procedure: ") + 11;
+  EXPECT_GT(std::stoi(box.text.substr(line)), 0);
+  EXPECT_EQ(box.text.substr(0, line),
+            "Error no.: 13\r\n"
+            "Error description: Type mismatch\r\n"
+            "Project: host\r\n"
+            "Module: Benutzersteuerelement nvList\r\n"
+            "Line/Procedure: ");
+  EXPECT_EQ(box.text.substr(box.text.find('/', line)), "/ItemsAdd\r\nVersion: 3.4.5");
+}
+
+TEST_F(Reporter, LogsWhereTheSettingSays) {
+  const auto logged = [&](const Variant& setting) {
+    application.files.clear();
+    logFolder() = setting;
+    fail();
+    return application.files.empty() ? std::string() : application.files.begin()->first;
+  };
+  EXPECT_EQ(logged({}), "");
+  EXPECT_EQ(logged("   "), "");
+  EXPECT_EQ(logged("D:\\log"), "D:\\log\\NorvaneError.txt");
+  EXPECT_EQ(logged("D:\\log\\"), "D:\\log\\NorvaneError.txt");
+  EXPECT_EQ(logged(std::string("D:\0rest", 7)), "D:\\NorvaneError.txt");
+  EXPECT_EQ(logged(7), "7\\NorvaneError.txt");
+  EXPECT_EQ(logged("*app*"), "/opt/headless\\NorvaneError.txt");
+
+  application.clock.set(HeadlessClock::Time(std::chrono::hours(24 * 365)));
+  application.clock.advance(std::chrono::milliseconds(3723000));
+  logged("D:");
+  EXPECT_EQ(application.files["D:\\NorvaneError.txt"],
+            "1971-01-01 01:02:03\r\n" + application.boxes.back().text +
+                "\r\n------------------------------\r\n");
+  application.isDiskFull = true;
+  const std::size_t before = application.boxes.size();
+  EXPECT_EQ(logged("D:"), "");
+  EXPECT_EQ(application.boxes.size(), before + 1);
+}
+
+TEST_F(Reporter, AsksTheOutsideHandlerFirst) {
+  const auto handler = std::make_shared<Handler>();
+  application.registerErrorHandler(handler);
+  logFolder() = "D:";
+  fail();
+  EXPECT_EQ(handler->got,
+            "/opt/headless/headless|headless|13|Type mismatch|ItemsAdd|line|"
+            "Benutzersteuerelement|nvList");
+  EXPECT_TRUE(application.boxes.empty());
+  EXPECT_EQ(application.files.size(), 1U);
+
+  handler->refuses = true;
+  fail();
+  EXPECT_EQ(application.boxes.size(), 1U);
+}
+
+TEST_F(Reporter, TheSwitchIsSharedAndNeverReset) {
+  Error first;
+  first.SilentError(true);
+  Error second;
+  EXPECT_TRUE(second.SilentError().isTrue());
+  fail();
+  EXPECT_EQ(reports(), "");
+  EXPECT_EQ(list.ItemsCount(), 2);
+  second.SilentError(Boolean::ofNumber(5));
+  EXPECT_EQ(first.SilentError().number(), 5);
+}
+
+TEST_F(Reporter, AFailureEndsOnlyTheProcedureItHappensIn) {
+  constexpr Module here{kinds::module, "basList"};
+  std::string trace;
+  const auto inner = [&](bool fails) {
+    trapped(here, "Inner", [&](Trap& on) {
+      on.step([&] {
+        if (fails) throw Failure::overflow();
+      });
+      trace += "i";
+    });
+  };
+  const auto outer = [&] {
+    trace.clear();
+    trapped(here, "Outer", [&](Trap& on) {
+      on.step([&] { inner(true); });
+      trace += "a";
+      if (on.test([]() -> bool { throw Failure::typeMismatch(); })) trace += "b";
+      trace += "c";
+      on.ignoring([] { throw 1; });
+      on.step([&] { on.step([] { throw std::bad_alloc(); }); });
+      trace += "d";
+    });
+    return trace;
+  };
+  EXPECT_EQ(outer(), "a");
+  EXPECT_EQ(reports(), "6 Inner, 13 Outer");
+  silent();
+  EXPECT_EQ(outer(), "iabcd");
+  EXPECT_EQ(reports(), "");
+}
+
+TEST_F(Reporter, AFailureOfTheReporterGoesToTheCaller) {
+  class NoBox : public HeadlessApplication {
+   public:
+    void MsgBox(const std::string&, std::int32_t, const std::string&) override {
+      throw std::runtime_error("no screen");
+    }
+  };
+  {
+    NoBox broken;
+    EXPECT_THROW(fail(), std::runtime_error);
+  }
+  EXPECT_EQ(&Application::inUse(), &application);
+}
+
+}  // namespace
+}  // namespace norvane
