@@ -422,7 +422,9 @@ std::span<const CaseRow> upperCaseTable() { return upperCaseRows; }
 std::span<const CaseRow> foldCaseTable() { return foldCaseRows; }
 
 char32_t mapCase(std::span<const CaseRow> table, char32_t character) {
-  const auto row = std::ranges::lower_bound(table, character, {}, &CaseRow::last);
+  const auto row =
+      std::lower_bound(table.begin(), table.end(), character,
+                       [](const CaseRow& before, char32_t value) { return before.last < value; });
   if (row == table.end() || character < row->first) return character;
   if ((character - row->first) % row->step != 0) return character;
   return static_cast<char32_t>(static_cast<std::int32_t>(character) + row->delta);

@@ -147,7 +147,7 @@ RepeatedTexts::RepeatedTexts(std::span<const std::string_view> texts)
     slots_[at].tag = static_cast<std::uint32_t>(mix);
     slots_[at].text = static_cast<std::uint32_t>(i) & noText;
     filter_.add(mix);
-    const auto commas = static_cast<std::size_t>(std::ranges::count(texts[i], ','));
+    const auto commas = static_cast<std::size_t>(std::count(texts[i].begin(), texts[i].end(), ','));
     commaCount += commas;
     shapes.emplace(commas, texts[i].size());
   }
@@ -234,7 +234,7 @@ void RepeatedTexts::markEndings(std::size_t end) {
     const std::size_t first = lastPart_ - group.commas;
     const std::size_t longest = end - part(first).begin;
     std::size_t begin = group.commas == 0 ? end : part(first + 1).begin;
-    auto length = std::ranges::lower_bound(group.lengths, end - begin);
+    auto length = std::lower_bound(group.lengths.begin(), group.lengths.end(), end - begin);
     if (length == group.lengths.end() || *length > longest) continue;
     std::uint64_t hash = 0;
     if (group.commas > 0) {

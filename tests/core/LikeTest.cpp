@@ -73,6 +73,7 @@ TEST(Like, MatchesTheWholeText) {
       {"*ab*", {"ab", "xaby", "aab"}, {"", "a", "ba", "axb"}},
       {"*a?c*d", {"abcd", "aabcxd", "xaxcd"}, {"acd", "abcda"}},
       {"*aab*aab*", {"aaabaab", "aabxaab"}, {"aabaa", "aaab"}},
+      {"*aba*ba*", {"xababa"}, {"xabay"}},
       {"*#?*", {"x1y", "12"}, {"1", "x1"}},
       {"***a**?*", {"ab", "xay"}, {"a", "xa"}},
       {"[abc]", {"a", "c"}, {"", "d", "ab"}},

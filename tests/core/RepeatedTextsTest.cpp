@@ -71,6 +71,18 @@ TEST(RepeatedTexts, AgreesWithAPlainSearch) {
   }
 }
 
+TEST(RepeatedTexts, TellsTextsOfTheSameHashApart) {
+  // Two such words have the same sum of powers for every odd base, modulo 2^64.
+  std::string word = "a", opposite = "b";
+  while (word.size() < 2048) {
+    const std::string half = word;
+    word += opposite;
+    opposite += half;
+  }
+  const std::vector<std::string> texts = {word, opposite, word, "x," + word, "x," + opposite};
+  EXPECT_EQ(repeatedTexts(viewsOf(texts)), Places{2});
+}
+
 TEST(RepeatedTexts, TakesManyAndLongTextsInItsStride) {
   std::vector<std::string> texts;
   for (int i = 0; i < 300000; ++i) texts.push_back("Smith " + std::to_string(i) + ", John");

@@ -1,0 +1,96 @@
+// The gallery: shows what nvList can do, in a window or as a picture.
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QFile>
+#include <QFileInfo>
+#include <QOperatingSystemVersion>
+
+#include <cstdio>
+
+#include "GalleryWindow.h"
+
+namespace {
+
+constexpr int cannotRead = 2;
+constexpr int cannotWrite = 3;
+
+bool hasDisplay() {
+  return !QGuiApplication::platformName().startsWith("offscreen") &&
+         !QGuiApplication::platformName().startsWith("minimal");
+}
+
+int fail(const QString& message, int status) {
+  std::fprintf(stderr, "gallery: %s\n", qPrintable(message));
+  return status;
+}
+
+/// The lines of a text file; throws its error message where it cannot be read.
+QStringList linesOf(const QString& path) {
+  if (QFileInfo(path).isDir()) throw QString("%1 is a folder, not a text file").arg(path);
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly))
+    throw QString("cannot read %1: %2").arg(path, file.errorString());
+  const QByteArray bytes = file.readAll();
+  if (file.error() != QFileDevice::NoError)
+    throw QString("cannot read %1: %2").arg(path, file.errorString());
+  QString text = QString::fromUtf8(bytes);
+  text.remove('\r');
+  if (text.endsWith('\n')) text.chop(1);
+  return text.isEmpty() ? QStringList() : text.split('\n');
+}
+
+int saveScreenshot(GalleryWindow& window, const QString& path) {
+  window.setAttribute(Qt::WA_DontShowOnScreen);
+  window.QWidget::show();
+  QCoreApplication::processEvents();
+  if (!window.grab().save(path, "PNG"))
+    return fail(QString("cannot write %1").arg(path), cannotWrite);
+  std::puts(qPrintable(QFileInfo(path).absoluteFilePath()));
+  return 0;
+}
+
+}  // namespace
+
+int main(int argumentCount, char** arguments) {
+  QCommandLineParser options;
+  options.setApplicationDescription("Shows a text file, or a sample, as a list.");
+  options.addHelpOption();
+  options.addVersionOption();
+  options.addPositionalArgument("file", "Text file whose lines to show.", "[file]");
+  const QCommandLineOption screenshot("screenshot", "Draw the window into a picture file and quit.",
+                                      "out.png");
+  options.addOption(screenshot);
+
+  // The file is read before anything of a window exists, so that a bad one is told in one line.
+  QStringList words;
+  for (int i = 0; i < argumentCount; ++i) words << QString::fromLocal8Bit(arguments[i]);
+  options.parse(words);
+  const QStringList files = options.positionalArguments();
+  if (files.size() > 1) return fail("give one file only", cannotRead);
+  QStringList lines;
+  try {
+    lines = linesOf(files.isEmpty() ? ":/sample/places.txt" : files.first());
+  } catch (const QString& message) {
+    return fail(message, cannotRead);
+  }
+
+  const bool isUnix = QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Unknown;
+  if (isUnix && qEnvironmentVariableIsEmpty("DISPLAY") &&
+      qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
+      qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argumentCount, arguments);
+  application.setApplicationName("gallery");
+  application.setApplicationVersion("1.0.0");
+  options.process(application);
+
+  GalleryWindow window;
+  const QString title =
+      files.isEmpty() ? QString("Places of the world") : QFileInfo(files.first()).fileName();
+  window.show(lines, title + " - nvList");
+  if (options.isSet(screenshot)) return saveScreenshot(window, options.value(screenshot));
+  if (!hasDisplay()) return saveScreenshot(window, "gallery.png");
+  window.QWidget::show();
+  return QApplication::exec();
+}

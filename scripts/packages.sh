@@ -1,0 +1,32 @@
+# Sourced by the other scripts: installs the Debian packages they need.
+
+# Installs those of the named packages that are missing, and says which.
+need() {
+  command -v dpkg-query >/dev/null || return 0 # not Debian: the user's own business
+  local package missing=()
+  for package in "$@"; do
+    [[ $(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null) == installed ]] ||
+      missing+=("$package")
+  done
+  ((${#missing[@]})) || return 0
+
+  local as_root=()
+  if ((EUID != 0)); then
+    command -v sudo >/dev/null || {
+      echo "Missing packages, and neither root nor sudo to install them: ${missing[*]}" >&2
+      exit 1
+    }
+    as_root=(sudo)
+  fi
+  echo "Installing ${missing[*]}" >&2
+  {
+    "${as_root[@]}" apt-get update -q &&
+      "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -q -y --no-install-recommends "${missing[@]}"
+  } >&2
+}
+
+build_packages=(g++ cmake ninja-build)
+qt_packages=(qt6-base-dev qt6-qpa-plugins libgl-dev fonts-dejavu-core)
+test_packages=(libgtest-dev)
+benchmark_packages=(libbenchmark-dev)
