@@ -18,8 +18,9 @@ namespace norvane {
 /// One control belongs to one thread.
 ///
 /// No operation fails towards its caller: a failure is reported or passed over, as the switch
-/// SilentError says (objects/Error.h), and the result is then what is told at the operation. An
-/// index is a number or a text that reads as one; it is rounded to the nearest whole number.
+/// SilentError says (objects/Error.h), and the result is then what is told at the operation. Only
+/// a failure of the reporter itself comes out. An index is a number, a truth value, nothing (0) or
+/// a text that reads as a number; it is rounded to the nearest whole number.
 ///
 /// This header is the map of the house. Each group below names the file it is defined in.
 class nvList {
@@ -40,7 +41,8 @@ class nvList {
 
   /// Adds one item. `aIndex` is where it goes: -1, anything negative and anything from the number
   /// of items up mean the end; a text counts as the number it reads as, and one that reads as none
-  /// is a failure that leaves a blank item at the end. The first item goes to 0 whatever `aIndex`.
+  /// is a failure, which leaves a blank item at the end (under SilentError the item itself). The
+  /// first item goes to 0 whatever `aIndex`.
   ///
   /// With AutoRedraw on the selection is dropped and ListIndex becomes -1; with AutoRedraw off both
   /// stay, even where an insert moves the items under them. The list is painted only while it holds
@@ -58,8 +60,8 @@ class nvList {
   void ItemsAdd(NewItem item);
 
   /// Removes one item; `Index` is rewritten as the 32-bit number it counts as. A bad index does
-  /// nothing and is not reported. ListIndex, TopIndex, NewIndex and the anchor of a range stay as
-  /// they are, and may name another item or none afterwards.
+  /// nothing and is not reported; it is tested before it is rounded. ListIndex, TopIndex, NewIndex
+  /// and the anchor of a range stay as they are, and may name another item or none afterwards.
   void ItemsRemove(Variant& Index);
   void ItemsRemove(Variant&& Index) { ItemsRemove(Index); }
 
@@ -82,8 +84,8 @@ class nvList {
 
   /// Removes all but the first of items whose text was there before; the case of letters counts
   /// only if `IgnoreLetterSize` is false. A text was there if, with a comma behind it, it ends any
-  /// part of the earlier texts joined with commas: "bc" goes behind "abc", and "b,c" behind the
-  /// items "b" and "c".
+  /// part of the texts kept so far, joined with commas: "bc" goes behind "abc", and "b,c" behind
+  /// the items "b" and "c".
   ///
   /// A duplicate past item 32767 is a failure, which ends the operation with AutoRedraw and
   /// AutoCheckScroll left off; under SilentError such items stay.
@@ -138,8 +140,8 @@ class nvList {
   void IndentTop(float value);
   float IndentLeft();
   void IndentLeft(float value);
-  /// Height of a row in pixels; 0, the default: the height of the font. A negative one shows no
-  /// rows.
+  /// Height of a row in pixels; 0, the default: the height of the font. Rows that are no pixel high
+  /// after rounding are not shown.
   float MinHeight();
   void MinHeight(float value);
 
@@ -194,11 +196,11 @@ class nvList {
   void paintPreview(Trap& on);
   void paintFace(Trap& on);
   void paintCorner(Trap& on);
-  void paintRow(Trap& on, const RepaintValues& repaint);
+  void paintRow(Trap& on, RepaintValues& repaint);
 
   // render/scrollfit.cpp
   void CheckItemWidth();
-  void CheckItemWidth(const Variant& Index);
+  void CheckItemWidth(Variant Index);
 
   Container& container_;
   Surface& surface_;

@@ -26,15 +26,11 @@ class ListTest : public testing::Test {
   /// The texts of all items, parted by blanks.
   std::string texts() {
     std::string result;
-    ItemStore items = list.state().Items;
-    for (int i = 0; i < list.ItemsCount(); ++i) result += (i ? " " : "") + items.touch(i).Text;
+    for (int i = 0; i < list.ItemsCount(); ++i) result += (i ? " " : "") + item(i).Text;
     return result;
   }
 
-  const ListItem& item(int index) {
-    ItemStore items = list.state().Items;
-    return items.touch(index);
-  }
+  const ListItem& item(int index) { return list.state().Items.at(index); }
 
   /// "number procedure" of each report so far, parted by commas; forgets them.
   std::string reports() {

@@ -8,7 +8,7 @@
 namespace norvane {
 
 /// A font as hosts describe it. A platform looks up the nearest face it has.
-class FontObject : public Shared {
+class FontObject final : public Shared {
  public:
   std::string Name = "Tahoma";
   /// Height in points.

@@ -17,12 +17,20 @@ Ref<ListItem>& ItemStore::slot(std::int32_t index) {
   return slots_[static_cast<std::size_t>(index)];
 }
 
+const ListItem& ItemStore::at(std::int32_t index) const {
+  static const ListItem blank;
+  if (!holds(index)) throw Failure::subscriptOutOfRange();
+  const Ref<ListItem>& reference = slots_[static_cast<std::size_t>(index)];
+  return reference ? *reference : blank;
+}
+
 void ItemStore::grow() {
   if (upperBound() == std::numeric_limits<std::int32_t>::max()) throw Failure::overflow();
   slots_.emplace_back();
 }
 
-// References are let go last: an item's objects may run host code as they are destroyed.
+// Room is made before anything moves, so that a lack of memory loses no item. References are let go
+// last: an item's objects may run host code as they are destroyed.
 
 void ItemStore::shrink() {
   const Ref<ListItem> last = std::move(slots_.back());
@@ -37,16 +45,15 @@ void ItemStore::reset() {
 void ItemStore::moveLastTo(std::int32_t index) {
   slot(index);
   if (index == upperBound()) return;
-  Ref<ListItem> last = std::move(slots_.back());
+  slots_.emplace(slots_.begin() + index);
+  slots_[static_cast<std::size_t>(index)].swap(slots_.back());
   slots_.pop_back();
-  slots_.insert(slots_.begin() + index, std::move(last));
 }
 
 void ItemStore::moveDownOnto(std::int32_t index) {
-  const Ref<ListItem> removed = std::move(slot(index));
-  Ref<ListItem> last = slots_.back();
+  const Ref<ListItem> removed = slot(index);
+  slots_.push_back(Ref(slots_.back()));
   slots_.erase(slots_.begin() + index);
-  slots_.push_back(std::move(last));
 }
 
 }  // namespace norvane

@@ -14,10 +14,16 @@ namespace norvane {
 /// the slot itself, and in the middle moves the shorter side only.
 class ItemStore {
  public:
+  ItemStore() = default;
+  ItemStore(const ItemStore&) = delete;
+  ItemStore& operator=(const ItemStore&) = delete;
   std::int32_t upperBound() const { return static_cast<std::int32_t>(slots_.size()) - 1; }
 
   bool holds(std::int32_t index) const { return index >= 0 && index <= upperBound(); }
 
+  /// The item in a slot, to look at; a blank one for an empty slot. Throws Failure 9 outside the
+  /// bounds. Lives until the list changes.
+  const ListItem& at(std::int32_t index) const;
   /// The item in a slot, made if the slot is empty. Throws Failure 9 outside the bounds.
   ListItem& touch(std::int32_t index);
 

@@ -17,7 +17,7 @@ namespace norvane {
 /// The four variant colours hold a colour or the text "def", which says that the item has no colour
 /// of its own and takes what the style of the list gives. The two colours of the disabled state are
 /// plain numbers and cannot say so.
-class ListItem : public Shared {
+class ListItem final : public Shared {
  public:
   Boolean Checked;          ///< the check mark
   Variant ForeColor;        ///< text colour

@@ -141,7 +141,11 @@ std::string Variant::toText() && {
 std::partial_ordering compareText(std::string_view a, const Variant& b) {
   if (b.isText() || b.isEmpty()) return a.compare(b.text()) <=> 0;
   const double other = b.toNumber();
-  if (const auto number = numberOf(a)) return *number <=> other;
+  if (const auto number = numberOf(a)) {
+    // Against a float the text counts as one, or 0.1 would differ from itself.
+    if (b.type() == Variant::Type::Single) return static_cast<float>(*number) <=> b.toSingle();
+    return *number <=> other;
+  }
   throw Failure::typeMismatch();
 }
 

@@ -2,6 +2,8 @@
 
 #include <atomic>
 #include <compare>
+#include <concepts>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -32,10 +34,13 @@ class Variant {
   Variant(std::int16_t number) : bits_(pack(Type::Int16, static_cast<std::uint16_t>(number))) {}
   Variant(std::int32_t number) : bits_(pack(Type::Int32, static_cast<std::uint32_t>(number))) {}
   Variant(float number);
-  /// Kept as a 32-bit float, the only float there is.
+  /// Kept as a 32-bit float, the only float there is: about seven digits.
   Variant(double number) : Variant(static_cast<float>(number)) {}
   Variant(Boolean value) : bits_(pack(Type::Boolean, static_cast<std::uint16_t>(value.number()))) {}
-  Variant(bool value) : Variant(Boolean(value)) {}
+  /// Of exactly this type, or any pointer would be a truth value.
+  template <std::same_as<bool> Bool>
+  Variant(Bool value) : Variant(Boolean(value)) {}
+  Variant(std::nullptr_t) = delete;
   Variant(std::string text);
   Variant(std::string_view text) : Variant(std::string(text)) {}
   Variant(const char* text) : Variant(std::string_view(text)) {}

@@ -36,7 +36,9 @@ void nvList::ItemsRemoveDouble(Boolean IgnoreLetterSize) {
       for (state_.LoopIndex2 = static_cast<std::int32_t>(doomed.size()) - 1; state_.LoopIndex2 >= 0;
            --state_.LoopIndex2) {
         on.step([&] {
-          const std::int32_t index = doomed.at(static_cast<std::size_t>(state_.LoopIndex2));
+          const auto place = static_cast<std::size_t>(state_.LoopIndex2);
+          if (place >= doomed.size()) throw Failure::subscriptOutOfRange();
+          const std::int32_t index = doomed[place];
           ItemsRemove(Variant(checked::narrow<std::int16_t>(index)));
         });
       }

@@ -71,9 +71,9 @@ void nvList::ItemsAdd(NewItem values) {
       if (height == 0) throw Failure::divisionByZero();
       repaintLimit = surface_.ScaleHeight() / height + height;
     });
+    const bool mayBeInView = double{repaintLimit} > ItemsCount();
     if (state_.AutoCheckScroll) on.step([&] { CheckScroll(); });
-    if (repaintLimit > static_cast<float>(ItemsCount()) && state_.AutoRedraw)
-      on.step([&] { Redraw(); });
+    if (mayBeInView && state_.AutoRedraw) on.step([&] { Redraw(); });
   });
 }
 
@@ -101,7 +101,7 @@ void nvList::writeItem(Trap& on, ListItem& item, NewItem& values) {
 
 void nvList::ItemsRemove(Variant& Index) {
   trapped(here, "ItemsRemove", [&](Trap& on) {
-    if (!state_.ItemsDimensioned || WrongIndex(Index)) return;
+    if (!state_.ItemsDimensioned || on.test([&] { return WrongIndex(Index); })) return;
     on.step([&] { Index = Index.toInt32(); });
     moveDownOnto(on, Index.toInt32());
     if (ItemsCount() < 2)

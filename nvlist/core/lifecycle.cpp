@@ -7,8 +7,16 @@ void nvList::UserControl_InitProperties() {
     norvane::Font ambient;
     on.ignoring([&] { ambient = container_.AmbientFont(); });
     state_.SuppressRedraw = true;
+    const ListState defaults;
     on.step([&] { Font(ambient); });
-    on.step([&] { BackColor(state_.BackColor); });
+    on.step([&] { ForeColor(defaults.ForeColor); });
+    on.step([&] { BackColor(defaults.BackColor); });
+    on.step([&] { Style(defaults.Style); });
+    on.step([&] { IndentTop(defaults.IndentTop); });
+    on.step([&] { IndentLeft(defaults.IndentLeft); });
+    on.step([&] { AutoCheckScroll(defaults.AutoCheckScroll); });
+    on.step([&] { MinHeight(defaults.MinHeight); });
+    on.step([&] { AutoRedraw(defaults.AutoRedraw); });
     state_.SuppressRedraw = false;
     state_.ClickPending = true;
     on.step([&] { ItemsClear(); });

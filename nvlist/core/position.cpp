@@ -12,10 +12,10 @@ void nvList::TopIndex(std::int32_t value) {
     std::int32_t visible = 0;
     on.step([&] { visible = VisibleItems(); });
     if (value < 0) value = 0;
-    // A repair ends at 0 on a short list too.
-    if (!state_.TopIndexRepair &&
-        on.test([&] { return checked::add(value, visible) > ItemsCount(); }))
+    if (on.test([&] { return checked::add(value, visible) > ItemsCount(); }))
       on.step([&] { value = checked::subtract(ItemsCount(), visible); });
+    // A repair ends at 0 on a short list too.
+    if (state_.TopIndexRepair && value < 0) value = 0;
     state_.TopIndex = value;
     on.step([&] { container_.PropertyChanged("TopIndex"); });
     if (state_.TopIndexRepair) return;

@@ -26,7 +26,8 @@ std::int32_t nvList::IsInList(std::string_view sText, cFindCompare oCompare) {
     state_.LoopIndex = 0;
     std::optional<LikePattern> pattern;
     on.step([&] { pattern.emplace(sText, oCompare == cFindText); });
-    if (!pattern || (oCompare != cFindBinary && oCompare != cFindText)) return;
+    const bool canMatch = pattern && (oCompare == cFindBinary || oCompare == cFindText);
+    if (!canMatch) state_.LoopIndex = state_.Items.upperBound() + 1;
     for (; state_.LoopIndex <= state_.Items.upperBound(); ++state_.LoopIndex) {
       if (on.test([&] { return pattern->matches(item(state_.LoopIndex).Text); })) {
         found = state_.LoopIndex;

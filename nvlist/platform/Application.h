@@ -37,7 +37,8 @@ class ErrorHandler {
 /// whole program, and it serves the reporter of failures.
 ///
 /// Making an object of a derived class puts it to use; destroying it puts the one before it back.
-/// Where none was made, failures are written to the standard error stream.
+/// Where none was made, failures are written to the standard error stream. Make and destroy them on
+/// one thread, while no other one runs a control.
 class Application {
  public:
   Application();

@@ -27,8 +27,8 @@ class Container {
   /// Whether DoEvents would find anything to do. Loops over items ask this once an item, so it has
   /// to cost next to nothing.
   virtual bool EventsWaiting() = 0;
-  /// Dispatches what waits: messages, timers, repaints. Handlers of the host run inside it and may
-  /// call any public operation of the control.
+  /// Dispatches what waits, or some of it: messages, timers, repaints. Handlers of the host run
+  /// inside it and may call any public operation of the control.
   virtual void DoEvents() = 0;
 };
 

@@ -93,7 +93,8 @@ void nvList::paintFace(Trap& on) {
     on.step([&] { repaint.ItemLeft = nearest<std::int32_t>(state_.IndentLeft); });
   }
 
-  const bool rowsHaveHeight = state_.ItemHeightValue > 0 && ItemHeight() > 0;
+  // Rows that would round to no height are none.
+  const bool rowsHaveHeight = state_.ItemHeightValue > 0.5F;
   while (rowsHaveHeight && !on.test([&] {
     return state_.LoopIndex > state_.Items.upperBound() ||
            surface_.CurrentY() + state_.ItemHeightValue > surface_.ScaleHeight();
@@ -105,8 +106,9 @@ void nvList::paintFace(Trap& on) {
     if (state_.SuppressRedraw) return;
   }
 
-  // Leaves its mark that the rows were counted.
+  // Leaves its mark that the rows were counted; an unusable row height is told here.
   on.step([&] { VisibleItems(); });
+  on.step([&] { ItemHeight(); });
   paintCorner(on);
 }
 

@@ -7,7 +7,7 @@ namespace norvane {
 using checked::nearest;
 
 /// Paints the row at LoopIndex with its top at CurrentY, and leaves CurrentY at the next row's top.
-void nvList::paintRow(Trap& on, const RepaintValues& repaint) {
+void nvList::paintRow(Trap& on, RepaintValues& repaint) {
   const float height = state_.ItemHeightValue;
   float rowTop = 0;
   on.step([&] { rowTop = surface_.CurrentY(); });
@@ -18,14 +18,20 @@ void nvList::paintRow(Trap& on, const RepaintValues& repaint) {
   on.step([&] { surface_.CurrentY(rowTop); });
   on.step([&] { surface_.CurrentX(static_cast<float>(repaint.ItemLeft)); });
   on.step([&] { surface_.ForeColor(state_.ForeColor); });
+
+  // A copy: the surface may let the host in, and the item may go.
+  on.step([&] { repaint.text = item(state_.LoopIndex).Text; });
+  Rectangle textRect;
   on.step([&] {
-    const std::string& text = item(state_.LoopIndex).Text;
-    const float textTop = (height - surface_.TextHeight(text)) / 2 + surface_.CurrentY();
-    // Down to the foot of the surface: a text of several lines goes on over the rows below.
-    const Rectangle textRect{nearest<std::int32_t>(surface_.CurrentX()),
-                             nearest<std::int32_t>(textTop), repaint.ItemRight,
-                             nearest<std::int32_t>(surface_.ScaleHeight())};
-    surface_.DrawTextA(surface_.hDC(), text, -1, textRect, TextFormat::expandTabs);
+    const float textHeight = surface_.TextHeight(repaint.text);
+    textRect.Top = nearest<std::int32_t>((height - textHeight) / 2 + surface_.CurrentY());
+  });
+  on.step([&] { textRect.Left = nearest<std::int32_t>(surface_.CurrentX()); });
+  textRect.Right = repaint.ItemRight;
+  // Down to the foot of the surface: a text of several lines goes on over the rows below.
+  on.step([&] { textRect.Bottom = nearest<std::int32_t>(surface_.ScaleHeight()); });
+  on.step([&] {
+    surface_.DrawTextA(surface_.hDC(), repaint.text, -1, textRect, TextFormat::expandTabs);
   });
   on.step([&] { surface_.CurrentY(rowTop + height); });
 }

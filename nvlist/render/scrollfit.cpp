@@ -7,7 +7,7 @@ namespace norvane {
 
 void nvList::CheckItemWidth() {}
 
-void nvList::CheckItemWidth(const Variant&) {}
+void nvList::CheckItemWidth(Variant) {}
 
 void nvList::CheckScroll() {}
 

@@ -251,6 +251,9 @@ TEST_F(Items, FindsByKeyAndByPattern) {
   EXPECT_EQ(list.IndexByKey(""), 2);
   EXPECT_EQ(list.IndexByKey("10.0"), -1);
   EXPECT_EQ(list.IndexByKey(10), 0);
+  list.ItemsAdd({.aText = "first", .aIndex = 0, .aKey = "0.1"});
+  EXPECT_EQ(list.IndexByKey(0.1), 0);
+  list.ItemsRemove(0);
   EXPECT_EQ(reports(), "");
   EXPECT_EQ(list.IndexByKey(11), -1);
   EXPECT_EQ(reports(), "13 IndexByKey");

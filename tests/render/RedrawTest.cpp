@@ -170,6 +170,30 @@ TEST_F(Redraw, ACallFromInsideARepaintIsDropped) {
   EXPECT_EQ(rowsOf(surface), "a@3 b@16");
 }
 
+TEST_F(Redraw, AHostThatChangesTheListInTheMiddleOfARowIsSurvived) {
+  class Hostile : public HeadlessSurface {
+   public:
+    using HeadlessSurface::HeadlessSurface;
+    float TextHeight(std::string_view text) override {
+      if (list && text != "A") list->ItemsClear();
+      return HeadlessSurface::TextHeight(text);
+    }
+    nvList* list = nullptr;
+  };
+  HeadlessContainer container;
+  Hostile surface(200, 100);
+  nvList own(container, surface);
+  own.UserControl_InitProperties();
+  const std::string text = "a text too long to stand in the item itself";
+  own.ItemsAdd(text);
+  own.ItemsAdd("b");
+  surface.list = &own;
+  own.Redraw();
+  // Clearing has cleared the surface and put the position back to its top.
+  EXPECT_EQ(rowsOf(surface), text + "@0");
+  EXPECT_EQ(own.ItemsCount(), 0);
+}
+
 TEST_F(Redraw, ADesignerShowsASampleRowWithTheName) {
   list.ItemsAdd("hidden");
   headless.container().userMode = false;

@@ -3,7 +3,9 @@
 namespace norvane {
 
 void HeadlessContainer::PropertyChanged(std::string_view property) {
-  if (onPropertyChanged) onPropertyChanged(property);
+  // A copy, as a handler may take itself away.
+  const auto handler = onPropertyChanged;
+  if (handler) handler(property);
 }
 
 void HeadlessContainer::DoEvents() {

@@ -68,7 +68,7 @@ using SurfaceCall =
                  calls::FontItalic, calls::FontUnderline, calls::DrawTextA, calls::DrawFocusRect,
                  calls::Print>;
 
-/// Drawing calls in their order. Copies are independent.
+/// Drawing calls in their order. Copies share pictures and fonts, nothing else.
 class Recording {
  public:
   std::vector<SurfaceCall> calls;

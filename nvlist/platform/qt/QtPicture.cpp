@@ -9,9 +9,8 @@ namespace {
 /// In the format that Qt paints fastest.
 QImage readyToPaint(QImage image) {
   image.setDevicePixelRatio(1);
-  return std::move(image).convertToFormat(image.hasAlphaChannel()
-                                              ? QImage::Format_ARGB32_Premultiplied
-                                              : QImage::Format_RGB32);
+  return std::move(image).convertToFormat(
+      image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
 }
 
 }  // namespace

@@ -50,7 +50,7 @@ class QtSurface final : public Surface {
   /// of its file; one that has none, or none that Qt knows, throws Failure 481.
   void PaintPicture(const Picture& picture, float x, float y) override;
   void PaintPicture(const Picture& picture, float x, float y, float width, float height) override;
-  /// Whole pixels. A tab has no width.
+  /// Whole pixels. A tab goes on to the next stop of eight characters.
   float TextWidth(std::string_view text) override;
   float TextHeight(std::string_view text) override;
   float CurrentX() const override { return currentX_; }
@@ -85,40 +85,44 @@ class QtSurface final : public Surface {
     int tabStop;
     int underlineTop;
     int underlineHeight;
-    /// Advance of each ASCII character; a negative one needs the layout of Qt.
-    std::array<float, 128> advances;
+    /// What a printable ASCII character adds to a width in front of another one, kerning included;
+    /// below -1000 where that was never asked.
+    std::vector<float> advances;
+
+    double widthOf(QStringView text);
+
+   private:
+    double widthOfPrintable(QStringView text);
   };
 
-  /// A line of text, with the positions of the characters that stand behind a `&`.
-  struct ShownLine {
-    QString text;
-    std::vector<qsizetype> underlined;
-  };
+  struct ShownLine;
 
   void setFlag(Flag flag, Boolean on) { flags_ = on ? flags_ | flag : flags_ & ~flag; }
-  const Face& face();
+  Face& face();
   QRgb rgb(Colour colour) const;
   void drawn();
   /// The painter on the image, begun where none is, with the present font and text colour.
   QPainter& painter();
   void endPainter();
-  int deviceEdge(int logical) const { return qRound(logical * dpr_); }
+  /// Where a logical pixel begins on the image.
+  int edge(int logical) const { return qRound(logical * dpr_); }
   /// The part of a rectangle that lies on the image; empty where none does.
   QRect visiblePart(const Rectangle& rectangle) const;
   void fill(int left, int top, int right, int bottom, QRgb colour);
   void fillSlanted(int x1, int y1, int x2, int y2, QRgb colour);
   void invert(int x, int y);
   const QImage& imageOf(const Picture& picture);
-  double widthOf(QStringView text);
-  double widthOf(std::string_view line);
-  void drawLine(const ShownLine& line, double x, double tabOrigin, int top, const QRect& clip);
+  double widthWithTabs(const QString& line);
+  void drawLine(const ShownLine& line, double x, double tabOrigin, double baseline,
+                const QRect& clip);
+  void underlineMarked(const ShownLine& line, qsizetype from, qsizetype to, double x,
+                       double baseline);
 
   QSize size_{1, 1};
   qreal dpr_ = 1;
   QImage image_;
   QPainter painter_;
   const Face* painterFace_ = nullptr;
-  QRgb painterColour_ = 0;
   bool isChangeTold_ = false;
   QPalette palette_;
   float currentX_ = 0;

@@ -1,0 +1,125 @@
+#include <nvlist/platform/qt/NvListWidget.h>
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QPalette>
+#include <QTimer>
+#include <string>
+#include <vector>
+
+#include <nvlist/objects/Error.h>
+
+namespace norvane {
+namespace {
+
+/// A widget on a screen whose ratio the test changes.
+class ScreenedWidget : public NvListWidget {
+ public:
+  int ratio = 1;
+
+ protected:
+  int metric(PaintDeviceMetric metric) const override {
+    if (metric == PdmDevicePixelRatio) return ratio;
+    if (metric == PdmDevicePixelRatioScaled)
+      return static_cast<int>(ratio * devicePixelRatioFScale());
+    return NvListWidget::metric(metric);
+  }
+};
+
+/// Number of pixels that are not white.
+int inkOf(const QImage& image) {
+  int count = 0;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x) count += image.pixel(x, y) != 0xFFFFFFFF;
+  return count;
+}
+
+class NvListWidgetTest : public testing::Test {
+ protected:
+  NvListWidgetTest() {
+    widget.resize(200, 150);
+    widget.show();
+    QCoreApplication::processEvents();
+  }
+
+  QImage shown() { return widget.grab().toImage().convertToFormat(QImage::Format_RGB32); }
+
+  ScreenedWidget widget;
+};
+
+TEST_F(NvListWidgetTest, showsWhatWasAdded) {
+  EXPECT_EQ(inkOf(shown()), 0);
+  widget.list().ItemsAdd("Ada");
+  const int one = inkOf(shown());
+  EXPECT_GT(one, 0);
+  widget.list().ItemsAdd("Ada");
+  EXPECT_EQ(inkOf(shown()), 2 * one);
+  widget.list().ItemsClear();
+  EXPECT_EQ(inkOf(shown()), 0);
+}
+
+TEST_F(NvListWidgetTest, aNewSizeIsPainted) {
+  widget.list().BackColor(0x00FF00);
+  const int few = widget.list().VisibleItems();
+  widget.resize(200, 300);
+  EXPECT_GT(widget.list().VisibleItems(), few);
+  EXPECT_EQ(shown().pixel(100, 280), qRgb(0, 255, 0));
+  widget.resize(0, 0);
+  widget.list().ItemsAdd("unseen");
+  EXPECT_EQ(widget.list().ItemsCount(), 1);
+}
+
+TEST_F(NvListWidgetTest, followsTheScreenAndThePalette) {
+  widget.list().BackColor(systemColour(5));
+  QPalette palette;
+  palette.setColor(QPalette::Base, QColor(1, 2, 3));
+  widget.setPalette(palette);
+  EXPECT_EQ(shown().pixel(100, 140), qRgb(1, 2, 3));
+
+  widget.ratio = 2;
+  widget.repaint();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(shown().size(), QSize(400, 300));
+  EXPECT_EQ(shown().pixel(201, 281), qRgb(1, 2, 3));
+}
+
+TEST_F(NvListWidgetTest, startsWithTheFontOfTheWidgetAndTellsChanges) {
+  EXPECT_EQ(widget.list().Font()->Name, widget.font().family().toStdString());
+  std::vector<std::string> names;
+  widget.onPropertyChanged = [&](std::string_view name) { names.emplace_back(name); };
+  widget.list().ForeColor(0x112233);
+  EXPECT_EQ(names, std::vector<std::string>{"ForeColor"});
+}
+
+TEST_F(NvListWidgetTest, theDesignerSeesAPreview) {
+  widget.setObjectName("List1");
+  widget.setDesignMode(true);
+  const int name = inkOf(shown());
+  EXPECT_GT(name, 0);
+  widget.list().Style(cCheckBoxesIcons);
+  EXPECT_GT(inkOf(shown()), name + 13);
+  widget.setDesignMode(false);
+  EXPECT_EQ(inkOf(shown()), 0);
+}
+
+TEST_F(NvListWidgetTest, handlersMayChangeTheListWhileItCounts) {
+  widget.list().AutoRedraw(false);
+  for (int i = 0; i < 200'000; ++i) widget.list().ItemsAdd(i);
+  bool hasRun = false;
+  QTimer::singleShot(0, [&] {
+    hasRun = true;
+    widget.list().ItemsClear();
+    widget.resize(220, 160);
+  });
+  Error().SilentError(true);
+  for (int i = 0; i < 1000 && !hasRun; ++i) widget.list().ItemsSelectCount();
+  Error().SilentError(false);
+  EXPECT_TRUE(hasRun);
+  widget.list().AutoRedraw(true);
+  widget.list().ItemsAdd("after");
+  EXPECT_EQ(widget.list().ItemsCount(), 1);
+}
+
+}  // namespace
+}  // namespace norvane
