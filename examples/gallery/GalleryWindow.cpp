@@ -7,21 +7,21 @@
 
 using norvane::nvList;
 
-GalleryWindow::GalleryWindow() {
+GalleryWindow::GalleryWindow() : list_(new norvane::NvListWidget) {
   auto* frame = new QWidget;
   auto* layout = new QVBoxLayout(frame);
-  layout->addWidget(&list_);
-  list_.setObjectName("gallery");
-  list_.installEventFilter(this);
-  list_.list().MinHeight(static_cast<float>(QFontMetrics(list_.font()).height() + 2));
+  layout->addWidget(list_);
+  list_->setObjectName("gallery");
+  list_->installEventFilter(this);
+  list_->list().MinHeight(static_cast<float>(QFontMetrics(list_->font()).height() + 2));
   setCentralWidget(frame);
-  list_.setFocus();
+  list_->setFocus();
   resize(460, 520);
 }
 
 void GalleryWindow::show(const QStringList& lines, const QString& title) {
   setWindowTitle(title);
-  nvList& list = list_.list();
+  nvList& list = list_->list();
   list.AutoRedraw(false);
   list.ItemsClear();
   for (const QString& line : lines) list.ItemsAdd(line.toStdString());
@@ -30,7 +30,7 @@ void GalleryWindow::show(const QStringList& lines, const QString& title) {
 }
 
 bool GalleryWindow::eventFilter(QObject* watched, QEvent* event) {
-  nvList& list = list_.list();
+  nvList& list = list_->list();
   if (event->type() == QEvent::Wheel) {
     scrollBy(-3 * static_cast<QWheelEvent*>(event)->angleDelta().y() / 120);
     return true;
@@ -62,14 +62,14 @@ bool GalleryWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void GalleryWindow::scrollBy(int rows) {
-  nvList& list = list_.list();
+  nvList& list = list_->list();
   if (list.ItemsCount() <= list.VisibleItems()) return;
   list.TopIndex(list.TopIndex() + rows);
   updateStatus();
 }
 
 void GalleryWindow::updateStatus() {
-  nvList& list = list_.list();
+  nvList& list = list_->list();
   const int top = qMax(0, list.TopIndex());
   const int last = qMin(list.ItemsCount(), top + list.VisibleItems());
   statusBar()->showMessage(

@@ -19,5 +19,5 @@ class GalleryWindow : public QMainWindow {
   void scrollBy(int rows);
   void updateStatus();
 
-  norvane::NvListWidget list_;
+  norvane::NvListWidget* list_;
 };
