@@ -5,6 +5,7 @@
 
 #include <nvlist/core/ListState.h>
 #include <nvlist/core/NewItem.h>
+#include <nvlist/input/events.h>
 #include <nvlist/objects/Trap.h>
 #include <nvlist/platform/Container.h>
 #include <nvlist/render/Surface.h>
@@ -103,10 +104,92 @@ class nvList {
   /// whole text only. A malformed pattern is a failure, which gives -1.
   std::int32_t IsInList(std::string_view sText, cFindCompare oCompare = cFindBinary);
 
-  // ---- selection and position: core/position.cpp ----
+  // ---- events: input/events.h ----
+
+  /// Registers a host for the events; it has to live until it is removed, or as long as the list.
+  void addSink(__nvList& sink) { sinks_.add(sink); }
+  void removeSink(__nvList& sink) { sinks_.remove(sink); }
+
+  // ---- the current item and the selection: core/selection.cpp ----
 
   /// The current item: 0 on a new list, -1 after items were added. May name no item.
+  ///
+  /// Setting it selects that item alone and scrolls it into view. An index of no item, -1 among
+  /// them, and that of a disabled item are refused with ErrorWrongIndex. On an empty list nothing
+  /// happens.
   std::int32_t ListIndex();
+  void ListIndex(std::int32_t value);
+  /// Whether an item is selected. Setting it leaves the other items as they are, and ListIndex at
+  /// -1 for true and 0 for false; an item selected outside the window becomes the top row.
+  Boolean ItemSelected(const Variant& Index);
+  void ItemSelected(const Variant& Index, Boolean value);
+
+  // ---- properties of items: core/itemProperties.cpp ----
+  //
+  // `Index` is rounded to the nearest whole number; no key is looked up. One that is no number or
+  // outside the list is a failure: reading then gives the zero value of the type, setting changes
+  // nothing (under SilentError it still marks the property and repaints). Slot 0 of an empty list
+  // can be read and written. All but ItemTag and ItemKey repaint under AutoRedraw.
+
+  /// The check mark. Setting it raises no event.
+  Boolean ItemChecked(const Variant& Index);
+  void ItemChecked(const Variant& Index, Boolean value);
+  /// Colours while selected; "def": the list's own.
+  Variant ItemForeColorSelect(const Variant& Index);
+  void ItemForeColorSelect(const Variant& Index, const Variant& value);
+  Variant ItemBackColorSelect(const Variant& Index);
+  void ItemBackColorSelect(const Variant& Index, const Variant& value);
+  /// A free value of the host.
+  Variant ItemTag(const Variant& Index);
+  void ItemTag(const Variant& Index, const Variant& value);
+  /// The icon, shared by reference; empty: none.
+  Picture ItemIcon(const Variant& Index);
+  void ItemIcon(const Variant& Index, const Picture& value);
+  /// The icon while selected; empty: ItemIcon serves.
+  Picture ItemIconSelected(const Variant& Index);
+  void ItemIconSelected(const Variant& Index, const Picture& value);
+  /// Where the text stands; an unknown value counts as cLeft.
+  cItemAlignment ItemAlignment(const Variant& Index);
+  void ItemAlignment(const Variant& Index, cItemAlignment value);
+  /// Whether the user may edit the text, given the list's AllowEdit too.
+  Boolean ItemAllowEdit(const Variant& Index);
+  void ItemAllowEdit(const Variant& Index, Boolean value);
+  /// The text. A wider one does not change the horizontal range at once.
+  std::string ItemText(const Variant& Index);
+  void ItemText(const Variant& Index, const std::string& value);
+  /// Whether the item can become the current one.
+  Boolean ItemEnabled(const Variant& Index);
+  void ItemEnabled(const Variant& Index, Boolean value);
+  /// Flags of the font.
+  Boolean ItemBold(const Variant& Index);
+  void ItemBold(const Variant& Index, Boolean value);
+  Boolean ItemItalic(const Variant& Index);
+  void ItemItalic(const Variant& Index, Boolean value);
+  Boolean ItemUnderline(const Variant& Index);
+  void ItemUnderline(const Variant& Index, Boolean value);
+  /// The key, as a text.
+  Variant ItemKey(const Variant& Index);
+  void ItemKey(const Variant& Index, const Variant& value);
+  /// Own colours. Reading one that is still "def" is a failure, which gives 0; there is no way back
+  /// to "def".
+  Colour ItemForeColor(const Variant& Index);
+  void ItemForeColor(const Variant& Index, Colour value);
+  Colour ItemBackColor(const Variant& Index);
+  void ItemBackColor(const Variant& Index, Colour value);
+  /// Colours while disabled, as 32-bit numbers. A value that is no number is a failure, which keeps
+  /// the old one.
+  Variant ItemForeColorDis(const Variant& Index);
+  void ItemForeColorDis(const Variant& Index, const Variant& value);
+  Variant ItemBackColorDis(const Variant& Index);
+  void ItemBackColorDis(const Variant& Index, const Variant& value);
+
+  /// The text of the current item; empty where there is none. Setting it makes the first item with
+  /// that text the current one, byte by byte, and changes no item. A failure in setting it goes
+  /// to the caller as a Failure.
+  std::string Text();
+  void Text(std::string_view value);
+
+  // ---- position: core/position.cpp ----
 
   /// The item in the top row. A value is brought into the range in which the last row shown is the
   /// last item; on a list shorter than the window that is a negative number, which is kept.
@@ -140,6 +223,10 @@ class nvList {
   void IndentTop(float value);
   float IndentLeft();
   void IndentLeft(float value);
+  /// Whether the user may select several items. Default: false. Turning it off leaves a selection
+  /// of several as it is.
+  Boolean MultiSelect();
+  void MultiSelect(Boolean value);
   /// Height of a row in pixels; 0, the default: the height of the font. Rows that are no pixel high
   /// after rounding are not shown.
   float MinHeight();
@@ -172,7 +259,7 @@ class nvList {
   bool WrongIndex(std::int32_t Index) const { return !state_.Items.holds(Index); }
   /// The item at an index; throws Failure 9 outside the bounds. Slot 0 of an empty list is in them.
   ListItem& item(std::int32_t index) { return state_.Items.touch(index); }
-  void writeItem(Trap& on, ListItem& item, NewItem& values);
+  void writeFields(Trap& on, ListItem& item, NewItem& values);
   void moveDownOnto(Trap& on, std::int32_t index);
   std::int32_t countItems(const char* procedure, Boolean ListItem::*mark);
   void updateAfterChange(Trap& on);
@@ -181,8 +268,28 @@ class nvList {
     if (container_.EventsWaiting()) container_.DoEvents();
   }
 
-  // core/position.cpp
+  // core/search.cpp
+  /// The first item that fits, or -1. LoopIndex stops there, or behind the last one.
+  template <class Fits>
+  std::int32_t firstItem(Fits&& fits) {
+    state_.LoopIndex = state_.Items.find(fits);
+    return state_.LoopIndex <= state_.Items.upperBound() ? state_.LoopIndex : -1;
+  }
+
+  // core/selection.cpp
+  void SetNewSelected(const Variant& Index);
   void SetNoneSelected();
+  void clearMarks(Trap& on);
+  void scrollIntoView(Trap& on);
+
+  // core/itemProperties.cpp
+  template <class Value>
+  Value readItem(const char* name, const Variant& Index, Value ListItem::*field);
+  enum class ItemRepaint { no, yes };
+  template <class Write>
+  void writeItem(const char* name, const Variant& Index, ItemRepaint repaints, Write&& write);
+  Colour ownColour(const char* name, const Variant& Index, Variant ListItem::*field);
+  Variant colourOfDisabled(const char* name, const Variant& Index, Colour ListItem::*field);
 
   // core/properties.cpp
   template <class Value>
@@ -204,6 +311,7 @@ class nvList {
 
   Container& container_;
   Surface& surface_;
+  EventSinks sinks_;
   ListState state_;
 };
 

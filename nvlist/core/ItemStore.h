@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <utility>
 
 #include <nvlist/core/ListItem.h>
 
@@ -29,6 +30,18 @@ class ItemStore {
 
   /// The reference in a slot, to be read or replaced. Throws Failure 9 outside the bounds.
   Ref<ListItem>& slot(std::int32_t index);
+
+  /// The first index, from 0, whose item fits, or upperBound() + 1. Nothing but `fits` runs in it.
+  template <class Fits>
+  std::int32_t find(Fits&& fits) {
+    std::int32_t index = 0;
+    for (Ref<ListItem>& reference : slots_) {
+      if (!reference) reference = makeRef<ListItem>();
+      if (fits(std::as_const(*reference))) break;
+      ++index;
+    }
+    return index;
+  }
 
   /// One more, empty slot at the end.
   void grow();

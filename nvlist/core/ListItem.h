@@ -4,6 +4,7 @@
 
 #include <nvlist/core/Boolean.h>
 #include <nvlist/core/Colour.h>
+#include <nvlist/core/CompactText.h>
 #include <nvlist/core/Picture.h>
 #include <nvlist/core/Ref.h>
 #include <nvlist/core/Variant.h>
@@ -19,25 +20,26 @@ namespace norvane {
 /// plain numbers and cannot say so.
 class ListItem final : public Shared {
  public:
-  Boolean Checked;          ///< the check mark
+  // The small ones stand together, which keeps an item small.
+  Boolean Checked;    ///< the check mark
+  Boolean AllowEdit;  ///< may be edited in place, given the list's AllowEdit too
+  Boolean Enabled;    ///< a disabled item cannot become the current one
+  Boolean Selected;
+  Boolean Bold;
+  Boolean Italic;
+  Boolean Underline;
+  cItemAlignment Alignment = cLeft;
+  Colour ForeColorDis = 0;  ///< text colour while disabled
+  Colour BackColorDis = 0;  ///< background colour while disabled
   Variant ForeColor;        ///< text colour
   Variant BackColor;        ///< background colour
   Variant ForeColorSelect;  ///< text colour while selected
   Variant BackColorSelect;  ///< background colour while selected
-  Colour ForeColorDis = 0;  ///< text colour while disabled
-  Colour BackColorDis = 0;  ///< background colour while disabled
   Picture Icon;
   Picture IconSelected;  ///< icon while selected; empty: Icon serves then too
-  Boolean AllowEdit;     ///< may be edited in place, given the list's AllowEdit too
   std::string Text;
-  Boolean Enabled;  ///< a disabled item cannot become the current one
-  Boolean Selected;
-  Variant Tag;  ///< free value of the host
-  cItemAlignment Alignment = cLeft;
-  Boolean Bold;
-  Boolean Italic;
-  Boolean Underline;
-  std::string Key;  ///< the host's key; neither unique nor indexed
+  Variant Tag;      ///< free value of the host
+  CompactText Key;  ///< the host's key; neither unique nor indexed
 };
 
 }  // namespace norvane

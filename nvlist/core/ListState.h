@@ -7,6 +7,7 @@
 #include <nvlist/core/Font.h>
 #include <nvlist/core/ItemStore.h>
 #include <nvlist/core/Rectangle.h>
+#include <nvlist/core/SelectionMarks.h>
 #include <nvlist/core/Variant.h>
 #include <nvlist/core/enumerations.h>
 
@@ -102,8 +103,7 @@ struct ListState {
   ScrollBarRecord VScroll1;
   ScrollBarRecord HScroll1;
 
-  /// False only where no item can be selected: spares adding items a look at all of them.
-  bool mayHaveSelection = false;
+  SelectionMarks Selection;  ///< writes the Selected marks
 };
 
 }  // namespace norvane

@@ -23,14 +23,26 @@ bool isFalseText(std::string_view text) {
 
 Variant::Variant(float number) : bits_(pack(Type::Single, std::bit_cast<std::uint32_t>(number))) {}
 
-Variant::Variant(std::string text) {
+Variant::TextBlock* Variant::permanentBlock(std::string_view text) {
   static TextBlock emptyText{{}, 1, true};
   static TextBlock mark{std::string(defaultMark), 1, true};
+  if (text.empty()) return &emptyText;
+  return text == defaultMark ? &mark : nullptr;
+}
+
+void Variant::holdText(TextBlock* block) {
   static_assert(alignof(TextBlock) > tagMask);
-  TextBlock* block = text.empty()          ? &emptyText
-                     : text == defaultMark ? &mark
-                                           : new TextBlock{std::move(text), 1, false};
   bits_ = reinterpret_cast<std::uintptr_t>(block) | static_cast<std::uint64_t>(Type::Text);
+}
+
+Variant::Variant(std::string text) {
+  TextBlock* block = permanentBlock(text);
+  holdText(block ? block : new TextBlock{std::move(text), 1, false});
+}
+
+Variant::Variant(std::string_view text) {
+  TextBlock* block = permanentBlock(text);
+  holdText(block ? block : new TextBlock{std::string(text), 1, false});
 }
 
 Variant::Variant(const Ref<Object>& object) {

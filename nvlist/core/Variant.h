@@ -42,7 +42,7 @@ class Variant {
   Variant(Bool value) : Variant(Boolean(value)) {}
   Variant(std::nullptr_t) = delete;
   Variant(std::string text);
-  Variant(std::string_view text) : Variant(std::string(text)) {}
+  Variant(std::string_view text);
   Variant(const char* text) : Variant(std::string_view(text)) {}
   Variant(const Ref<Object>& object);
   Variant(const Variant& other) : bits_(other.bits_) { retain(); }
@@ -80,6 +80,10 @@ class Variant {
  private:
   struct TextBlock;
   static constexpr std::uint64_t tagMask = 7;
+
+  /// The block of a text that nearly every item holds, or nullptr for any other text.
+  static TextBlock* permanentBlock(std::string_view text);
+  void holdText(TextBlock* block);
 
   static constexpr std::uint64_t pack(Type type, std::uint32_t payload) {
     return std::uint64_t{payload} << 32 | static_cast<std::uint64_t>(type);

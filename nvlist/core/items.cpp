@@ -43,7 +43,7 @@ void nvList::ItemsAdd(NewItem values) {
 
     ListItem* added = nullptr;
     on.step([&] { added = &item(items.upperBound()); });
-    if (added) writeItem(on, *added, values);
+    if (added) writeFields(on, *added, values);
 
     if (state_.AutoRedraw.isTrue()) {
       on.step([&] { SetNoneSelected(); });
@@ -77,7 +77,7 @@ void nvList::ItemsAdd(NewItem values) {
   });
 }
 
-void nvList::writeItem(Trap& on, ListItem& item, NewItem& values) {
+void nvList::writeFields(Trap& on, ListItem& item, NewItem& values) {
   on.step([&] { item.Text = std::move(values.aText).toText(); });
   item.Icon = std::move(values.aIcon);
   item.IconSelected = std::move(values.aIconSelected);
@@ -96,7 +96,9 @@ void nvList::writeItem(Trap& on, ListItem& item, NewItem& values) {
   item.Italic = values.aItalic;
   item.Underline = values.aUnderline;
   item.Tag = std::move(values.aTag);
-  on.step([&] { item.Key = std::move(values.aKey).toText(); });
+  on.step([&] {
+    item.Key = values.aKey.isText() ? CompactText(values.aKey.text()) : values.aKey.toText();
+  });
 }
 
 void nvList::ItemsRemove(Variant& Index) {
@@ -108,6 +110,7 @@ void nvList::ItemsRemove(Variant& Index) {
       on.step([&] { ItemsClear(); });
     else
       on.step([&] { state_.Items.shrink(); });
+    state_.Selection.forgetRemoved();
     updateAfterChange(on);
   });
 }
@@ -133,7 +136,7 @@ void nvList::moveDownOnto(Trap& on, std::int32_t index) {
 void nvList::ItemsClear() {
   trapped(here, "ItemsClear", [&](Trap& on) {
     on.step([&] { state_.Items.reset(); });
-    state_.mayHaveSelection = false;
+    state_.Selection.reset();
     state_.ItemsDimensioned = false;
     state_.MaxItemWidth = 0;
     state_.ListIndex = 0;

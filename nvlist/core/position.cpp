@@ -3,8 +3,6 @@
 
 namespace norvane {
 
-std::int32_t nvList::ListIndex() { return state_.ListIndex; }
-
 std::int32_t nvList::TopIndex() { return state_.TopIndex; }
 
 void nvList::TopIndex(std::int32_t value) {
@@ -25,18 +23,6 @@ void nvList::TopIndex(std::int32_t value) {
     });
     state_.VScroll1.Value = value;
     if (state_.AutoRedraw) on.step([&] { Redraw(); });
-  });
-}
-
-void nvList::SetNoneSelected() {
-  trapped(here, "SetNoneSelected", [&](Trap& on) {
-    const std::int32_t last = state_.Items.upperBound();
-    if (state_.mayHaveSelection) {
-      for (state_.LoopIndex = 0; state_.LoopIndex <= last; ++state_.LoopIndex)
-        on.step([&] { item(state_.LoopIndex).Selected = false; });
-    }
-    state_.LoopIndex = last;
-    state_.mayHaveSelection = false;
   });
 }
 

@@ -105,4 +105,11 @@ void nvList::MinHeight(float value) {
   });
 }
 
+Boolean nvList::MultiSelect() { return state_.MultiSelect; }
+
+void nvList::MultiSelect(Boolean value) {
+  trapped(here, "MultiSelect",
+          [&](Trap& on) { assign(on, "MultiSelect", &ListState::MultiSelect, value); });
+}
+
 }  // namespace norvane

@@ -9,6 +9,11 @@ std::int32_t nvList::IndexByKey(const Variant& sKey) {
   std::int32_t found = -1;
   trapped(here, "IndexByKey", [&](Trap& on) {
     if (!state_.ItemsDimensioned) return;
+    if (sKey.isText()) {
+      const std::string_view key = sKey.text();
+      on.step([&] { found = firstItem([&](const ListItem& item) { return item.Key == key; }); });
+      return;
+    }
     for (state_.LoopIndex = 0; state_.LoopIndex <= state_.Items.upperBound(); ++state_.LoopIndex) {
       if (on.test([&] { return compareText(item(state_.LoopIndex).Key, sKey) == 0; })) {
         found = state_.LoopIndex;
@@ -27,13 +32,10 @@ std::int32_t nvList::IsInList(std::string_view sText, cFindCompare oCompare) {
     std::optional<LikePattern> pattern;
     on.step([&] { pattern.emplace(sText, oCompare == cFindText); });
     const bool canMatch = pattern && (oCompare == cFindBinary || oCompare == cFindText);
-    if (!canMatch) state_.LoopIndex = state_.Items.upperBound() + 1;
-    for (; state_.LoopIndex <= state_.Items.upperBound(); ++state_.LoopIndex) {
-      if (on.test([&] { return pattern->matches(item(state_.LoopIndex).Text); })) {
-        found = state_.LoopIndex;
-        return;
-      }
-    }
+    on.step([&] {
+      found =
+          firstItem([&](const ListItem& item) { return canMatch && pattern->matches(item.Text); });
+    });
   });
   return found;
 }

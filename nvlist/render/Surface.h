@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
+#include <vector>
 
 #include <nvlist/core/Boolean.h>
 #include <nvlist/core/Colour.h>
@@ -22,6 +24,34 @@ enum class LineMode : std::int32_t {
 enum class TextFormat : std::uint32_t {
   right = 2,       ///< each line ends at the rectangle's right; tabs are not expanded
   expandTabs = 64  ///< from the left; a tab goes on to the next stop of eight characters
+};
+
+/// A picture made up on the spot: three bytes a pixel, blue, green and red, rows from the bottom
+/// up. Each row is padded to a multiple of four bytes, but the only row of a bitmap is not.
+struct Bitmap24 {
+  std::int32_t width = 0;
+  std::int32_t height = 0;
+  std::vector<std::uint8_t> bytes;
+
+  /// Whether there are pixels and bytes for all of them.
+  bool isComplete() const {
+    return width > 0 && height > 0 &&
+           bytes.size() / rowLength() >= static_cast<std::size_t>(height);
+  }
+
+  /// A pixel of a complete bitmap; row 0 is the lowest.
+  Colour pixel(std::int32_t column, std::int32_t row) const {
+    const std::uint8_t* const channels = bytes.data() +
+                                         static_cast<std::size_t>(row) * rowLength() +
+                                         static_cast<std::size_t>(column) * 3;
+    return channels[2] | channels[1] << 8 | channels[0] << 16;
+  }
+
+ private:
+  std::size_t rowLength() const {
+    const std::size_t length = static_cast<std::size_t>(width) * 3;
+    return height == 1 ? length : (length + 3) / 4 * 4;
+  }
 };
 
 /// What the list draws on: an image that persists between calls, with a current position, a font
@@ -71,7 +101,7 @@ class Surface {
   virtual void FontItalic(Boolean on) = 0;
   virtual void FontUnderline(Boolean on) = 0;
 
-  /// The image's handle, for the two calls below.
+  /// The image's handle, for the three calls below.
   virtual std::uintptr_t hDC() const = 0;
 
   /// Writes the first `length` bytes of the text, all of it for -1, on a transparent background
@@ -82,6 +112,12 @@ class Surface {
 
   /// Inverts a dotted outline along the rectangle; a second call at the same place undoes it.
   virtual void DrawFocusRect(std::uintptr_t hDC, const Rectangle& rectangle) = 0;
+
+  /// Stretches the whole bitmap over the rectangle. Each pixel shows the colour of the nearest one
+  /// of the bitmap; nothing is blended. A rectangle without area shows nothing. A bitmap that is
+  /// not complete throws Failure 5.
+  virtual void StretchDIBits(std::uintptr_t hDC, const Rectangle& target,
+                             const Bitmap24& bitmap) = 0;
 
   /// Writes the text at the current position, which goes to the start of the next line.
   virtual void Print(std::string_view text) = 0;

@@ -20,6 +20,7 @@ void drawEverything(Surface& surface, const Picture& picture) {
   surface.FontUnderline(false);
   surface.DrawTextA(surface.hDC(), "cut here", 3, {1, 2, 3, 4}, TextFormat::right);
   surface.DrawFocusRect(surface.hDC(), {1, 2, 3, 4});
+  surface.StretchDIBits(surface.hDC(), {0, 0, 9, 4}, {1, 2, {0xFF, 0x80, 0, 0xEE, 1, 2, 3, 0xEE}});
   surface.Print("a \"b\"");
 }
 
@@ -50,6 +51,7 @@ TEST(Recording, KeepsEveryCallAndReplaysIt) {
             "FontUnderline off\n"
             "DrawTextA \"cut\" (1, 2)-(3, 4) 2\n"
             "DrawFocusRect (1, 2)-(3, 4)\n"
+            "StretchDIBits 1x2 (0, 0)-(9, 4) #0080FF..#030201\n"
             "Print \"a \\\"b\\\"\"\n");
   EXPECT_EQ(surface.CurrentX(), 0);
   EXPECT_EQ(surface.CurrentY(), 21);
@@ -58,6 +60,8 @@ TEST(Recording, KeepsEveryCallAndReplaysIt) {
   surface.replay(other);
   EXPECT_EQ(other.image().text(), surface.image().text());
   EXPECT_THROW(surface.PaintPicture(nullptr, 0, 0), Failure);
+  EXPECT_THROW(surface.StretchDIBits(surface.hDC(), {0, 0, 9, 4}, {1, 2, {1, 2, 3, 0, 1, 2, 3}}),
+               Failure);
 }
 
 TEST(Recording, AnImageBeginsWithTheSettingsOfItsTime) {

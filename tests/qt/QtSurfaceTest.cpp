@@ -284,6 +284,42 @@ TEST_F(QtSurfaceTest, picturesComeFromAnyPlatform) {
   EXPECT_THROW(surface.PaintPicture(nullptr, 0, 0), Failure);
 }
 
+TEST_F(QtSurfaceTest, bitmapsAreStretchedFromTheBottomUp) {
+  const auto spots = [&](const Rectangle& where, const Bitmap24& bitmap) {
+    surface.Cls();
+    surface.StretchDIBits(surface.hDC(), where, bitmap);
+    return ink(surface.image());
+  };
+  // Black and red below, green and blue above.
+  const Bitmap24 four{2, 2, {0, 0, 0, 0, 0, 255, 9, 9, 0, 255, 0, 255, 0, 0, 9, 9}};
+  for (const qreal dpr : {1.0, 2.0, 1.25}) {
+    renew(dpr);
+    const auto edge = [&](int logical) { return qRound(logical * dpr); };
+    const auto boxOf = [&](int left, int top, int right, int bottom) {
+      return QRect(QPoint(edge(left), edge(top)), QPoint(edge(right) - 1, edge(bottom) - 1));
+    };
+    EXPECT_EQ(spots({3, 5, 13, 11}, four), boxOf(3, 5, 13, 11));
+    const QImage& image = surface.image();
+    EXPECT_EQ(image.pixel(edge(8) - 1, edge(8) - 1), 0xFF00FF00);
+    EXPECT_EQ(image.pixel(edge(8), edge(8) - 1), 0xFF0000FF);
+    EXPECT_EQ(image.pixel(edge(8) - 1, edge(8)), 0xFF000000);
+    EXPECT_EQ(image.pixel(edge(8), edge(8)), redPixel);
+
+    EXPECT_EQ(spots({-4, -2, 4, 2}, four), boxOf(0, 0, 4, 2));
+    EXPECT_EQ(surface.image().pixel(0, 0), redPixel);
+    EXPECT_EQ(spots({lowest, lowest, huge, huge}, four), boxOf(0, 0, 400, 120));
+    EXPECT_EQ(spots({9, 5, 9, 11}, four), QRect());
+    EXPECT_EQ(spots({9, 5, 12, 4}, four), QRect());
+  }
+  renew(1);
+  // One row is not padded; each of its pixels goes to its own column.
+  EXPECT_EQ(spots({1, 0, 4, 50}, {3, 1, {0, 0, 255, 0, 255, 0, 255, 0, 0}}), QRect(1, 0, 3, 50));
+  EXPECT_EQ(surface.image().pixel(1, 49), redPixel);
+  EXPECT_EQ(surface.image().pixel(3, 0), 0xFF0000FF);
+  EXPECT_THROW(surface.StretchDIBits(0, {0, 0, 9, 9}, four), Failure);
+  EXPECT_THROW(spots({0, 0, 9, 9}, {2, 2, std::vector<std::uint8_t>(15)}), Failure);
+}
+
 TEST_F(QtSurfaceTest, handedOutImagesStayAndChangesAreTold) {
   const QImage before = surface.image();
   int told = 0;

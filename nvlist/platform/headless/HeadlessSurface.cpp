@@ -129,6 +129,12 @@ void HeadlessSurface::DrawFocusRect(std::uintptr_t, const Rectangle& rectangle) 
   image_.calls.push_back(calls::DrawFocusRect{rectangle});
 }
 
+void HeadlessSurface::StretchDIBits(std::uintptr_t, const Rectangle& target,
+                                    const Bitmap24& bitmap) {
+  if (!bitmap.isComplete()) throw Failure::invalidCall();
+  image_.calls.push_back(calls::StretchDIBits{target, bitmap});
+}
+
 void HeadlessSurface::Print(std::string_view text) {
   image_.calls.push_back(calls::Print{std::string(text)});
   currentX_ = 0;

@@ -53,6 +53,7 @@ class HeadlessSurface : public Surface {
   void DrawTextA(std::uintptr_t hDC, std::string_view text, std::int32_t length,
                  const Rectangle& rectangle, TextFormat format) override;
   void DrawFocusRect(std::uintptr_t hDC, const Rectangle& rectangle) override;
+  void StretchDIBits(std::uintptr_t hDC, const Rectangle& target, const Bitmap24& bitmap) override;
   void Print(std::string_view text) override;
 
  private:

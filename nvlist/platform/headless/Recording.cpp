@@ -79,6 +79,12 @@ struct Printer {
   std::string operator()(const calls::DrawFocusRect& call) const {
     return "DrawFocusRect " + textOfRectangle(call.rectangle);
   }
+  std::string operator()(const calls::StretchDIBits& call) const {
+    const Bitmap24& bitmap = call.bitmap;
+    return "StretchDIBits " + std::to_string(bitmap.width) + "x" + std::to_string(bitmap.height) +
+           " " + textOfRectangle(call.target) + " " + textOfColour(bitmap.pixel(0, 0)) + ".." +
+           textOfColour(bitmap.pixel(bitmap.width - 1, bitmap.height - 1));
+  }
   std::string operator()(const calls::Print& call) const { return "Print " + quoted(call.text); }
 };
 
@@ -108,6 +114,9 @@ struct Player {
   }
   void operator()(const calls::DrawFocusRect& call) const {
     onto.DrawFocusRect(onto.hDC(), call.rectangle);
+  }
+  void operator()(const calls::StretchDIBits& call) const {
+    onto.StretchDIBits(onto.hDC(), call.target, call.bitmap);
   }
   void operator()(const calls::Print& call) const { onto.Print(call.text); }
 };

@@ -56,6 +56,10 @@ struct DrawTextA {
 struct DrawFocusRect {
   Rectangle rectangle;
 };
+struct StretchDIBits {
+  Rectangle target;
+  Bitmap24 bitmap;
+};
 struct Print {
   std::string text;
 };
@@ -66,7 +70,7 @@ using SurfaceCall =
     std::variant<calls::Cls, calls::Line, calls::PaintPicture, calls::CurrentX, calls::CurrentY,
                  calls::BackColor, calls::ForeColor, calls::SetFont, calls::FontBold,
                  calls::FontItalic, calls::FontUnderline, calls::DrawTextA, calls::DrawFocusRect,
-                 calls::Print>;
+                 calls::StretchDIBits, calls::Print>;
 
 /// Drawing calls in their order. Copies share pictures and fonts, nothing else.
 class Recording {
@@ -74,7 +78,9 @@ class Recording {
   std::vector<SurfaceCall> calls;
 
   /// One line a call, such as `Line 38 (0, 3)-(200, 16) #FFFFFF`. Colours are #RRGGBB, system
-  /// colours `system 17`; what is not printable in a text is escaped as \xNN.
+  /// colours `system 17`; what is not printable in a text is escaped as \xNN. Of a
+  /// bitmap the size is told, and the colours of the lowest row's first and the highest row's last
+  /// pixel.
   std::string text() const;
 
   /// Makes the same calls on another surface.

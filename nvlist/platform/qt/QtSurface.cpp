@@ -31,6 +31,13 @@ int nearestPixel(float coordinate) {
   return static_cast<int>(std::nearbyint(std::min(coordinate, static_cast<float>(farOut))));
 }
 
+/// Which of `count` parts of the span from `from` to `to` the middle of the pixel at `at` lies in.
+int nearestOf(int count, int at, int from, int to) {
+  const auto place = static_cast<std::uint64_t>(std::int64_t{at} - from);
+  const auto length = static_cast<std::uint64_t>(std::int64_t{to} - from);
+  return static_cast<int>((2 * place + 1) * static_cast<std::uint64_t>(count) / (2 * length));
+}
+
 /// Calls `take` with each line of a text, until it returns false.
 template <class Take>
 void forEachLine(std::string_view text, Take&& take) {
@@ -313,6 +320,29 @@ void QtSurface::PaintPicture(const Picture& picture, float x, float y, float wid
       factor == std::floor(factor) && factor == target.height() * dpr_ / image.height();
   on.setRenderHint(QPainter::SmoothPixmapTransform, !isWhole);
   on.drawImage(target, image);
+  drawn();
+}
+
+void QtSurface::StretchDIBits(std::uintptr_t hDC, const Rectangle& target, const Bitmap24& bitmap) {
+  if (hDC != this->hDC() || !bitmap.isComplete()) throw Failure::invalidCall();
+  const QRect visible = visiblePart(target);
+  if (visible.isEmpty()) return;
+  const int left = edge(visible.left());
+  std::vector<QRgb> pixels(static_cast<std::size_t>(edge(visible.right() + 1) - left));
+  int rowInPixels = -1;
+  for (int y = visible.top(); y <= visible.bottom(); ++y) {
+    const int row = bitmap.height - 1 - nearestOf(bitmap.height, y, target.Top, target.Bottom);
+    if (std::exchange(rowInPixels, row) != row) {
+      for (int x = visible.left(); x <= visible.right(); ++x) {
+        const int column = nearestOf(bitmap.width, x, target.Left, target.Right);
+        std::fill(pixels.begin() + edge(x) - left, pixels.begin() + edge(x + 1) - left,
+                  rgb(bitmap.pixel(column, row)));
+      }
+    }
+    for (int line = edge(y); line < edge(y + 1); ++line)
+      std::copy(pixels.begin(), pixels.end(),
+                reinterpret_cast<QRgb*>(image_.scanLine(line)) + left);
+  }
   drawn();
 }
 

@@ -70,6 +70,7 @@ class QtSurface final : public Surface {
   void DrawTextA(std::uintptr_t hDC, std::string_view text, std::int32_t length,
                  const Rectangle& rectangle, TextFormat format) override;
   void DrawFocusRect(std::uintptr_t hDC, const Rectangle& rectangle) override;
+  void StretchDIBits(std::uintptr_t hDC, const Rectangle& target, const Bitmap24& bitmap) override;
   /// Lines after the first begin at x 0.
   void Print(std::string_view text) override;
 

@@ -1,0 +1,77 @@
+#include <QApplication>
+#include <QFontMetrics>
+#include <QImage>
+#include <QPainter>
+#include <string>
+
+#include "Measure.h"
+#include "Subjects.h"
+
+namespace {
+
+std::unique_ptr<norvane::NvListWidget> shownNvList(int count) {
+  auto widget = makeNvList(true);
+  fill(widget->list(), count);
+  QApplication::processEvents();
+  return widget;
+}
+
+std::unique_ptr<QListWidget> shownListWidget(int count) {
+  auto widget = makeListWidget(true);
+  fill(*widget, count);
+  QApplication::processEvents();
+  return widget;
+}
+
+/// The bare calls behind one repaint: the rows that fit, each with a background and a text.
+void paintRows(QImage& image) {
+  QPainter painter(&image);
+  const QFontMetrics metrics = painter.fontMetrics();
+  const int height = metrics.height();
+  int row = 0;
+  for (int top = 3; top + height <= image.height(); top += height, ++row) {
+    painter.fillRect(0, top, image.width(), height, Qt::white);
+    painter.drawText(3, top + metrics.ascent(), qtTexts(1'000)[static_cast<std::size_t>(row)]);
+  }
+}
+
+void addImage(int count) {
+  const std::string work = "Redraw/" + std::to_string(count);
+  addShared(
+      work, subject::nvList, false, [count] { return shownNvList(count); },
+      [](auto& widget) { widget->list().Redraw(); });
+  addShared(
+      work, subject::listWidget, false, [count] { return shownListWidget(count); },
+      [](auto& widget) {
+        static QImage image(400, 300, QImage::Format_RGB32);
+        widget->viewport()->render(&image);
+      });
+  addShared(
+      work, subject::floor, false, [] { return QImage(400, 300, QImage::Format_RGB32); },
+      [](QImage& image) {
+        image.fill(Qt::white);
+        paintRows(image);
+      });
+}
+
+void addWindow(int count) {
+  const std::string work = "Redraw to the window/" + std::to_string(count);
+  addShared(
+      work, subject::nvList, false, [count] { return shownNvList(count); },
+      [](auto& widget) {
+        widget->list().Redraw();
+        widget->repaint();
+      });
+  addShared(
+      work, subject::listWidget, false, [count] { return shownListWidget(count); },
+      [](auto& widget) { widget->viewport()->repaint(); });
+}
+
+}  // namespace
+
+void addPaintBenchmarks() {
+  for (const int count : {1'000, 1'000'000}) {
+    addImage(count);
+    addWindow(count);
+  }
+}

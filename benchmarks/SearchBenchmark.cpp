@@ -1,0 +1,78 @@
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Measure.h"
+#include "Subjects.h"
+
+namespace {
+
+constexpr int count = 1'000'000;
+
+std::unique_ptr<norvane::NvListWidget> filledNvList() {
+  auto widget = makeNvList(false);
+  for (int i = 0; i < count; ++i) widget->list().ItemsAdd({.aText = textOf(i), .aKey = keyOf(i)});
+  return widget;
+}
+
+std::unique_ptr<QListWidget> filledListWidget() {
+  auto widget = makeListWidget(false);
+  for (int i = 0; i < count; ++i) {
+    auto* item = new QListWidgetItem(QString::fromStdString(textOf(i)));
+    item->setData(Qt::UserRole, QString::fromStdString(keyOf(i)));
+    widget->addItem(item);
+  }
+  return widget;
+}
+
+void addWildcard(const std::string& work, norvane::cFindCompare compare, Qt::MatchFlags flags) {
+  addShared(work, subject::nvList, false, filledNvList, [compare](auto& widget) {
+    benchmark::DoNotOptimize(widget->list().IsInList("*no hit*", compare));
+  });
+  addShared(work, subject::listWidget, true, filledListWidget, [flags](auto& widget) {
+    benchmark::DoNotOptimize(widget->findItems("*no hit*", flags));
+  });
+  addShared(
+      work, subject::floor, false, [] { return texts(count); },
+      [](const std::vector<std::string>& all) {
+        benchmark::DoNotOptimize(std::ranges::find_if(all, [](std::string_view text) {
+          return text.find("no hit") != std::string_view::npos;
+        }));
+      });
+}
+
+void addByKey() {
+  // As long as the keys there are, so that the length alone tells nothing.
+  static const std::string missing = "key 12345x";
+  static const QString qtMissing = QString::fromStdString(missing);
+  addShared("IndexByKey/1000000", subject::nvList, false, filledNvList,
+            [](auto& widget) { benchmark::DoNotOptimize(widget->list().IndexByKey(missing)); });
+  addShared("IndexByKey/1000000", subject::listWidget, true, filledListWidget, [](auto& widget) {
+    int found = -1;
+    for (int i = 0; i < widget->count() && found < 0; ++i)
+      if (widget->item(i)->data(Qt::UserRole).toString() == qtMissing) found = i;
+    benchmark::DoNotOptimize(found);
+  });
+  addShared(
+      "IndexByKey/1000000", subject::floor, false, [] { return keys(count); },
+      [](const std::vector<std::string>& all) {
+        benchmark::DoNotOptimize(std::ranges::find(all, missing));
+      });
+  addShared("IndexByKey by match()/1000000", subject::nvList, false, filledNvList,
+            [](auto& widget) { benchmark::DoNotOptimize(widget->list().IndexByKey(missing)); });
+  addShared("IndexByKey by match()/1000000", subject::listWidget, true, filledListWidget,
+            [](auto& widget) {
+              const auto* model = widget->model();
+              benchmark::DoNotOptimize(
+                  model->match(model->index(0, 0), Qt::UserRole, qtMissing, 1, Qt::MatchExactly));
+            });
+}
+
+}  // namespace
+
+void addSearchBenchmarks() {
+  addWildcard("IsInList/1000000", norvane::cFindBinary, Qt::MatchWildcard | Qt::MatchCaseSensitive);
+  addWildcard("IsInList any case/1000000", norvane::cFindText, Qt::MatchWildcard);
+  addByKey();
+}

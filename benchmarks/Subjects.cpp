@@ -1,0 +1,79 @@
+#include "Subjects.h"
+
+#include <QApplication>
+#include <map>
+
+namespace {
+
+template <class Text>
+using ByCount = std::map<int, std::vector<Text>>;
+
+template <class Text, class Make>
+const std::vector<Text>& madeOnce(ByCount<Text>& made, int count, Make&& make) {
+  std::vector<Text>& result = made[count];
+  if (result.empty()) {
+    result.reserve(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i) result.push_back(make(i));
+  }
+  return result;
+}
+
+void place(QWidget& widget, bool isShown) {
+  widget.resize(400, 300);
+  if (!isShown) return;
+  widget.show();
+  QApplication::processEvents();
+}
+
+}  // namespace
+
+std::string textOf(int number) { return "item " + std::to_string(number) + " of list"; }
+
+std::string keyOf(int number) { return "key " + std::to_string(number); }
+
+const std::vector<std::string>& texts(int count) {
+  static ByCount<std::string> made;
+  return madeOnce(made, count, textOf);
+}
+
+const std::vector<QString>& qtTexts(int count) {
+  static ByCount<QString> made;
+  return madeOnce(made, count, [](int i) { return QString::fromStdString(textOf(i)); });
+}
+
+const std::vector<std::string>& keys(int count) {
+  static ByCount<std::string> made;
+  return madeOnce(made, count, keyOf);
+}
+
+std::unique_ptr<norvane::NvListWidget> makeNvList(bool isShown) {
+  auto widget = std::make_unique<norvane::NvListWidget>();
+  widget->list().AutoRedraw(isShown);
+  place(*widget, isShown);
+  return widget;
+}
+
+std::unique_ptr<QListWidget> makeListWidget(bool isShown) {
+  auto widget = std::make_unique<QListWidget>();
+  widget->setUniformItemSizes(true);
+  widget->setFrameShape(QFrame::NoFrame);
+  widget->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  widget->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  widget->setUpdatesEnabled(isShown);
+  place(*widget, isShown);
+  return widget;
+}
+
+std::unique_ptr<norvane::HeadlessList> makeHeadlessList() {
+  auto list = std::make_unique<norvane::HeadlessList>(400.0F, 300.0F);
+  list->list().AutoRedraw(false);
+  return list;
+}
+
+void fill(norvane::nvList& list, int count) {
+  for (const std::string& text : texts(count)) list.ItemsAdd(text);
+}
+
+void fill(QListWidget& list, int count) {
+  for (const QString& text : qtTexts(count)) list.addItem(text);
+}

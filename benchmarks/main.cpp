@@ -1,0 +1,24 @@
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+
+#include "Measure.h"
+#include "TableReporter.h"
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+
+  addAddBenchmarks();
+  addMoveBenchmarks();
+  addSearchBenchmarks();
+  addDuplicatesBenchmarks();
+  addPaintBenchmarks();
+  addMemoryBenchmarks();
+
+  TableReporter table;
+  benchmark::RunSpecifiedBenchmarks(&table);
+  benchmark::Shutdown();
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include <nvlist/core/Colour.h>
+#include <nvlist/core/Variant.h>
+#include <nvlist/core/enumerations.h>
+
+namespace norvane {
+
+/// The background of selected rows: that of the style's palette, `valueColor` in cCustom, 0 in an
+/// unknown style.
+Colour selectionColour(cColorStyle style, Colour valueColor);
+
+/// The colour of the frame around the list, in the same way.
+Colour borderColour(cColorStyle style, Colour borderColor);
+
+/// The number in upper-case hexadecimal, with zeros in front up to `width` digits; a longer one
+/// stays whole. Negative numbers take all eight digits.
+std::string CHex(std::int32_t value, std::int16_t width);
+
+/// Three channels as RRGGBB.
+std::string RGB2HTML(std::int16_t red, std::int16_t green, std::int16_t blue);
+
+/// A colour as RRGGBB. System colours are not resolved: they are taken as the number they are, a
+/// negative one, and divided towards zero.
+std::string VBColor2HTML(Colour color);
+
+/// An item's colour in the six characters of a list file: RRGGBB, or "def" behind three blanks. A
+/// text that is neither "def" nor a number counts as white. A number that is no 32-bit one is
+/// reported and gives the empty text.
+std::string GetCorrectColor(std::string_view text);
+
+/// The colour that such characters stand for, or the text "def". A "#" may come first, and what
+/// follows the six characters is not read. Throws Failure 13, Type mismatch, where one of the three
+/// pairs is missing or no hexadecimal number.
+Variant colourOfText(std::string_view text);
+
+}  // namespace norvane
