@@ -36,9 +36,13 @@ void HeadlessSurface::replay(Surface& onto) const {
   image_.replay(onto);
 }
 
-void HeadlessSurface::Cls() {
+void HeadlessSurface::forget() {
   settingsOfImage_ = settings_;
   image_.calls.clear();
+}
+
+void HeadlessSurface::Cls() {
+  forget();
   image_.calls.push_back(calls::Cls{});
   currentX_ = 0;
   currentY_ = 0;

@@ -26,6 +26,8 @@ class HeadlessSurface : public Surface {
 
   /// The calls since the last Cls, that one included.
   const Recording& image() const { return image_; }
+  /// Begins the image anew with what is drawn from now on, as after a Cls that draws nothing.
+  void forget();
   /// Draws the image onto another surface, with the colours and the font it began with.
   void replay(Surface& onto) const;
   /// How many times the whole image was cleared; a repaint clears it once.

@@ -1,140 +1,73 @@
 #pragma once
 
-#include <QFont>
-#include <QFontMetricsF>
-#include <QImage>
-#include <QPainter>
-#include <QPalette>
-#include <QRect>
-#include <QSize>
-#include <array>
 #include <functional>
-#include <map>
-#include <optional>
-#include <vector>
 
-#include <nvlist/render/Surface.h>
+#include <nvlist/platform/headless/HeadlessSurface.h>
+#include <nvlist/platform/qt/QtCanvas.h>
 
 namespace norvane {
 
-/// A surface that draws on a QImage. All coordinates are logical pixels; each of them covers the
-/// whole device pixels that the device pixel ratio gives it, so that edges stay sharp.
+/// The surface of a list in a window. It draws when its image is looked at and not before: a host
+/// that adds a hundred items makes the list paint itself a hundred times, and the window shows the
+/// last of them. What is drawn waits as a recording, which the next Cls drops.
 ///
-/// A QGuiApplication must exist.
+/// Texts are measured and pictures tried at once. A QGuiApplication must exist.
 class QtSurface final : public Surface {
  public:
   /// Starts with one pixel in white.
-  QtSurface();
+  QtSurface() = default;
 
-  /// Goes on with a new image in the background colour. A size without area draws nowhere. `dpr`
-  /// is the number of device pixels a logical pixel, above 0; anything else counts as 1.
+  /// As QtCanvas::resize.
   void resize(QSize logical, qreal dpr);
 
-  /// The image as it stands, with its device pixel ratio set. The reference stays valid as long as
-  /// the surface; a copy does not follow what is drawn later.
+  /// The image with all that was drawn, its device pixel ratio set. The reference stays valid as
+  /// long as the surface; a copy does not follow what is drawn later.
   const QImage& image();
-  qreal devicePixelRatio() const { return dpr_; }
+  qreal devicePixelRatio() const { return canvas_.devicePixelRatio(); }
 
-  /// Where the system colours come from. Default: the palette of the application. What is drawn
+  /// Where the system colours come from. Default: the palette of the application. What was seen
   /// already stays as it is.
-  void setPalette(const QPalette& palette) { palette_ = palette; }
+  void setPalette(const QPalette& palette) { canvas_.setPalette(palette); }
 
   /// Called when the image changes for the first time after image() handed it out. It must not draw
   /// on this surface. Default: none.
   std::function<void()> onDrawn;
 
   void Cls() override;
-  /// Coordinates are rounded to the nearest pixel, halves to the even one.
   void Line(LineMode mode, float x1, float y1, float x2, float y2, Colour colour) override;
-  /// An empty reference throws Failure 5. The picture of another platform is decoded from the bytes
-  /// of its file; one that has none, or none that Qt knows, throws Failure 481.
+  /// An empty reference throws Failure 5, a picture that cannot be decoded Failure 481.
   void PaintPicture(const Picture& picture, float x, float y) override;
   void PaintPicture(const Picture& picture, float x, float y, float width, float height) override;
-  /// Whole pixels. A tab goes on to the next stop of eight characters.
-  float TextWidth(std::string_view text) override;
-  float TextHeight(std::string_view text) override;
-  float CurrentX() const override { return currentX_; }
-  void CurrentX(float x) override { currentX_ = x; }
-  float CurrentY() const override { return currentY_; }
-  void CurrentY(float y) override { currentY_ = y; }
-  float ScaleWidth() const override { return static_cast<float>(size_.width()); }
-  float ScaleHeight() const override { return static_cast<float>(size_.height()); }
-  void BackColor(Colour colour) override { backColor_ = colour; }
-  void ForeColor(Colour colour) override { foreColor_ = colour; }
+  float TextWidth(std::string_view text) override { return canvas_.TextWidth(text); }
+  float TextHeight(std::string_view text) override { return canvas_.TextHeight(text); }
+  float CurrentX() const override { return waiting_.CurrentX(); }
+  void CurrentX(float x) override { waiting_.CurrentX(x); }
+  float CurrentY() const override { return waiting_.CurrentY(); }
+  void CurrentY(float y) override { waiting_.CurrentY(y); }
+  float ScaleWidth() const override { return canvas_.ScaleWidth(); }
+  float ScaleHeight() const override { return canvas_.ScaleHeight(); }
+  void BackColor(Colour colour) override;
+  void ForeColor(Colour colour) override { waiting_.ForeColor(colour); }
   void Font(const norvane::Font& font) override;
-  void FontBold(Boolean on) override { setFlag(bold, on); }
-  void FontItalic(Boolean on) override { setFlag(italic, on); }
-  void FontUnderline(Boolean on) override { setFlag(underline, on); }
-  /// The address of the image; the calls that take a handle throw Failure 5 for any other.
-  std::uintptr_t hDC() const override { return reinterpret_cast<std::uintptr_t>(&image_); }
+  void FontBold(Boolean on) override;
+  void FontItalic(Boolean on) override;
+  void FontUnderline(Boolean on) override;
+  /// The calls that take a handle throw Failure 5 for any other.
+  std::uintptr_t hDC() const override { return canvas_.hDC(); }
   void DrawTextA(std::uintptr_t hDC, std::string_view text, std::int32_t length,
                  const Rectangle& rectangle, TextFormat format) override;
   void DrawFocusRect(std::uintptr_t hDC, const Rectangle& rectangle) override;
   void StretchDIBits(std::uintptr_t hDC, const Rectangle& target, const Bitmap24& bitmap) override;
-  /// Lines after the first begin at x 0.
   void Print(std::string_view text) override;
 
  private:
-  enum Flag : unsigned { bold = 1, italic = 2, underline = 4 };
-
-  /// A font with what the layout asks of it, in whole pixels but for `metrics`.
-  struct Face {
-    QFont font;
-    QFontMetricsF metrics;
-    int lineHeight;
-    int ascent;
-    int tabStop;
-    int underlineTop;
-    int underlineHeight;
-    /// What a printable ASCII character adds to a width in front of another one, kerning included;
-    /// below -1000 where that was never asked.
-    std::vector<float> advances;
-
-    double widthOf(QStringView text);
-
-   private:
-    double widthOfPrintable(QStringView text);
-  };
-
-  struct ShownLine;
-
-  void setFlag(Flag flag, Boolean on) { flags_ = on ? flags_ | flag : flags_ & ~flag; }
-  Face& face();
-  QRgb rgb(Colour colour) const;
   void drawn();
-  /// The painter on the image, begun where none is, with the present font and text colour.
-  QPainter& painter();
-  void endPainter();
-  /// Where a logical pixel begins on the image.
-  int edge(int logical) const { return qRound(logical * dpr_); }
-  /// The part of a rectangle that lies on the image; empty where none does.
-  QRect visiblePart(const Rectangle& rectangle) const;
-  void fill(int left, int top, int right, int bottom, QRgb colour);
-  void fillSlanted(int x1, int y1, int x2, int y2, QRgb colour);
-  void invert(int x, int y);
-  const QImage& imageOf(const Picture& picture);
-  double widthWithTabs(const QString& line);
-  void drawLine(const ShownLine& line, double x, double tabOrigin, double baseline,
-                const QRect& clip);
-  void underlineMarked(const ShownLine& line, qsizetype from, qsizetype to, double x,
-                       double baseline);
+  void drawWaiting();
+  void requireOwn(std::uintptr_t hDC) const;
 
-  QSize size_{1, 1};
-  qreal dpr_ = 1;
-  QImage image_;
-  QPainter painter_;
-  const Face* painterFace_ = nullptr;
+  QtCanvas canvas_;
+  HeadlessSurface waiting_{0, 0};
   bool isChangeTold_ = false;
-  QPalette palette_;
-  float currentX_ = 0;
-  float currentY_ = 0;
-  Colour backColor_ = colours::white;
-  Colour foreColor_ = 0;
-  FontObject font_;
-  unsigned flags_ = 0;
-  std::array<std::optional<Face>, 8> faces_;
-  /// Pictures of other platforms, kept so that no other can take the address of one.
-  std::map<const PictureObject*, std::pair<Picture, QImage>> decoded_;
 };
 
 }  // namespace norvane

@@ -1,0 +1,506 @@
+#include <nvlist/platform/qt/QtCanvas.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <utility>
+
+#include <nvlist/objects/Failure.h>
+#include <nvlist/platform/qt/QtFont.h>
+#include <nvlist/platform/qt/QtPicture.h>
+
+namespace norvane {
+namespace {
+
+/// Far beyond every image, and small enough to calculate with.
+constexpr int farOut = 1 << 24;
+
+/// Texts are laid out in pieces of this many characters, since only a few of them are ever seen of
+/// a very long line.
+constexpr qsizetype pieceLength = 512;
+
+constexpr std::size_t maximumDecoded = 256;
+
+constexpr char16_t firstPrintable = 0x20;
+constexpr char16_t lastPrintable = 0x7E;
+constexpr std::size_t printableCount = lastPrintable - firstPrintable + 1;
+constexpr float neverAsked = -1e6F;
+
+int nearestPixel(float coordinate) {
+  if (!(coordinate > -farOut)) return -farOut;
+  return static_cast<int>(std::nearbyint(std::min(coordinate, static_cast<float>(farOut))));
+}
+
+/// Which of `count` parts of the span from `from` to `to` the middle of the pixel at `at` lies in.
+int nearestOf(int count, int at, int from, int to) {
+  const auto place = static_cast<std::uint64_t>(std::int64_t{at} - from);
+  const auto length = static_cast<std::uint64_t>(std::int64_t{to} - from);
+  return static_cast<int>((2 * place + 1) * static_cast<std::uint64_t>(count) / (2 * length));
+}
+
+/// Calls `take` with each line of a text, until it returns false.
+template <class Take>
+void forEachLine(std::string_view text, Take&& take) {
+  for (;;) {
+    const std::size_t end = text.find_first_of("\r\n");
+    if (!take(text.substr(0, end)) || end == std::string_view::npos) return;
+    text.remove_prefix(text.substr(end, 2) == "\r\n" ? end + 2 : end + 1);
+  }
+}
+
+int lineCount(std::string_view text) {
+  int count = 0;
+  forEachLine(text, [&](std::string_view) { return ++count > 0; });
+  return count;
+}
+
+QString decoded(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+qsizetype characterLength(QStringView text, qsizetype at) {
+  return text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate() ? 2
+                                                                                             : 1;
+}
+
+/// Where the piece that begins at `from` ends: in front of a tab, and never inside a character.
+qsizetype pieceEnd(QStringView text, qsizetype from) {
+  qsizetype end = std::min(from + pieceLength, text.size());
+  if (end < text.size() && text[end].isLowSurrogate()) ++end;
+  const qsizetype tab = text.sliced(from, end - from).indexOf(u'\t');
+  return tab < 0 ? end : from + tab;
+}
+
+double nextTabStop(double x, int tabStop) { return (std::floor(x / tabStop) + 1) * tabStop; }
+
+bool isPrintable(QChar character) {
+  return character.unicode() >= firstPrintable && character.unicode() <= lastPrintable;
+}
+
+QRgb systemRgb(const QPalette& palette, unsigned index) {
+  static constexpr std::pair<QPalette::ColorGroup, QPalette::ColorRole> table[] = {
+      {QPalette::Active, QPalette::Button},             // scroll bar
+      {QPalette::Active, QPalette::Dark},               // desktop
+      {QPalette::Active, QPalette::Highlight},          // active caption
+      {QPalette::Inactive, QPalette::Highlight},        // inactive caption
+      {QPalette::Active, QPalette::Window},             // menu
+      {QPalette::Active, QPalette::Base},               // window
+      {QPalette::Active, QPalette::WindowText},         // window frame
+      {QPalette::Active, QPalette::WindowText},         // menu text
+      {QPalette::Active, QPalette::Text},               // window text
+      {QPalette::Active, QPalette::HighlightedText},    // caption text
+      {QPalette::Active, QPalette::Window},             // active border
+      {QPalette::Inactive, QPalette::Window},           // inactive border
+      {QPalette::Active, QPalette::Mid},                // application workspace
+      {QPalette::Active, QPalette::Highlight},          // highlight
+      {QPalette::Active, QPalette::HighlightedText},    // highlight text
+      {QPalette::Active, QPalette::Button},             // button face
+      {QPalette::Active, QPalette::Dark},               // button shadow
+      {QPalette::Disabled, QPalette::Text},             // grey text
+      {QPalette::Active, QPalette::ButtonText},         // button text
+      {QPalette::Inactive, QPalette::HighlightedText},  // inactive caption text
+      {QPalette::Active, QPalette::Light},              // button highlight
+      {QPalette::Active, QPalette::Shadow},             // 3D dark shadow
+      {QPalette::Active, QPalette::Midlight},           // 3D light
+      {QPalette::Active, QPalette::ToolTipText},        // info text
+      {QPalette::Active, QPalette::ToolTipBase},        // info back
+  };
+  if (index >= std::size(table)) return qRgb(0, 0, 0);
+  return palette.color(table[index].first, table[index].second).rgb();
+}
+
+}  // namespace
+
+/// A line of text as it is shown, with the positions of the characters that stood behind a `&`.
+struct QtCanvas::ShownLine {
+  QString text;
+  std::vector<qsizetype> underlined;
+
+  ShownLine(const QString& source, bool withoutTabs) {
+    text.reserve(source.size());
+    for (qsizetype at = 0; at < source.size(); ++at) {
+      if (source[at] == u'&') {
+        if (++at == source.size()) break;
+        if (source[at] != u'&' && source[at] != u'\t') underlined.push_back(text.size());
+      }
+      if (!withoutTabs || source[at] != u'\t') text += source[at];
+    }
+  }
+  /// Shows every character as it stands.
+  explicit ShownLine(QString source) : text(std::move(source)) {}
+};
+
+QtCanvas::QtCanvas() { resize(size_, 1); }
+
+// ---- the image ----
+
+void QtCanvas::resize(QSize logical, qreal dpr) {
+  endPainter();
+  size_ = logical.expandedTo(QSize(0, 0)).boundedTo(QSize(farOut, farOut));
+  if (!(dpr > 0 && dpr < 100)) dpr = 1;
+  if (dpr != dpr_) faces_ = {};
+  dpr_ = dpr;
+
+  // There is always an image to draw on, if only one that nobody sees.
+  image_ = QImage(std::max(edge(size_.width()), 1), std::max(edge(size_.height()), 1),
+                  QImage::Format_RGB32);
+  if (image_.isNull()) {
+    size_ = {0, 0};
+    image_ = QImage(1, 1, QImage::Format_RGB32);
+  }
+  image_.setDevicePixelRatio(dpr_);
+  image_.fill(rgb(backColor_));
+}
+
+const QImage& QtCanvas::image() {
+  endPainter();
+  return image_;
+}
+
+QPainter& QtCanvas::painter() {
+  if (!painter_.isActive()) painter_.begin(&image_);
+  const Face& wanted = face();
+  if (painterFace_ != &wanted) {
+    painterFace_ = &wanted;
+    painter_.setFont(wanted.font);
+  }
+  const QRgb colour = rgb(foreColor_);
+  if (painter_.pen().color().rgb() != colour) painter_.setPen(QColor(colour));
+  return painter_;
+}
+
+void QtCanvas::endPainter() {
+  if (painter_.isActive()) painter_.end();
+  painterFace_ = nullptr;
+}
+
+QRgb QtCanvas::rgb(Colour colour) const {
+  const auto bits = static_cast<unsigned>(colour);
+  if (isSystemColour(colour)) return systemRgb(palette_, bits & 0xFF);
+  return qRgb(bits & 0xFF, bits >> 8 & 0xFF, bits >> 16 & 0xFF);
+}
+
+QRect QtCanvas::visiblePart(const Rectangle& rectangle) const {
+  const int left = std::max(rectangle.Left, 0);
+  const int top = std::max(rectangle.Top, 0);
+  const int right = std::min(rectangle.Right, size_.width());
+  const int bottom = std::min(rectangle.Bottom, size_.height());
+  if (left >= right || top >= bottom) return {};
+  return {left, top, right - left, bottom - top};
+}
+
+// ---- lines and boxes ----
+
+/// Fills from the first pixel to the last, both included. Written straight into the image: a frame
+/// consists of hardly anything else, and no rounding of the painter blurs an edge.
+void QtCanvas::fill(int left, int top, int right, int bottom, QRgb colour) {
+  left = std::max(left, 0);
+  top = std::max(top, 0);
+  right = std::min(right, size_.width() - 1);
+  bottom = std::min(bottom, size_.height() - 1);
+  if (left > right || top > bottom) return;
+  const int from = edge(left);
+  const int width = edge(right + 1) - from;
+  const int end = edge(bottom + 1);
+  for (int y = edge(top); y < end; ++y)
+    std::fill_n(reinterpret_cast<QRgb*>(image_.scanLine(y)) + from, width, colour);
+}
+
+void QtCanvas::fillSlanted(int x1, int y1, int x2, int y2, QRgb colour) {
+  const bool isSteep = std::abs(y2 - y1) > std::abs(x2 - x1);
+  if (isSteep) {
+    std::swap(x1, y1);
+    std::swap(x2, y2);
+  }
+  const double slope = static_cast<double>(y2 - y1) / (x2 - x1);
+  const int limit = isSteep ? size_.height() : size_.width();
+  const int last = std::min(std::max(x1, x2), limit - 1);
+  for (int x = std::max(std::min(x1, x2), 0); x <= last; ++x) {
+    const int y = y1 + qRound(slope * (x - x1));
+    isSteep ? fill(y, x, y, x, colour) : fill(x, y, x, y, colour);
+  }
+}
+
+void QtCanvas::Line(LineMode mode, float x1, float y1, float x2, float y2, Colour colour) {
+  currentX_ = x2;
+  currentY_ = y2;
+  const auto [left, right] = std::minmax({nearestPixel(x1), nearestPixel(x2)});
+  const auto [top, bottom] = std::minmax({nearestPixel(y1), nearestPixel(y2)});
+  const QRgb pen = rgb(colour);
+  if (mode == LineMode::outlineBox) {
+    fill(left, top, right, top, pen);
+    fill(left, bottom, right, bottom, pen);
+    fill(left, top, left, bottom, pen);
+    fill(right, top, right, bottom, pen);
+  } else if (mode == LineMode::filledBox || left == right || top == bottom) {
+    fill(left, top, right, bottom, pen);
+  } else {
+    fillSlanted(nearestPixel(x1), nearestPixel(y1), nearestPixel(x2), nearestPixel(y2), pen);
+  }
+}
+
+void QtCanvas::Cls() {
+  image_.fill(rgb(backColor_));
+  currentX_ = 0;
+  currentY_ = 0;
+}
+
+void QtCanvas::invert(int x, int y) {
+  const int right = edge(x + 1);
+  const int bottom = edge(y + 1);
+  for (int row = edge(y); row < bottom; ++row) {
+    auto* pixels = reinterpret_cast<QRgb*>(image_.scanLine(row));
+    for (int column = edge(x); column < right; ++column) pixels[column] ^= 0x00FFFFFF;
+  }
+}
+
+void QtCanvas::DrawFocusRect(std::uintptr_t hDC, const Rectangle& rectangle) {
+  if (hDC != this->hDC()) throw Failure::invalidCall();
+  const QRect visible = visiblePart(rectangle);
+  if (visible.isEmpty()) return;
+  const auto dot = [&](int x, int y) {
+    if (visible.contains(x, y) && (x + y) % 2 == 0) invert(x, y);
+  };
+  // Each pixel once, or a rectangle one pixel thick would undo itself.
+  const bool isFlat = rectangle.Bottom - 1 == rectangle.Top;
+  const bool isThin = rectangle.Right - 1 == rectangle.Left;
+  for (int x = visible.left(); x <= visible.right(); ++x) {
+    dot(x, rectangle.Top);
+    if (!isFlat) dot(x, rectangle.Bottom - 1);
+  }
+  for (int y = visible.top(); y <= visible.bottom(); ++y) {
+    if (y == rectangle.Top || y == rectangle.Bottom - 1) continue;
+    dot(rectangle.Left, y);
+    if (!isThin) dot(rectangle.Right - 1, y);
+  }
+}
+
+// ---- pictures ----
+
+const QImage& QtCanvas::imageOf(const Picture& picture) {
+  if (!picture) throw Failure::invalidCall();
+  if (const auto* own = dynamic_cast<const QtPicture*>(picture.get())) return own->image();
+
+  const auto known = decoded_.find(picture.get());
+  if (known != decoded_.end()) return known->second.second;
+  const auto bytes = picture->fileBytes();
+  const Picture read = QtPicture::fromBytes(
+      QByteArray(reinterpret_cast<const char*>(bytes.data()), static_cast<int>(bytes.size())));
+  if (!read) throw Failure(481, "Invalid picture");
+  if (decoded_.size() >= maximumDecoded) decoded_.clear();
+  const QImage& image = static_cast<const QtPicture&>(*read).image();
+  return decoded_.emplace(picture.get(), std::pair(picture, image)).first->second.second;
+}
+
+void QtCanvas::PaintPicture(const Picture& picture, float x, float y) {
+  const QImage& image = imageOf(picture);
+  PaintPicture(picture, x, y, static_cast<float>(image.width()),
+               static_cast<float>(image.height()));
+}
+
+void QtCanvas::PaintPicture(const Picture& picture, float x, float y, float width, float height) {
+  const QImage& image = imageOf(picture);
+  const QRect target(nearestPixel(x), nearestPixel(y), nearestPixel(width), nearestPixel(height));
+  if (target.width() <= 0 || target.height() <= 0) return;
+  QPainter& on = painter();
+  on.setClipping(false);
+  // Whole multiples stay sharp; anything else would look ragged.
+  const qreal factor = target.width() * dpr_ / image.width();
+  const bool isWhole =
+      factor == std::floor(factor) && factor == target.height() * dpr_ / image.height();
+  on.setRenderHint(QPainter::SmoothPixmapTransform, !isWhole);
+  on.drawImage(target, image);
+}
+
+void QtCanvas::StretchDIBits(std::uintptr_t hDC, const Rectangle& target, const Bitmap24& bitmap) {
+  if (hDC != this->hDC() || !bitmap.isComplete()) throw Failure::invalidCall();
+  const QRect visible = visiblePart(target);
+  if (visible.isEmpty()) return;
+  const int left = edge(visible.left());
+  std::vector<QRgb> pixels(static_cast<std::size_t>(edge(visible.right() + 1) - left));
+  int rowInPixels = -1;
+  for (int y = visible.top(); y <= visible.bottom(); ++y) {
+    const int row = bitmap.height - 1 - nearestOf(bitmap.height, y, target.Top, target.Bottom);
+    if (std::exchange(rowInPixels, row) != row) {
+      for (int x = visible.left(); x <= visible.right(); ++x) {
+        const int column = nearestOf(bitmap.width, x, target.Left, target.Right);
+        std::fill(pixels.begin() + edge(x) - left, pixels.begin() + edge(x + 1) - left,
+                  rgb(bitmap.pixel(column, row)));
+      }
+    }
+    for (int line = edge(y); line < edge(y + 1); ++line)
+      std::copy(pixels.begin(), pixels.end(),
+                reinterpret_cast<QRgb*>(image_.scanLine(line)) + left);
+  }
+}
+
+// ---- texts ----
+
+void QtCanvas::Font(const norvane::Font& font) {
+  if (!font) return;
+  flags_ = 0;
+  setFlag(bold, font->Bold);
+  setFlag(italic, font->Italic);
+  setFlag(underline, font->Underline);
+  const bool isSame = font->Name == font_.Name && font->Size == font_.Size &&
+                      font->Strikethrough == font_.Strikethrough;
+  if (isSame) return;
+  font_ = *font;
+  faces_ = {};
+  painterFace_ = nullptr;
+}
+
+QtCanvas::Face& QtCanvas::face() {
+  std::optional<Face>& face = faces_[flags_];
+  if (face) return *face;
+  QFont font = toQFont(font_);
+  font.setBold((flags_ & bold) != 0);
+  font.setItalic((flags_ & italic) != 0);
+  font.setUnderline((flags_ & underline) != 0);
+  const QFontMetricsF metrics(font, &image_);
+  face = Face{font,
+              metrics,
+              std::max(qRound(metrics.height()), 1),
+              qRound(metrics.ascent()),
+              8 * std::max(qRound(metrics.averageCharWidth()), 1),
+              std::max(qRound(metrics.underlinePos()), 1),
+              std::max(qRound(metrics.lineWidth()), 1),
+              std::vector<float>(printableCount * printableCount, neverAsked)};
+  return *face;
+}
+
+double QtCanvas::Face::widthOf(QStringView text) {
+  if (std::all_of(text.begin(), text.end(), isPrintable)) return widthOfPrintable(text);
+  double width = 0;
+  for (qsizetype at = 0; at < text.size();) {
+    const qsizetype end = std::max(pieceEnd(text, at), at + 1);
+    width += metrics.horizontalAdvance(text.sliced(at, end - at).toString());
+    at = end;
+  }
+  return width;
+}
+
+/// Adds up pairs of characters. A list measures each text it is given, a million at times, and the
+/// full layout of one takes microseconds.
+double QtCanvas::Face::widthOfPrintable(QStringView text) {
+  if (text.isEmpty()) return 0;
+  double width = metrics.horizontalAdvance(text.back());
+  for (qsizetype at = 0; at + 1 < text.size(); ++at) {
+    const std::size_t row = text[at].unicode() - firstPrintable;
+    float& advance = advances[row * printableCount + (text[at + 1].unicode() - firstPrintable)];
+    if (advance <= neverAsked)
+      advance = static_cast<float>(metrics.horizontalAdvance(text.sliced(at, 2).toString()) -
+                                   metrics.horizontalAdvance(text[at + 1]));
+    width += advance;
+  }
+  return width;
+}
+
+double QtCanvas::widthWithTabs(const QString& line) {
+  double width = 0;
+  QStringView rest(line);
+  for (;;) {
+    const qsizetype tab = rest.indexOf(u'\t');
+    width += face().widthOf(rest.first(tab < 0 ? rest.size() : tab));
+    if (tab < 0) return width;
+    width = nextTabStop(width, face().tabStop);
+    rest = rest.sliced(tab + 1);
+  }
+}
+
+float QtCanvas::TextWidth(std::string_view text) {
+  double widest = 0;
+  forEachLine(text, [&](std::string_view line) {
+    widest = std::max(widest, widthWithTabs(decoded(line)));
+    return true;
+  });
+  return static_cast<float>(std::nearbyint(widest));
+}
+
+float QtCanvas::TextHeight(std::string_view text) {
+  return static_cast<float>(lineCount(text)) * static_cast<float>(face().lineHeight);
+}
+
+/// Lays a line out from `x` on, as far as it can be seen.
+void QtCanvas::drawLine(const ShownLine& line, double x, double tabOrigin, double baseline,
+                        const QRect& clip) {
+  Face& face = this->face();
+  const QString& text = line.text;
+  // Slanted letters reach over into their neighbours' room.
+  const int overhang = face.lineHeight;
+  for (qsizetype at = 0; at < text.size() && x <= clip.right() + overhang;) {
+    if (text[at] == u'\t') {
+      x = tabOrigin + nextTabStop(x - tabOrigin, face.tabStop);
+      ++at;
+      continue;
+    }
+    const qsizetype end = pieceEnd(text, at);
+    const QString piece = text.sliced(at, end - at);
+    const double width = end < text.size() ? face.widthOf(piece) : 0;
+    if (end == text.size() || x + width >= clip.left() - overhang) {
+      painter_.drawText(QPointF(x, baseline), piece);
+      underlineMarked(line, at, end, x, baseline);
+    }
+    x += width;
+    at = end;
+  }
+}
+
+/// Draws the marks under one piece, which stands at `x`.
+void QtCanvas::underlineMarked(const ShownLine& line, qsizetype from, qsizetype to, double x,
+                               double baseline) {
+  Face& face = this->face();
+  const QStringView text(line.text);
+  auto mark = std::lower_bound(line.underlined.begin(), line.underlined.end(), from);
+  for (; mark != line.underlined.end() && *mark < to; ++mark) {
+    const double left = x + face.widthOf(text.sliced(from, *mark - from));
+    const double width = face.widthOf(text.sliced(*mark, characterLength(text, *mark)));
+    painter_.fillRect(QRect(qRound(left), qRound(baseline) + face.underlineTop,
+                            std::max(qRound(width), 1), face.underlineHeight),
+                      QColor(rgb(foreColor_)));
+  }
+}
+
+void QtCanvas::DrawTextA(std::uintptr_t hDC, std::string_view text, std::int32_t length,
+                         const Rectangle& rectangle, TextFormat format) {
+  if (hDC != this->hDC()) throw Failure::invalidCall();
+  if (length >= 0) text = text.substr(0, static_cast<std::size_t>(length));
+  const QRect clip = visiblePart(rectangle);
+  if (clip.isEmpty() || text.empty()) return;
+
+  painter().setClipRect(clip);
+  Face& face = this->face();
+  std::int64_t top = rectangle.Top;
+  forEachLine(text, [&](std::string_view line) {
+    if (top > clip.bottom()) return false;
+    if (top + face.lineHeight > clip.top()) {
+      const bool isRight = format == TextFormat::right;
+      const ShownLine shown(decoded(line), isRight);
+      const double left =
+          isRight ? rectangle.Right - std::nearbyint(face.widthOf(shown.text)) : rectangle.Left;
+      drawLine(shown, left, rectangle.Left, static_cast<double>(top) + face.ascent, clip);
+    }
+    top += face.lineHeight;
+    return true;
+  });
+}
+
+void QtCanvas::Print(std::string_view text) {
+  painter().setClipping(false);
+  const Face& face = this->face();
+  const QRect whole(QPoint(0, 0), size_);
+  int x = nearestPixel(currentX_);
+  int top = nearestPixel(currentY_);
+  forEachLine(text, [&](std::string_view line) {
+    if (top > whole.bottom()) return false;
+    if (top + face.lineHeight > 0)
+      drawLine(ShownLine(decoded(line)), x, 0, top + face.ascent, whole);
+    x = 0;
+    top += face.lineHeight;
+    return true;
+  });
+  currentX_ = 0;
+  currentY_ += TextHeight(text);
+}
+
+}  // namespace norvane
