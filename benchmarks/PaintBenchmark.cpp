@@ -39,7 +39,11 @@ void addImage(int count) {
   const std::string work = "Redraw/" + std::to_string(count);
   addShared(
       work, subject::nvList, false, [count] { return shownNvList(count); },
-      [](auto& widget) { widget->list().Redraw(); });
+      [](auto& widget) {
+        static QImage image(400, 300, QImage::Format_RGB32);
+        widget->list().Redraw();
+        widget->render(&image);
+      });
   addShared(
       work, subject::listWidget, false, [count] { return shownListWidget(count); },
       [](auto& widget) {
