@@ -7,36 +7,35 @@
 #include <nvlist/core/NewItem.h>
 #include <nvlist/input/events.h>
 #include <nvlist/objects/Trap.h>
-#include <nvlist/platform/Container.h>
-#include <nvlist/render/Surface.h>
+#include <nvlist/platform/UserControl.h>
+#include <nvlist/render/colours.h>
 
 namespace norvane {
 
 /// A visual list: items in rows that the control paints itself.
 ///
-/// The control needs a surface to draw on and a container to stand in; a platform makes the three
-/// together (platform/headless/HeadlessList.h, platform/qt/NvListWidget.h). Both must outlive it.
-/// One control belongs to one thread.
+/// The control needs a place to stand in, with a surface to draw on; a platform makes both together
+/// (platform/headless/HeadlessList.h, platform/qt/NvListWidget.h). The place must outlive it. One
+/// control belongs to one thread.
 ///
 /// No operation fails towards its caller: a failure is reported or passed over, as the switch
 /// SilentError says (objects/Error.h), and the result is then what is told at the operation. Only
-/// a failure of the reporter itself comes out. An index is a number, a truth value, nothing (0) or
-/// a text that reads as a number; it is rounded to the nearest whole number.
+/// a failure of the reporter itself comes out, and one in setting Text. An index is a number, a
+/// truth value, nothing (0) or a text that reads as a number; it is rounded to the nearest whole
+/// number.
 ///
 /// This header is the map of the house. Each group below names the file it is defined in.
-class nvList {
+class nvList final : public UserControl {
  public:
-  nvList(Container& container, Surface& surface) : container_(container), surface_(surface) {}
-  nvList(const nvList&) = delete;
-  nvList& operator=(const nvList&) = delete;
+  explicit nvList(Container& place) : UserControl(place) {}
 
   // ---- start and notifications of the platform: core/lifecycle.cpp ----
 
   /// Brings a new control to its defaults and paints it. The platform calls it once, before
   /// anything else.
   void UserControl_InitProperties();
-  /// The surface has another size.
-  void UserControl_Resize();
+  void UserControl_Resize() override;
+  void UserControl_Paint() override { Redraw(); }
 
   // ---- items: core/items.cpp ----
 
@@ -120,7 +119,9 @@ class nvList {
   std::int32_t ListIndex();
   void ListIndex(std::int32_t value);
   /// Whether an item is selected. Setting it leaves the other items as they are, and ListIndex at
-  /// -1 for true and 0 for false; an item selected outside the window becomes the top row.
+  /// -1 for true and 0 for false; an item selected outside the window becomes the top row. A bad
+  /// index is a failure: reading gives false, setting changes nothing (under SilentError all but
+  /// the mark).
   Boolean ItemSelected(const Variant& Index);
   void ItemSelected(const Variant& Index, Boolean value);
 
@@ -184,8 +185,8 @@ class nvList {
   void ItemBackColorDis(const Variant& Index, const Variant& value);
 
   /// The text of the current item; empty where there is none. Setting it makes the first item with
-  /// that text the current one, byte by byte, and changes no item. A failure in setting it goes
-  /// to the caller as a Failure.
+  /// that text the current one, byte by byte, and changes no item; without one nothing happens. A
+  /// failure in setting it goes to the caller.
   std::string Text();
   void Text(std::string_view value);
 
@@ -197,40 +198,121 @@ class nvList {
   void TopIndex(std::int32_t value);
 
   // ---- properties: core/properties.cpp ----
+  //
+  // No value is refused. Each setter tells the container the name of its property; all but those
+  // that say otherwise then repaint under AutoRedraw. Truth values are read back as they were
+  // given. Lengths are pixels.
 
   /// Whether changes are painted, and added items measured, at once. Default: true. Turning it on
   /// measures and paints.
-  Boolean AutoRedraw();
+  Boolean AutoRedraw() const { return state_.AutoRedraw; }
   void AutoRedraw(Boolean value);
   /// Whether the scroll bars are fitted at once after each change of the items. Default: true.
-  Boolean AutoCheckScroll();
+  /// Turning it on measures and fits them, and does not repaint.
+  Boolean AutoCheckScroll() const { return state_.AutoCheckScroll; }
   void AutoCheckScroll(Boolean value);
   /// The font of the list, by reference. The list keeps a clone of a font given to it. Default: the
   /// ambient font.
-  norvane::Font Font();
+  norvane::Font Font() const { return state_.Font; }
   void Font(const norvane::Font& value);
   /// Text colour of items without one of their own. Default: black.
-  Colour ForeColor();
+  Colour ForeColor() const { return state_.ForeColor; }
   void ForeColor(Colour value);
   /// Background of items without one of their own. Default: white.
-  Colour BackColor();
+  Colour BackColor() const { return state_.BackColor; }
   void BackColor(Colour value);
-  /// What stands before the text of each row. Default: cDefault, nothing.
-  cListStyle Style();
+  /// Default: true.
+  Boolean Enabled() const { return state_.Enabled; }
+  void Enabled(Boolean value);
+  /// Whether Click comes where ListIndex is set while a press is selecting. Default: false.
+  Boolean ClickOnIndexChange() const { return state_.ClickOnIndexChange; }
+  void ClickOnIndexChange(Boolean value);
+
+  /// The family of selection, frame and scroll bars; all but cCustom set ScrollColorStyle too. In
+  /// an unknown style the selection is black and the frame stays as it was. Paints whatever
+  /// AutoRedraw says. Default: cXPBlue.
+  cColorStyle ColorStyle() const { return state_.ColorStyle; }
+  void ColorStyle(cColorStyle value);
+  /// The family of the scroll bars alone. Does not repaint the list.
+  cScrollColorStyle ScrollColorStyle() const { return state_.ScrollColorStyle; }
+  void ScrollColorStyle(cScrollColorStyle value);
+  /// The selection colour in cCustom. Default: blue, 0xFF0000.
+  Colour ValueColor() const { return state_.ValueColor; }
+  void ValueColor(Colour value);
+  /// The colour of the frame in cCustom. Paints whatever AutoRedraw says. Default: black.
+  Colour BorderColor() const { return state_.BorderColor; }
+  void BorderColor(Colour value);
+  /// Whether there is a frame of one pixel. Paints whatever AutoRedraw says. Default: true.
+  Boolean BorderVisible() const { return state_.BorderVisible; }
+  void BorderVisible(Boolean value);
+
+  /// What stands before the text of each row. Default: cDefault, nothing. An unknown value shows no
+  /// pictures and puts the text at the very left.
+  cListStyle Style() const { return state_.Style; }
   void Style(cListStyle value);
-  /// Space above the first row and left of the rows, in pixels; may be negative. Default: 3.
-  float IndentTop();
+  /// Whether the selection fills the row, or the text alone. Default: true.
+  Boolean FullRowSelect() const { return state_.FullRowSelect; }
+  void FullRowSelect(Boolean value);
+  /// Whether the selection covers the check box and icon too. Default: true.
+  Boolean IconSelect() const { return state_.IconSelect; }
+  void IconSelect(Boolean value);
+  /// Whether selected rows have a dotted outline while the list has the focus. Does not repaint.
+  /// Default: false.
+  Boolean ShowFocusRect() const { return state_.ShowFocusRect; }
+  void ShowFocusRect(Boolean value);
+  /// Lines between the rows; only true itself shows them, no other number. Default: false.
+  Boolean GridLines() const { return state_.GridLines; }
+  void GridLines(Boolean value);
+  /// Default: 0xC0C0C0.
+  Colour GridLineColor() const { return state_.GridLineColor; }
+  void GridLineColor(Colour value);
+  /// The size that every icon is stretched to. Default: 16 each.
+  float IconW() const { return state_.IconW; }
+  void IconW(float value);
+  float IconH() const { return state_.IconH; }
+  void IconH(float value);
+  /// The gap between the pictures and the text. Default: 2.
+  float DistPicText() const { return state_.DistPicText; }
+  void DistPicText(float value);
+  /// Space above the first row and left of the rows; may be negative. Default: 3.
+  float IndentTop() const { return state_.IndentTop; }
   void IndentTop(float value);
-  float IndentLeft();
+  float IndentLeft() const { return state_.IndentLeft; }
   void IndentLeft(float value);
-  /// Whether the user may select several items. Default: false. Turning it off leaves a selection
-  /// of several as it is.
-  Boolean MultiSelect();
-  void MultiSelect(Boolean value);
+  /// Kept for the host; nothing is painted by them. Default: 3.
+  float IndentRight() const { return state_.IndentRight; }
+  void IndentRight(float value);
+  float IndentBottom() const { return state_.IndentBottom; }
+  void IndentBottom(float value);
   /// Height of a row in pixels; 0, the default: the height of the font. Rows that are no pixel high
   /// after rounding are not shown.
-  float MinHeight();
+  float MinHeight() const { return state_.MinHeight; }
   void MinHeight(float value);
+  /// Which scroll bars the list may show; counts from the next CheckScroll on. Default: vbVertical.
+  ScrollBarConstants ScrollBars() const { return state_.ScrollBars; }
+  void ScrollBars(ScrollBarConstants value);
+
+  /// Whether the user may edit texts, given that the item allows it. Paints whatever AutoRedraw
+  /// says. Default: false.
+  Boolean AllowEdit() const { return state_.AllowEdit; }
+  void AllowEdit(Boolean value);
+  /// Whether the user may select several items. Does not repaint; turning it off leaves a selection
+  /// of several as it is. Default: false.
+  Boolean MultiSelect() const { return state_.MultiSelect; }
+  void MultiSelect(Boolean value);
+  /// Whether dragging moves the current item. Does not repaint. Default: false.
+  Boolean AllowItemMoving() const { return state_.AllowItemMoving; }
+  void AllowItemMoving(Boolean value);
+  /// Kept for the host; the list does nothing with it. Default: false.
+  Boolean HoverSelect() const { return state_.HoverSelect; }
+  void HoverSelect(Boolean value);
+  /// What the mouse wheel does. An unknown value does nothing. Does not repaint. Default:
+  /// cWheelScroll.
+  cWheelFunction WheelFunction() const { return state_.WheelFunction; }
+  void WheelFunction(cWheelFunction value);
+  /// Rows that one message of the wheel scrolls. Does not repaint. Default: 1.
+  std::int32_t WheelScrollLines() const { return state_.WheelScrollLines; }
+  void WheelScrollLines(std::int32_t value);
 
   // ---- painting: render/redraw.cpp, render/rows.cpp ----
 
@@ -251,6 +333,7 @@ class nvList {
 
  private:
   struct RepaintValues;
+  class Row;
 
   static constexpr Module here{kinds::control, "nvList"};
 
@@ -294,6 +377,10 @@ class nvList {
   // core/properties.cpp
   template <class Value>
   void assign(Trap& on, const char* name, Value ListState::*field, const Value& value);
+  template <class Value>
+  void assignOnly(const char* name, Value ListState::*field, const Value& value);
+  template <class Value>
+  void assignAndRepaint(const char* name, Value ListState::*field, const Value& value);
   void repaint(Trap& on);
 
   // render/redraw.cpp
@@ -305,12 +392,16 @@ class nvList {
   void paintCorner(Trap& on);
   void paintRow(Trap& on, RepaintValues& repaint);
 
+  // render/colours.h
+  Colour aktValueColor() const { return selectionColour(state_.ColorStyle, state_.ValueColor); }
+
+  // render/border.cpp
+  void DrawBorder();
+
   // render/scrollfit.cpp
   void CheckItemWidth();
   void CheckItemWidth(Variant Index);
 
-  Container& container_;
-  Surface& surface_;
   EventSinks sinks_;
   ListState state_;
 };

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <vector>
 
 #include <nvlist/core/Ref.h>
@@ -23,6 +24,9 @@ class PictureObject : public Shared {
 
   /// The bytes of the file that the picture was read from; empty where there was none.
   virtual std::vector<std::byte> fileBytes() const { return {}; }
+
+  /// What a recording calls the picture; empty: its size alone.
+  virtual std::string description() const { return {}; }
 };
 
 /// A reference to a shared picture; it may be empty. The host's picture is shared, never copied.

@@ -5,27 +5,19 @@ namespace norvane {
 void SelectionMarks::set(ItemStore& items, std::int32_t index, Boolean selected) {
   items.touch(index).Selected = selected;
   if (!selected) return;
-  lastSet_ = items.slot(index);
+  lastIndex_ = index;
   ++marksSet_;
 }
 
 void SelectionMarks::clear(ItemStore& items) {
-  if (marksSet_ == 1 && lastSet_) {
-    lastSet_->Selected = false;
-  } else if (marksSet_ > 1) {
+  // An item that was moved since then is looked for like the marks of several.
+  if (marksSet_ == 1 && items.holds(lastIndex_) && items.at(lastIndex_).Selected) {
+    items.touch(lastIndex_).Selected = false;
+  } else if (marksSet_ > 0) {
     for (std::int32_t index = 0; index <= items.upperBound(); ++index)
       items.touch(index).Selected = false;
   }
-  reset();
-}
-
-void SelectionMarks::forgetRemoved() {
-  if (lastSet_ && lastSet_->hasOneReference()) lastSet_ = nullptr;
-}
-
-void SelectionMarks::reset() {
   marksSet_ = 0;
-  lastSet_ = nullptr;
 }
 
 }  // namespace norvane

@@ -123,5 +123,8 @@ std::partial_ordering compareText(std::string_view a, const Variant& b);
 
 /// The mark in an item's colour that says: no colour of its own.
 inline constexpr std::string_view defaultMark = "def";
+inline bool isDefaultMark(const Variant& colour) {
+  return colour.isText() && colour.text() == defaultMark;
+}
 
 }  // namespace norvane

@@ -110,7 +110,6 @@ void nvList::ItemsRemove(Variant& Index) {
       on.step([&] { ItemsClear(); });
     else
       on.step([&] { state_.Items.shrink(); });
-    state_.Selection.forgetRemoved();
     updateAfterChange(on);
   });
 }
@@ -136,7 +135,6 @@ void nvList::moveDownOnto(Trap& on, std::int32_t index) {
 void nvList::ItemsClear() {
   trapped(here, "ItemsClear", [&](Trap& on) {
     on.step([&] { state_.Items.reset(); });
-    state_.Selection.reset();
     state_.ItemsDimensioned = false;
     state_.MaxItemWidth = 0;
     state_.ListIndex = 0;

@@ -9,33 +9,96 @@ void nvList::assign(Trap& on, const char* name, Value ListState::*field, const V
   on.step([&] { container_.PropertyChanged(name); });
 }
 
+template <class Value>
+void nvList::assignOnly(const char* name, Value ListState::*field, const Value& value) {
+  trapped(here, name, [&](Trap& on) { assign(on, name, field, value); });
+}
+
+template <class Value>
+void nvList::assignAndRepaint(const char* name, Value ListState::*field, const Value& value) {
+  trapped(here, name, [&](Trap& on) {
+    assign(on, name, field, value);
+    repaint(on);
+  });
+}
+
 void nvList::repaint(Trap& on) {
   if (state_.AutoRedraw) on.step([&] { Redraw(); });
 }
 
-Boolean nvList::AutoRedraw() { return state_.AutoRedraw; }
+// The uniform ones.
 
-void nvList::AutoRedraw(Boolean value) {
-  trapped(here, "AutoRedraw", [&](Trap& on) {
-    assign(on, "AutoRedraw", &ListState::AutoRedraw, value);
-    if (!value.isTrue()) return;
-    on.step([&] { CheckItemWidth(); });
-    on.step([&] { Redraw(); });
-  });
+void nvList::Enabled(Boolean value) { assignAndRepaint("Enabled", &ListState::Enabled, value); }
+void nvList::ForeColor(Colour value) {
+  assignAndRepaint("ForeColor", &ListState::ForeColor, value);
+}
+void nvList::ClickOnIndexChange(Boolean value) {
+  assignAndRepaint("ClickOnIndexChange", &ListState::ClickOnIndexChange, value);
+}
+void nvList::HoverSelect(Boolean value) {
+  assignAndRepaint("HoverSelect", &ListState::HoverSelect, value);
+}
+void nvList::Style(cListStyle value) { assignAndRepaint("Style", &ListState::Style, value); }
+void nvList::FullRowSelect(Boolean value) {
+  assignAndRepaint("FullRowSelect", &ListState::FullRowSelect, value);
+}
+void nvList::ValueColor(Colour value) {
+  assignAndRepaint("ValueColor", &ListState::ValueColor, value);
+}
+void nvList::IconSelect(Boolean value) {
+  assignAndRepaint("IconSelect", &ListState::IconSelect, value);
+}
+void nvList::IndentTop(float value) { assignAndRepaint("IndentTop", &ListState::IndentTop, value); }
+void nvList::IndentLeft(float value) {
+  assignAndRepaint("IndentLeft", &ListState::IndentLeft, value);
+}
+void nvList::IndentRight(float value) {
+  assignAndRepaint("IndentRight", &ListState::IndentRight, value);
+}
+void nvList::IndentBottom(float value) {
+  assignAndRepaint("IndentBottom", &ListState::IndentBottom, value);
+}
+void nvList::DistPicText(float value) {
+  assignAndRepaint("DistPicText", &ListState::DistPicText, value);
+}
+void nvList::IconW(float value) { assignAndRepaint("IconW", &ListState::IconW, value); }
+void nvList::IconH(float value) { assignAndRepaint("IconH", &ListState::IconH, value); }
+void nvList::GridLines(Boolean value) {
+  assignAndRepaint("GridLines", &ListState::GridLines, value);
+}
+void nvList::GridLineColor(Colour value) {
+  assignAndRepaint("GridLineColor", &ListState::GridLineColor, value);
+}
+void nvList::ScrollBars(ScrollBarConstants value) {
+  assignAndRepaint("ScrollBars", &ListState::ScrollBars, value);
 }
 
-Boolean nvList::AutoCheckScroll() { return state_.AutoCheckScroll; }
-
-void nvList::AutoCheckScroll(Boolean value) {
-  trapped(here, "AutoCheckScroll", [&](Trap& on) {
-    assign(on, "AutoCheckScroll", &ListState::AutoCheckScroll, value);
-    if (!value.isTrue()) return;
-    on.step([&] { CheckItemWidth(); });
-    on.step([&] { CheckScroll(); });
-  });
+void nvList::MultiSelect(Boolean value) {
+  assignOnly("MultiSelect", &ListState::MultiSelect, value);
+}
+void nvList::ShowFocusRect(Boolean value) {
+  assignOnly("ShowFocusRect", &ListState::ShowFocusRect, value);
+}
+void nvList::WheelFunction(cWheelFunction value) {
+  assignOnly("WheelFunction", &ListState::WheelFunction, value);
+}
+void nvList::WheelScrollLines(std::int32_t value) {
+  assignOnly("WheelScrollLines", &ListState::WheelScrollLines, value);
+}
+void nvList::AllowItemMoving(Boolean value) {
+  assignOnly("AllowItemMoving", &ListState::AllowItemMoving, value);
 }
 
-norvane::Font nvList::Font() { return state_.Font; }
+// Those with more behind them.
+
+void nvList::BackColor(Colour value) {
+  trapped(here, "BackColor", [&](Trap& on) {
+    assign(on, "BackColor", &ListState::BackColor, value);
+    // The face below the last row belongs to the list too.
+    on.step([&] { surface_.BackColor(value); });
+    repaint(on);
+  });
+}
 
 void nvList::Font(const norvane::Font& value) {
   trapped(here, "Font", [&](Trap& on) {
@@ -47,55 +110,6 @@ void nvList::Font(const norvane::Font& value) {
   });
 }
 
-Colour nvList::ForeColor() { return state_.ForeColor; }
-
-void nvList::ForeColor(Colour value) {
-  trapped(here, "ForeColor", [&](Trap& on) {
-    assign(on, "ForeColor", &ListState::ForeColor, value);
-    repaint(on);
-  });
-}
-
-Colour nvList::BackColor() { return state_.BackColor; }
-
-void nvList::BackColor(Colour value) {
-  trapped(here, "BackColor", [&](Trap& on) {
-    assign(on, "BackColor", &ListState::BackColor, value);
-    // The face below the last row belongs to the list too.
-    on.step([&] { surface_.BackColor(value); });
-    repaint(on);
-  });
-}
-
-cListStyle nvList::Style() { return state_.Style; }
-
-void nvList::Style(cListStyle value) {
-  trapped(here, "Style", [&](Trap& on) {
-    assign(on, "Style", &ListState::Style, value);
-    repaint(on);
-  });
-}
-
-float nvList::IndentTop() { return state_.IndentTop; }
-
-void nvList::IndentTop(float value) {
-  trapped(here, "IndentTop", [&](Trap& on) {
-    assign(on, "IndentTop", &ListState::IndentTop, value);
-    repaint(on);
-  });
-}
-
-float nvList::IndentLeft() { return state_.IndentLeft; }
-
-void nvList::IndentLeft(float value) {
-  trapped(here, "IndentLeft", [&](Trap& on) {
-    assign(on, "IndentLeft", &ListState::IndentLeft, value);
-    repaint(on);
-  });
-}
-
-float nvList::MinHeight() { return state_.MinHeight; }
-
 void nvList::MinHeight(float value) {
   trapped(here, "MinHeight", [&](Trap& on) {
     state_.MinHeight = value;
@@ -105,11 +119,56 @@ void nvList::MinHeight(float value) {
   });
 }
 
-Boolean nvList::MultiSelect() { return state_.MultiSelect; }
+void nvList::ColorStyle(cColorStyle value) {
+  trapped(here, "ColorStyle", [&](Trap& on) {
+    state_.ColorStyle = value;
+    if (value != cCustom) on.step([&] { ScrollColorStyle(static_cast<cScrollColorStyle>(value)); });
+    on.step([&] { container_.PropertyChanged("ColorStyle"); });
+    on.step([&] { DrawBorder(); });
+  });
+}
 
-void nvList::MultiSelect(Boolean value) {
-  trapped(here, "MultiSelect",
-          [&](Trap& on) { assign(on, "MultiSelect", &ListState::MultiSelect, value); });
+void nvList::ScrollColorStyle(cScrollColorStyle value) {
+  assignOnly("ScrollColorStyle", &ListState::ScrollColorStyle, value);
+}
+
+void nvList::BorderColor(Colour value) {
+  trapped(here, "BorderColor", [&](Trap& on) {
+    assign(on, "BorderColor", &ListState::BorderColor, value);
+    on.step([&] { DrawBorder(); });
+  });
+}
+
+void nvList::BorderVisible(Boolean value) {
+  trapped(here, "BorderVisible", [&](Trap& on) {
+    assign(on, "BorderVisible", &ListState::BorderVisible, value);
+    on.step([&] { DrawBorder(); });
+  });
+}
+
+void nvList::AllowEdit(Boolean value) {
+  trapped(here, "AllowEdit", [&](Trap& on) {
+    assign(on, "AllowEdit", &ListState::AllowEdit, value);
+    on.step([&] { Redraw(); });
+  });
+}
+
+void nvList::AutoRedraw(Boolean value) {
+  trapped(here, "AutoRedraw", [&](Trap& on) {
+    assign(on, "AutoRedraw", &ListState::AutoRedraw, value);
+    if (!value.isTrue()) return;
+    on.step([&] { CheckItemWidth(); });
+    on.step([&] { Redraw(); });
+  });
+}
+
+void nvList::AutoCheckScroll(Boolean value) {
+  trapped(here, "AutoCheckScroll", [&](Trap& on) {
+    assign(on, "AutoCheckScroll", &ListState::AutoCheckScroll, value);
+    if (!value.isTrue()) return;
+    on.step([&] { CheckItemWidth(); });
+    on.step([&] { CheckScroll(); });
+  });
 }
 
 }  // namespace norvane

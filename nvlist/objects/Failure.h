@@ -24,6 +24,9 @@ class Failure : public std::runtime_error {
   static Failure divisionByZero() { return {11, "Division by zero"}; }
   static Failure typeMismatch() { return {13, "Type mismatch"}; }
   static Failure invalidPattern() { return {93, "Invalid pattern string"}; }
+  static Failure noControlArrayElement(std::int32_t index) {
+    return {340, "Control array element '" + std::to_string(index) + "' doesn't exist"};
+  }
   static Failure automation(const std::string& what) { return {440, "Automation error: " + what}; }
 
  private:

@@ -1,18 +1,41 @@
 #pragma once
 
+#include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 
 #include <nvlist/core/Boolean.h>
 #include <nvlist/core/Font.h>
+#include <nvlist/platform/Timer.h>
+#include <nvlist/render/Surface.h>
 
 namespace norvane {
 
-/// The place a control stands in: what the control asks of the form around it. A platform has one
-/// for each control; it outlives the control. Any call may throw.
+class UserControl;
+
+/// Where a control stands in the one around it, in pixels of that one.
+struct Bounds {
+  float Left = 0;
+  float Top = 0;
+  float Width = 0;
+  float Height = 0;
+
+  friend bool operator==(const Bounds&, const Bounds&) = default;
+};
+
+/// The place a control stands in: what a control asks of the form, or of the control, around it. A
+/// platform has one for each control; it outlives the control. Any call may throw.
 class Container {
  public:
   virtual ~Container() = default;
+
+  /// Told once by a control when it comes up, and with nullptr when it goes: whom to notify.
+  virtual void attach(UserControl* control) = 0;
+  /// What the control draws on. Lives as long as the place.
+  virtual Surface& surface() = 0;
+
+  // ---- the form ----
 
   /// Told after each change of a property, with the property's exact name.
   virtual void PropertyChanged(std::string_view name) = 0;
@@ -30,6 +53,29 @@ class Container {
   /// Dispatches what waits, or some of it: messages, timers, repaints. Handlers of the host run
   /// inside it and may call any public operation of the control.
   virtual void DoEvents() = 0;
+
+  // ---- the place ----
+
+  /// Moves the control and gives its surface the new size, both at once; the platform may round.
+  /// It does not notify the control.
+  virtual void move(const Bounds& bounds) = 0;
+  /// Shows or hides it. A new place shows.
+  virtual void show(bool isVisible) = 0;
+  /// Whether the control and those in it hear the mouse. A new place does.
+  virtual void enable(bool isEnabled) = 0;
+
+  /// From now on the control hears moves also where the pointer is outside of it, until
+  /// ReleaseCapture. A platform may end this with one move that tells of the pointer outside; it
+  /// need not take the pointer from other programs.
+  virtual void SetCapture() = 0;
+  virtual void ReleaseCapture() = 0;
+
+  // ---- what stands in it ----
+
+  /// A place for one more control, in this one and in front of those before.
+  virtual std::unique_ptr<Container> addChild() = 0;
+  /// A timer that calls `tick`, which must not throw.
+  virtual std::unique_ptr<Timer> addTimer(std::function<void()> tick) = 0;
 };
 
 }  // namespace norvane

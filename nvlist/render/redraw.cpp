@@ -102,8 +102,8 @@ void nvList::paintFace(Trap& on) {
     if (WrongIndex(state_.LoopIndex)) break;
     if (state_.SuppressRedraw) return;
     paintRow(on, repaint);
-    ++state_.LoopIndex;
     if (state_.SuppressRedraw) return;
+    repaint.isFirstRow = false;
   }
 
   // Leaves its mark that the rows were counted; an unusable row height is told here.

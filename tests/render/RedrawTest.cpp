@@ -24,18 +24,30 @@ TEST_F(Redraw, PaintsARowCallByCall) {
   EXPECT_EQ(headless.picture(),
             "Cls\n"
             "CurrentY 3\n"
+            "CurrentX 3\n"
             "Line 38 (0, 3)-(200, 16) #FFFFFF\n"
+            "CurrentY 3\n"
             "CurrentY 3\n"
             "CurrentX 3\n"
             "ForeColor #000000\n"
+            "FontBold off\n"
+            "FontItalic off\n"
+            "FontUnderline off\n"
             "DrawTextA \"Vienna\" (3, 3)-(200, 100) 64\n"
             "CurrentY 16\n"
+            "CurrentX 3\n"
+            "CurrentX 3\n"
             "Line 38 (0, 16)-(200, 29) #FFFFFF\n"
+            "CurrentY 16\n"
             "CurrentY 16\n"
             "CurrentX 3\n"
             "ForeColor #000000\n"
+            "FontBold off\n"
+            "FontItalic off\n"
+            "FontUnderline off\n"
             "DrawTextA \"two\\x0Alines\" (3, 10)-(200, 100) 64\n"
-            "CurrentY 29\n");
+            "CurrentY 29\n"
+            "CurrentX 3\n");
 }
 
 TEST_F(Redraw, PaintsWholeRowsOnly) {
@@ -128,9 +140,9 @@ TEST_F(Redraw, AFailureLeavesTheRepaintInTheMiddle) {
       HeadlessSurface::DrawTextA(hDC, text, length, rectangle, format);
     }
   };
-  HeadlessContainer container;
   Broken surface(200, 100);
-  nvList own(container, surface);
+  HeadlessContainer container(surface);
+  nvList own(container);
   own.UserControl_InitProperties();
   silent();
   for (const char* text : {"a", "bad", "c"}) own.ItemsAdd(text);
@@ -156,9 +168,9 @@ TEST_F(Redraw, ACallFromInsideARepaintIsDropped) {
     }
     nvList* list = nullptr;
   };
-  HeadlessContainer container;
   Reentrant surface(200, 100);
-  nvList own(container, surface);
+  HeadlessContainer container(surface);
+  nvList own(container);
   own.UserControl_InitProperties();
   own.ItemsAdd("a");
   own.ItemsAdd("b");
@@ -180,9 +192,9 @@ TEST_F(Redraw, AHostThatChangesTheListInTheMiddleOfARowIsSurvived) {
     }
     nvList* list = nullptr;
   };
-  HeadlessContainer container;
   Hostile surface(200, 100);
-  nvList own(container, surface);
+  HeadlessContainer container(surface);
+  nvList own(container);
   own.UserControl_InitProperties();
   const std::string text = "a text too long to stand in the item itself";
   own.ItemsAdd(text);
@@ -202,12 +214,13 @@ TEST_F(Redraw, ADesignerShowsASampleRowWithTheName) {
     return headless.picture();
   };
   const std::string name = "CurrentY 3\nPrint \"nvList1\"\n";
-  const std::string box = "PaintPicture 13x13 at (3, 3)\n";
+  const std::string box = "PaintPicture 13x13 \"check box\" at (3, 3)\n";
   EXPECT_EQ(preview(cDefault), "Cls\nCurrentX 3\n" + name);
   EXPECT_EQ(preview(cCheckBoxes), "Cls\n" + box + "CurrentX 18\n" + name);
-  EXPECT_EQ(preview(cIcons), "Cls\nPaintPicture 32x32 at (3, 1.5) as 16x16\nCurrentX 21\n" + name);
+  const std::string icon = "PaintPicture 32x32 \"sample icon\" at ";
+  EXPECT_EQ(preview(cIcons), "Cls\n" + icon + "(3, 1.5) as 16x16\nCurrentX 21\n" + name);
   EXPECT_EQ(preview(cCheckBoxesIcons),
-            "Cls\n" + box + "PaintPicture 32x32 at (19, 1.5) as 16x16\nCurrentX 37\n" + name);
+            "Cls\n" + box + icon + "(19, 1.5) as 16x16\nCurrentX 37\n" + name);
 }
 
 }  // namespace

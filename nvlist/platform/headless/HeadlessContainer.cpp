@@ -1,6 +1,44 @@
 #include <nvlist/platform/headless/HeadlessContainer.h>
 
+#include <algorithm>
+
+#include <nvlist/objects/Failure.h>
+#include <nvlist/platform/UserControl.h>
+
 namespace norvane {
+
+HeadlessContainer::HeadlessContainer(float width, float height)
+    : ownSurface_(std::in_place, width, height), surface_(*ownSurface_), root_(*this) {}
+
+HeadlessContainer::HeadlessContainer(Surface& surface) : surface_(surface), root_(*this) {}
+
+HeadlessContainer::HeadlessContainer(HeadlessContainer* parent)
+    : ownSurface_(std::in_place, 0.0F, 0.0F),
+      surface_(*ownSurface_),
+      parent_(parent),
+      root_(parent->root_) {
+  parent_->children_.push_back(this);
+}
+
+HeadlessContainer::~HeadlessContainer() {
+  for (HeadlessContainer* child : children_) child->parent_ = nullptr;
+  if (parent_) std::erase(parent_->children_, this);
+  if (root_.pressed_ == this) root_.pressed_ = nullptr;
+  if (root_.captured_ == this) root_.captured_ = nullptr;
+}
+
+std::unique_ptr<Container> HeadlessContainer::addChild() {
+  return std::unique_ptr<Container>(new HeadlessContainer(this));
+}
+
+std::unique_ptr<Timer> HeadlessContainer::addTimer(std::function<void()> tick) {
+  return root_.clock_.addTimer(std::move(tick));
+}
+
+HeadlessSurface& HeadlessContainer::ownSurface() {
+  if (!ownSurface_) throw Failure::invalidCall();
+  return *ownSurface_;
+}
 
 void HeadlessContainer::PropertyChanged(std::string_view property) {
   // A copy, as a handler may take itself away.
@@ -9,10 +47,71 @@ void HeadlessContainer::PropertyChanged(std::string_view property) {
 }
 
 void HeadlessContainer::DoEvents() {
-  if (queue_.empty()) return;
-  const std::function<void()> message = std::move(queue_.front());
-  queue_.pop_front();
+  if (root_.queue_.empty()) return;
+  const std::function<void()> message = std::move(root_.queue_.front());
+  root_.queue_.pop_front();
   if (message) message();
+}
+
+void HeadlessContainer::move(const Bounds& bounds) {
+  bounds_ = bounds;
+  ownSurface().resize(bounds.Width, bounds.Height);
+}
+
+HeadlessContainer* HeadlessContainer::hit(Point point) {
+  for (auto child = children_.rbegin(); child != children_.rend(); ++child) {
+    const Bounds& place = (*child)->bounds_;
+    const Point inside{point.x - place.Left, point.y - place.Top};
+    const bool isInside = inside.x >= 0 && inside.y >= 0 && inside.x < place.Width &&
+                          inside.y < place.Height && (*child)->isVisible_;
+    if (!isInside) continue;
+    // What a disabled control covers hears nothing either.
+    return (*child)->isEnabled_ ? (*child)->hit(inside) : nullptr;
+  }
+  return isEnabled_ ? this : nullptr;
+}
+
+HeadlessContainer::Point HeadlessContainer::onRoot(Point point) const {
+  for (const HeadlessContainer* place = this; place->parent_; place = place->parent_)
+    point = {point.x + place->bounds_.Left, point.y + place->bounds_.Top};
+  return point;
+}
+
+HeadlessContainer::Point HeadlessContainer::fromRoot(Point point) const {
+  const Point origin = onRoot({0, 0});
+  return {point.x - origin.x, point.y - origin.y};
+}
+
+void HeadlessContainer::press(float x, float y, std::int16_t button, std::int16_t shift) {
+  const Point point = onRoot({x, y});
+  HeadlessContainer* const target = root_.pressed_ ? root_.pressed_ : root_.hit(point);
+  if (!target || !target->control_) return;
+  root_.pressed_ = target;
+  const Point own = target->fromRoot(point);
+  target->control_->UserControl_MouseDown(button, shift, own.x, own.y);
+}
+
+void HeadlessContainer::moveTo(float x, float y, std::int16_t buttons, std::int16_t shift) {
+  const Point point = onRoot({x, y});
+  const auto tell = [&](HeadlessContainer* target) {
+    if (!target || !target->control_) return;
+    const Point own = target->fromRoot(point);
+    target->control_->UserControl_MouseMove(buttons, shift, own.x, own.y);
+  };
+  if (root_.pressed_) {
+    tell(root_.pressed_);
+    return;
+  }
+  HeadlessContainer* const under = root_.hit(point);
+  if (root_.captured_ != under) tell(root_.captured_);
+  tell(under);
+}
+
+void HeadlessContainer::release(float x, float y, std::int16_t button, std::int16_t shift) {
+  HeadlessContainer* const target = std::exchange(root_.pressed_, nullptr);
+  if (!target || !target->control_) return;
+  const Point own = target->fromRoot(onRoot({x, y}));
+  target->control_->UserControl_MouseUp(button, shift, own.x, own.y);
 }
 
 }  // namespace norvane

@@ -2,34 +2,32 @@
 
 #include <nvlist/nvList.h>
 #include <nvlist/platform/headless/HeadlessContainer.h>
-#include <nvlist/platform/headless/HeadlessSurface.h>
 
 namespace norvane {
 
-/// A list without a screen, with the surface it draws on and the place it stands in.
+/// A list without a screen, with the place it stands in.
 class HeadlessList {
  public:
   /// Size in pixels.
-  explicit HeadlessList(float width = 200, float height = 100) : surface_(width, height) {
+  explicit HeadlessList(float width = 200, float height = 100) : container_(width, height) {
     list_.UserControl_InitProperties();
   }
 
   nvList& list() { return list_; }
-  HeadlessSurface& surface() { return surface_; }
   HeadlessContainer& container() { return container_; }
+  HeadlessSurface& surface() { return container_.ownSurface(); }
 
   /// What the list shows now, one drawing call a line.
-  std::string picture() const { return surface_.image().text(); }
+  std::string picture() { return surface().image().text(); }
 
   void resize(float width, float height) {
-    surface_.resize(width, height);
+    surface().resize(width, height);
     list_.UserControl_Resize();
   }
 
  private:
   HeadlessContainer container_;
-  HeadlessSurface surface_;
-  nvList list_{container_, surface_};
+  nvList list_{container_};
 };
 
 }  // namespace norvane

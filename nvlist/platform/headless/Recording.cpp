@@ -37,6 +37,13 @@ std::string quoted(const std::string& text) {
   return result + "\"";
 }
 
+std::string textOfPicture(const Picture& picture) {
+  if (!picture) return "none";
+  const std::string size = textOf(picture->width()) + "x" + textOf(picture->height());
+  const std::string description = picture->description();
+  return description.empty() ? size : size + " " + quoted(description);
+}
+
 std::string onOff(Boolean on) { return on ? "on" : "off"; }
 
 struct Printer {
@@ -46,9 +53,7 @@ struct Printer {
            "-" + point(call.x2, call.y2) + " " + textOfColour(call.colour);
   }
   std::string operator()(const calls::PaintPicture& call) const {
-    std::string result = "PaintPicture ";
-    result += call.picture ? textOf(call.picture->width()) + "x" + textOf(call.picture->height())
-                           : "none";
+    std::string result = "PaintPicture " + textOfPicture(call.picture);
     result += " at " + point(call.x, call.y);
     if (call.isScaled) result += " as " + textOf(call.width) + "x" + textOf(call.height);
     return result;

@@ -78,8 +78,9 @@ class Recording {
   std::vector<SurfaceCall> calls;
 
   /// One line a call, such as `Line 38 (0, 3)-(200, 16) #FFFFFF`. Colours are #RRGGBB, system
-  /// colours `system 17`; what is not printable in a text is escaped as \xNN. Of a bitmap
-  /// the size is told, and the first pixel of its lowest row and the last one of its highest row.
+  /// colours `system 17`; what is not printable in a text is escaped as \xNN. Of a picture the size
+  /// is told, and its description where it has one; of a bitmap the size, the first pixel of its
+  /// lowest row and the last one of its highest row.
   std::string text() const;
 
   /// Makes the same calls on another surface.

@@ -2,11 +2,10 @@
 
 #include <QWidget>
 #include <functional>
-#include <memory>
 #include <string_view>
 
 #include <nvlist/nvList.h>
-#include <nvlist/platform/qt/QtSurface.h>
+#include <nvlist/platform/qt/QtPlace.h>
 
 namespace norvane {
 
@@ -27,7 +26,7 @@ class NvListWidget : public QWidget {
   nvList& list() { return list_; }
 
   /// Whether the list shows the preview of a form designer instead of its items. Default: false.
-  bool isDesignMode() const;
+  bool isDesignMode() const { return place_.isDesignMode; }
   void setDesignMode(bool on);
 
   /// Told after each change of a property of the list, with the property's exact name. Default:
@@ -42,12 +41,7 @@ class NvListWidget : public QWidget {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  class Place;
-
-  void renewImage();
-
-  QtSurface surface_;
-  std::unique_ptr<Place> place_;
+  QtPlace place_;
   nvList list_;
 };
 

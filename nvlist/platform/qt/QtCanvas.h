@@ -35,6 +35,7 @@ class QtCanvas final : public Surface {
   /// the surface; a copy does not follow what is drawn later.
   const QImage& image();
   qreal devicePixelRatio() const { return dpr_; }
+  QSize size() const { return size_; }
 
   /// Where the system colours come from. Default: the palette of the application. What is drawn
   /// already stays as it is.

@@ -24,6 +24,8 @@ class QtSurface final : public Surface {
   /// long as the surface; a copy does not follow what is drawn later.
   const QImage& image();
   qreal devicePixelRatio() const { return canvas_.devicePixelRatio(); }
+  /// As last given to resize.
+  QSize size() const { return canvas_.size(); }
 
   /// Where the system colours come from. Default: the palette of the application. What was seen
   /// already stays as it is.

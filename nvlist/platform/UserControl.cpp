@@ -1,0 +1,41 @@
+#include <nvlist/platform/UserControl.h>
+
+#include <algorithm>
+
+namespace norvane {
+
+UserControl::UserControl(Container& place) : container_(place), surface_(place.surface()) {
+  container_.attach(this);
+}
+
+UserControl::UserControl(std::unique_ptr<Container> place)
+    : ownPlace_(std::move(place)), container_(*ownPlace_), surface_(container_.surface()) {
+  container_.attach(this);
+}
+
+UserControl::~UserControl() { container_.attach(nullptr); }
+
+void UserControl::UserControl_MouseDown(std::int16_t, std::int16_t, float, float) {}
+void UserControl::UserControl_MouseMove(std::int16_t, std::int16_t, float, float) {}
+void UserControl::UserControl_MouseUp(std::int16_t, std::int16_t, float, float) {}
+
+void UserControl::Left(float value) { Move({value, Top(), Width(), Height()}); }
+void UserControl::Top(float value) { Move({Left(), value, Width(), Height()}); }
+void UserControl::Width(float value) { Move({Left(), Top(), value, Height()}); }
+void UserControl::Height(float value) { Move({Left(), Top(), Width(), value}); }
+
+void UserControl::Move(const Bounds& bounds) {
+  const Bounds before = bounds_;
+  bounds_ = {bounds.Left, bounds.Top, std::max(bounds.Width, 0.0F), std::max(bounds.Height, 0.0F)};
+  container_.move(bounds_);
+  if (bounds_.Width != before.Width || bounds_.Height != before.Height) UserControl_Resize();
+}
+
+void UserControl::Visible(Boolean value) {
+  const bool wasVisible = static_cast<bool>(visible_);
+  visible_ = value;
+  container_.show(static_cast<bool>(value));
+  if (value && !wasVisible) UserControl_Show();
+}
+
+}  // namespace norvane

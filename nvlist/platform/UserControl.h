@@ -1,0 +1,76 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include <nvlist/core/Boolean.h>
+#include <nvlist/platform/Container.h>
+
+namespace norvane {
+
+/// Base of every control of the library: the list, its scroll bars, their thumbs and buttons.
+///
+/// A platform calls the notifications, with positions in pixels of the control's own surface. The
+/// control around it reads and sets the place.
+class UserControl {
+ public:
+  UserControl(const UserControl&) = delete;
+  UserControl& operator=(const UserControl&) = delete;
+  virtual ~UserControl();
+
+  // ---- notifications of the platform ----
+
+  /// `Button` is the one pressed or released: 1 left, 2 right, 4 middle. For a move it is the sum
+  /// of all that are down. `Shift` is the sum of 1 Shift, 2 Ctrl and 4 Alt. From the press to the
+  /// release all moves come to the control that was pressed, wherever the pointer is.
+  virtual void UserControl_MouseDown(std::int16_t Button, std::int16_t Shift, float X, float Y);
+  virtual void UserControl_MouseMove(std::int16_t Button, std::int16_t Shift, float X, float Y);
+  virtual void UserControl_MouseUp(std::int16_t Button, std::int16_t Shift, float X, float Y);
+  /// The surface has another size.
+  virtual void UserControl_Resize() {}
+  /// The control has become visible.
+  virtual void UserControl_Show() {}
+  /// What was painted is lost, as on a screen of another resolution: it has to be painted anew.
+  virtual void UserControl_Paint() {}
+
+  // ---- the place, in pixels of the control around it ----
+
+  float Left() const { return bounds_.Left; }
+  void Left(float value);
+  float Top() const { return bounds_.Top; }
+  void Top(float value);
+  /// A size below 0 counts as 0. Another size runs UserControl_Resize.
+  float Width() const { return bounds_.Width; }
+  void Width(float value);
+  float Height() const { return bounds_.Height; }
+  void Height(float value);
+  void Move(const Bounds& bounds);
+  /// Default: true. Turning visible runs UserControl_Show.
+  Boolean Visible() const { return visible_; }
+  void Visible(Boolean value);
+
+ protected:
+  /// Outer sizes that a control gives itself are in this unit.
+  static constexpr float twipsPerPixel = 15;
+
+  /// A control in a place that somebody else owns and that outlives it.
+  explicit UserControl(Container& place);
+  /// A control that owns its place.
+  explicit UserControl(std::unique_ptr<Container> place);
+
+  /// Whether the control, with those in it, hears the mouse. Default: true.
+  void listenToMouse(Boolean on) { container_.enable(static_cast<bool>(on)); }
+
+ private:
+  std::unique_ptr<Container> ownPlace_;
+
+ protected:
+  Container& container_;
+  Surface& surface_;
+
+ private:
+  Bounds bounds_;
+  Boolean visible_ = true;
+};
+
+}  // namespace norvane

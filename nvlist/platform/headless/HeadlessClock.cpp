@@ -1,0 +1,69 @@
+#include <nvlist/platform/headless/HeadlessClock.h>
+
+#include <algorithm>
+
+namespace norvane {
+
+class HeadlessClock::ClockTimer final : public Timer {
+ public:
+  ClockTimer(HeadlessClock& clock, std::function<void()> tick)
+      : clock_(clock), tick_(std::move(tick)) {
+    clock_.timers_.push_back(this);
+  }
+  ~ClockTimer() override { std::erase(clock_.timers_, this); }
+
+  std::int32_t Interval() const override { return interval_; }
+  void Interval(std::int32_t milliseconds) override {
+    interval_ = milliseconds;
+    begin();
+  }
+  Boolean Enabled() const override { return enabled_; }
+  void Enabled(Boolean on) override {
+    if (!enabled_ && on) begin();
+    enabled_ = on;
+  }
+
+  bool isRunning() const { return enabled_ && interval_ > 0; }
+  Time due() const { return begun_ + std::chrono::milliseconds(interval_); }
+  void begin() { begun_ = clock_.now_; }
+  void tick() {
+    begin();
+    // A copy, as the tick may end the timer.
+    const auto tick = tick_;
+    tick();
+  }
+
+ private:
+  HeadlessClock& clock_;
+  std::function<void()> tick_;
+  std::int32_t interval_ = 0;
+  Boolean enabled_ = false;
+  Time begun_;
+};
+
+std::unique_ptr<Timer> HeadlessClock::addTimer(std::function<void()> tick) {
+  return std::make_unique<ClockTimer>(*this, std::move(tick));
+}
+
+HeadlessClock::ClockTimer* HeadlessClock::next() const {
+  ClockTimer* first = nullptr;
+  for (ClockTimer* timer : timers_)
+    if (timer->isRunning() && (!first || timer->due() < first->due())) first = timer;
+  return first;
+}
+
+void HeadlessClock::set(Time now) {
+  now_ = now;
+  for (ClockTimer* timer : timers_) timer->begin();
+}
+
+void HeadlessClock::advance(std::chrono::milliseconds by) {
+  const Time end = now_ + by;
+  for (ClockTimer* timer = next(); timer && timer->due() <= end; timer = next()) {
+    now_ = std::max(now_, timer->due());
+    timer->tick();
+  }
+  now_ = std::max(now_, end);
+}
+
+}  // namespace norvane

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include <nvlist/core/Picture.h>
+
+namespace norvane::art {
+
+struct Pixel {
+  std::uint8_t red, green, blue;
+
+  friend bool operator==(const Pixel&, const Pixel&) = default;
+};
+
+/// The colour 0xRRGGBB.
+constexpr Pixel pixel(std::uint32_t rgb) {
+  return {static_cast<std::uint8_t>(rgb >> 16), static_cast<std::uint8_t>(rgb >> 8),
+          static_cast<std::uint8_t>(rgb)};
+}
+
+/// The colour `step` of `steps` on the way from one colour to another, to the nearest.
+constexpr Pixel mix(Pixel from, Pixel to, int step, int steps) {
+  const auto between = [&](int first, int last) {
+    return static_cast<std::uint8_t>((first * (steps - step) + last * step + steps / 2) / steps);
+  };
+  return {between(from.red, to.red), between(from.green, to.green), between(from.blue, to.blue)};
+}
+
+constexpr Pixel white = pixel(0xFFFFFF);
+
+/// A picture in memory; its file is an uncompressed bitmap of 24 bits, which every platform reads.
+class DrawnPicture final : public PictureObject {
+ public:
+  /// A black picture of so many pixels, of at least one each way. `name` is its description.
+  DrawnPicture(std::string name, int width, int height);
+
+  float width() const override { return static_cast<float>(width_); }
+  float height() const override { return static_cast<float>(height_); }
+  std::vector<std::byte> fileBytes() const override;
+  std::string description() const override { return name_; }
+
+  /// The pixel in a row, from the top, and a column; both have to be inside.
+  Pixel& at(int row, int column) { return pixels_[index(row, column)]; }
+  const Pixel& at(int row, int column) const { return pixels_[index(row, column)]; }
+
+ private:
+  std::size_t index(int row, int column) const {
+    return static_cast<std::size_t>(row) * static_cast<std::size_t>(width_) +
+           static_cast<std::size_t>(column);
+  }
+
+  std::string name_;
+  int width_;
+  int height_;
+  std::vector<Pixel> pixels_;
+};
+
+/// Draws a picture pixel by pixel: `pixelAt` gives the one in a row and a column.
+template <class PixelAt>
+Picture drawn(std::string name, int width, int height, PixelAt&& pixelAt) {
+  auto picture = makeRef<DrawnPicture>(std::move(name), width, height);
+  for (int row = 0; row < height; ++row)
+    for (int column = 0; column < width; ++column) picture->at(row, column) = pixelAt(row, column);
+  return picture;
+}
+
+}  // namespace norvane::art

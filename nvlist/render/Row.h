@@ -1,0 +1,60 @@
+#pragma once
+
+#include <string>
+
+#include <nvlist/nvList.h>
+#include <nvlist/render/RepaintValues.h>
+
+namespace norvane {
+
+/// Paints one row: the item at LoopIndex, from CurrentY down. CurrentY is then at the next row's
+/// top, and the font has the flags of this item: the next row is measured with them.
+class nvList::Row {
+ public:
+  Row(nvList& list, Trap& on, RepaintValues& repaint);
+
+  /// False where the properties began to be read anew in the middle of it.
+  bool paint();
+
+ private:
+  // render/rows.cpp
+  ListItem& item() { return list_.item(state_.LoopIndex); }
+  float width() { return surface_.ScaleWidth(); }
+  float textWidth() { return surface_.TextWidth(repaint_.text); }
+  float pictureColumn() const;
+  float contentLeft() const;
+  bool isScrollNeeded();
+  void fill(float left, float right, Colour colour);
+  void toTop();
+  void markMoveTarget();
+  void paintCheckBox();
+  void paintIcon();
+  void setTextColour();
+  void paintGridLines();
+
+  // render/rowSelection.cpp
+  bool paintBackground();
+  Variant selectColour();
+  void selectWholeRow();
+  void selectText();
+  float selectionLeft();
+  void setFocusRect(float left, float right);
+  void fillPictureColumn();
+
+  // render/rowText.cpp
+  void alignText();
+  void setFontFlags();
+  void paintText();
+  void paintTwoColumns(Rectangle textRect, std::size_t marker);
+
+  nvList& list_;
+  Trap& on_;
+  RepaintValues& repaint_;
+  Surface& surface_;
+  ListState& state_;
+  const float height_;
+  float top_ = 0;
+  Variant selectColour_;
+};
+
+}  // namespace norvane

@@ -1,0 +1,106 @@
+#include <nvlist/core/numbers.h>
+#include <nvlist/render/Row.h>
+
+namespace norvane {
+
+using checked::nearest;
+
+/// False where the properties began to be read anew.
+bool nvList::Row::paintBackground() {
+  if (on_.test([&] { return !item().Enabled; })) {
+    on_.step([&] { top_ = surface_.CurrentY(); });
+    on_.step([&] { fill(0, width(), item().BackColorDis); });
+    toTop();
+    return true;
+  }
+
+  on_.step([&] { selectColour_ = selectColour(); });
+  on_.step([&] {
+    const ListItem& current = item();
+    if (!isDefaultMark(current.BackColor))
+      state_.RowBackColor = current.BackColor.toInt32();
+    else if (current.Selected)
+      state_.RowBackColor = selectColour_.toInt32();
+    else
+      state_.RowBackColor = state_.BackColor;
+  });
+  on_.step([&] { top_ = surface_.CurrentY(); });
+  if (on_.test([&] { return !item().Selected; })) {
+    on_.step([&] { fill(0, width(), state_.RowBackColor); });
+    toTop();
+    return true;
+  }
+
+  if (state_.FullRowSelect)
+    selectWholeRow();
+  else
+    selectText();
+  if (state_.ShowFocusRect && state_.HasFocus)
+    on_.step([&] { surface_.DrawFocusRect(surface_.hDC(), state_.FocusRect); });
+  if (state_.SuppressRedraw) return false;
+  // Every way to here ended in a box, which left CurrentY at the row's foot.
+  on_.step([&] { top_ = surface_.CurrentY() - height_; });
+  fillPictureColumn();
+  toTop();
+  return true;
+}
+
+Variant nvList::Row::selectColour() {
+  const Variant& own = item().BackColorSelect;
+  return isDefaultMark(own) ? Variant(list_.aktValueColor()) : own;
+}
+
+void nvList::Row::selectWholeRow() {
+  const float left = pictureColumn();
+  on_.step([&] { fill(left, width(), selectColour_.toInt32()); });
+  // With both pictures the focus rectangle leaves out the check box, the selection does not.
+  const float focusLeft =
+      state_.Style == cCheckBoxesIcons
+          ? state_.IconW + static_cast<float>(repaint_.ItemLeft) + state_.DistPicText
+          : left;
+  setFocusRect(focusLeft, width());
+}
+
+/// Selects the text alone. The boxes follow neither a horizontal scroll nor the place that the
+/// pictures take from a centred text.
+void nvList::Row::selectText() {
+  float left = 0;
+  on_.step([&] { left = selectionLeft(); });
+  const bool isLeft =
+      on_.test([&] { return item().Alignment != cCenter && item().Alignment != cRight; });
+  if (isLeft)
+    on_.step([&] { fill(left + textWidth(), width(), state_.RowBackColor); });
+  else
+    on_.step([&] { fill(0, width(), state_.RowBackColor); });
+  toTop();
+  on_.step([&] {
+    const float right = left + textWidth() + (isLeft ? 1.0F : 0.0F);
+    fill(left, right, selectColour_.toInt32());
+  });
+  // At the left edge, wherever the text stands.
+  setFocusRect(0, textWidth());
+}
+
+float nvList::Row::selectionLeft() {
+  const cItemAlignment alignment = item().Alignment;
+  if (alignment != cCenter && alignment != cRight) return pictureColumn();
+  const float right = width() - (isScrollNeeded() ? state_.VScroll1.Width : 0);
+  return alignment == cCenter ? (right - textWidth()) / 2 : right - textWidth() - 3;
+}
+
+void nvList::Row::setFocusRect(float left, float right) {
+  Rectangle& rect = state_.FocusRect;
+  on_.step([&] { rect.Left = nearest<std::int32_t>(left); });
+  on_.step([&] { rect.Top = nearest<std::int32_t>(top_); });
+  on_.step([&] { rect.Right = nearest<std::int32_t>(right); });
+  on_.step([&] { rect.Bottom = nearest<std::int32_t>(top_ + height_); });
+}
+
+void nvList::Row::fillPictureColumn() {
+  if (state_.Style == cDefault) return;
+  on_.step([&] {
+    fill(0, pictureColumn(), state_.IconSelect ? selectColour_.toInt32() : state_.RowBackColor);
+  });
+}
+
+}  // namespace norvane

@@ -1,0 +1,105 @@
+#include <algorithm>
+#include <string_view>
+
+#include <nvlist/core/numbers.h>
+#include <nvlist/render/Row.h>
+
+namespace norvane {
+
+using checked::nearest;
+
+namespace {
+
+/// Parts the two columns of a row; its letters count in any capitalisation.
+constexpr std::string_view columnMarker = "|right=";
+
+constexpr std::int32_t marginOfRightColumn = 3;
+
+/// Where the first marker stands, in bytes, or npos.
+std::size_t markerIn(std::string_view text) {
+  const auto isSame = [](char inMarker, char inText) {
+    const bool isLetter = inText >= 'A' && inText <= 'Z';
+    return inMarker == (isLetter ? static_cast<char>(inText - 'A' + 'a') : inText);
+  };
+  for (std::size_t at = text.find(columnMarker[0]); at < text.size();
+       at = text.find(columnMarker[0], at + 1)) {
+    const std::string_view part = text.substr(at, columnMarker.size());
+    if (std::equal(columnMarker.begin(), columnMarker.end(), part.begin(), part.end(), isSame))
+      return at;
+  }
+  return std::string_view::npos;
+}
+
+/// What pictures take from the width of a centred text: fixed sizes, whatever theirs are.
+float pictureAllowance(const ListState& state) {
+  switch (state.Style) {
+    case cCheckBoxes:
+    case cIcons:
+      return 16 + state.DistPicText;
+    case cCheckBoxesIcons:
+      return 32 + state.DistPicText + 3;
+    default:
+      return 0;
+  }
+}
+
+}  // namespace
+
+void nvList::Row::alignText() {
+  on_.step([&] {
+    const cItemAlignment alignment = item().Alignment;
+    if (alignment != cCenter && alignment != cRight) return;
+    const double right =
+        static_cast<double>(repaint_.ItemRight) - (isScrollNeeded() ? state_.VScroll1.Width : 0);
+    const double left = alignment == cCenter
+                            ? (right - (textWidth() - pictureAllowance(state_))) / 2
+                            : right - textWidth() - 3;
+    surface_.CurrentX(static_cast<float>(left - repaint_.ScrollOffset));
+  });
+}
+
+void nvList::Row::paintText() {
+  Rectangle rect;
+  on_.step([&] {
+    const float textHeight = surface_.TextHeight(repaint_.text);
+    rect.Top = nearest<std::int32_t>((height_ - textHeight) / 2 + surface_.CurrentY());
+  });
+  on_.step([&] { rect.Left = nearest<std::int32_t>(surface_.CurrentX()); });
+  rect.Right = repaint_.ItemRight;
+  // Down to the foot of the surface: a text of several lines goes on over the rows below.
+  on_.step([&] { rect.Bottom = nearest<std::int32_t>(surface_.ScaleHeight()); });
+
+  setFontFlags();
+  const std::size_t marker = markerIn(repaint_.text);
+  if (marker != std::string_view::npos) {
+    paintTwoColumns(rect, marker);
+    return;
+  }
+  on_.step(
+      [&] { surface_.DrawTextA(surface_.hDC(), repaint_.text, -1, rect, TextFormat::expandTabs); });
+}
+
+/// Only now: all measures of the row were taken with the flags of the row above.
+void nvList::Row::setFontFlags() {
+  on_.step([&] { surface_.FontBold(item().Bold); });
+  on_.step([&] { surface_.FontItalic(item().Italic); });
+  on_.step([&] { surface_.FontUnderline(item().Underline); });
+}
+
+void nvList::Row::paintTwoColumns(Rectangle rect, std::size_t marker) {
+  const std::string_view text = repaint_.text;
+  if (state_.VScroll1.Visible)
+    on_.step([&] {
+      rect.Right = nearest<std::int32_t>(static_cast<double>(rect.Right) - state_.VScroll1.Width);
+    });
+  on_.step([&] {
+    surface_.DrawTextA(surface_.hDC(), text.substr(0, marker), -1, rect, TextFormat::expandTabs);
+  });
+  on_.step([&] { rect.Right = checked::subtract(rect.Right, marginOfRightColumn); });
+  on_.step([&] {
+    surface_.DrawTextA(surface_.hDC(), text.substr(marker + columnMarker.size()), -1, rect,
+                       TextFormat::right);
+  });
+}
+
+}  // namespace norvane
