@@ -15,7 +15,7 @@ namespace norvane {
 
 /// How Surface::Line draws.
 enum class LineMode : std::int32_t {
-  plainLine = 6,    ///< one line from the first point to the second
+  plainLine = 6,    ///< a line from the first point up to the second, which is left out
   outlineBox = 22,  ///< the outline of the rectangle between the points
   filledBox = 38    ///< that rectangle filled, outline included
 };
@@ -67,8 +67,10 @@ class Surface {
   /// Fills the whole image with the background colour; the current position becomes (0, 0).
   virtual void Cls() = 0;
 
-  /// Draws one pixel wide, both end points included, and leaves the current position at (x2, y2).
+  /// Draws one pixel wide and leaves the current position at (x2, y2).
   virtual void Line(LineMode mode, float x1, float y1, float x2, float y2, Colour colour) = 0;
+  /// Draws one pixel and leaves the current position there.
+  virtual void PSet(float x, float y, Colour colour) = 0;
 
   /// Draws a picture with its top left at (x, y), at its natural size or scaled to fit exactly. The
   /// current position stays.

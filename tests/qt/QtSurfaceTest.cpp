@@ -68,7 +68,7 @@ class QtSurfaceTest : public testing::Test {
   QtSurface surface;
 };
 
-TEST_F(QtSurfaceTest, linesIncludeBothEndsAndMoveThePosition) {
+TEST_F(QtSurfaceTest, boxesIncludeTheirEdgesAndLinesLeaveOutTheirLastPoint) {
   EXPECT_EQ(line(LineMode::filledBox, 0, 0, 9, 9), QRect(0, 0, 10, 10));
   EXPECT_EQ(surface.image().pixel(5, 5), redPixel);
   EXPECT_EQ(line(LineMode::outlineBox, 20, 10, 3, 4), QRect(3, 4, 18, 7));
@@ -76,9 +76,14 @@ TEST_F(QtSurfaceTest, linesIncludeBothEndsAndMoveThePosition) {
   EXPECT_EQ(surface.image().pixel(19, 9), white);
   EXPECT_EQ(surface.CurrentX(), 3);
   EXPECT_EQ(surface.CurrentY(), 4);
-  EXPECT_EQ(line(LineMode::plainLine, 7, 3, 2, 3), QRect(2, 3, 6, 1));
-  EXPECT_EQ(line(LineMode::plainLine, 9, 1, 0, 10), QRect(0, 1, 10, 10));
-  for (int i = 0; i < 10; ++i) EXPECT_EQ(surface.image().pixel(9 - i, 1 + i), redPixel) << i;
+  EXPECT_EQ(line(LineMode::plainLine, 7, 3, 2, 3), QRect(3, 3, 5, 1));
+  EXPECT_EQ(line(LineMode::plainLine, 9, 1, 0, 10), QRect(1, 1, 9, 9));
+  for (int i = 0; i < 9; ++i) EXPECT_EQ(surface.image().pixel(9 - i, 1 + i), redPixel) << i;
+  EXPECT_EQ(line(LineMode::plainLine, 5, 2, 5, 9), QRect(5, 2, 1, 7));
+  EXPECT_TRUE(line(LineMode::plainLine, 5, 5, 5, 5).isEmpty());
+  surface.PSet(7, 3, red);
+  EXPECT_EQ(ink(surface.image()), QRect(7, 3, 1, 1));
+  EXPECT_EQ(surface.CurrentX(), 7);
 }
 
 TEST_F(QtSurfaceTest, coordinatesAreRoundedAndClipped) {

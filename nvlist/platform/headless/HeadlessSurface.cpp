@@ -55,6 +55,12 @@ void HeadlessSurface::Line(LineMode mode, float x1, float y1, float x2, float y2
   currentY_ = y2;
 }
 
+void HeadlessSurface::PSet(float x, float y, Colour colour) {
+  image_.calls.push_back(calls::PSet{x, y, colour});
+  currentX_ = x;
+  currentY_ = y;
+}
+
 void HeadlessSurface::PaintPicture(const Picture& picture, float x, float y) {
   if (!picture) throw Failure::invalidCall();
   image_.calls.push_back(calls::PaintPicture{picture, x, y, false, 0, 0});

@@ -35,6 +35,7 @@ class HeadlessSurface : public Surface {
 
   void Cls() override;
   void Line(LineMode mode, float x1, float y1, float x2, float y2, Colour colour) override;
+  void PSet(float x, float y, Colour colour) override;
   void PaintPicture(const Picture& picture, float x, float y) override;
   void PaintPicture(const Picture& picture, float x, float y, float width, float height) override;
   float TextWidth(std::string_view text) override;

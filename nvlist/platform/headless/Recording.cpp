@@ -52,6 +52,9 @@ struct Printer {
     return "Line " + std::to_string(static_cast<int>(call.mode)) + " " + point(call.x1, call.y1) +
            "-" + point(call.x2, call.y2) + " " + textOfColour(call.colour);
   }
+  std::string operator()(const calls::PSet& call) const {
+    return "PSet " + point(call.x, call.y) + " " + textOfColour(call.colour);
+  }
   std::string operator()(const calls::PaintPicture& call) const {
     std::string result = "PaintPicture " + textOfPicture(call.picture);
     result += " at " + point(call.x, call.y);
@@ -100,6 +103,7 @@ struct Player {
   void operator()(const calls::Line& call) const {
     onto.Line(call.mode, call.x1, call.y1, call.x2, call.y2, call.colour);
   }
+  void operator()(const calls::PSet& call) const { onto.PSet(call.x, call.y, call.colour); }
   void operator()(const calls::PaintPicture& call) const {
     if (call.isScaled)
       onto.PaintPicture(call.picture, call.x, call.y, call.width, call.height);

@@ -18,6 +18,10 @@ struct Line {
   float x1, y1, x2, y2;
   Colour colour;
 };
+struct PSet {
+  float x, y;
+  Colour colour;
+};
 struct PaintPicture {
   Picture picture;
   float x, y;
@@ -67,10 +71,10 @@ struct Print {
 }  // namespace calls
 
 using SurfaceCall =
-    std::variant<calls::Cls, calls::Line, calls::PaintPicture, calls::CurrentX, calls::CurrentY,
-                 calls::BackColor, calls::ForeColor, calls::SetFont, calls::FontBold,
-                 calls::FontItalic, calls::FontUnderline, calls::DrawTextA, calls::DrawFocusRect,
-                 calls::StretchDIBits, calls::Print>;
+    std::variant<calls::Cls, calls::Line, calls::PSet, calls::PaintPicture, calls::CurrentX,
+                 calls::CurrentY, calls::BackColor, calls::ForeColor, calls::SetFont,
+                 calls::FontBold, calls::FontItalic, calls::FontUnderline, calls::DrawTextA,
+                 calls::DrawFocusRect, calls::StretchDIBits, calls::Print>;
 
 /// Drawing calls in their order. Copies share pictures and fonts, nothing else.
 class Recording {

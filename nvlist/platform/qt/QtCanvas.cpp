@@ -206,16 +206,23 @@ void QtCanvas::fill(int left, int top, int right, int bottom, QRgb colour) {
     std::fill_n(reinterpret_cast<QRgb*>(image_.scanLine(y)) + from, width, colour);
 }
 
-void QtCanvas::fillSlanted(int x1, int y1, int x2, int y2, QRgb colour) {
+/// All points of a line but its last one.
+void QtCanvas::drawLine(int x1, int y1, int x2, int y2, QRgb colour) {
   const bool isSteep = std::abs(y2 - y1) > std::abs(x2 - x1);
   if (isSteep) {
     std::swap(x1, y1);
     std::swap(x2, y2);
   }
+  if (x1 == x2) return;
+  const int first = x1 < x2 ? x1 : x2 + 1;
+  const int last = x1 < x2 ? x2 - 1 : x1;
+  if (y1 == y2) {
+    isSteep ? fill(y1, first, y1, last, colour) : fill(first, y1, last, y1, colour);
+    return;
+  }
   const double slope = static_cast<double>(y2 - y1) / (x2 - x1);
   const int limit = isSteep ? size_.height() : size_.width();
-  const int last = std::min(std::max(x1, x2), limit - 1);
-  for (int x = std::max(std::min(x1, x2), 0); x <= last; ++x) {
+  for (int x = std::max(first, 0); x <= std::min(last, limit - 1); ++x) {
     const int y = y1 + qRound(slope * (x - x1));
     isSteep ? fill(y, x, y, x, colour) : fill(x, y, x, y, colour);
   }
@@ -224,19 +231,27 @@ void QtCanvas::fillSlanted(int x1, int y1, int x2, int y2, QRgb colour) {
 void QtCanvas::Line(LineMode mode, float x1, float y1, float x2, float y2, Colour colour) {
   currentX_ = x2;
   currentY_ = y2;
+  const QRgb pen = rgb(colour);
+  if (mode == LineMode::plainLine) {
+    drawLine(nearestPixel(x1), nearestPixel(y1), nearestPixel(x2), nearestPixel(y2), pen);
+    return;
+  }
   const auto [left, right] = std::minmax({nearestPixel(x1), nearestPixel(x2)});
   const auto [top, bottom] = std::minmax({nearestPixel(y1), nearestPixel(y2)});
-  const QRgb pen = rgb(colour);
-  if (mode == LineMode::outlineBox) {
-    fill(left, top, right, top, pen);
-    fill(left, bottom, right, bottom, pen);
-    fill(left, top, left, bottom, pen);
-    fill(right, top, right, bottom, pen);
-  } else if (mode == LineMode::filledBox || left == right || top == bottom) {
+  if (mode == LineMode::filledBox) {
     fill(left, top, right, bottom, pen);
-  } else {
-    fillSlanted(nearestPixel(x1), nearestPixel(y1), nearestPixel(x2), nearestPixel(y2), pen);
+    return;
   }
+  fill(left, top, right, top, pen);
+  fill(left, bottom, right, bottom, pen);
+  fill(left, top, left, bottom, pen);
+  fill(right, top, right, bottom, pen);
+}
+
+void QtCanvas::PSet(float x, float y, Colour colour) {
+  currentX_ = x;
+  currentY_ = y;
+  fill(nearestPixel(x), nearestPixel(y), nearestPixel(x), nearestPixel(y), rgb(colour));
 }
 
 void QtCanvas::Cls() {

@@ -47,6 +47,7 @@ class QtCanvas final : public Surface {
   void Cls() override;
   /// Coordinates are rounded to the nearest pixel, halves to the even one.
   void Line(LineMode mode, float x1, float y1, float x2, float y2, Colour colour) override;
+  void PSet(float x, float y, Colour colour) override;
   /// An empty reference throws Failure 5. The picture of another platform is decoded from the bytes
   /// of its file; one that has none, or none that Qt knows, throws Failure 481.
   void PaintPicture(const Picture& picture, float x, float y) override;
@@ -111,7 +112,7 @@ class QtCanvas final : public Surface {
   /// The part of a rectangle that lies on the image; empty where none does.
   QRect visiblePart(const Rectangle& rectangle) const;
   void fill(int left, int top, int right, int bottom, QRgb colour);
-  void fillSlanted(int x1, int y1, int x2, int y2, QRgb colour);
+  void drawLine(int x1, int y1, int x2, int y2, QRgb colour);
   void invert(int x, int y);
   const QImage& imageOf(const Picture& picture);
   double widthWithTabs(const QString& line);

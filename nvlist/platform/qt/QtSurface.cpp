@@ -54,6 +54,11 @@ void QtSurface::Line(LineMode mode, float x1, float y1, float x2, float y2, Colo
   drawn();
 }
 
+void QtSurface::PSet(float x, float y, Colour colour) {
+  waiting_.PSet(x, y, colour);
+  drawn();
+}
+
 void QtSurface::PaintPicture(const Picture& picture, float x, float y) {
   canvas_.requireDrawable(picture);
   waiting_.PaintPicture(picture, x, y);

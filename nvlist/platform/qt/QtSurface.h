@@ -37,6 +37,7 @@ class QtSurface final : public Surface {
 
   void Cls() override;
   void Line(LineMode mode, float x1, float y1, float x2, float y2, Colour colour) override;
+  void PSet(float x, float y, Colour colour) override;
   /// An empty reference throws Failure 5, a picture that cannot be decoded Failure 481.
   void PaintPicture(const Picture& picture, float x, float y) override;
   void PaintPicture(const Picture& picture, float x, float y, float width, float height) override;
