@@ -37,6 +37,14 @@ class nvList final : public UserControl {
   void UserControl_Resize() override;
   void UserControl_Paint() override { Redraw(); }
 
+  // ---- the keyboard's focus: input/focus.cpp ----
+
+  // Each paints, whatever AutoRedraw says.
+  void UserControl_EnterFocus() override;
+  void UserControl_GotFocus() override;
+  void UserControl_LostFocus() override;
+  void UserControl_ExitFocus() override;
+
   // ---- items: core/items.cpp ----
 
   /// Adds one item. `aIndex` is where it goes: -1, anything negative and anything from the number
@@ -336,6 +344,9 @@ class nvList final : public UserControl {
   class Row;
 
   static constexpr Module here{kinds::control, "nvList"};
+
+  // input/focus.cpp
+  void focusChanged(const char* procedure, Boolean hasFocus);
 
   // core/items.cpp
   bool WrongIndex(const Variant& Index) const;

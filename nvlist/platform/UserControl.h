@@ -30,6 +30,12 @@ class UserControl {
   virtual void UserControl_Resize() {}
   /// The control has become visible.
   virtual void UserControl_Show() {}
+  /// The keyboard's focus comes into the control or one in it, and to the control itself; it goes
+  /// in the opposite order.
+  virtual void UserControl_EnterFocus() {}
+  virtual void UserControl_GotFocus() {}
+  virtual void UserControl_LostFocus() {}
+  virtual void UserControl_ExitFocus() {}
   /// What was painted is lost, as on a screen of another resolution: it has to be painted anew.
   virtual void UserControl_Paint() {}
 

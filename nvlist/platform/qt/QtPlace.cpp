@@ -114,6 +114,14 @@ bool QtPlace::event(QEvent* event) {
     case QEvent::ScreenChangeInternal:
       renewImage();
       return false;
+    case QEvent::FocusIn:
+      if (control_) control_->UserControl_EnterFocus();
+      if (control_) control_->UserControl_GotFocus();
+      return false;
+    case QEvent::FocusOut:
+      if (control_) control_->UserControl_LostFocus();
+      if (control_) control_->UserControl_ExitFocus();
+      return false;
     case QEvent::Leave:
       pointerLeft();
       return false;
