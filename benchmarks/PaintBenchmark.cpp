@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <string>
 
+#include <nvlist/platform/qt/QtPicture.h>
+
 #include "Measure.h"
 #include "Subjects.h"
 
@@ -71,9 +73,73 @@ void addWindow(int count) {
       [](auto& widget) { widget->viewport()->repaint(); });
 }
 
+/// A frame with check boxes, icons and a selection: 400 by 300, a thousand items.
+void addFrame() {
+  const std::string work = "Frame with pictures/1000";
+  static QImage iconImage(16, 16, QImage::Format_ARGB32_Premultiplied);
+  iconImage.fill(Qt::darkCyan);
+  addShared(
+      work, subject::nvList, false,
+      [] {
+        auto widget = makeNvList(true);
+        norvane::nvList& list = widget->list();
+        list.Style(norvane::cCheckBoxesIcons);
+        const norvane::Picture icon = norvane::QtPicture::fromImage(iconImage);
+        for (int i = 0; i < 1'000; ++i)
+          list.ItemsAdd({.aText = texts(1'000)[static_cast<std::size_t>(i)],
+                         .aIcon = icon,
+                         .aChecked = i % 2 == 0});
+        list.ListIndex(3);
+        QApplication::processEvents();
+        return widget;
+      },
+      [](auto& widget) {
+        static QImage image(400, 300, QImage::Format_RGB32);
+        widget->list().Redraw();
+        widget->render(&image);
+      });
+  addShared(
+      work, subject::listWidget, false,
+      [] {
+        auto widget = makeListWidget(true);
+        const QIcon icon(QPixmap::fromImage(iconImage));
+        for (int i = 0; i < 1'000; ++i) {
+          auto* item =
+              new QListWidgetItem(icon, qtTexts(1'000)[static_cast<std::size_t>(i)], widget.get());
+          item->setCheckState(i % 2 == 0 ? Qt::Checked : Qt::Unchecked);
+        }
+        widget->setCurrentRow(3);
+        QApplication::processEvents();
+        return widget;
+      },
+      [](auto& widget) {
+        static QImage image(400, 300, QImage::Format_RGB32);
+        widget->viewport()->render(&image);
+      });
+  static QImage box(13, 13, QImage::Format_RGB32);
+  box.fill(Qt::gray);
+  addShared(
+      work, subject::floor, false, [] { return QImage(400, 300, QImage::Format_RGB32); },
+      [](QImage& image) {
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        const QFontMetrics metrics = painter.fontMetrics();
+        const int height = metrics.height();
+        int row = 0;
+        for (int top = 3; top + height <= image.height(); top += height, ++row) {
+          painter.fillRect(0, top, image.width(), height, row == 3 ? Qt::blue : Qt::white);
+          painter.drawImage(3, top + (height - 13) / 2, box);
+          painter.drawImage(19, top + (height - 16) / 2, iconImage);
+          painter.drawText(37, top + metrics.ascent(),
+                           qtTexts(1'000)[static_cast<std::size_t>(row)]);
+        }
+      });
+}
+
 }  // namespace
 
 void addPaintBenchmarks() {
+  addFrame();
   for (const int count : {1'000, 1'000'000}) {
     addImage(count);
     addWindow(count);

@@ -22,7 +22,7 @@ constexpr Aim aims[] = {
     {"InsertFront/", subject::listWidget, 1.0}, {"RemoveFront/", subject::listWidget, 1.0},
     {"IsInList/", subject::listWidget, 0.15},   {"IndexByKey", subject::listWidget, 0.3},
     {"Redraw/", subject::listWidget, 0.5},      {"ItemsRemoveDouble", subject::floor, 6.0},
-    {"Memory/", subject::listWidget, 0.8},
+    {"Memory/", subject::listWidget, 0.8},      {"Frame ", subject::listWidget, 0.5},
 };
 
 const Aim* aimOf(std::string_view work) {
