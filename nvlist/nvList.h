@@ -2,9 +2,12 @@
 
 #include <cstdint>
 #include <string_view>
+#include <type_traits>
+#include <vector>
 
 #include <nvlist/core/ListState.h>
 #include <nvlist/core/NewItem.h>
+#include <nvlist/core/PropertyBag.h>
 #include <nvlist/input/events.h>
 #include <nvlist/objects/Trap.h>
 #include <nvlist/platform/UserControl.h>
@@ -29,11 +32,21 @@ class nvList final : public UserControl {
  public:
   explicit nvList(Container& place) : UserControl(place) {}
 
-  // ---- start and notifications of the platform: core/lifecycle.cpp ----
+  // ---- start and property store: core/persistence.cpp ----
 
-  /// Brings a new control to its defaults and paints it. The platform calls it once, before
-  /// anything else.
+  /// Brings a new control to its defaults and paints it. The platform calls this or
+  /// UserControl_ReadProperties once, before anything else.
   void UserControl_InitProperties();
+  /// Sets every property of this control to what is stored, or to its default. The list is empty
+  /// afterwards: items are not stored. A stored value that its property cannot take is a failure,
+  /// which ends the reading there; nothing is painted then until the properties are read again.
+  /// (Under SilentError the rest is read.)
+  void UserControl_ReadProperties(const PropertyBag& PropBag);
+  /// Stores every property that differs from its default.
+  void UserControl_WriteProperties(PropertyBag& PropBag);
+
+  // ---- size and screen: render/scrollfit.cpp ----
+
   void UserControl_Resize() override;
   void UserControl_Paint() override { Redraw(); }
 
@@ -384,6 +397,15 @@ class nvList final : public UserControl {
   void writeItem(const char* name, const Variant& Index, ItemRepaint repaints, Write&& write);
   Colour ownColour(const char* name, const Variant& Index, Variant ListItem::*field);
   Variant colourOfDisabled(const char* name, const Variant& Index, Colour ListItem::*field);
+
+  // core/persistence.cpp
+  struct StoredProperty;
+  template <class Value>
+  static StoredProperty stored(const char* name, Value (nvList::*get)() const,
+                               void (nvList::*let)(std::type_identity_t<Value>),
+                               Variant defaultValue);
+  static const std::vector<StoredProperty>& storedProperties();
+  norvane::Font ambientFont(Trap& on);
 
   // core/properties.cpp
   template <class Value>

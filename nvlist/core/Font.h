@@ -3,12 +3,12 @@
 #include <string>
 
 #include <nvlist/core/Boolean.h>
-#include <nvlist/core/Ref.h>
+#include <nvlist/core/Variant.h>
 
 namespace norvane {
 
 /// A font as hosts describe it. A platform looks up the nearest face it has.
-class FontObject final : public Shared {
+class FontObject final : public Object {
  public:
   std::string Name = "Tahoma";
   /// Height in points.
@@ -18,8 +18,18 @@ class FontObject final : public Shared {
   Boolean Underline = false;
   Boolean Strikethrough = false;
 
+  /// Every field counts.
+  bool isSame(const Object& other) const override;
+
   Ref<FontObject> Clone() const { return makeRef<FontObject>(*this); }
 };
+
+inline bool FontObject::isSame(const Object& other) const {
+  const auto* font = dynamic_cast<const FontObject*>(&other);
+  return font && Name == font->Name && Size == font->Size && Bold == font->Bold &&
+         Italic == font->Italic && Underline == font->Underline &&
+         Strikethrough == font->Strikethrough;
+}
 
 /// A reference to a font object; it may be empty.
 using Font = Ref<FontObject>;

@@ -18,6 +18,9 @@ namespace norvane {
 class Object : public Shared {
  public:
   virtual ~Object() = default;
+
+  /// Whether the other one stands for the same value; here: whether it is the same object.
+  virtual bool isSame(const Object& other) const { return this == &other; }
 };
 
 /// A tagged value: nothing, a number, a truth value, a text (UTF-8) or an object reference.

@@ -2,13 +2,15 @@
 
 namespace norvane {
 
-// The bars are not shown yet: there is no extent to measure for them and nothing to fit. The calls
-// stand where the fit will need them.
-
 void nvList::CheckItemWidth() {}
-
 void nvList::CheckItemWidth(Variant) {}
-
 void nvList::CheckScroll() {}
+
+void nvList::UserControl_Resize() {
+  trapped(here, "UserControl_Resize", [&](Trap& on) {
+    on.step([&] { DrawBorder(); });
+    on.step([&] { Redraw(); });
+  });
+}
 
 }  // namespace norvane

@@ -1,0 +1,36 @@
+#include <nvlist/core/PropertyBag.h>
+
+#include <algorithm>
+
+namespace norvane {
+namespace {
+
+bool isSame(const Variant& a, const Variant& b) {
+  if (const Ref<Object> object = a.object()) {
+    const Ref<Object> other = b.object();
+    return other && object->isSame(*other);
+  }
+  if (a.isText() || b.isText()) return a.isText() && b.isText() && a.text() == b.text();
+  return b.type() != Variant::Type::Object && a.toNumber() == b.toNumber();
+}
+
+}  // namespace
+
+Variant PropertyBag::ReadProperty(std::string_view name, const Variant& defaultValue) const {
+  const auto found = std::ranges::find(properties_, name, &Property::name);
+  return found == properties_.end() ? defaultValue : found->value;
+}
+
+void PropertyBag::WriteProperty(std::string_view name, const Variant& value,
+                                const Variant& defaultValue) {
+  const auto found = std::ranges::find(properties_, name, &Property::name);
+  if (isSame(value, defaultValue)) {
+    if (found != properties_.end()) properties_.erase(found);
+  } else if (found != properties_.end()) {
+    found->value = value;
+  } else {
+    properties_.push_back({std::string(name), value});
+  }
+}
+
+}  // namespace norvane

@@ -1,0 +1,163 @@
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <optional>
+
+#include <nvlist/core/Font.h>
+#include <nvlist/core/PropertyBag.h>
+#include <nvlist/core/numbers.h>
+#include <nvlist/objects/Failure.h>
+#include <nvlist/render/colours.h>
+
+namespace norvane {
+namespace {
+
+constexpr std::string_view blanks = " \t\r";
+constexpr std::string_view fontWord = "font ";
+
+struct FontFlag {
+  std::string_view word;
+  Boolean FontObject::*flag;
+};
+constexpr FontFlag fontFlags[] = {{"bold", &FontObject::Bold},
+                                  {"italic", &FontObject::Italic},
+                                  {"underline", &FontObject::Underline},
+                                  {"strikethrough", &FontObject::Strikethrough}};
+
+std::string_view trimmed(std::string_view text) {
+  const auto first = text.find_first_not_of(blanks);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+std::string quoted(std::string_view text) {
+  std::string result = "\"";
+  for (const char c : text) {
+    if (static_cast<unsigned char>(c) < 0x20)
+      result += "\\x" + CHex(c, 2);
+    else if (c == '"' || c == '\\')
+      result += {'\\', c};
+    else
+      result += c;
+  }
+  return result + "\"";
+}
+
+std::string fontText(const FontObject& font) {
+  std::string result = std::string(fontWord) + quoted(font.Name) + " " + textOf(font.Size);
+  for (const FontFlag& flag : fontFlags)
+    if (font.*flag.flag) result += " " + std::string(flag.word);
+  return result;
+}
+
+std::optional<std::string> valueText(const Variant& value) {
+  switch (value.type()) {
+    case Variant::Type::Text:
+      return quoted(value.text());
+    case Variant::Type::Int32:
+      if (const std::int32_t number = value.toInt32(); number < 0 || number > 65535)
+        return "&H" + CHex(number, 8);
+      return value.toText();
+    case Variant::Type::Object:
+      if (const auto* font = dynamic_cast<const FontObject*>(value.object().get()))
+        return fontText(*font);
+      return std::nullopt;
+    default:
+      return value.toText();
+  }
+}
+
+/// Reads a quoted text from the front and takes it away; nothing where it does not end.
+std::optional<std::string> takeQuoted(std::string_view& text) {
+  std::string result;
+  for (std::size_t at = 1; at < text.size(); ++at) {
+    if (text[at] == '"') {
+      text.remove_prefix(at + 1);
+      return result;
+    }
+    if (text[at] != '\\') {
+      result += text[at];
+      continue;
+    }
+    unsigned code = 0;
+    if (text.substr(at + 1, 1) == "x" && at + 3 < text.size() &&
+        std::from_chars(&text[at + 2], &text[at] + 4, code, 16).ptr == &text[at] + 4) {
+      result += static_cast<char>(code);
+      at += 3;
+    } else if (++at < text.size()) {
+      result += text[at];
+    }
+  }
+  return std::nullopt;
+}
+
+/// A font, or nothing where the words behind its name are none of a font's.
+std::optional<Variant> fontOf(std::string_view text) {
+  if (!text.starts_with('"')) return std::nullopt;
+  auto font = makeRef<FontObject>();
+  const auto name = takeQuoted(text);
+  if (!name) return std::nullopt;
+  font->Name = *name;
+  text = trimmed(text);
+  const std::size_t end = text.find_first_of(blanks);
+  const auto size = numberOf(text.substr(0, end));
+  if (!size) return std::nullopt;
+  font->Size = static_cast<float>(*size);
+  while (
+      !(text = trimmed(text.substr(std::min(text.find_first_of(blanks), text.size())))).empty()) {
+    bool isKnown = false;
+    for (const FontFlag& flag : fontFlags)
+      if (text.substr(0, text.find_first_of(blanks)) == flag.word) {
+        (*font).*flag.flag = true;
+        isKnown = true;
+      }
+    if (!isKnown) return std::nullopt;
+  }
+  return Variant(Ref<Object>(font));
+}
+
+std::optional<Variant> valueOf(std::string_view text) {
+  if (text.starts_with('"')) {
+    const auto inside = takeQuoted(text);
+    if (!inside || !trimmed(text).empty()) return std::nullopt;
+    return Variant(*inside);
+  }
+  if (text == "True") return Variant(true);
+  if (text == "False") return Variant(false);
+  if (text.starts_with(fontWord))
+    if (const auto font = fontOf(trimmed(text.substr(fontWord.size())))) return font;
+  const auto number = numberOf(text);
+  if (!number) return Variant(text);
+  const bool isWhole = std::abs(*number) < 0x7FFFFFFF && std::trunc(*number) == *number;
+  return isWhole ? Variant(static_cast<std::int32_t>(*number)) : Variant(*number);
+}
+
+}  // namespace
+
+std::string propertyText(const PropertyBag& bag) {
+  std::string result;
+  for (const PropertyBag::Property& property : bag.properties())
+    if (const auto value = valueText(property.value))
+      result += property.name + " = " + *value + "\n";
+  return result;
+}
+
+PropertyBag propertiesOf(std::string_view text) {
+  PropertyBag bag;
+  for (int number = 1; !text.empty(); ++number) {
+    const std::size_t end = text.find('\n');
+    const std::string_view line = trimmed(text.substr(0, end));
+    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    if (line.empty() || line.starts_with('#')) continue;
+    const std::size_t equals = line.find('=');
+    const std::string_view name = trimmed(line.substr(0, equals));
+    const auto value = equals == std::string_view::npos || name.empty()
+                           ? std::nullopt
+                           : valueOf(trimmed(line.substr(equals + 1)));
+    if (!value) throw Failure(321, "Invalid file format in line " + std::to_string(number));
+    bag.WriteProperty(name, *value, Variant(Ref<Object>()));
+  }
+  return bag;
+}
+
+}  // namespace norvane

@@ -1,0 +1,146 @@
+#include "../Lists.h"
+
+#include <map>
+
+namespace norvane {
+namespace {
+
+using Persistence = ListTest;
+
+/// Every property but the font, with a value that is not its default.
+const std::map<std::string, Variant> otherValues = {
+    {"ForeColor", 1},           {"BackColor", systemColour(5)},
+    {"Enabled", false},         {"ClickOnIndexChange", 1},
+    {"ColorStyle", 99},         {"BorderColor", 2},
+    {"HoverSelect", true},      {"Style", 3},
+    {"FullRowSelect", false},   {"AllowEdit", true},
+    {"ValueColor", 3},          {"IconSelect", false},
+    {"BorderVisible", false},   {"IndentTop", 4.5F},
+    {"IndentLeft", -5.0F},      {"IndentRight", 6.0F},
+    {"IndentBottom", 7.0F},     {"DistPicText", 8.0F},
+    {"AutoCheckScroll", false}, {"IconW", 9.0F},
+    {"IconH", 10.0F},           {"ScrollColorStyle", 2},
+    {"GridLines", true},        {"GridLineColor", 4},
+    {"MultiSelect", true},      {"ShowFocusRect", true},
+    {"WheelFunction", 1},       {"WheelScrollLines", 5},
+    {"MinHeight", 17.5F},       {"AutoRedraw", false},
+    {"ScrollBars", 3},          {"AllowItemMoving", true}};
+
+const char* const namesInOrder =
+    "Font ForeColor BackColor Enabled ClickOnIndexChange ColorStyle BorderColor HoverSelect Style "
+    "FullRowSelect AllowEdit ValueColor IconSelect BorderVisible IndentTop IndentLeft IndentRight "
+    "IndentBottom DistPicText AutoCheckScroll IconW IconH ScrollColorStyle GridLines GridLineColor "
+    "MultiSelect ShowFocusRect WheelFunction WheelScrollLines MinHeight AutoRedraw ScrollBars "
+    "AllowItemMoving ";
+
+PropertyBag otherBag() {
+  PropertyBag bag;
+  auto font = makeRef<FontObject>();
+  font->Name = "Sans \"x\"";
+  font->Italic = true;
+  bag.WriteProperty("Font", Variant(Ref<Object>(font)), Variant());
+  for (const auto& [name, value] : otherValues) bag.WriteProperty(name, value, Variant(""));
+  return bag;
+}
+
+TEST_F(Persistence, EveryPropertyComesBackInItsOrder) {
+  list.UserControl_ReadProperties(otherBag());
+  PropertyBag written;
+  list.UserControl_WriteProperties(written);
+  std::string names;
+  for (const PropertyBag::Property& property : written.properties()) {
+    names += property.name + " ";
+    if (property.name == "Font") continue;
+    EXPECT_EQ(property.value.toNumber(),
+              property.name == "ClickOnIndexChange" ? -1 : otherValues.at(property.name).toNumber())
+        << property.name;
+  }
+  EXPECT_EQ(names, namesInOrder);
+  EXPECT_EQ(list.Font()->Name, "Sans \"x\"");
+
+  // As text and back, twice the same.
+  const std::string text = propertyText(written);
+  HeadlessList other;
+  other.list().UserControl_ReadProperties(propertiesOf(text));
+  PropertyBag again;
+  other.list().UserControl_WriteProperties(again);
+  EXPECT_EQ(propertyText(again), text);
+  EXPECT_EQ(
+      text.substr(0, 81),
+      "Font = font \"Sans \\\"x\\\"\" 8.25 italic\nForeColor = 1\nBackColor = &H80000005\nEnabled");
+  EXPECT_EQ(reports(), "");
+}
+
+TEST_F(Persistence, DefaultsAreNotStored) {
+  PropertyBag bag;
+  list.UserControl_WriteProperties(bag);
+  EXPECT_EQ(propertyText(bag), "");
+  // What was stored before goes.
+  bag = otherBag();
+  list.UserControl_WriteProperties(bag);
+  EXPECT_EQ(propertyText(bag), "");
+  const int frames = headless.surface().frames();
+  list.ItemsAdd("gone");
+  list.UserControl_ReadProperties(bag);
+  EXPECT_EQ(list.ItemsCount(), 0);
+  EXPECT_EQ(headless.surface().frames(), frames + 3);  // the item, ItemsClear and the end
+}
+
+TEST_F(Persistence, AValueThatDoesNotFitEndsTheReading) {
+  const PropertyBag bag = propertiesOf("BackColor = 255\nStyle = many\nGridLines = True\n");
+  list.ItemsAdd("a");
+  list.UserControl_ReadProperties(bag);
+  EXPECT_EQ(reports(), "13 UserControl_ReadProperties");
+  EXPECT_EQ(list.BackColor(), 255);
+  EXPECT_FALSE(list.GridLines());
+  const int frames = headless.surface().frames();
+  list.Redraw();
+  EXPECT_EQ(headless.surface().frames(), frames);
+  silent();
+  list.UserControl_ReadProperties(bag);
+  EXPECT_TRUE(list.GridLines().isTrue());
+  EXPECT_EQ(list.Style(), cDefault);
+  list.UserControl_ReadProperties(propertiesOf("Font = 7"));
+  EXPECT_EQ(list.Font()->Name, "Tahoma");
+}
+
+TEST_F(Persistence, ColorStyleComesBeforeTheScrollBarsOwn) {
+  list.UserControl_ReadProperties(propertiesOf("ColorStyle = 1\nScrollColorStyle = 2"));
+  EXPECT_EQ(list.ScrollColorStyle(), cXPScrollOlive);
+  list.ColorStyle(cXPSilver);
+  EXPECT_EQ(list.ScrollColorStyle(), cXPScrollSilver);
+  list.ColorStyle(cCustom);
+  EXPECT_EQ(list.ScrollColorStyle(), cXPScrollSilver);
+}
+
+TEST_F(Persistence, AFormWithoutAFontIsServed) {
+  headless.container().ambientFont = nullptr;
+  list.UserControl_InitProperties();
+  EXPECT_FALSE(list.Font());
+  EXPECT_EQ(reports(), "");
+}
+
+TEST(PropertyText, TellsTheLineThatCannotBeRead) {
+  const auto failure = [](std::string_view text) {
+    try {
+      propertiesOf(text);
+    } catch (const Failure& thrown) {
+      return std::to_string(thrown.number()) + " " + thrown.what();
+    }
+    return std::string();
+  };
+  EXPECT_EQ(failure("# a note\n\n a = 1 \r\nb"), "321 Invalid file format in line 4");
+  EXPECT_EQ(failure("= 3"), "321 Invalid file format in line 1");
+  EXPECT_EQ(failure("a = \"open\nb = 2"), "321 Invalid file format in line 1");
+  EXPECT_EQ(failure("a = \"x\" y"), "321 Invalid file format in line 1");
+  EXPECT_EQ(failure(""), "");
+  const PropertyBag bag =
+      propertiesOf("t = \"\\x41\\\\\\\"\\n\"\nf = -0.5\nfont = font \"A\" 8 bold heavy\nn = 1e99");
+  EXPECT_EQ(bag.ReadProperty("t", 0).text(), "A\\\"n");
+  EXPECT_EQ(bag.ReadProperty("f", 0).toSingle(), -0.5F);
+  EXPECT_TRUE(bag.ReadProperty("font", 0).isText());
+  EXPECT_EQ(bag.ReadProperty("none", 7).toInt32(), 7);
+}
+
+}  // namespace
+}  // namespace norvane
