@@ -1,6 +1,8 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
+#include <memory>
 #include <string_view>
 #include <type_traits>
 #include <vector>
@@ -8,10 +10,15 @@
 #include <nvlist/core/ListState.h>
 #include <nvlist/core/NewItem.h>
 #include <nvlist/core/PropertyBag.h>
+#include <nvlist/input/Wheel.h>
 #include <nvlist/input/events.h>
 #include <nvlist/objects/Trap.h>
 #include <nvlist/platform/UserControl.h>
+#include <nvlist/render/BorderPiece.h>
+#include <nvlist/render/MeasuringLabel.h>
 #include <nvlist/render/colours.h>
+#include <nvlist/scroll/nvHScroll.h>
+#include <nvlist/scroll/nvVScroll.h>
 
 namespace norvane {
 
@@ -28,11 +35,15 @@ namespace norvane {
 /// number.
 ///
 /// This header is the map of the house. Each group below names the file it is defined in.
-class nvList final : public UserControl {
+class nvList final : public UserControl,
+                     private nvVScrollEvents,
+                     private nvHScrollEvents,
+                     private WheelEvents {
  public:
-  explicit nvList(Container& place) : UserControl(place) {}
+  explicit nvList(Container& place);
+  ~nvList() override;
 
-  // ---- start and property store: core/persistence.cpp ----
+  // ---- start, end and property store: core/lifecycle.cpp, core/persistence.cpp ----
 
   /// Brings a new control to its defaults and paints it. The platform calls this or
   /// UserControl_ReadProperties once, before anything else.
@@ -45,18 +56,38 @@ class nvList final : public UserControl {
   /// Stores every property that differs from its default.
   void UserControl_WriteProperties(PropertyBag& PropBag);
 
-  // ---- size and screen: render/scrollfit.cpp ----
+  void UserControl_Terminate();
 
-  void UserControl_Resize() override;
-  void UserControl_Paint() override { Redraw(); }
+  // ---- input: input/mouse.cpp, hover.cpp, keyboard.cpp, focus.cpp, wheelScroll.cpp ----
 
-  // ---- the keyboard's focus: input/focus.cpp ----
-
-  // Each paints, whatever AutoRedraw says.
+  void UserControl_MouseDown(std::int16_t Button, std::int16_t Shift, float X, float Y) override;
+  void UserControl_MouseMove(std::int16_t Button, std::int16_t Shift, float X, float Y) override;
+  void UserControl_MouseUp(std::int16_t Button, std::int16_t Shift, float X, float Y) override;
+  void UserControl_Click() override;
+  bool UserControl_DblClick() override;
+  void UserControl_KeyDown(std::int16_t& KeyCode, std::int16_t Shift) override;
+  void UserControl_KeyPress(std::int16_t& KeyAscii) override;
+  void UserControl_KeyUp(std::int16_t KeyCode, std::int16_t Shift) override;
+  // The focus and the name paint whatever AutoRedraw says.
   void UserControl_EnterFocus() override;
   void UserControl_GotFocus() override;
   void UserControl_LostFocus() override;
   void UserControl_ExitFocus() override;
+  void UserControl_AmbientChanged(std::string_view PropertyName) override;
+  void Wheel1_WheelScroll(std::int16_t& Rotation, std::int16_t& Keys, float& X, float& Y) override;
+
+  /// The handle of the control's window; 0 where the platform has none.
+  std::int32_t hwnd() { return container_.hwnd(); }
+  /// Shows a box with the name and the version of the control.
+  void About();
+
+  // ---- editing: input/edit.cpp ----
+
+  /// Opens the edit box with the text of an item, given that AllowEdit and the item allow it and
+  /// the item is enabled. It stands over the row where the mouse was last pressed, above the first
+  /// row where it never was. Return writes the text into the item that is current then; a press or
+  /// a scroll drops it. A bad index is a failure, which opens nothing.
+  void SetEdit(const Variant& Index);
 
   // ---- items: core/items.cpp ----
 
@@ -124,6 +155,8 @@ class nvList final : public UserControl {
   /// whole text only. A malformed pattern is a failure, which gives -1.
   std::int32_t IsInList(std::string_view sText, cFindCompare oCompare = cFindBinary);
 
+  void MoveItemUp(const Variant&, const Variant&) {}
+  void MoveItemDown(const Variant&, const Variant&) {}
   // ---- events: input/events.h ----
 
   /// Registers a host for the events; it has to live until it is removed, or as long as the list.
@@ -344,13 +377,18 @@ class nvList final : public UserControl {
   /// where a row has no height.
   std::int32_t VisibleItems();
 
-  // ---- scroll bars: render/scrollfit.cpp ----
+  // ---- size and scroll bars: render/scrollfit.cpp ----
 
-  /// Fits the scroll bars to the items.
+  void UserControl_Resize() override;
+  void UserControl_Paint() override { Redraw(); }
+  /// Fits the scroll bars to the items: which of them show, their ranges and their places.
   void CheckScroll();
 
   /// Everything the control knows, for a look from outside; it changes with every operation.
   const ListState& state() const { return state_; }
+  /// The bars, which go up and down with the list.
+  const nvVScroll& verticalBar() const { return VScroll1; }
+  const nvHScroll& horizontalBar() const { return HScroll1; }
 
  private:
   struct RepaintValues;
@@ -358,8 +396,27 @@ class nvList final : public UserControl {
 
   static constexpr Module here{kinds::control, "nvList"};
 
-  // input/focus.cpp
+  // input/
+  std::int32_t rowAt(double y, std::int32_t origin, std::int32_t height);
+  std::int32_t contentLeft() const;
+  void pressItem(Trap& on, std::int32_t hit, float x);
+  void selectRange(Trap& on);
+  void flipChecked(Trap& on);
+  void drag(Trap& on, float y, std::int32_t row, std::int32_t height);
+  void tmrMouseAction_Timer();
+  void completeMove(Trap& on);
+  void moveUp(Trap& on, std::int32_t visible);
+  void moveDown(Trap& on, std::int32_t visible);
   void focusChanged(const char* procedure, Boolean hasFocus);
+  void Text1_KeyPress(std::int16_t& KeyAscii);
+  Bounds editPlace(std::int32_t row);
+  void scrollBarTo(Trap& on, std::int32_t value);
+  void wheelScrollDown(Trap& on, std::int16_t rotation);
+  void wheelScrollUp(Trap& on);
+  void wheelIndexDown(Trap& on, std::int16_t rotation);
+  void wheelIndexUp(Trap& on, std::int16_t rotation);
+  void wheelIndexTo(Trap& on, std::int32_t index);
+  void raiseScroll();
 
   // core/items.cpp
   bool WrongIndex(const Variant& Index) const;
@@ -433,10 +490,31 @@ class nvList final : public UserControl {
 
   // render/scrollfit.cpp
   void CheckItemWidth();
-  void CheckItemWidth(Variant Index);
+  void CheckItemWidth(std::int32_t Index);
+  void widenTo(ListItem& item);
+  void addPadding(Trap& on);
+  void fitHorizontal(Trap& on);
+  void fitVertical(Trap& on);
+  void CheckScrollPlacement();
+  void followBar(Trap& on);
+  void VScroll1_Change() override;
+  void VScroll1_Scroll() override;
+  void HScroll1_Change() override;
+  void HScroll1_Scroll() override;
 
   EventSinks sinks_;
   ListState state_;
+
+  // What stands in the list, from the back to the front.
+  nvVScroll VScroll1;
+  nvHScroll HScroll1;
+  static constexpr std::int32_t borderPieces = 4;
+  std::array<BorderPiece, borderPieces> pBord;  ///< top, right, bottom, left
+  MeasuringLabel lblWidth;
+  std::unique_ptr<TextBox> Text1;
+  std::unique_ptr<Timer> tmrMouseAction;
+  enum class AutoScroll { none, up, down } autoScroll_ = AutoScroll::none;
+  Wheel Wheel1;
 };
 
 }  // namespace norvane

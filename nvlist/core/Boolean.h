@@ -24,6 +24,10 @@ class Boolean {
   constexpr bool isTrue() const { return number_ == -1; }
   constexpr explicit operator bool() const { return number_ != 0; }
 
+  /// Every bit turned round: true and false change places, any other number stays true.
+  friend constexpr Boolean operator~(Boolean value) {
+    return ofNumber(static_cast<std::int16_t>(~value.number_));
+  }
   friend constexpr bool operator==(Boolean, Boolean) = default;
 
  private:

@@ -24,6 +24,11 @@ const ListItem& ItemStore::at(std::int32_t index) const {
   return reference ? *reference : blank;
 }
 
+void ItemStore::forgetTextWidths() {
+  for (const Ref<ListItem>& reference : slots_)
+    if (reference) reference->textWidth = ListItem::notMeasured;
+}
+
 void ItemStore::grow() {
   if (upperBound() == std::numeric_limits<std::int32_t>::max()) throw Failure::overflow();
   slots_.emplace_back();

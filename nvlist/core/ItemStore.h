@@ -43,6 +43,9 @@ class ItemStore {
     return index;
   }
 
+  /// Forgets what every text was measured with.
+  void forgetTextWidths();
+
   /// One more, empty slot at the end.
   void grow();
   /// Drops the last slot with its reference.

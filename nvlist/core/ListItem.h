@@ -28,6 +28,9 @@ class ListItem final : public Shared {
   Boolean Bold;
   Boolean Italic;
   Boolean Underline;
+  /// Of the text in the list's font, in pixels, where it was measured; setText forgets it.
+  std::uint16_t textWidth = notMeasured;
+  static constexpr std::uint16_t notMeasured = 0xFFFF;
   cItemAlignment Alignment = cLeft;
   Colour ForeColorDis = 0;  ///< text colour while disabled
   Colour BackColorDis = 0;  ///< background colour while disabled
@@ -41,5 +44,11 @@ class ListItem final : public Shared {
   Variant Tag;      ///< free value of the host
   CompactText Key;  ///< the host's key; neither unique nor indexed
 };
+
+/// The way in which the list itself writes a text.
+inline void setText(ListItem& item, std::string text) {
+  item.Text = std::move(text);
+  item.textWidth = ListItem::notMeasured;
+}
 
 }  // namespace norvane

@@ -13,20 +13,6 @@
 
 namespace norvane {
 
-/// What the list reads and writes of one of its scroll bars. `Tag` holds the wanted visibility as
-/// "True" or "False"; `Visible` follows it when the bars are placed.
-struct ScrollBarRecord {
-  std::int32_t Min = 0;
-  std::int32_t Max = 0;
-  std::int32_t Value = 0;
-  float Left = 0;
-  float Top = 0;
-  float Width = 17;
-  float Height = 17;
-  Boolean Visible = false;
-  std::string Tag = "False";
-};
-
 /// Everything an nvList knows. A field with the name of a public property is what that property
 /// reads; the others have no public surface. Lengths are pixels.
 ///
@@ -99,9 +85,6 @@ struct ListState {
   float ItemHeightValue = 0;      ///< cached row height, not rounded
   std::int32_t MaxItemWidth = 0;  ///< widest item measured
   Boolean WheelMoved = false;
-
-  ScrollBarRecord VScroll1;
-  ScrollBarRecord HScroll1;
 
   SelectionMarks Selection;  ///< writes the Selected marks
 };

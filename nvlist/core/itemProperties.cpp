@@ -92,7 +92,7 @@ std::string nvList::ItemText(const Variant& Index) {
 }
 
 void nvList::ItemText(const Variant& Index, const std::string& value) {
-  writeItem("ItemText", Index, ItemRepaint::yes, [&](ListItem& item) { item.Text = value; });
+  writeItem("ItemText", Index, ItemRepaint::yes, [&](ListItem& item) { setText(item, value); });
 }
 
 Boolean nvList::ItemEnabled(const Variant& Index) {

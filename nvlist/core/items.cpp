@@ -61,7 +61,7 @@ void nvList::ItemsAdd(NewItem values) {
     }
     on.step([&] { state_.NewIndex = state_.InsertIndex.toInt32(); });
 
-    if (state_.AutoRedraw) on.step([&] { CheckItemWidth(state_.InsertIndex); });
+    if (state_.AutoRedraw) on.step([&] { CheckItemWidth(state_.InsertIndex.toInt32()); });
 
     // A row count plus a height: more rows than can be in view, and cheap to tell. Past it an added
     // item costs no repaint.
@@ -78,7 +78,7 @@ void nvList::ItemsAdd(NewItem values) {
 }
 
 void nvList::writeFields(Trap& on, ListItem& item, NewItem& values) {
-  on.step([&] { item.Text = std::move(values.aText).toText(); });
+  on.step([&] { setText(item, std::move(values.aText).toText()); });
   item.Icon = std::move(values.aIcon);
   item.IconSelected = std::move(values.aIconSelected);
   item.Checked = values.aChecked;

@@ -19,9 +19,10 @@ void nvList::TopIndex(std::int32_t value) {
     if (state_.TopIndexRepair) return;
     on.step([&] {
       const std::int32_t last = checked::subtract(ItemsCount(), visible);
-      if (state_.VScroll1.Max < last) state_.VScroll1.Max = last;
+      if (VScroll1.Max() < last) VScroll1.Max(last);
     });
-    state_.VScroll1.Value = value;
+    on.step([&] { VScroll1.Value(value); });
+    on.step([&] { VScroll1.Redraw(); });
     if (state_.AutoRedraw) on.step([&] { Redraw(); });
   });
 }

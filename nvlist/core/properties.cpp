@@ -104,6 +104,8 @@ void nvList::Font(const norvane::Font& value) {
   trapped(here, "Font", [&](Trap& on) {
     on.step([&] { state_.Font = CloneFont(value); });
     on.step([&] { surface_.Font(state_.Font); });
+    on.step([&] { lblWidth.Font(state_.Font); });
+    state_.Items.forgetTextWidths();
     on.step([&] { container_.PropertyChanged("Font"); });
     on.step([&] { state_.ItemHeightValue = unroundedItemHeight(); });
     repaint(on);
@@ -129,7 +131,12 @@ void nvList::ColorStyle(cColorStyle value) {
 }
 
 void nvList::ScrollColorStyle(cScrollColorStyle value) {
-  assignOnly("ScrollColorStyle", &ListState::ScrollColorStyle, value);
+  trapped(here, "ScrollColorStyle", [&](Trap& on) {
+    state_.ScrollColorStyle = value;
+    on.step([&] { VScroll1.ColorStyle(value); });
+    on.step([&] { HScroll1.ColorStyle(value); });
+    on.step([&] { container_.PropertyChanged("ScrollColorStyle"); });
+  });
 }
 
 void nvList::BorderColor(Colour value) {

@@ -79,7 +79,7 @@ void nvList::ItemSelected(const Variant& Index, Boolean value) {
     on.step([&] { container_.PropertyChanged("ItemSelected"); });
     const auto isOutside = [&] {
       const std::int32_t index = Index.toInt32();
-      const std::int32_t top = state_.VScroll1.Value;
+      const std::int32_t top = VScroll1.Value();
       return index < top || index >= checked::add(top, VisibleItems());
     };
     if (value && on.test(isOutside)) on.step([&] { TopIndex(Index.toInt32()); });

@@ -13,17 +13,54 @@ namespace norvane {
 /// the object with nvList::addSink. Each handler runs in the middle of the operation that raises
 /// it and may do anything to the list; what it throws is a failure of that step.
 ///
-/// All arguments are by reference, as hosts bind them; those that are read back are told.
+/// All arguments are by reference, as hosts bind them; those that are read back are told. Positions
+/// are pixels of the list; `Button` and `Shift` are as told at UserControl::UserControl_MouseDown.
 class __nvList {  // NOLINT(bugprone-reserved-identifier): the published name of the interface
  public:
   virtual ~__nvList() = default;
 
+  /// 1
   virtual void Click() {}
+  /// 2
   virtual void DblClick() {}
-  /// Before a check mark flips; `Cancel` is read back.
-  virtual void ItemCheck(std::int32_t& Item, Boolean& Cancel) { (void)Item, (void)Cancel; }
-  /// ListIndex has refused a value, which stays as it was.
-  virtual void ErrorWrongIndex(Variant& Index) { (void)Index; }
+  /// 3: before a check mark flips; `Item` is the current item. `Cancel` is read back: true keeps
+  /// the mark.
+  virtual void ItemCheck(std::int32_t& Item, Boolean& Cancel);
+  /// 4
+  virtual void MouseUp(std::int16_t& Button, std::int16_t& Shift, float& X, float& Y);
+  /// 5: `IndexUnderMouse` may name no item; `TextUnderMouse` is empty then.
+  virtual void MouseMove(Variant& TextUnderMouse, std::int32_t& IndexUnderMouse,
+                         std::int16_t& Button, std::int16_t& Shift, float& X, float& Y);
+  /// 6: the first thing in a press. `Button` is read back: 2 makes it a right press.
+  virtual void MouseDown(std::int16_t& Button, std::int16_t& Shift, float& X, float& Y);
+  /// 7: a list file could not be loaded.
+  virtual void ErrorListInput() {}
+  /// 8: a list file could not be saved.
+  virtual void ErrorListSave() {}
+  /// 9, 10: for each item while a list is saved or loaded. `Index` is read back.
+  virtual void ListSaving(Variant& Index);
+  virtual void ListReading(Variant& Index);
+  /// 11: a bar or the wheel has scrolled the list.
+  virtual void Scroll() {}
+  /// 12: before the key is handled. `KeyCode` is read back: 0 swallows the key.
+  virtual void KeyDown(std::int16_t& KeyCode, std::int16_t& Shift);
+  /// 13
+  virtual void KeyPress(std::int16_t& KeyAscii);
+  /// 14
+  virtual void KeyUp(std::int16_t& KeyCode, std::int16_t& Shift);
+
+  // 15 to 20 can be bound; the list never raises them.
+  virtual void OLECompleteDrag(std::int32_t& Effect);
+  virtual void OLEDragDrop(Ref<Object>& Data, std::int32_t& Effect, std::int16_t& Button,
+                           std::int16_t& Shift, float& X, float& Y);
+  virtual void OLEDragOver(Ref<Object>& Data, std::int32_t& Effect, std::int16_t& Button,
+                           std::int16_t& Shift, float& X, float& Y, std::int16_t& State);
+  virtual void OLEGiveFeedback(std::int32_t& Effect, Boolean& DefaultCursors);
+  virtual void OLESetData(Ref<Object>& Data, std::int16_t& DataFormat);
+  virtual void OLEStartDrag(Ref<Object>& Data, std::int32_t& AllowedEffects);
+
+  /// 21: ListIndex has refused a value, and stays as it was.
+  virtual void ErrorWrongIndex(Variant& Index);
 };
 
 /// The hosts that listen. They may come and go while an event is being raised: one that leaves

@@ -33,6 +33,10 @@ class Trap {
  public:
   Trap(const Module& module, const char* procedure) : module_(module), procedure_(procedure) {}
 
+  /// Whether any procedure runs on this thread. A platform must not end a control then: it may be
+  /// in use further up.
+  static bool anyRuns() { return depth > 0; }
+
   /// Runs one statement.
   template <class Statement>
   void step(Statement&& statement, int line = __builtin_LINE()) {
@@ -70,6 +74,15 @@ class Trap {
   /// Thrown to leave the procedure after a report.
   struct Left {};
 
+  /// Counts the procedures that run.
+  struct Running {
+    Running() { ++depth; }
+    ~Running() { --depth; }
+    Running(const Running&) = delete;
+    Running& operator=(const Running&) = delete;
+  };
+  static inline thread_local int depth = 0;
+
   template <class Body>
   friend void trapped(const Module& module, const char* procedure, Body&& body);
 
@@ -85,6 +98,7 @@ class Trap {
 template <class Body>
 void trapped(const Module& module, const char* procedure, Body&& body) {
   Trap on(module, procedure);
+  const Trap::Running running;
   try {
     body(on);
   } catch (const Trap::Left&) {

@@ -7,22 +7,14 @@
 
 #include <nvlist/core/Boolean.h>
 #include <nvlist/core/Font.h>
+#include <nvlist/platform/Bounds.h>
+#include <nvlist/platform/TextBox.h>
 #include <nvlist/platform/Timer.h>
 #include <nvlist/render/Surface.h>
 
 namespace norvane {
 
 class UserControl;
-
-/// Where a control stands in the one around it, in pixels of that one.
-struct Bounds {
-  float Left = 0;
-  float Top = 0;
-  float Width = 0;
-  float Height = 0;
-
-  friend bool operator==(const Bounds&, const Bounds&) = default;
-};
 
 /// The place a control stands in: what a control asks of the form, or of the control, around it. A
 /// platform has one for each control; it outlives the control. Any call may throw.
@@ -70,10 +62,26 @@ class Container {
   virtual void SetCapture() = 0;
   virtual void ReleaseCapture() = 0;
 
+  /// The handle of the control's window; 0 where there is none.
+  virtual std::int32_t hwnd() = 0;
+  /// From now on every message of the mouse wheel over the control goes to `procedure` alone, with
+  /// the turn in the high half of `wParam`, 120 a notch, and the keys in the low half; the position
+  /// in the halves of `lParam`, y in the high one. An empty function ends it.
+  virtual void hookWheel(
+      std::function<void(std::int32_t wParam, std::int32_t lParam)> procedure) = 0;
+
+  /// The control's UserControl_Paint runs before its image is looked at next. Asking again changes
+  /// nothing.
+  virtual void paintLater() = 0;
+
   // ---- what stands in it ----
 
   /// A place for one more control, in this one and in front of those before.
   virtual std::unique_ptr<Container> addChild() = 0;
+  /// An edit box in front of all that. `keyPress` gets each character that is typed; one that it
+  /// sets to 0 never reaches the box.
+  virtual std::unique_ptr<TextBox> addTextBox(
+      std::function<void(std::int16_t& KeyAscii)> keyPress) = 0;
   /// A timer that calls `tick`, which must not throw.
   virtual std::unique_ptr<Timer> addTimer(std::function<void()> tick) = 0;
 };

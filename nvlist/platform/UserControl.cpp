@@ -1,6 +1,7 @@
 #include <nvlist/platform/UserControl.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace norvane {
 
@@ -18,6 +19,10 @@ UserControl::~UserControl() { container_.attach(nullptr); }
 void UserControl::UserControl_MouseDown(std::int16_t, std::int16_t, float, float) {}
 void UserControl::UserControl_MouseMove(std::int16_t, std::int16_t, float, float) {}
 void UserControl::UserControl_MouseUp(std::int16_t, std::int16_t, float, float) {}
+void UserControl::UserControl_KeyDown(std::int16_t&, std::int16_t) {}
+void UserControl::UserControl_KeyPress(std::int16_t&) {}
+void UserControl::UserControl_KeyUp(std::int16_t, std::int16_t) {}
+void UserControl::UserControl_AmbientChanged(std::string_view) {}
 
 void UserControl::Left(float value) { Move({value, Top(), Width(), Height()}); }
 void UserControl::Top(float value) { Move({Left(), value, Width(), Height()}); }
@@ -27,15 +32,16 @@ void UserControl::Height(float value) { Move({Left(), Top(), Width(), value}); }
 void UserControl::Move(const Bounds& bounds) {
   const Bounds before = bounds_;
   bounds_ = {bounds.Left, bounds.Top, std::max(bounds.Width, 0.0F), std::max(bounds.Height, 0.0F)};
+  if (bounds_ == before) return;
   container_.move(bounds_);
   if (bounds_.Width != before.Width || bounds_.Height != before.Height) UserControl_Resize();
 }
 
 void UserControl::Visible(Boolean value) {
-  const bool wasVisible = static_cast<bool>(visible_);
-  visible_ = value;
-  container_.show(static_cast<bool>(value));
-  if (value && !wasVisible) UserControl_Show();
+  const bool wasVisible = static_cast<bool>(std::exchange(visible_, value));
+  if (static_cast<bool>(value) == wasVisible) return;
+  container_.show(!wasVisible);
+  if (!wasVisible) UserControl_Show();
 }
 
 }  // namespace norvane

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string_view>
 
 #include <nvlist/core/Boolean.h>
 #include <nvlist/platform/Container.h>
@@ -26,6 +27,19 @@ class UserControl {
   virtual void UserControl_MouseDown(std::int16_t Button, std::int16_t Shift, float X, float Y);
   virtual void UserControl_MouseMove(std::int16_t Button, std::int16_t Shift, float X, float Y);
   virtual void UserControl_MouseUp(std::int16_t Button, std::int16_t Shift, float X, float Y);
+  /// After the release of the left button over the control.
+  virtual void UserControl_Click() {}
+  /// Instead of the second press of a double click. False where the control knows none: it hears
+  /// that press then.
+  virtual bool UserControl_DblClick() { return false; }
+
+  /// The code of a key, 38 for Up: the virtual-key codes of Windows. 0 afterwards: nobody else
+  /// hears of the key.
+  virtual void UserControl_KeyDown(std::int16_t& KeyCode, std::int16_t Shift);
+  /// A character that a key made.
+  virtual void UserControl_KeyPress(std::int16_t& KeyAscii);
+  virtual void UserControl_KeyUp(std::int16_t KeyCode, std::int16_t Shift);
+
   /// The surface has another size.
   virtual void UserControl_Resize() {}
   /// The control has become visible.
@@ -36,7 +50,10 @@ class UserControl {
   virtual void UserControl_GotFocus() {}
   virtual void UserControl_LostFocus() {}
   virtual void UserControl_ExitFocus() {}
-  /// What was painted is lost, as on a screen of another resolution: it has to be painted anew.
+  /// An ambient value of the form has changed; "DisplayName" is the control's name.
+  virtual void UserControl_AmbientChanged(std::string_view PropertyName);
+  /// The control has to paint itself anew: it has asked for that (Container::paintLater), or what it
+  /// had painted is lost, as on a screen of another resolution.
   virtual void UserControl_Paint() {}
 
   // ---- the place, in pixels of the control around it ----

@@ -37,7 +37,7 @@ std::int32_t nvList::VisibleItems() {
     if (height <= 0) return;
     on.step([&] {
       double limit = double{surface_.ScaleHeight()} - height;
-      if (state_.HScroll1.Tag == "True") limit -= state_.HScroll1.Height;
+      if (HScroll1.Tag() == "True") limit -= HScroll1.Height();
       const double room = limit - state_.IndentTop;
       if (room >= 0) count = nearest<std::int32_t>(std::floor(room / height) + 1);
     });
@@ -80,14 +80,14 @@ void nvList::paintFace(Trap& on) {
   on.step([&] { surface_.CurrentY(state_.IndentTop); });
 
   RepaintValues repaint;
-  if (state_.HScroll1.Visible) {
-    const ScrollBarRecord& bar = state_.HScroll1;
+  if (HScroll1.Visible()) {
     on.step([&] {
-      repaint.ItemRight = nearest<std::int32_t>(double{surface_.ScaleWidth()} + bar.Max);
+      repaint.ItemRight = nearest<std::int32_t>(double{surface_.ScaleWidth()} + HScroll1.Max());
     });
-    on.step(
-        [&] { repaint.ItemLeft = nearest<std::int32_t>(double{state_.IndentLeft} - bar.Value); });
-    repaint.ScrollOffset = bar.Value;
+    on.step([&] {
+      repaint.ItemLeft = nearest<std::int32_t>(double{state_.IndentLeft} - HScroll1.Value());
+    });
+    repaint.ScrollOffset = HScroll1.Value();
   } else {
     on.step([&] { repaint.ItemRight = nearest<std::int32_t>(surface_.ScaleWidth()); });
     on.step([&] { repaint.ItemLeft = nearest<std::int32_t>(state_.IndentLeft); });
@@ -114,12 +114,10 @@ void nvList::paintFace(Trap& on) {
 
 /// Closes the square that two scroll bars leave free.
 void nvList::paintCorner(Trap& on) {
-  const ScrollBarRecord& horizontal = state_.HScroll1;
-  const ScrollBarRecord& vertical = state_.VScroll1;
-  if (!horizontal.Visible || !vertical.Visible) return;
+  if (!HScroll1.Visible() || !VScroll1.Visible()) return;
   on.step([&] {
-    surface_.Line(LineMode::filledBox, horizontal.Left + horizontal.Width,
-                  vertical.Top + vertical.Height, surface_.ScaleWidth(), surface_.ScaleHeight(),
+    surface_.Line(LineMode::filledBox, HScroll1.Left() + HScroll1.Width(),
+                  VScroll1.Top() + VScroll1.Height(), surface_.ScaleWidth(), surface_.ScaleHeight(),
                   state_.BackColor);
   });
 }

@@ -84,7 +84,7 @@ void nvList::Row::selectText() {
 float nvList::Row::selectionLeft() {
   const cItemAlignment alignment = item().Alignment;
   if (alignment != cCenter && alignment != cRight) return pictureColumn();
-  const float right = width() - (isScrollNeeded() ? state_.VScroll1.Width : 0);
+  const float right = width() - (isScrollNeeded() ? list_.VScroll1.Width() : 0);
   return alignment == cCenter ? (right - textWidth()) / 2 : right - textWidth() - 3;
 }
 

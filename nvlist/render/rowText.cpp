@@ -50,7 +50,7 @@ void nvList::Row::alignText() {
     const cItemAlignment alignment = item().Alignment;
     if (alignment != cCenter && alignment != cRight) return;
     const double right =
-        static_cast<double>(repaint_.ItemRight) - (isScrollNeeded() ? state_.VScroll1.Width : 0);
+        static_cast<double>(repaint_.ItemRight) - (isScrollNeeded() ? list_.VScroll1.Width() : 0);
     const double left = alignment == cCenter
                             ? (right - (textWidth() - pictureAllowance(state_))) / 2
                             : right - textWidth() - 3;
@@ -88,9 +88,9 @@ void nvList::Row::setFontFlags() {
 
 void nvList::Row::paintTwoColumns(Rectangle rect, std::size_t marker) {
   const std::string_view text = repaint_.text;
-  if (state_.VScroll1.Visible)
+  if (list_.VScroll1.Visible())
     on_.step([&] {
-      rect.Right = nearest<std::int32_t>(static_cast<double>(rect.Right) - state_.VScroll1.Width);
+      rect.Right = nearest<std::int32_t>(static_cast<double>(rect.Right) - list_.VScroll1.Width());
     });
   on_.step([&] {
     surface_.DrawTextA(surface_.hDC(), text.substr(0, marker), -1, rect, TextFormat::expandTabs);

@@ -386,9 +386,15 @@ void nvHScroll::endReachedPress(Trap& on) {
 
 void nvHScroll::Redraw() {
   trapped(here, "Redraw", [&](Trap& on) {
-    on.step([&] { surface_.Cls(); });
     if (state_.PageActive) endReachedPress(on);
     if (!state_.Dragging) placeThumb(on);
+    on.step([&] { container_.paintLater(); });
+  });
+}
+
+void nvHScroll::UserControl_Paint() {
+  trapped(here, "Redraw", [&](Trap& on) {
+    on.step([&] { surface_.Cls(); });
     if (state_.ColorStyle == custom) {
       on.step([&] { scroll::fill(surface_, backColor_); });
       return;

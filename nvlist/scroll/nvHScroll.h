@@ -95,7 +95,7 @@ class nvHScroll final : public UserControl,
   void UserControl_MouseUp(std::int16_t Button, std::int16_t Shift, float X, float Y) override;
   void UserControl_Resize() override;
   void UserControl_Show() override;
-  void UserControl_Paint() override { Redraw(); }
+  void UserControl_Paint() override;
 
   /// Everything the bar knows of itself but its colours, for a look from outside.
   const scroll::ScrollState& state() const { return state_; }

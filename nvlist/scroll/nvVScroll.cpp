@@ -343,9 +343,15 @@ void nvVScroll::endReachedPress(Trap& on) {
 
 void nvVScroll::Redraw() {
   trapped(here, "Redraw", [&](Trap& on) {
-    on.step([&] { surface_.Cls(); });
     if (state_.PageActive) endReachedPress(on);
     if (!state_.Dragging) placeThumb(on);
+    on.step([&] { container_.paintLater(); });
+  });
+}
+
+void nvVScroll::UserControl_Paint() {
+  trapped(here, "Redraw", [&](Trap& on) {
+    on.step([&] { surface_.Cls(); });
     if (!state_.Gradient || !state_.Enabled) {
       on.step([&] { scroll::fill(surface_, colours::white); });
       return;

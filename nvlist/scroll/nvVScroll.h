@@ -56,7 +56,8 @@ class nvVScroll final : public UserControl,
   cScrollColorStyle ColorStyle() const { return state_.ColorStyle; }
   void ColorStyle(cScrollColorStyle value);
 
-  /// Paints the track and places the thumb by the value, unless it is being dragged.
+  /// Places the thumb by the value, unless it is being dragged, and paints the track when it is
+  /// looked at next: a list that is being filled moves its bar for every item.
   void Redraw();
 
   /// Whether the value follows the thumb while it is dragged, or when it is let go. Default: true.
@@ -84,7 +85,7 @@ class nvVScroll final : public UserControl,
   void UserControl_MouseUp(std::int16_t Button, std::int16_t Shift, float X, float Y) override;
   void UserControl_Resize() override;
   void UserControl_Show() override;
-  void UserControl_Paint() override { Redraw(); }
+  void UserControl_Paint() override;
 
   /// Everything the bar knows of itself, for a look from outside.
   const scroll::ScrollState& state() const { return state_; }

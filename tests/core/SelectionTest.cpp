@@ -90,7 +90,7 @@ TEST_F(Selection, TheCurrentItemScrollsIntoTheWindow) {
     heard();
     list.ListIndex(c.index);
     EXPECT_EQ(list.TopIndex(), c.newTop) << c.top << " " << c.index;
-    EXPECT_EQ(list.state().VScroll1.Value, c.newTop);
+    EXPECT_EQ(list.verticalBar().Value(), c.newTop);
     EXPECT_EQ(heard(), c.top == c.newTop ? "ListIndex*" : "ListIndex TopIndex**");
   }
   fill(3);

@@ -39,6 +39,7 @@ class NvListWidgetTest : public testing::Test {
  protected:
   NvListWidgetTest() {
     widget.resize(200, 150);
+    widget.list().BorderVisible(false);
     widget.show();
     QCoreApplication::processEvents();
   }

@@ -16,6 +16,7 @@ class PaintedRows : public testing::Test {
   PaintedRows() {
     widget.resize(200, 150);
     list.MinHeight(20);
+    list.BorderVisible(false);
     QImage red(8, 8, QImage::Format_RGB32);
     red.fill(Qt::red);
     icon = QtPicture::fromImage(red);

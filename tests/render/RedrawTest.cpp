@@ -98,11 +98,11 @@ TEST_F(Redraw, RepairsATopIndexPastTheEnd) {
   list.TopIndex(30);
   list.AutoRedraw(false);
   for (int i = 0; i < 38; ++i) list.ItemsRemove(0);
-  const std::int32_t barValue = list.state().VScroll1.Value;
+  const std::int32_t barValue = list.verticalBar().Value();
   list.AutoRedraw(true);
   EXPECT_EQ(list.TopIndex(), 0);
   EXPECT_EQ(rowsOf(headless.surface()), "38@3 39@16");
-  EXPECT_EQ(list.state().VScroll1.Value, barValue);
+  EXPECT_EQ(list.verticalBar().Value(), barValue);
   EXPECT_FALSE(list.state().TopIndexRepair);
 }
 
@@ -111,10 +111,10 @@ TEST_F(Redraw, TopIndexKeepsTheLastRowInTheWindow) {
   ASSERT_EQ(list.VisibleItems(), 7);
   list.TopIndex(5);
   EXPECT_EQ(rowsOf(headless.surface()).substr(0, 8), "5@3 6@16");
-  EXPECT_EQ(list.state().VScroll1.Max, 33);
+  EXPECT_EQ(list.verticalBar().Max(), 33);
   list.TopIndex(1000);
   EXPECT_EQ(list.TopIndex(), 33);
-  EXPECT_EQ(list.state().VScroll1.Value, 33);
+  EXPECT_EQ(list.verticalBar().Value(), 33);
   list.TopIndex(-4);
   EXPECT_EQ(list.TopIndex(), 0);
   list.TopIndex(std::numeric_limits<std::int32_t>::max());

@@ -8,15 +8,20 @@
 namespace norvane {
 
 HeadlessContainer::HeadlessContainer(float width, float height)
-    : ownSurface_(std::in_place, width, height), surface_(*ownSurface_), root_(*this) {}
+    : ownSurface_(std::in_place, width, height),
+      surface_(*ownSurface_),
+      root_(*this),
+      handle_(++lastHandle_) {}
 
-HeadlessContainer::HeadlessContainer(Surface& surface) : surface_(surface), root_(*this) {}
+HeadlessContainer::HeadlessContainer(Surface& surface)
+    : surface_(surface), root_(*this), handle_(++lastHandle_) {}
 
 HeadlessContainer::HeadlessContainer(HeadlessContainer* parent)
     : ownSurface_(std::in_place, 0.0F, 0.0F),
       surface_(*ownSurface_),
       parent_(parent),
-      root_(parent->root_) {
+      root_(parent->root_),
+      handle_(++root_.lastHandle_) {
   parent_->children_.push_back(this);
 }
 
@@ -33,6 +38,34 @@ std::unique_ptr<Container> HeadlessContainer::addChild() {
 
 std::unique_ptr<Timer> HeadlessContainer::addTimer(std::function<void()> tick) {
   return root_.clock_.addTimer(std::move(tick));
+}
+
+std::unique_ptr<TextBox> HeadlessContainer::addTextBox(
+    std::function<void(std::int16_t&)> keyPress) {
+  auto box = std::make_unique<HeadlessTextBox>(std::move(keyPress));
+  textBoxes_.push_back(box.get());
+  return box;
+}
+
+bool HeadlessContainer::turnWheel(std::int16_t delta) {
+  // A copy, as the control may end the hook.
+  const auto procedure = wheelProcedure_;
+  if (!procedure) return false;
+  procedure(std::int32_t{delta} * 0x10000, 0);
+  return true;
+}
+
+void HeadlessContainer::paintLater() {
+  isPaintPending_ = true;
+  if (!ownSurface_) {
+    paintPending();
+  } else if (!ownSurface_->beforeLook) {
+    ownSurface_->beforeLook = [this] { paintPending(); };
+  }
+}
+
+void HeadlessContainer::paintPending() {
+  if (std::exchange(isPaintPending_, false) && control_) control_->UserControl_Paint();
 }
 
 HeadlessSurface& HeadlessContainer::ownSurface() {
@@ -87,8 +120,18 @@ void HeadlessContainer::press(float x, float y, std::int16_t button, std::int16_
   HeadlessContainer* const target = root_.pressed_ ? root_.pressed_ : root_.hit(point);
   if (!target || !target->control_) return;
   root_.pressed_ = target;
+  root_.isDoubleClick_ = false;
   const Point own = target->fromRoot(point);
   target->control_->UserControl_MouseDown(button, shift, own.x, own.y);
+}
+
+void HeadlessContainer::doubleClick(float x, float y, std::int16_t button, std::int16_t shift) {
+  const Point point = onRoot({x, y});
+  HeadlessContainer* const target = root_.hit(point);
+  if (!target || !target->control_) return;
+  root_.pressed_ = target;
+  root_.isDoubleClick_ = button == 1 && target->control_->UserControl_DblClick();
+  if (!root_.isDoubleClick_) press(x, y, button, shift);
 }
 
 void HeadlessContainer::moveTo(float x, float y, std::int16_t buttons, std::int16_t shift) {
@@ -108,10 +151,16 @@ void HeadlessContainer::moveTo(float x, float y, std::int16_t buttons, std::int1
 }
 
 void HeadlessContainer::release(float x, float y, std::int16_t button, std::int16_t shift) {
-  HeadlessContainer* const target = std::exchange(root_.pressed_, nullptr);
+  HeadlessContainer* const target = root_.pressed_;
   if (!target || !target->control_) return;
-  const Point own = target->fromRoot(onRoot({x, y}));
+  const Point point = onRoot({x, y});
+  const Point own = target->fromRoot(point);
+  const bool isClick = button == 1 && !root_.isDoubleClick_ && root_.hit(point) == target;
   target->control_->UserControl_MouseUp(button, shift, own.x, own.y);
+  // The handler may have ended the control.
+  const bool isStillThere = root_.pressed_ == target;
+  root_.pressed_ = nullptr;
+  if (isStillThere && isClick) target->control_->UserControl_Click();
 }
 
 }  // namespace norvane

@@ -9,6 +9,7 @@
 #include <nvlist/platform/Container.h>
 #include <nvlist/platform/headless/HeadlessClock.h>
 #include <nvlist/platform/headless/HeadlessSurface.h>
+#include <nvlist/platform/headless/HeadlessTextBox.h>
 
 namespace norvane {
 
@@ -51,6 +52,13 @@ class HeadlessContainer : public Container {
   /// Whether this place and all around it show.
   bool isShown() const { return isVisible_ && (!parent_ || parent_->isShown()); }
   bool hasCapture() const { return root_.captured_ == this; }
+  /// The edit boxes in this place, in the order of their making.
+  const std::vector<HeadlessTextBox*>& textBoxes() const { return textBoxes_; }
+  /// A turn of the wheel, 120 a notch away from the user. False where the control has no hook on
+  /// it.
+  bool turnWheel(std::int16_t delta);
+  /// The second press of a double click, as the control under it hears it.
+  void doubleClick(float x, float y, std::int16_t button = 1, std::int16_t shift = 0);
   /// The surface it made for itself; Failure 5 for a form that shows the program's.
   HeadlessSurface& ownSurface();
 
@@ -67,7 +75,13 @@ class HeadlessContainer : public Container {
   void enable(bool isEnabled) override { isEnabled_ = isEnabled; }
   void SetCapture() override { root_.captured_ = this; }
   void ReleaseCapture() override { root_.captured_ = nullptr; }
+  void paintLater() override;
   std::unique_ptr<Container> addChild() override;
+  std::int32_t hwnd() override { return handle_; }
+  void hookWheel(std::function<void(std::int32_t, std::int32_t)> procedure) override {
+    wheelProcedure_ = std::move(procedure);
+  }
+  std::unique_ptr<TextBox> addTextBox(std::function<void(std::int16_t&)> keyPress) override;
   std::unique_ptr<Timer> addTimer(std::function<void()> tick) override;
 
  private:
@@ -77,6 +91,7 @@ class HeadlessContainer : public Container {
 
   explicit HeadlessContainer(HeadlessContainer* parent);
 
+  void paintPending();
   /// The foremost control at a point of this place that hears the mouse.
   HeadlessContainer* hit(Point point);
   Point onRoot(Point point) const;
@@ -91,11 +106,17 @@ class HeadlessContainer : public Container {
   Bounds bounds_;
   bool isVisible_ = true;
   bool isEnabled_ = true;
-
+  bool isPaintPending_ = false;
+  std::vector<HeadlessTextBox*> textBoxes_;
+  std::function<void(std::int32_t, std::int32_t)> wheelProcedure_;
   // Of the root, for all in it.
   std::deque<std::function<void()>> queue_;
   HeadlessClock clock_;
   HeadlessContainer* pressed_ = nullptr;
+  bool isDoubleClick_ = false;
+  std::int32_t lastHandle_ = 0;
+
+  const std::int32_t handle_;
   HeadlessContainer* captured_ = nullptr;
 };
 

@@ -26,7 +26,18 @@ void HeadlessSurface::resize(float width, float height) {
   height_ = height;
 }
 
+const Recording& HeadlessSurface::image() const {
+  if (beforeLook) beforeLook();
+  return image_;
+}
+
+int HeadlessSurface::frames() const {
+  if (beforeLook) beforeLook();
+  return frames_;
+}
+
 void HeadlessSurface::replay(Surface& onto) const {
+  if (beforeLook) beforeLook();
   onto.BackColor(settingsOfImage_.backColor);
   onto.Font(settingsOfImage_.font);
   onto.ForeColor(settingsOfImage_.foreColor);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include <nvlist/platform/headless/Recording.h>
 
 namespace norvane {
@@ -25,13 +27,15 @@ class HeadlessSurface : public Surface {
   void fontMeasure(const FontMeasure& measure) { measure_ = measure; }
 
   /// The calls since the last Cls, that one included.
-  const Recording& image() const { return image_; }
+  const Recording& image() const;
+  /// Called before the image is looked at, if set: the last moment to draw.
+  std::function<void()> beforeLook;
   /// Begins the image anew with what is drawn from now on, as after a Cls that draws nothing.
   void forget();
   /// Draws the image onto another surface, with the colours and the font it began with.
   void replay(Surface& onto) const;
   /// How many times the whole image was cleared; a repaint clears it once.
-  int frames() const { return frames_; }
+  int frames() const;
 
   void Cls() override;
   void Line(LineMode mode, float x1, float y1, float x2, float y2, Colour colour) override;

@@ -1,33 +1,66 @@
 #include <nvlist/platform/qt/NvListWidget.h>
 
+#include <QTimer>
+
+#include <nvlist/objects/Trap.h>
 #include <nvlist/platform/qt/QtApplication.h>
 
 namespace norvane {
 
-NvListWidget::NvListWidget(QWidget* parent) : QWidget(parent), place_(*this), list_(place_) {
+/// The list and its place, which may have to live a little longer than the widget.
+struct NvListWidget::Core {
+  explicit Core(QWidget& widget) : place(widget, nullptr), list(place) {}
+
+  QtPlace place;
+  nvList list;
+
+  /// Ends it when no procedure of the library runs any more.
+  static void endLater(std::shared_ptr<Core> core) {
+    if (!Trap::anyRuns()) return;
+    QTimer::singleShot(1, [core = std::move(core)]() mutable { endLater(std::move(core)); });
+  }
+};
+
+NvListWidget::NvListWidget(QWidget* parent)
+    : QWidget(parent), core_(std::make_shared<Core>(*this)) {
   QtApplication::ensure();
   setFocusPolicy(Qt::StrongFocus);
-  place_.onPropertyChanged = [this](std::string_view name) {
-    if (onPropertyChanged) onPropertyChanged(name);
+  core_->place.onPropertyChanged = [this](std::string_view name) {
+    // A copy, as a handler may take itself away.
+    const auto handler = onPropertyChanged;
+    if (handler) handler(name);
   };
-  list_.UserControl_InitProperties();
+  connect(this, &QObject::objectNameChanged, this,
+          [this] { list().UserControl_AmbientChanged("DisplayName"); });
+  list().UserControl_InitProperties();
 }
 
-NvListWidget::~NvListWidget() = default;
+NvListWidget::~NvListWidget() {
+  core_->place.onPropertyChanged = nullptr;
+  core_->place.detach();
+  Core::endLater(std::move(core_));
+}
+
+nvList& NvListWidget::list() { return core_->list; }
+
+bool NvListWidget::isDesignMode() const { return core_->place.isDesignMode; }
 
 void NvListWidget::setDesignMode(bool on) {
-  if (place_.isDesignMode == on) return;
-  place_.isDesignMode = on;
-  list_.Redraw();
+  if (isDesignMode() == on) return;
+  core_->place.isDesignMode = on;
+  list().Redraw();
 }
 
-bool NvListWidget::event(QEvent* event) { return place_.event(event) || QWidget::event(event); }
+bool NvListWidget::event(QEvent* event) {
+  // Events come before the list is there, and after.
+  return (core_ && core_->place.event(event)) || QWidget::event(event);
+}
 
-void NvListWidget::paintEvent(QPaintEvent*) { place_.paint(); }
+void NvListWidget::paintEvent(QPaintEvent*) { core_->place.paint(); }
 
 void NvListWidget::resizeEvent(QResizeEvent*) {
-  place_.resize();
-  list_.UserControl_Resize();
+  core_->place.resize();
+  list().UserControl_Resize();
 }
 
 }  // namespace norvane

@@ -2,6 +2,7 @@
 
 #include <QWidget>
 #include <functional>
+#include <memory>
 #include <string_view>
 
 #include <nvlist/nvList.h>
@@ -22,11 +23,11 @@ class NvListWidget : public QWidget {
   explicit NvListWidget(QWidget* parent = nullptr);
   ~NvListWidget() override;
 
-  /// Lives as long as the widget.
-  nvList& list() { return list_; }
+  /// Lives as long as the widget; a handler of one of its events may end the widget.
+  nvList& list();
 
   /// Whether the list shows the preview of a form designer instead of its items. Default: false.
-  bool isDesignMode() const { return place_.isDesignMode; }
+  bool isDesignMode() const;
   void setDesignMode(bool on);
 
   /// Told after each change of a property of the list, with the property's exact name. Default:
@@ -41,8 +42,9 @@ class NvListWidget : public QWidget {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  QtPlace place_;
-  nvList list_;
+  struct Core;
+
+  std::shared_ptr<Core> core_;
 };
 
 }  // namespace norvane

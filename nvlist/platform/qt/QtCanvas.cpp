@@ -6,6 +6,7 @@
 #include <utility>
 
 #include <nvlist/objects/Failure.h>
+#include <nvlist/platform/qt/QtColour.h>
 #include <nvlist/platform/qt/QtFont.h>
 #include <nvlist/platform/qt/QtPicture.h>
 
@@ -77,38 +78,6 @@ bool isPrintable(QChar character) {
   return character.unicode() >= firstPrintable && character.unicode() <= lastPrintable;
 }
 
-QRgb systemRgb(const QPalette& palette, unsigned index) {
-  static constexpr std::pair<QPalette::ColorGroup, QPalette::ColorRole> table[] = {
-      {QPalette::Active, QPalette::Button},             // scroll bar
-      {QPalette::Active, QPalette::Dark},               // desktop
-      {QPalette::Active, QPalette::Highlight},          // active caption
-      {QPalette::Inactive, QPalette::Highlight},        // inactive caption
-      {QPalette::Active, QPalette::Window},             // menu
-      {QPalette::Active, QPalette::Base},               // window
-      {QPalette::Active, QPalette::WindowText},         // window frame
-      {QPalette::Active, QPalette::WindowText},         // menu text
-      {QPalette::Active, QPalette::Text},               // window text
-      {QPalette::Active, QPalette::HighlightedText},    // caption text
-      {QPalette::Active, QPalette::Window},             // active border
-      {QPalette::Inactive, QPalette::Window},           // inactive border
-      {QPalette::Active, QPalette::Mid},                // application workspace
-      {QPalette::Active, QPalette::Highlight},          // highlight
-      {QPalette::Active, QPalette::HighlightedText},    // highlight text
-      {QPalette::Active, QPalette::Button},             // button face
-      {QPalette::Active, QPalette::Dark},               // button shadow
-      {QPalette::Disabled, QPalette::Text},             // grey text
-      {QPalette::Active, QPalette::ButtonText},         // button text
-      {QPalette::Inactive, QPalette::HighlightedText},  // inactive caption text
-      {QPalette::Active, QPalette::Light},              // button highlight
-      {QPalette::Active, QPalette::Shadow},             // 3D dark shadow
-      {QPalette::Active, QPalette::Midlight},           // 3D light
-      {QPalette::Active, QPalette::ToolTipText},        // info text
-      {QPalette::Active, QPalette::ToolTipBase},        // info back
-  };
-  if (index >= std::size(table)) return qRgb(0, 0, 0);
-  return palette.color(table[index].first, table[index].second).rgb();
-}
-
 }  // namespace
 
 /// A line of text as it is shown, with the positions of the characters that stood behind a `&`.
@@ -174,11 +143,7 @@ void QtCanvas::endPainter() {
   painterFace_ = nullptr;
 }
 
-QRgb QtCanvas::rgb(Colour colour) const {
-  const auto bits = static_cast<unsigned>(colour);
-  if (isSystemColour(colour)) return systemRgb(palette_, bits & 0xFF);
-  return qRgb(bits & 0xFF, bits >> 8 & 0xFF, bits >> 16 & 0xFF);
-}
+QRgb QtCanvas::rgb(Colour colour) const { return rgbOf(colour, palette_); }
 
 QRect QtCanvas::visiblePart(const Rectangle& rectangle) const {
   const int left = std::max(rectangle.Left, 0);

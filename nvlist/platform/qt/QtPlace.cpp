@@ -1,14 +1,18 @@
 #include <nvlist/platform/qt/QtPlace.h>
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
+#include <QWheelEvent>
+#include <algorithm>
 #include <chrono>
 #include <cmath>
 
 #include <nvlist/platform/UserControl.h>
 #include <nvlist/platform/qt/QtFont.h>
+#include <nvlist/platform/qt/QtKeys.h>
+#include <nvlist/platform/qt/QtTextBox.h>
 #include <nvlist/platform/qt/QtTimer.h>
 
 namespace norvane {
@@ -19,11 +23,17 @@ using SteadyClock = std::chrono::steady_clock;
 // One thread has all the controls.
 unsigned timesAsked = 0;
 SteadyClock::time_point lastDone = SteadyClock::now();
+int eventLoops = 0;
+std::int32_t lastHandle = 0;
+
+/// A handler may cause the event that calls it again; from here on it has to wait.
+constexpr int mostEventLoops = 16;
 
 /// A control inside another one.
 class ChildWidget final : public QWidget, public QtPlace {
  public:
-  explicit ChildWidget(QWidget* parent) : QWidget(parent), QtPlace(static_cast<QWidget&>(*this)) {
+  ChildWidget(QWidget* parent, QtPlace* around)
+      : QWidget(parent), QtPlace(static_cast<QWidget&>(*this), around) {
     QWidget::show();
   }
 
@@ -33,42 +43,63 @@ class ChildWidget final : public QWidget, public QtPlace {
   void paintEvent(QPaintEvent*) override { paint(); }
 };
 
-std::int16_t numberOf(Qt::MouseButtons buttons) {
-  // Qt's own numbers are the same for the three that a control hears.
-  return static_cast<std::int16_t>(buttons & (Qt::LeftButton | Qt::RightButton | Qt::MiddleButton));
-}
-
-std::int16_t numberOf(Qt::KeyboardModifiers modifiers) {
-  return static_cast<std::int16_t>((modifiers & Qt::ShiftModifier ? 1 : 0) |
-                                   (modifiers & Qt::ControlModifier ? 2 : 0) |
-                                   (modifiers & Qt::AltModifier ? 4 : 0));
-}
-
 }  // namespace
 
-QtPlace::QtPlace(QWidget& widget) : widget_(widget) {
-  widget_.setMouseTracking(true);
-  widget_.setAttribute(Qt::WA_OpaquePaintEvent);
-  surface_.setPalette(widget_.palette());
-  surface_.resize(widget_.size(), widget_.devicePixelRatioF());
-  surface_.onDrawn = [this] { widget_.update(); };
+QtPlace::QtPlace(QWidget& widget, QtPlace* around)
+    : widget_(&widget), around_(around), handle_(++lastHandle) {
+  if (around_) around_->children_.push_back(this);
+  widget_->setMouseTracking(true);
+  widget_->setAttribute(Qt::WA_OpaquePaintEvent);
+  surface_.setPalette(widget_->palette());
+  surface_.resize(widget_->size(), widget_->devicePixelRatioF());
+  surface_.onDrawn = [this] {
+    if (widget_) widget_->update();
+  };
 }
 
-std::unique_ptr<Container> QtPlace::addChild() { return std::make_unique<ChildWidget>(&widget_); }
+QtPlace::~QtPlace() {
+  if (around_) std::erase(around_->children_, this);
+  for (QtPlace* child : children_) child->around_ = nullptr;
+}
+
+void QtPlace::detach() {
+  for (QtPlace* child : children_) {
+    QWidget* const widget = child->widget_;
+    child->detach();
+    // The control in it owns the widget, not the one around it.
+    if (widget) widget->hide();
+    if (widget) widget->setParent(nullptr);
+  }
+  widget_ = nullptr;
+}
+
+std::unique_ptr<Container> QtPlace::addChild() {
+  return std::make_unique<ChildWidget>(widget_, this);
+}
+
+std::unique_ptr<TextBox> QtPlace::addTextBox(std::function<void(std::int16_t&)> keyPress) {
+  return std::make_unique<QtTextBox>(*widget_, std::move(keyPress), [this](QEvent::Type type) {
+    // The control itself keeps nothing; it is entered or left as a whole.
+    if (!control_ || isFocusInside()) return;
+    if (type == QEvent::FocusOut) control_->UserControl_ExitFocus();
+  });
+}
 
 std::unique_ptr<Timer> QtPlace::addTimer(std::function<void()> tick) {
   return std::make_unique<QtTimer>(std::move(tick));
 }
 
 void QtPlace::PropertyChanged(std::string_view name) {
-  if (onPropertyChanged) onPropertyChanged(name);
+  // A copy, as a handler may take itself away.
+  const auto handler = onPropertyChanged;
+  if (handler) handler(name);
 }
 
-Boolean QtPlace::UserMode() { return !isDesignMode; }
+Boolean QtPlace::UserMode() { return around_ ? around_->UserMode() : Boolean(!isDesignMode); }
 
-norvane::Font QtPlace::AmbientFont() { return fontFrom(widget_.font()); }
+norvane::Font QtPlace::AmbientFont() { return widget_ ? fontFrom(widget_->font()) : nullptr; }
 
-std::string QtPlace::Name() { return widget_.objectName().toStdString(); }
+std::string QtPlace::Name() { return widget_ ? widget_->objectName().toStdString() : ""; }
 
 /// Looks at the clock once in a while only: loops over a million items ask.
 bool QtPlace::EventsWaiting() {
@@ -77,51 +108,76 @@ bool QtPlace::EventsWaiting() {
 }
 
 void QtPlace::DoEvents() {
+  if (eventLoops >= mostEventLoops) return;
+  ++eventLoops;
   QCoreApplication::processEvents();
+  --eventLoops;
   lastDone = SteadyClock::now();
 }
 
 void QtPlace::move(const Bounds& bounds) {
+  if (!widget_) return;
   const auto rounded = [](float length) { return static_cast<int>(std::lrint(length)); };
-  widget_.setGeometry(rounded(bounds.Left), rounded(bounds.Top), rounded(bounds.Width),
-                      rounded(bounds.Height));
+  widget_->setGeometry(rounded(bounds.Left), rounded(bounds.Top), rounded(bounds.Width),
+                       rounded(bounds.Height));
   // A hidden widget is not told of its size.
   resize();
 }
 
+void QtPlace::show(bool isVisible) {
+  if (widget_) widget_->setVisible(isVisible);
+}
+
+void QtPlace::enable(bool isEnabled) {
+  if (widget_) widget_->setEnabled(isEnabled);
+}
+
+void QtPlace::hookWheel(std::function<void(std::int32_t, std::int32_t)> procedure) {
+  wheelProcedure_ = std::move(procedure);
+}
+
+void QtPlace::paintLater() {
+  if (std::exchange(isPaintPending_, true) || !widget_) return;
+  widget_->update();
+}
+
 void QtPlace::resize() {
-  if (widget_.size() != surface_.size())
-    surface_.resize(widget_.size(), widget_.devicePixelRatioF());
+  if (widget_->size() != surface_.size())
+    surface_.resize(widget_->size(), widget_->devicePixelRatioF());
 }
 
 /// The look of the screen or of the program has changed; what was drawn before is of no use.
 void QtPlace::renewImage() {
-  surface_.setPalette(widget_.palette());
-  surface_.resize(widget_.size(), widget_.devicePixelRatioF());
+  if (!widget_) return;
+  surface_.setPalette(widget_->palette());
+  surface_.resize(widget_->size(), widget_->devicePixelRatioF());
+  isPaintPending_ = false;
   if (control_) control_->UserControl_Paint();
 }
 
 void QtPlace::paint() {
-  QPainter(&widget_).drawImage(QPointF(0, 0), surface_.image());
+  if (!widget_) return;
+  if (std::exchange(isPaintPending_, false) && control_) control_->UserControl_Paint();
+  QPainter(widget_).drawImage(QPointF(0, 0), surface_.image());
   // Not every change of the ratio is told, and a control must not draw while its window is painted.
-  if (surface_.devicePixelRatio() != widget_.devicePixelRatioF())
-    QTimer::singleShot(0, &widget_, [this] { renewImage(); });
+  if (surface_.devicePixelRatio() != widget_->devicePixelRatioF())
+    QTimer::singleShot(0, widget_, [this] { renewImage(); });
 }
 
 bool QtPlace::event(QEvent* event) {
+  if (!widget_ || !control_) return false;
   switch (event->type()) {
     case QEvent::PaletteChange:
     case QEvent::ScreenChangeInternal:
       renewImage();
       return false;
     case QEvent::FocusIn:
-      if (control_) control_->UserControl_EnterFocus();
-      if (control_) control_->UserControl_GotFocus();
-      return false;
     case QEvent::FocusOut:
-      if (control_) control_->UserControl_LostFocus();
-      if (control_) control_->UserControl_ExitFocus();
+      focusEvent(event->type());
       return false;
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+      return keyEvent(event);
     case QEvent::Leave:
       pointerLeft();
       return false;
@@ -130,35 +186,106 @@ bool QtPlace::event(QEvent* event) {
     case QEvent::MouseButtonRelease:
     case QEvent::MouseMove:
       return mouseEvent(event);
+    case QEvent::Wheel:
+      return wheelEvent(event);
     default:
       return false;
   }
 }
 
+/// A handler of the host may end the widget: nothing is done behind the call of the control.
 bool QtPlace::mouseEvent(QEvent* event) {
-  if (!control_ || !widget_.isEnabled()) return false;
+  if (!widget_->isEnabled()) return false;
   const auto* mouse = static_cast<const QMouseEvent*>(event);
-  const std::int16_t shift = numberOf(mouse->modifiers());
+  const std::int16_t button = buttonsOf(mouse->button());
+  const std::int16_t shift = shiftOf(mouse->modifiers());
   const auto x = static_cast<float>(mouse->position().x());
   const auto y = static_cast<float>(mouse->position().y());
-  if (event->type() == QEvent::MouseMove)
-    control_->UserControl_MouseMove(numberOf(mouse->buttons()), shift, x, y);
-  else if (event->type() == QEvent::MouseButtonRelease)
-    control_->UserControl_MouseUp(numberOf(mouse->button()), shift, x, y);
-  else
-    control_->UserControl_MouseDown(numberOf(mouse->button()), shift, x, y);
   event->accept();
+  if (event->type() == QEvent::MouseMove) {
+    control_->UserControl_MouseMove(buttonsOf(mouse->buttons()), shift, x, y);
+    return true;
+  }
+  if (event->type() == QEvent::MouseButtonRelease) {
+    const QPointer<QWidget> guard(widget_);
+    const bool isClick = mouse->button() == Qt::LeftButton && !isDoubleClick_ &&
+                         widget_->rect().contains(mouse->position().toPoint());
+    control_->UserControl_MouseUp(button, shift, x, y);
+    if (guard && isClick && control_) control_->UserControl_Click();
+    return true;
+  }
+  isDoubleClick_ = false;
+  if (event->type() == QEvent::MouseButtonDblClick && mouse->button() == Qt::LeftButton) {
+    const QPointer<QWidget> guard(widget_);
+    const bool isHeard = control_->UserControl_DblClick();
+    if (!guard) return true;
+    isDoubleClick_ = isHeard;
+    if (isHeard) return true;
+  }
+  if (button != 0) control_->UserControl_MouseDown(button, shift, x, y);
   return true;
 }
 
 /// A control that holds the capture hears of the pointer outside. No pointer is grabbed for it.
 void QtPlace::pointerLeft() {
-  if (!control_ || !hasCapture_) return;
-  QPoint position = widget_.mapFromGlobal(QCursor::pos());
-  if (widget_.rect().contains(position)) position = QPoint(-1, -1);
-  control_->UserControl_MouseMove(0, numberOf(QGuiApplication::keyboardModifiers()),
+  if (!hasCapture_) return;
+  QPoint position = widget_->mapFromGlobal(QCursor::pos());
+  if (widget_->rect().contains(position)) position = QPoint(-1, -1);
+  control_->UserControl_MouseMove(0, shiftOf(QGuiApplication::keyboardModifiers()),
                                   static_cast<float>(position.x()),
                                   static_cast<float>(position.y()));
+}
+
+bool QtPlace::keyEvent(QEvent* event) {
+  auto* key = static_cast<QKeyEvent*>(event);
+  // The keys that leave the control are the form's.
+  if (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab) return false;
+  std::int16_t code = keyCodeOf(*key);
+  const std::int16_t shift = shiftOf(key->modifiers());
+  if (event->type() == QEvent::KeyRelease) {
+    if (!key->isAutoRepeat() && code != 0) control_->UserControl_KeyUp(code, shift);
+    return false;
+  }
+  const QPointer<QWidget> guard(widget_);
+  const bool isArrow = key->key() == Qt::Key_Up || key->key() == Qt::Key_Down;
+  if (code != 0) {
+    control_->UserControl_KeyDown(code, shift);
+    if (!guard || !control_ || code == 0) return true;
+  }
+  std::int16_t character = characterOf(*key);
+  if (character != 0) control_->UserControl_KeyPress(character);
+  return !guard || isArrow;
+}
+
+bool QtPlace::wheelEvent(QEvent* event) {
+  const auto* wheel = static_cast<const QWheelEvent*>(event);
+  const int turn = std::clamp(wheel->angleDelta().y(), -32768, 32767);
+  if (!wheelProcedure_ || turn == 0) return false;
+  const QPoint position = wheel->globalPosition().toPoint();
+  const auto packed = [](int high, int low) { return high * 0x10000 + (low & 0xFFFF); };
+  event->accept();
+  // A copy, as a handler of the host may end the hook.
+  const auto procedure = wheelProcedure_;
+  procedure(packed(turn, wheelKeysOf(wheel->buttons(), wheel->modifiers())),
+            packed(static_cast<std::int16_t>(position.y()), position.x()));
+  return true;
+}
+
+/// Whether the focus is in the widget or in one in it.
+bool QtPlace::isFocusInside() const {
+  const QWidget* const focus = QApplication::focusWidget();
+  return widget_ && focus && (focus == widget_ || widget_->isAncestorOf(focus));
+}
+
+void QtPlace::focusEvent(QEvent::Type type) {
+  const QPointer<QWidget> guard(widget_);
+  if (type == QEvent::FocusIn) {
+    control_->UserControl_EnterFocus();
+    if (guard && control_) control_->UserControl_GotFocus();
+    return;
+  }
+  control_->UserControl_LostFocus();
+  if (guard && control_ && !isFocusInside()) control_->UserControl_ExitFocus();
 }
 
 }  // namespace norvane

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <QEvent>
+#include <QPointer>
 #include <QWidget>
 #include <functional>
 #include <memory>
 #include <string_view>
+#include <vector>
 
 #include <nvlist/platform/Container.h>
 #include <nvlist/platform/qt/QtSurface.h>
@@ -15,8 +18,9 @@ namespace norvane {
 /// The widget gives every event of its own to `event` and shows `paint` when it is painted.
 class QtPlace : public Container {
  public:
-  /// The widget has to outlive the place.
-  explicit QtPlace(QWidget& widget);
+  /// `around` is the place of the control around it, or nullptr for a control on a form.
+  QtPlace(QWidget& widget, QtPlace* around);
+  ~QtPlace() override;
 
   bool isDesignMode = false;
   /// Told after each change of a property of the control, if set.
@@ -27,6 +31,8 @@ class QtPlace : public Container {
   void paint();
   /// The image takes the widget's size; what was drawn is lost where that is another one.
   void resize();
+  /// The widget is about to end before the control: what is drawn from now on is seen nowhere.
+  void detach();
 
   void attach(UserControl* control) override { control_ = control; }
   Surface& surface() override { return surface_; }
@@ -37,22 +43,37 @@ class QtPlace : public Container {
   bool EventsWaiting() override;
   void DoEvents() override;
   void move(const Bounds& bounds) override;
-  void show(bool isVisible) override { widget_.setVisible(isVisible); }
-  void enable(bool isEnabled) override { widget_.setEnabled(isEnabled); }
+  void show(bool isVisible) override;
+  void enable(bool isEnabled) override;
   void SetCapture() override { hasCapture_ = true; }
   void ReleaseCapture() override { hasCapture_ = false; }
+  /// A number of the place's own, not of a window.
+  std::int32_t hwnd() override { return handle_; }
+  void hookWheel(std::function<void(std::int32_t, std::int32_t)> procedure) override;
+  void paintLater() override;
   std::unique_ptr<Container> addChild() override;
+  std::unique_ptr<TextBox> addTextBox(std::function<void(std::int16_t&)> keyPress) override;
   std::unique_ptr<Timer> addTimer(std::function<void()> tick) override;
 
  private:
   bool mouseEvent(QEvent* event);
+  bool keyEvent(QEvent* event);
+  bool wheelEvent(QEvent* event);
+  void focusEvent(QEvent::Type type);
+  bool isFocusInside() const;
   void pointerLeft();
   void renewImage();
 
-  QWidget& widget_;
+  QWidget* widget_;
+  QtPlace* around_;
+  std::vector<QtPlace*> children_;
   QtSurface surface_;
   UserControl* control_ = nullptr;
+  std::function<void(std::int32_t, std::int32_t)> wheelProcedure_;
+  const std::int32_t handle_;
+  bool isPaintPending_ = false;
   bool hasCapture_ = false;
+  bool isDoubleClick_ = false;
 };
 
 }  // namespace norvane

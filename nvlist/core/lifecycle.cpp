@@ -1,0 +1,53 @@
+#include <nvlist/nvList.h>
+#include <nvlist/platform/Application.h>
+
+namespace norvane {
+namespace {
+
+/// Where the text of a row begins while nobody has changed its margins: the edit box stands there
+/// in a list with both pictures.
+constexpr Bounds newEditBox{37, 3, 100, 14};
+
+constexpr std::int32_t information = 64;
+
+}  // namespace
+
+nvList::nvList(Container& place)
+    : UserControl(place),
+      VScroll1(container_.addChild(), *this),
+      HScroll1(container_.addChild(), *this),
+      pBord{{BorderPiece(container_.addChild()), BorderPiece(container_.addChild()),
+             BorderPiece(container_.addChild()), BorderPiece(container_.addChild())}},
+      lblWidth(container_.addChild()),
+      Text1(container_.addTextBox([this](std::int16_t& KeyAscii) { Text1_KeyPress(KeyAscii); })),
+      tmrMouseAction(container_.addTimer([this] { tmrMouseAction_Timer(); })),
+      Wheel1(container_, *this) {
+  VScroll1.UserControl_InitProperties();
+  HScroll1.UserControl_InitProperties();
+  Text1->Move(newEditBox);
+  tmrMouseAction->Interval(1);
+}
+
+nvList::~nvList() { UserControl_Terminate(); }
+
+void nvList::UserControl_Terminate() {
+  trapped(here, "UserControl_Terminate",
+          [&](Trap& on) { on.step([&] { Wheel1.DisableWheel(); }); });
+}
+
+void nvList::UserControl_AmbientChanged(std::string_view PropertyName) {
+  trapped(here, "UserControl_AmbientChanged", [&](Trap& on) {
+    if (PropertyName == "DisplayName") on.step([&] { Redraw(); });
+  });
+}
+
+void nvList::About() {
+  trapped(here, "About", [&](Trap& on) {
+    on.step([&] {
+      Application::inUse().MsgBox("nvList " NVLIST_VERSION "\nA visual list control", information,
+                                  "nvList");
+    });
+  });
+}
+
+}  // namespace norvane

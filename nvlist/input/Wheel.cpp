@@ -1,0 +1,50 @@
+#include <nvlist/input/Wheel.h>
+
+#include <nvlist/core/numbers.h>
+#include <nvlist/objects/Trap.h>
+
+namespace norvane {
+namespace {
+
+constexpr Module wheelControl{kinds::control, "Wheel"};
+constexpr Module basWheel{kinds::module, "basWheel"};
+constexpr double turnOfOneNotch = 120;
+
+}  // namespace
+
+std::int16_t LOWORD(std::int32_t value) { return static_cast<std::int16_t>(value & 0xFFFF); }
+std::int16_t HIWORD(std::int32_t value) { return static_cast<std::int16_t>(value >> 16); }
+
+void Wheel::EnableWheel() {
+  trapped(wheelControl, "EnableWheel", [&](Trap& on) {
+    if (window_ == 0) return;
+    const bool wasHooked = std::exchange(isHooked_, true);
+    if (wasHooked) return;
+    on.step([&] {
+      place_.hookWheel([this](std::int32_t wParam, std::int32_t lParam) {
+        trapped(basWheel, "WheelProc",
+                [&](Trap& inHook) { inHook.step([&] { WndProc(wParam, lParam); }); });
+      });
+    });
+  });
+}
+
+void Wheel::DisableWheel() {
+  trapped(wheelControl, "DisableWheel", [&](Trap& on) {
+    if (window_ == 0 || !isHooked_) return;
+    isHooked_ = false;
+    on.step([&] { place_.hookWheel({}); });
+  });
+}
+
+void Wheel::WndProc(std::int32_t wParam, std::int32_t lParam) {
+  trapped(wheelControl, "WndProc", [&](Trap& on) {
+    std::int16_t Keys = LOWORD(wParam);
+    auto Rotation = checked::nearest<std::int16_t>(HIWORD(wParam) / turnOfOneNotch);
+    float X = LOWORD(lParam);
+    float Y = HIWORD(lParam);
+    on.step([&] { owner_.Wheel1_WheelScroll(Rotation, Keys, X, Y); });
+  });
+}
+
+}  // namespace norvane

@@ -1,0 +1,96 @@
+#include <nvlist/core/numbers.h>
+#include <nvlist/nvList.h>
+
+namespace norvane {
+namespace {
+
+constexpr std::int16_t leftButtonAlone = 1;
+
+}  // namespace
+
+void nvList::UserControl_MouseMove(std::int16_t Button, std::int16_t Shift, float X, float Y) {
+  trapped(here, "UserControl_MouseMove", [&](Trap& on) {
+    std::int32_t height = 0;
+    on.step([&] { height = ItemHeight(); });
+    std::int32_t row = -1;
+    on.step([&] { row = rowAt(Y, 0, height); });
+    if (state_.AllowItemMoving) state_.HoverIndex = -1;
+    if (state_.ItemsDimensioned && Button == leftButtonAlone) drag(on, Y, row, height);
+
+    std::int32_t index = 0;
+    on.step([&] { index = checked::add(VScroll1.Value(), row); });
+    std::string text;
+    if (state_.ItemsDimensioned && state_.Items.holds(index))
+      on.step([&] { text = item(index).Text; });
+    on.step([&] {
+      Variant TextUnderMouse(text);
+      sinks_.raise(
+          [&](__nvList& sink) { sink.MouseMove(TextUnderMouse, index, Button, Shift, X, Y); });
+    });
+  });
+}
+
+/// Past an edge the list scrolls by a timer; inside, the pointer marks where the item that is being
+/// moved would land, or takes the current item along.
+void nvList::drag(Trap& on, float y, std::int32_t row, std::int32_t height) {
+  if (y < 0) {
+    autoScroll_ = AutoScroll::up;
+    on.step([&] { tmrMouseAction->Enabled(true); });
+    return;
+  }
+  if (on.test([&] { return double{y} > checked::multiply(VisibleItems(), height); })) {
+    autoScroll_ = AutoScroll::down;
+    on.step([&] { tmrMouseAction->Enabled(true); });
+    return;
+  }
+  autoScroll_ = AutoScroll::none;
+  std::int32_t target = 0;
+  on.step([&] { target = checked::add(VScroll1.Value(), row); });
+  if (!state_.AllowItemMoving) {
+    on.step([&] { ListIndex(target); });
+  } else if (state_.ListIndex != target && state_.HoverIndex != target) {
+    state_.HoverIndex = target;
+    on.step([&] { Redraw(); });
+  }
+}
+
+void nvList::tmrMouseAction_Timer() {
+  trapped(here, "tmrMouseAction_Timer", [&](Trap& on) {
+    Boolean userMode = true;
+    on.ignoring([&] { userMode = container_.UserMode(); });
+    if (!userMode) {
+      on.step([&] { tmrMouseAction->Enabled(false); });
+      state_.HoverIndex = -1;
+      autoScroll_ = AutoScroll::none;
+      return;
+    }
+    // Upward it ends at 1: row 0 cannot be reached like this.
+    if (autoScroll_ == AutoScroll::up && state_.TopIndex - 1 > 0) {
+      if (state_.AllowItemMoving) state_.HoverIndex = state_.TopIndex - 1;
+      on.step([&] { TopIndex(state_.TopIndex - 1); });
+    } else if (autoScroll_ == AutoScroll::down) {
+      if (state_.AllowItemMoving)
+        on.step([&] { state_.HoverIndex = checked::add(state_.TopIndex, VisibleItems()); });
+      on.step([&] { TopIndex(checked::add(state_.TopIndex, 1)); });
+    } else {
+      on.step([&] { tmrMouseAction->Enabled(false); });
+    }
+  });
+}
+
+/// The current item lands before the marked row. Where none is marked it goes to the top.
+void nvList::completeMove(Trap& on) {
+  const auto isDown = [&] { return state_.HoverIndex > state_.ListIndex; };
+  if (isDown())
+    on.step([&] {
+      MoveItemDown(state_.ListIndex,
+                   checked::subtract(checked::subtract(state_.HoverIndex, state_.ListIndex), 1));
+    });
+  else
+    on.step([&] {
+      MoveItemUp(state_.ListIndex, checked::subtract(state_.ListIndex, state_.HoverIndex));
+    });
+  state_.HoverIndex = -1;
+}
+
+}  // namespace norvane

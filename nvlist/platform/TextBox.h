@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include <nvlist/core/Colour.h>
+#include <nvlist/core/Font.h>
+#include <nvlist/platform/Bounds.h>
+
+namespace norvane {
+
+/// The platform's own edit control of one line, with its selection, clipboard and input methods.
+/// A new one is hidden.
+class TextBox {
+ public:
+  virtual ~TextBox() = default;
+
+  virtual void Font(const norvane::Font& font) = 0;
+  virtual void ForeColor(Colour colour) = 0;
+  virtual std::string Text() const = 0;
+  virtual void Text(const std::string& text) = 0;
+
+  /// In pixels of the control around it, as last set.
+  virtual Bounds place() const = 0;
+  virtual void Move(const Bounds& bounds) = 0;
+  virtual bool Visible() const = 0;
+  virtual void Visible(bool isVisible) = 0;
+
+  /// Takes the keyboard.
+  virtual void SetFocus() = 0;
+  /// Selects `length` characters from `start` on, from 0; more than there are means all.
+  virtual void select(std::int32_t start, std::int32_t length) = 0;
+};
+
+}  // namespace norvane

@@ -1,0 +1,23 @@
+#include <nvlist/platform/headless/HeadlessTextBox.h>
+
+#include <nvlist/objects/Failure.h>
+
+namespace norvane {
+
+bool HeadlessTextBox::typeCharacter(std::int16_t KeyAscii) {
+  if (!isVisible_) return true;
+  keyPress_(KeyAscii);
+  return KeyAscii != 0;
+}
+
+void HeadlessTextBox::SetFocus() {
+  if (refusesFocus) throw Failure::invalidCall();
+  hasFocus = true;
+}
+
+void HeadlessTextBox::select(std::int32_t start, std::int32_t length) {
+  selectionStart = start;
+  selectionLength = length;
+}
+
+}  // namespace norvane

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include <nvlist/platform/TextBox.h>
+
+namespace norvane {
+
+/// An edit box without a screen: the program types into it.
+class HeadlessTextBox final : public TextBox {
+ public:
+  explicit HeadlessTextBox(std::function<void(std::int16_t&)> keyPress)
+      : keyPress_(std::move(keyPress)) {}
+
+  norvane::Font font;
+  Colour foreColor = 0;
+  bool hasFocus = false;
+  /// In characters.
+  std::int32_t selectionStart = 0;
+  std::int32_t selectionLength = 0;
+  /// Whether taking the keyboard fails, as on a form that does not show.
+  bool refusesFocus = false;
+
+  /// Replaces the whole text, as typing over a selection of all does.
+  void typeText(const std::string& text) { text_ = text; }
+  /// One character; false where the control took it away. A hidden box hears nothing.
+  bool typeCharacter(std::int16_t KeyAscii);
+
+  void Font(const norvane::Font& value) override { font = value; }
+  void ForeColor(Colour colour) override { foreColor = colour; }
+  std::string Text() const override { return text_; }
+  void Text(const std::string& text) override { text_ = text; }
+  Bounds place() const override { return place_; }
+  void Move(const Bounds& bounds) override { place_ = bounds; }
+  bool Visible() const override { return isVisible_; }
+  void Visible(bool isVisible) override { isVisible_ = isVisible; }
+  void SetFocus() override;
+  void select(std::int32_t start, std::int32_t length) override;
+
+ private:
+  std::function<void(std::int16_t&)> keyPress_;
+  std::string text_;
+  Bounds place_;
+  bool isVisible_ = false;
+};
+
+}  // namespace norvane

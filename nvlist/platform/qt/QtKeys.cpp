@@ -1,0 +1,78 @@
+#include <nvlist/platform/qt/QtKeys.h>
+
+#include <algorithm>
+#include <limits>
+
+namespace norvane {
+namespace {
+
+struct KeyRow {
+  int key;
+  std::int16_t code;
+};
+
+constexpr KeyRow keys[] = {{Qt::Key_Backspace, 8},   {Qt::Key_Tab, 9},
+                           {Qt::Key_Backtab, 9},     {Qt::Key_Clear, 12},
+                           {Qt::Key_Return, 13},     {Qt::Key_Enter, 13},
+                           {Qt::Key_Shift, 16},      {Qt::Key_Control, 17},
+                           {Qt::Key_Alt, 18},        {Qt::Key_Pause, 19},
+                           {Qt::Key_CapsLock, 20},   {Qt::Key_Escape, 27},
+                           {Qt::Key_Space, 32},      {Qt::Key_PageUp, 33},
+                           {Qt::Key_PageDown, 34},   {Qt::Key_End, 35},
+                           {Qt::Key_Home, 36},       {Qt::Key_Left, 37},
+                           {Qt::Key_Up, 38},         {Qt::Key_Right, 39},
+                           {Qt::Key_Down, 40},       {Qt::Key_Print, 44},
+                           {Qt::Key_Insert, 45},     {Qt::Key_Delete, 46},
+                           {Qt::Key_Help, 47},       {Qt::Key_Meta, 91},
+                           {Qt::Key_Menu, 93},       {Qt::Key_Asterisk, 106},
+                           {Qt::Key_NumLock, 144},   {Qt::Key_ScrollLock, 145},
+                           {Qt::Key_Semicolon, 186}, {Qt::Key_Equal, 187},
+                           {Qt::Key_Comma, 188},     {Qt::Key_Minus, 189},
+                           {Qt::Key_Period, 190},    {Qt::Key_Slash, 191},
+                           {Qt::Key_QuoteLeft, 192}, {Qt::Key_BracketLeft, 219},
+                           {Qt::Key_Backslash, 220}, {Qt::Key_BracketRight, 221},
+                           {Qt::Key_Apostrophe, 222}};
+
+}  // namespace
+
+std::int16_t shiftOf(Qt::KeyboardModifiers modifiers) {
+  return static_cast<std::int16_t>((modifiers & Qt::ShiftModifier ? 1 : 0) |
+                                   (modifiers & Qt::ControlModifier ? 2 : 0) |
+                                   (modifiers & Qt::AltModifier ? 4 : 0));
+}
+
+std::int16_t buttonsOf(Qt::MouseButtons buttons) {
+  // Qt's own numbers are the same for these three.
+  return static_cast<std::int16_t>(buttons & (Qt::LeftButton | Qt::RightButton | Qt::MiddleButton));
+}
+
+std::int16_t keyCodeOf(const QKeyEvent& event) {
+  const int key = event.key();
+  const bool isOnKeypad = event.modifiers() & Qt::KeypadModifier;
+  if (key >= Qt::Key_0 && key <= Qt::Key_9)
+    return static_cast<std::int16_t>(key - Qt::Key_0 + (isOnKeypad ? 96 : 48));
+  if (key >= Qt::Key_A && key <= Qt::Key_Z) return static_cast<std::int16_t>(key);
+  if (key >= Qt::Key_F1 && key <= Qt::Key_F24)
+    return static_cast<std::int16_t>(key - Qt::Key_F1 + 112);
+  const auto* row =
+      std::ranges::find_if(keys, [key](const KeyRow& candidate) { return candidate.key == key; });
+  return row == std::end(keys) ? std::int16_t{0} : row->code;
+}
+
+std::int16_t characterOf(const QKeyEvent& event) {
+  const QString text = event.text();
+  if (text.size() != 1) return 0;
+  const char16_t character = text[0].unicode();
+  return character <= std::numeric_limits<std::int16_t>::max()
+             ? static_cast<std::int16_t>(character)
+             : std::int16_t{0};
+}
+
+std::int16_t wheelKeysOf(Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers) {
+  return static_cast<std::int16_t>(
+      (buttons & Qt::LeftButton ? 1 : 0) | (buttons & Qt::RightButton ? 2 : 0) |
+      (modifiers & Qt::ShiftModifier ? 4 : 0) | (modifiers & Qt::ControlModifier ? 8 : 0) |
+      (buttons & Qt::MiddleButton ? 16 : 0));
+}
+
+}  // namespace norvane

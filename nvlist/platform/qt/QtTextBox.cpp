@@ -1,0 +1,99 @@
+#include <nvlist/platform/qt/QtTextBox.h>
+
+#include <QKeyEvent>
+#include <cmath>
+
+#include <nvlist/objects/Failure.h>
+#include <nvlist/platform/qt/QtColour.h>
+#include <nvlist/platform/qt/QtFont.h>
+#include <nvlist/platform/qt/QtKeys.h>
+
+namespace norvane {
+
+QtTextBox::QtTextBox(QWidget& parent, std::function<void(std::int16_t&)> keyPress,
+                     std::function<void(QEvent::Type)> focusChanged)
+    : edit_(new QLineEdit(&parent)),
+      keyPress_(std::move(keyPress)),
+      focusChanged_(std::move(focusChanged)) {
+  edit_->hide();
+  // As high as a line of text: a frame and margins would take it away.
+  edit_->setFrame(false);
+  edit_->setTextMargins(0, 0, 0, 0);
+  edit_->installEventFilter(this);
+}
+
+QtTextBox::~QtTextBox() {
+  if (!edit_) return;
+  edit_->removeEventFilter(this);
+  // Not at once: this may be one of its own events.
+  edit_->hide();
+  edit_->deleteLater();
+}
+
+void QtTextBox::Font(const norvane::Font& font) {
+  if (edit_ && font) edit_->setFont(toQFont(*font));
+}
+
+void QtTextBox::ForeColor(Colour colour) {
+  if (!edit_) return;
+  QPalette palette = edit_->palette();
+  palette.setColor(QPalette::Text, QColor(rgbOf(colour, palette)));
+  edit_->setPalette(palette);
+}
+
+std::string QtTextBox::Text() const { return edit_ ? edit_->text().toStdString() : std::string(); }
+
+void QtTextBox::Text(const std::string& text) {
+  if (edit_) edit_->setText(QString::fromStdString(text));
+}
+
+void QtTextBox::Move(const Bounds& bounds) {
+  place_ = bounds;
+  if (!edit_) return;
+  const auto rounded = [](float length) { return static_cast<int>(std::lrint(length)); };
+  edit_->setGeometry(rounded(bounds.Left), rounded(bounds.Top), rounded(bounds.Width),
+                     rounded(bounds.Height));
+}
+
+bool QtTextBox::Visible() const { return edit_ && !edit_->isHidden(); }
+
+void QtTextBox::Visible(bool isVisible) {
+  if (!edit_ || Visible() == isVisible) return;
+  // Hiding the widget with the focus would hand it to whatever comes next.
+  if (!isVisible && edit_->hasFocus()) edit_->parentWidget()->setFocus();
+  edit_->setVisible(isVisible);
+  if (isVisible) edit_->raise();
+}
+
+void QtTextBox::SetFocus() {
+  if (!edit_ || !edit_->isVisible()) throw Failure::invalidCall();
+  edit_->setFocus();
+}
+
+void QtTextBox::select(std::int32_t start, std::int32_t length) {
+  if (!edit_) return;
+  // Qt counts in halves of the characters beyond 16 bits.
+  const std::u32string characters = edit_->text().toStdU32String();
+  const auto units = [&](std::int32_t count) {
+    const auto all = static_cast<std::int32_t>(characters.size());
+    const auto end = static_cast<std::size_t>(std::clamp(count, 0, all));
+    return static_cast<int>(QString::fromStdU32String(characters.substr(0, end)).size());
+  };
+  const int first = units(start);
+  edit_->setSelection(first, units(start + std::min(length, INT32_MAX - start)) - first);
+}
+
+bool QtTextBox::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+    focusChanged_(event->type());
+  if (event->type() == QEvent::KeyPress) {
+    std::int16_t character = characterOf(*static_cast<QKeyEvent*>(event));
+    if (character != 0) {
+      keyPress_(character);
+      if (character == 0) return true;
+    }
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+}  // namespace norvane

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QEvent>
+#include <QLineEdit>
+#include <QPointer>
+#include <functional>
+
+#include <nvlist/platform/TextBox.h>
+
+namespace norvane {
+
+/// Qt's own line edit in front of a control. Where the widget around it ends first, the edit is
+/// gone and nothing happens any more.
+class QtTextBox final : public QObject, public TextBox {
+ public:
+  /// `focusChanged` is told each time the edit gets or loses the focus.
+  QtTextBox(QWidget& parent, std::function<void(std::int16_t&)> keyPress,
+            std::function<void(QEvent::Type)> focusChanged);
+  ~QtTextBox() override;
+
+  void Font(const norvane::Font& font) override;
+  void ForeColor(Colour colour) override;
+  std::string Text() const override;
+  void Text(const std::string& text) override;
+  Bounds place() const override { return place_; }
+  void Move(const Bounds& bounds) override;
+  bool Visible() const override;
+  void Visible(bool isVisible) override;
+  void SetFocus() override;
+  void select(std::int32_t start, std::int32_t length) override;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  QPointer<QLineEdit> edit_;
+  std::function<void(std::int16_t&)> keyPress_;
+  std::function<void(QEvent::Type)> focusChanged_;
+  Bounds place_;
+};
+
+}  // namespace norvane

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <nvlist/platform/UserControl.h>
+
+namespace norvane {
+
+/// One edge of the frame: a control of its own, so that nothing the list paints and no scroll bar
+/// can cover it.
+class BorderPiece final : public UserControl {
+ public:
+  explicit BorderPiece(std::unique_ptr<Container> place) : UserControl(std::move(place)) {}
+
+  void BackColor(Colour colour) {
+    surface_.BackColor(colour);
+    surface_.Cls();
+  }
+  void UserControl_Resize() override { surface_.Cls(); }
+  void UserControl_Paint() override { surface_.Cls(); }
+};
+
+}  // namespace norvane
