@@ -72,7 +72,8 @@ void fillChecks(Stage& stage) {
       {.aText = "Cake"},
   };
   for (const NewItem& item : items) list.ItemsAdd(item);
-  list.ListIndex(8);
+  // On a row with a background of its own FullRowSelect and IconSelect make a difference.
+  list.ListIndex(9);
 }
 
 // ---- icons ----
@@ -156,7 +157,7 @@ void fillBoth(Stage& stage) {
   task("The talk", clock, false);
   task("Coffee for everybody", cup, false);
   sum("4 hours", false);
-  for (const int selected : {2, 7, 8, 9}) list.ItemSelected(selected, true);
+  for (const int selected : {2, 8, 9, 10}) list.ItemSelected(selected, true);
 }
 
 // ---- colours ----
