@@ -1,79 +1,230 @@
 #include "GalleryWindow.h"
 
-#include <QKeyEvent>
-#include <QStatusBar>
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QToolButton>
 #include <QVBoxLayout>
-#include <QWheelEvent>
+#include <algorithm>
+#include <utility>
+
+#include "StandInInput.h"
 
 using norvane::nvList;
+using norvane::NvListWidget;
 
-GalleryWindow::GalleryWindow() : list_(new norvane::NvListWidget) {
+namespace gallery {
+namespace {
+
+constexpr QSize initialSize(1000, 640);
+constexpr int chooserWidth = 150;
+constexpr int sheetWidth = 326;
+constexpr int captionHeight = 24;
+
+QToolButton* button(const QString& text) {
+  auto* result = new QToolButton;
+  result->setText(text);
+  result->setFixedHeight(captionHeight - 2);
+  return result;
+}
+
+/// A part of the window below its caption, which may have a button at its right.
+QWidget* panel(QLabel* caption, QWidget* content, QWidget* extra = nullptr) {
+  auto* result = new QWidget;
+  auto* column = new QVBoxLayout(result);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(2);
+  auto* top = new QHBoxLayout;
+  top->addWidget(caption, 1);
+  if (extra) top->addWidget(extra);
+  caption->setFixedHeight(captionHeight);
+  // A caption too long for its place is cut and does not widen the window.
+  caption->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  column->addLayout(top);
+  column->addWidget(content, 1);
+  return result;
+}
+
+QSplitter* splitter(Qt::Orientation orientation, QWidget* first, QWidget* second,
+                    const QList<int>& sizes, int growing) {
+  auto* result = new QSplitter(orientation);
+  result->addWidget(first);
+  result->addWidget(second);
+  result->setChildrenCollapsible(false);
+  result->setHandleWidth(8);
+  result->setSizes(sizes);
+  result->setStretchFactor(growing, 1);
+  return result;
+}
+
+/// The current item; where there is none, the first selected one; -1 where there is neither.
+int shownItem(nvList& list) {
+  if (list.ListIndex() >= 0 && list.ListIndex() < list.ItemsCount()) return list.ListIndex();
+  for (int i = 0; i < list.ItemsCount(); ++i)
+    if (list.state().Items.at(i).Selected) return i;
+  return -1;
+}
+
+QString captionOf(const Subject& item) {
+  if (item.item < 0) return "No current item";
+  const bool isCurrent = item.item == item.list().ListIndex();
+  return QString(isCurrent ? "Current item: %1" : "First selected item: %1").arg(item.item);
+}
+
+QString rowsShown(nvList& list) {
+  const int count = list.ItemsCount();
+  if (count == 0) return "Nothing to show";
+  const int top = std::max(0, list.TopIndex());
+  const int last = std::min(count, top + list.VisibleItems());
+  return QString("Rows %1 to %2 of %3").arg(top + 1).arg(last).arg(count);
+}
+
+}  // namespace
+
+GalleryWindow::GalleryWindow(std::vector<Page> pages)
+    : pages_(std::move(pages)),
+      stages_(pages_.size(), nullptr),
+      log_(new EventLog),
+      chooser_(new Chooser(pages_)),
+      stack_(new QStackedWidget),
+      about_(new QLabel),
+      listSheet_(new Sheet(propertiesOfTheList())),
+      itemSheet_(new Sheet(propertiesOfItems())),
+      listCaption_(new QLabel),
+      itemCaption_(new QLabel),
+      rows_(new QLabel) {
+  layOut();
+  connectParts();
+}
+
+/// The lists go before the log, which hears them.
+GalleryWindow::~GalleryWindow() { delete stack_; }
+
+void GalleryWindow::layOut() {
+  auto* upper = new QWidget;
+  auto* columns = new QHBoxLayout(upper);
+  columns->setContentsMargins(0, 0, 0, 0);
+  columns->setSpacing(8);
+  chooser_->setFixedWidth(chooserWidth);
+  QWidget* choice = panel(new QLabel("Pages"), chooser_);
+  choice->setFixedWidth(chooserWidth);
+  columns->addWidget(choice);
+  columns->addWidget(pagePanel(), 1);
+
+  auto* left = splitter(Qt::Vertical, upper, logPanel(), {460, 120}, 0);
+  auto* right = splitter(Qt::Vertical, panel(listCaption_, listSheet_),
+                         panel(itemCaption_, itemSheet_), {360, 220}, 0);
+  auto* whole =
+      splitter(Qt::Horizontal, left, right, {initialSize.width() - sheetWidth, sheetWidth}, 0);
   auto* frame = new QWidget;
-  auto* layout = new QVBoxLayout(frame);
-  layout->addWidget(list_);
-  list_->setObjectName("gallery");
-  list_->installEventFilter(this);
-  list_->list().MinHeight(static_cast<float>(QFontMetrics(list_->font()).height() + 2));
+  auto* margins = new QVBoxLayout(frame);
+  margins->setContentsMargins(10, 4, 10, 4);
+  margins->setSpacing(2);
+  margins->addWidget(whole, 1);
+  margins->addWidget(rows_);
   setCentralWidget(frame);
-  list_->setFocus();
-  resize(460, 520);
+  resize(initialSize);
 }
 
-void GalleryWindow::show(const QStringList& lines, const QString& title) {
-  setWindowTitle(title);
-  nvList& list = list_->list();
-  list.AutoRedraw(false);
-  list.ItemsClear();
-  for (const QString& line : lines) list.ItemsAdd(line.toStdString());
-  list.AutoRedraw(true);
-  updateStatus();
+QWidget* GalleryWindow::pagePanel() {
+  QToolButton* again = button("Start over");
+  again->setToolTip("Fill the page anew, with the settings it starts from");
+  connect(again, &QToolButton::clicked, this, [this] { startOver(); });
+  return panel(about_, stack_, again);
 }
 
+QWidget* GalleryWindow::logPanel() {
+  QToolButton* clear = button("Clear");
+  connect(clear, &QToolButton::clicked, log_, [this] { log_->clear(); });
+  return panel(new QLabel("Events"), log_, clear);
+}
+
+void GalleryWindow::connectParts() {
+  chooser_->onChosen = [this](int index) { showPage(index); };
+  listSheet_->onEdited = [this](const char* name, const QString& value) {
+    log_->write(QString("%1 = %2").arg(name, value));
+    refreshSoon();
+  };
+  itemSheet_->onEdited = [this](const char* name, const QString& value) {
+    log_->write(QString("%1(%2) = %3").arg(name).arg(itemSheet_->subject().item).arg(value));
+    refreshSoon();
+  };
+  refreshing_.setSingleShot(true);
+  connect(&refreshing_, &QTimer::timeout, this, [this] { refresh(); });
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+    auto* widget = dynamic_cast<NvListWidget*>(now);
+    if (widget && widget != chooser_) setSubject(widget);
+  });
+}
+
+void GalleryWindow::showPage(int index) {
+  if (index == shown_) return;
+  shown_ = index;
+  if (!stages_[index]) stages_[index] = makeStage(index);
+  Stage* stage = stages_[index];
+  stack_->setCurrentWidget(stage);
+  about_->setText(pages_[index].about);
+  const QString title =
+      stage->windowTitle().isEmpty() ? QString(pages_[index].title) : stage->windowTitle();
+  setWindowTitle(title + " - nvList");
+  chooser_->list().ListIndex(index);
+  setSubject(stage->lists().front());
+}
+
+QPixmap GalleryWindow::picture() {
+  setAttribute(Qt::WA_DontShowOnScreen);
+  show();
+  QCoreApplication::processEvents();
+  refresh();
+  return grab();
+}
+
+Stage* GalleryWindow::makeStage(int index) {
+  auto* stage = new Stage(*log_);
+  pages_[index].fill(*stage);
+  stage->ready();
+  for (NvListWidget* widget : stage->lists()) {
+    widget->installEventFilter(this);
+    widget->onPropertyChanged = [this](std::string_view) { refreshSoon(); };
+    StandInInput::serve(*widget);
+  }
+  stack_->addWidget(stage);
+  return stage;
+}
+
+void GalleryWindow::startOver() {
+  const int index = std::exchange(shown_, -1);
+  setSubject(nullptr);
+  delete std::exchange(stages_[index], nullptr);
+  showPage(index);
+}
+
+void GalleryWindow::setSubject(NvListWidget* widget) {
+  subject_ = widget;
+  refresh();
+}
+
+/// Whatever changes a list either tells the name of a property or paints the list.
 bool GalleryWindow::eventFilter(QObject* watched, QEvent* event) {
-  nvList& list = list_->list();
-  if (event->type() == QEvent::Wheel) {
-    scrollBy(-3 * static_cast<QWheelEvent*>(event)->angleDelta().y() / 120);
-    return true;
-  }
-  if (event->type() == QEvent::Resize || event->type() == QEvent::Show) updateStatus();
-  if (event->type() != QEvent::KeyPress) return QMainWindow::eventFilter(watched, event);
-  switch (static_cast<QKeyEvent*>(event)->key()) {
-    case Qt::Key_Up:
-      scrollBy(-1);
-      return true;
-    case Qt::Key_Down:
-      scrollBy(1);
-      return true;
-    case Qt::Key_PageUp:
-      scrollBy(-list.VisibleItems());
-      return true;
-    case Qt::Key_PageDown:
-      scrollBy(list.VisibleItems());
-      return true;
-    case Qt::Key_Home:
-      scrollBy(-list.ItemsCount());
-      return true;
-    case Qt::Key_End:
-      scrollBy(list.ItemsCount());
-      return true;
-    default:
-      return QMainWindow::eventFilter(watched, event);
-  }
+  if (event->type() == QEvent::Paint) refreshSoon();
+  return QMainWindow::eventFilter(watched, event);
 }
 
-void GalleryWindow::scrollBy(int rows) {
-  nvList& list = list_->list();
-  if (list.ItemsCount() <= list.VisibleItems()) return;
-  list.TopIndex(list.TopIndex() + rows);
-  updateStatus();
+/// Later, as a list may be in the middle of its own work.
+void GalleryWindow::refreshSoon() { refreshing_.start(0); }
+
+void GalleryWindow::refresh() {
+  Subject list{subject_};
+  Subject item{subject_, subject_ ? shownItem(subject_->list()) : -1};
+  if (item.item < 0) item.widget = nullptr;
+  listSheet_->show(list);
+  itemSheet_->show(item);
+  if (!subject_) return;
+  listCaption_->setText("Properties of " + subject_->objectName());
+  itemCaption_->setText(captionOf(item));
+  rows_->setText(rowsShown(list.list()));
 }
 
-void GalleryWindow::updateStatus() {
-  nvList& list = list_->list();
-  const int top = qMax(0, list.TopIndex());
-  const int last = qMin(list.ItemsCount(), top + list.VisibleItems());
-  statusBar()->showMessage(
-      list.ItemsCount() == 0
-          ? QString("Nothing to show")
-          : QString("Rows %1 to %2 of %3").arg(top + 1).arg(last).arg(list.ItemsCount()));
-}
+}  // namespace gallery

@@ -1,23 +1,61 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QTimer>
+#include <vector>
 
-#include <nvlist/platform/qt/NvListWidget.h>
+#include "Chooser.h"
+#include "EventLog.h"
+#include "Pages.h"
+#include "Sheet.h"
 
-/// The window of the gallery: one list, and a line below that says what it holds.
+class QLabel;
+class QStackedWidget;
+
+namespace gallery {
+
+/// The pages at the left, the list of one in the middle, the sheets of its properties at the right,
+/// and the log of what happens below.
 class GalleryWindow : public QMainWindow {
  public:
-  GalleryWindow();
+  explicit GalleryWindow(std::vector<Page> pages);
+  ~GalleryWindow() override;
 
-  /// Shows the lines of a text; `title` names it.
-  void show(const QStringList& lines, const QString& title);
+  /// Shows a page, which is filled the first time.
+  void showPage(int index);
+
+  /// What the window shows once it is laid out, without a screen too.
+  QPixmap picture();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void scrollBy(int rows);
-  void updateStatus();
+  void layOut();
+  QWidget* pagePanel();
+  QWidget* logPanel();
+  void connectParts();
+  Stage* makeStage(int index);
+  void startOver();
+  void setSubject(norvane::NvListWidget* widget);
+  void refreshSoon();
+  void refresh();
 
-  norvane::NvListWidget* list_;
+  const std::vector<Page> pages_;
+  std::vector<Stage*> stages_;
+  int shown_ = -1;
+  norvane::NvListWidget* subject_ = nullptr;  ///< whose properties are shown
+  QTimer refreshing_;
+
+  EventLog* log_;
+  Chooser* chooser_;
+  QStackedWidget* stack_;
+  QLabel* about_;
+  Sheet* listSheet_;
+  Sheet* itemSheet_;
+  QLabel* listCaption_;
+  QLabel* itemCaption_;
+  QLabel* rows_;
 };
+
+}  // namespace gallery

@@ -13,6 +13,7 @@
 namespace {
 
 constexpr int cannotRead = 2;
+constexpr int wrongArguments = 2;
 constexpr int cannotWrite = 3;
 
 bool hasDisplay() {
@@ -40,11 +41,22 @@ QStringList linesOf(const QString& path) {
   return text.isEmpty() ? QStringList() : text.split('\n');
 }
 
-int saveScreenshot(GalleryWindow& window, const QString& path) {
-  window.setAttribute(Qt::WA_DontShowOnScreen);
-  window.QWidget::show();
-  QCoreApplication::processEvents();
-  if (!window.grab().save(path, "PNG"))
+gallery::SampleText sampleText(const QStringList& files) {
+  if (files.isEmpty()) return {"Places of the world", linesOf(":/sample/places.txt")};
+  return {QFileInfo(files.first()).fileName(), linesOf(files.first())};
+}
+
+/// The index of a page by its name; throws a message that lists the names where there is none.
+int pageNamed(const QString& name, const std::vector<gallery::Page>& pages) {
+  QStringList names;
+  for (const gallery::Page& page : pages) names << page.name;
+  if (!names.contains(name))
+    throw QString("no page \"%1\"; there are %2").arg(name, names.join(", "));
+  return static_cast<int>(names.indexOf(name));
+}
+
+int saveScreenshot(gallery::GalleryWindow& window, const QString& path) {
+  if (!window.picture().save(path, "PNG"))
     return fail(QString("cannot write %1").arg(path), cannotWrite);
   std::puts(qPrintable(QFileInfo(path).absoluteFilePath()));
   return 0;
@@ -54,23 +66,27 @@ int saveScreenshot(GalleryWindow& window, const QString& path) {
 
 int main(int argumentCount, char** arguments) {
   QCommandLineParser options;
-  options.setApplicationDescription("Shows a text file, or a sample, as a list.");
+  options.setApplicationDescription("Shows what nvList can do, and a text file as a list.");
   options.addHelpOption();
   options.addVersionOption();
   options.addPositionalArgument("file", "Text file whose lines to show.", "[file]");
   const QCommandLineOption screenshot("screenshot", "Draw the window into a picture file and quit.",
                                       "out.png");
   options.addOption(screenshot);
+  const QCommandLineOption page("page", "Open this page; the first one without it.", "name");
+  options.addOption(page);
 
   // The file is read before anything of a window exists, so that a bad one is told in one line.
   QStringList words;
   for (int i = 0; i < argumentCount; ++i) words << QString::fromLocal8Bit(arguments[i]);
   options.parse(words);
   const QStringList files = options.positionalArguments();
-  if (files.size() > 1) return fail("give one file only", cannotRead);
-  QStringList lines;
+  if (files.size() > 1) return fail("give one file only", wrongArguments);
+  std::vector<gallery::Page> pages;
+  int first = 0;
   try {
-    lines = linesOf(files.isEmpty() ? ":/sample/places.txt" : files.first());
+    pages = gallery::allPages(sampleText(files));
+    if (options.isSet(page)) first = pageNamed(options.value(page), pages);
   } catch (const QString& message) {
     return fail(message, cannotRead);
   }
@@ -85,12 +101,10 @@ int main(int argumentCount, char** arguments) {
   application.setApplicationVersion("1.0.0");
   options.process(application);
 
-  GalleryWindow window;
-  const QString title =
-      files.isEmpty() ? QString("Places of the world") : QFileInfo(files.first()).fileName();
-  window.show(lines, title + " - nvList");
+  gallery::GalleryWindow window(std::move(pages));
+  window.showPage(first);
   if (options.isSet(screenshot)) return saveScreenshot(window, options.value(screenshot));
   if (!hasDisplay()) return saveScreenshot(window, "gallery.png");
-  window.QWidget::show();
+  window.show();
   return QApplication::exec();
 }

@@ -1,0 +1,44 @@
+#include "Chooser.h"
+
+#include <QTimer>
+
+#include <nvlist/platform/qt/QtPicture.h>
+
+#include "StandInInput.h"
+
+namespace gallery {
+
+Chooser::Chooser(const std::vector<Page>& pages) {
+  constexpr int iconSize = 32;
+  setObjectName("chooser");
+  norvane::nvList& own = list();
+  own.AutoRedraw(false);
+  own.Style(norvane::cIcons);
+  own.IconW(iconSize);
+  own.IconH(iconSize);
+  own.IndentLeft(8);
+  own.DistPicText(10);
+  own.MinHeight(iconSize + 12);
+  const int pixels = qRound(iconSize * devicePixelRatioF());
+  for (const Page& page : pages)
+    own.ItemsAdd(
+        {.aText = page.title, .aIcon = norvane::QtPicture::fromImage(drawn(page.icon, pixels))});
+  own.AutoRedraw(true);
+
+  own.addSink(*this);
+  onPropertyChanged = [this](std::string_view name) {
+    if (name == "ListIndex") tell();
+  };
+  StandInInput::serve(*this);
+}
+
+Chooser::~Chooser() { list().removeSink(*this); }
+
+/// Later, as the list is in the middle of its own work.
+void Chooser::tell() {
+  QTimer::singleShot(0, this, [this] {
+    if (onChosen && list().ListIndex() >= 0) onChosen(list().ListIndex());
+  });
+}
+
+}  // namespace gallery

@@ -1,0 +1,265 @@
+#include "Pages.h"
+
+#include <QGuiApplication>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include <nvlist/platform/qt/QtPicture.h>
+
+using norvane::Boolean;
+using norvane::Colour;
+using norvane::NewItem;
+using norvane::nvList;
+using norvane::NvListWidget;
+using norvane::Picture;
+
+namespace gallery {
+namespace {
+
+Colour hostColour(QRgb rgb) { return qRed(rgb) | qGreen(rgb) << 8 | qBlue(rgb) << 16; }
+
+/// An icon for a place of `size`: on a dense screen with the pixels that it has there.
+Picture icon(const Glyph& glyph, int size = 16) {
+  return norvane::QtPicture::fromImage(drawn(glyph, qRound(size * qApp->devicePixelRatio())));
+}
+
+// ---- text ----
+
+void fillText(Stage& stage, const SampleText& text) {
+  stage.setWindowTitle(text.title);
+  nvList& list = stage.addList("text");
+  for (const QString& line : text.lines) list.ItemsAdd(line.toStdString());
+  list.ListIndex(0);
+}
+
+// ---- checks ----
+
+void fillChecks(Stage& stage) {
+  nvList& list = stage.addList("checks");
+  list.Style(norvane::cCheckBoxes);
+  list.MinHeight(22);
+  list.DistPicText(6);
+  const Colour heading = hostColour(0xE8EEF8);
+  const Colour navy = hostColour(0x1F3F77);
+  const NewItem items[] = {
+      {.aText = "Before the release",
+       .aChecked = true,
+       .aForeColor = navy,
+       .aBackColor = heading,
+       .aBold = true},
+      {.aText = "Raise the version number", .aChecked = true},
+      {.aText = "Run every test, with the sanitizers too", .aChecked = true},
+      {.aText = "Write down what has changed", .aChecked = true},
+      {.aText = "Look at the pictures in the manual", .aItalic = true},
+      {.aText = "Two translations are still missing", .aForeColor = hostColour(0xB22222)},
+      {.aText = "The day itself", .aForeColor = navy, .aBackColor = heading, .aBold = true},
+      {.aText = "Freeze the branch (done by the server)",
+       .aChecked = true,
+       .aEnabled = false,
+       .aBackColorDis = hostColour(0xF4F4F4)},
+      {.aText = "Build and sign the packages"},
+      {.aText = "Ask Ada for the second signature",
+       .aForeColor = hostColour(0x6A4A00),
+       .aBackColor = hostColour(0xFFF6CC)},
+      {.aText = "Publish (needs both signatures)",
+       .aEnabled = false,
+       .aBackColorDis = hostColour(0xF4F4F4)},
+      {.aText = "Afterwards", .aForeColor = navy, .aBackColor = heading, .aBold = true},
+      {.aText = "Announcement to the readers",
+       .aForeColor = hostColour(0x1A5FB4),
+       .aUnderline = true},
+      {.aText = "Thank those who found faults", .aItalic = true},
+      {.aText = "Cake"},
+  };
+  for (const NewItem& item : items) list.ItemsAdd(item);
+  // On a row with a background of its own FullRowSelect and IconSelect make a difference.
+  list.ListIndex(9);
+}
+
+// ---- icons ----
+
+void fillIcons(Stage& stage) {
+  constexpr int size = 24;
+  nvList& list = stage.addList("icons");
+  list.Style(norvane::cIcons);
+  list.IconW(size);
+  list.IconH(size);
+  list.MinHeight(28);
+  list.DistPicText(6);
+  struct Entry {
+    const char* text;
+    Glyph glyph;
+    Glyph selected;
+  };
+  const Entry entries[] = {
+      {"Drafts|right=7 entries", folder, openFolder},
+      {"Letters|right=31 entries", folder, openFolder},
+      {"Summer by the lake|right=112 entries", folder, openFolder},
+      {"budget.csv|right=4 KB", spreadsheet, nullptr},
+      {"ferry.png|right=2 140 KB", photo, nullptr},
+      {"harbour at night.png|right=3 318 KB", photo, nullptr},
+      {"notes.txt|right=12 KB", document, pencil},
+      {"to do.txt|right=1 KB", document, pencil},
+      {"waltz.ogg|right=5 207 KB", music, nullptr},
+  };
+  for (const auto& [text, glyph, selected] : entries)
+    list.ItemsAdd({.aText = text,
+                   .aIcon = icon(glyph, size),
+                   .aIconSelected = selected ? icon(selected, size) : nullptr});
+  // Whatever an icon's own size, it is stretched to IconW by IconH.
+  for (const int own : {16, 32, 48, 64})
+    list.ItemsAdd({.aText = QString("clock-%1.png|right=%1 x %1").arg(own).toStdString(),
+                   .aIcon = norvane::QtPicture::fromImage(drawn(clock, own))});
+  list.ListIndex(1);
+}
+
+// ---- both ----
+
+void fillBoth(Stage& stage) {
+  nvList& list = stage.addList("both");
+  list.Style(norvane::cCheckBoxesIcons);
+  list.ColorStyle(norvane::cXPOlive);
+  list.GridLines(true);
+  list.GridLineColor(hostColour(0xDDE2D0));
+  list.MultiSelect(true);
+  list.MinHeight(22);
+  list.DistPicText(6);
+  const Colour tint = hostColour(0xF1F4E8);
+  const auto day = [&](const char* name, bool isDone) {
+    list.ItemsAdd({.aText = name,
+                   .aIcon = icon(calendar),
+                   .aChecked = isDone,
+                   .aBackColor = tint,
+                   .aAlignment = norvane::cCenter,
+                   .aBold = true});
+  };
+  const auto task = [&](const char* text, const Glyph& glyph, bool isDone) {
+    list.ItemsAdd({.aText = text, .aIcon = icon(glyph), .aChecked = isDone});
+  };
+  const auto sum = [&](const char* text, bool isDone) {
+    list.ItemsAdd({.aText = text,
+                   .aIcon = icon(clock),
+                   .aChecked = isDone,
+                   .aForeColor = hostColour(0x5A6440),
+                   .aAlignment = norvane::cRight});
+  };
+  day("Monday", true);
+  task("Answer the letters of the weekend", letter, true);
+  task("Draw the arrows of the scroll bars", pencil, true);
+  task("Coffee with the new neighbours", cup, true);
+  sum("6 hours", true);
+  day("Tuesday", false);
+  task("Rehearsal for the talk", clock, true);
+  task("Second draft of the talk", pencil, false);
+  task("Invitations to the readers", letter, false);
+  sum("7 hours 30", false);
+  day("Wednesday", false);
+  task("The talk", clock, false);
+  task("Coffee for everybody", cup, false);
+  sum("4 hours", false);
+  for (const int selected : {2, 8, 9, 10}) list.ItemSelected(selected, true);
+}
+
+// ---- colours ----
+
+struct Shade {
+  const char* name;
+  QRgb rgb;
+};
+
+void addShades(Stage& stage, const char* caption, norvane::cColorStyle style,
+               const std::vector<Shade>& shades) {
+  nvList& list = stage.addList(caption, caption);
+  list.Style(norvane::cIcons);
+  list.ColorStyle(style);
+  list.MinHeight(20);
+  list.DistPicText(6);
+  for (const Shade& shade : shades)
+    list.ItemsAdd({.aText = shade.name, .aIcon = icon(swatch(QColor(shade.rgb)))});
+  list.ListIndex(4);
+}
+
+void fillColours(Stage& stage) {
+  addShades(stage, "cXPBlue", norvane::cXPBlue,
+            {{"Ice", 0xD6E4F7},
+             {"Sky", 0x8FB8EC},
+             {"Cornflower", 0x5A8BE0},
+             {"Cobalt", 0x316AC5},
+             {"Ocean", 0x1F5A9E},
+             {"Navy", 0x1C3A70},
+             {"Ink", 0x14233F}});
+  addShades(stage, "cXPSilver", norvane::cXPSilver,
+            {{"Pearl", 0xEDEDF2},
+             {"Mist", 0xD3D4DC},
+             {"Silver", 0xB2B4BF},
+             {"Ash", 0x9799A3},
+             {"Slate", 0x70737F},
+             {"Lead", 0x51545E},
+             {"Coal", 0x2E3036}});
+  addShades(stage, "cXPOlive", norvane::cXPOlive,
+            {{"Reed", 0xE0E6C8},
+             {"Sage", 0xBAC69A},
+             {"Olive", 0x93A070},
+             {"Moss", 0x77864F},
+             {"Fern", 0x5A7A3C},
+             {"Pine", 0x34542F},
+             {"Ivy", 0x22381F}});
+  addShades(stage, "cCustom", norvane::cCustom,
+            {{"Petal", 0xF0DCF2},
+             {"Orchid", 0xCF94D8},
+             {"Plum", 0x9B4FA8},
+             {"Violet", 0x743A9C},
+             {"Berry", 0x8A2C62},
+             {"Wine", 0x5E1B38},
+             {"Fig", 0x3A1D3F}});
+  nvList& custom = stage.lists().back()->list();
+  custom.ValueColor(hostColour(0x9B4FA8));
+  custom.BorderColor(hostColour(0x9B4FA8));
+}
+
+}  // namespace
+
+std::vector<Page> allPages(const SampleText& text) {
+  return {
+      {"text", "Text", "cDefault: rows of text", document,
+       [text](Stage& stage) { fillText(stage, text); }},
+      {"checks", "Check boxes", "cCheckBoxes: items with fonts and colours of their own", ticks,
+       fillChecks},
+      {"icons", "Icons", "cIcons: two columns, other icons while selected", folder, fillIcons},
+      {"both", "Both", "cCheckBoxesIcons: three alignments, many selected", calendar, fillBoth},
+      {"colours", "Colours", "ColorStyle: three families, and one of your own", palette,
+       fillColours},
+  };
+}
+
+nvList& Stage::addList(const QString& name, const QString& caption) {
+  auto* widget = new NvListWidget;
+  widget->setObjectName(name);
+  auto* column = new QVBoxLayout;
+  column->setSpacing(4);
+  if (!caption.isEmpty()) column->addWidget(new QLabel(caption));
+  column->addWidget(widget, 1);
+  auto* grid = static_cast<QGridLayout*>(layout());
+  if (!grid) {
+    grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+  }
+  const int place = static_cast<int>(lists_.size());
+  grid->addLayout(column, place / 2, place % 2);
+  lists_.push_back(widget);
+
+  nvList& list = widget->list();
+  list.AutoRedraw(false);
+  list.MinHeight(static_cast<float>(QFontMetrics(widget->font()).height() + 2));
+  list.addSink(sink_);
+  return list;
+}
+
+void Stage::ready() {
+  for (NvListWidget* widget : lists_) {
+    widget->list().TopIndex(0);
+    widget->list().AutoRedraw(true);
+  }
+}
+
+}  // namespace gallery

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QStringList>
+#include <QWidget>
+#include <functional>
+#include <vector>
+
+#include <nvlist/input/events.h>
+#include <nvlist/platform/qt/NvListWidget.h>
+
+#include "Glyphs.h"
+
+class QGridLayout;
+
+namespace gallery {
+
+/// Where a page stands: its lists, two in a row.
+class Stage : public QWidget {
+ public:
+  /// `sink` hears every list; it has to outlive the stage.
+  explicit Stage(norvane::__nvList& sink) : sink_(sink) {}
+
+  /// A new list to fill, with AutoRedraw off until the stage is ready. Rows are a little higher
+  /// than the font. A caption stands above the list, and none where it is empty.
+  norvane::nvList& addList(const QString& name, const QString& caption = {});
+
+  /// Ends the filling: the lists are painted, from the top.
+  void ready();
+
+  const std::vector<norvane::NvListWidget*>& lists() const { return lists_; }
+
+ private:
+  norvane::__nvList& sink_;
+  std::vector<norvane::NvListWidget*> lists_;
+};
+
+/// The text that the gallery shows as a list.
+struct SampleText {
+  QString title;
+  QStringList lines;
+};
+
+struct Page {
+  const char* name;   ///< that --page takes
+  const char* title;  ///< in the chooser and, unless the stage has one, of the window
+  const char* about;  ///< what there is to see
+  Glyph icon;
+  /// Adds lists to the stage and fills them.
+  std::function<void(Stage&)> fill;
+};
+
+std::vector<Page> allPages(const SampleText& text);
+
+}  // namespace gallery

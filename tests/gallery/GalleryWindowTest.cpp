@@ -1,0 +1,96 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QMouseEvent>
+#include <QToolButton>
+#include <set>
+
+#include <examples/gallery/GalleryWindow.h>
+
+namespace gallery {
+namespace {
+
+class GalleryWindowTest : public testing::Test {
+ protected:
+  GalleryWindowTest() {
+    window.show();
+    window.showPage(0);
+    QCoreApplication::processEvents();
+  }
+
+  norvane::NvListWidget* listNamed(const QString& name) {
+    return window.findChild<norvane::NvListWidget*>(name);
+  }
+
+  void press(QWidget* widget, QPoint at) {
+    QMouseEvent event(QEvent::MouseButtonPress, at, widget->mapToGlobal(at), Qt::LeftButton,
+                      Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(widget, &event);
+    QMouseEvent release(QEvent::MouseButtonRelease, at, widget->mapToGlobal(at), Qt::LeftButton,
+                        Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(widget, &release);
+    QCoreApplication::processEvents();
+  }
+
+  template <class Widget>
+  Widget* field(const char* name) {
+    return window.findChild<Widget*>(name);
+  }
+
+  GalleryWindow window{allPages({"A text", {"one", "two", "three"}})};
+};
+
+TEST_F(GalleryWindowTest, everyPageIsChosenByItsRowAndShowsSomethingElse) {
+  auto* chooser = listNamed("chooser");
+  norvane::nvList& names = chooser->list();
+  std::set<QString> titles;
+  for (int i = 0; i < names.ItemsCount(); ++i) {
+    const float y = names.IndentTop() + (static_cast<float>(i) + 0.5F) * names.MinHeight();
+    press(chooser, QPoint(20, static_cast<int>(y)));
+    EXPECT_EQ(names.ListIndex(), i);
+    titles.insert(window.windowTitle());
+  }
+  EXPECT_EQ(titles.size(), static_cast<std::size_t>(names.ItemsCount()));
+  EXPECT_TRUE(titles.count("A text - nvList"));
+  for (const char* list : {"text", "checks", "icons", "both", "cXPBlue", "cCustom"}) {
+    ASSERT_TRUE(listNamed(list)) << list;
+    EXPECT_GT(listNamed(list)->list().ItemsCount(), 0) << list;
+  }
+}
+
+TEST_F(GalleryWindowTest, theSheetsFollowTheListAndItsCurrentItem) {
+  norvane::nvList& list = listNamed("text")->list();
+  list.ListIndex(2);
+  list.ItemBold(2, true);
+  list.GridLines(true);
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(field<QCheckBox>("ItemBold")->isChecked());
+  EXPECT_TRUE(field<QCheckBox>("GridLines")->isChecked());
+
+  // Without a current item the first selected one is shown, and with none of them nothing.
+  list.ItemSelected(1, true);
+  EXPECT_EQ(list.ListIndex(), -1);
+  QCoreApplication::processEvents();
+  field<QCheckBox>("ItemItalic")->click();
+  EXPECT_TRUE(list.ItemItalic(1));
+  list.ItemsClear();
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(field<QCheckBox>("ItemItalic")->isEnabled());
+}
+
+TEST_F(GalleryWindowTest, startingOverFillsThePageAnew) {
+  norvane::nvList& before = listNamed("text")->list();
+  before.GridLines(true);
+  before.ItemsClear();
+  for (auto* button : window.findChildren<QToolButton*>())
+    if (button->text() == "Start over") button->click();
+  QCoreApplication::processEvents();
+  norvane::nvList& after = listNamed("text")->list();
+  EXPECT_EQ(after.ItemsCount(), 3);
+  EXPECT_FALSE(after.GridLines());
+  EXPECT_FALSE(field<QCheckBox>("GridLines")->isChecked());
+}
+
+}  // namespace
+}  // namespace gallery

@@ -1,0 +1,159 @@
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLineEdit>
+#include <QSpinBox>
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include <examples/gallery/EventLog.h>
+#include <examples/gallery/Sheet.h>
+
+namespace gallery {
+namespace {
+
+void type(QLineEdit* line, const QString& text) {
+  line->setText(text);
+  line->setModified(true);
+  emit line->editingFinished();
+}
+
+/// Gives the widget another value, as a user would, and returns that.
+QString change(QWidget* widget) {
+  if (auto* box = qobject_cast<QCheckBox*>(widget)) {
+    box->click();
+    return box->isChecked() ? "True" : "False";
+  }
+  if (auto* box = qobject_cast<QComboBox*>(widget)) {
+    box->setCurrentIndex((box->currentIndex() + 1) % box->count());
+    emit box->activated(box->currentIndex());
+    return box->currentText();
+  }
+  if (auto* box = qobject_cast<QSpinBox*>(widget)) {
+    box->setValue(box->value() + 5);
+    return box->text();
+  }
+  if (auto* box = qobject_cast<QDoubleSpinBox*>(widget)) {
+    box->setValue(box->value() + 4.5);
+    return box->text();
+  }
+  if (auto* line = qobject_cast<QLineEdit*>(widget)) {
+    type(line, "#12ABEF");
+    return "#12ABEF";
+  }
+  return {};
+}
+
+QString shownBy(QWidget* widget) {
+  if (auto* box = qobject_cast<QCheckBox*>(widget)) return box->isChecked() ? "True" : "False";
+  if (auto* box = qobject_cast<QComboBox*>(widget)) return box->currentText();
+  if (auto* box = qobject_cast<QAbstractSpinBox*>(widget)) return box->text();
+  if (auto* line = qobject_cast<QLineEdit*>(widget)) return line->text();
+  return {};
+}
+
+class SheetTest : public testing::Test {
+ protected:
+  SheetTest() {
+    widget.resize(200, 100);
+    for (const char* text : {"Graz", "Linz", "Vienna"}) widget.list().ItemsAdd(text);
+    widget.list().ListIndex(1);
+    widget.onPropertyChanged = [this](std::string_view name) { told.emplace_back(name); };
+  }
+
+  /// Edits every property of a sheet that can be edited without a dialog.
+  void editAll(Sheet& sheet, const Subject& subject, const QStringList& others) {
+    for (auto* field : sheet.widget()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+      const QString name = field->objectName();
+      if (name.isEmpty() || others.contains(name)) continue;
+      sheet.show(subject);
+      told.clear();
+      const QString value = change(field);
+      if (value.isEmpty()) continue;
+      sheet.show(subject);
+      EXPECT_EQ(shownBy(field), value) << name.toStdString();
+      EXPECT_NE(std::find(told.begin(), told.end(), name.toStdString()), told.end())
+          << name.toStdString() << " was not told";
+      ++edited;
+    }
+  }
+
+  norvane::NvListWidget widget;
+  std::vector<std::string> told;
+  int edited = 0;
+};
+
+TEST_F(SheetTest, everyRowReadsAndWritesThePropertyItNames) {
+  Sheet list(propertiesOfTheList());
+  editAll(list, {&widget}, {"ListIndex", "TopIndex", "Text", "Design mode", "SilentError"});
+  EXPECT_EQ(edited, 32);
+  Sheet item(propertiesOfItems());
+  edited = 0;
+  editAll(item, {&widget, 1}, {});
+  EXPECT_EQ(edited, 17);
+}
+
+TEST_F(SheetTest, tellsOfAnEditBeforeItIsMade) {
+  Sheet sheet(propertiesOfTheList());
+  QStringList lines;
+  sheet.onEdited = [&](const char* name, const QString& value) {
+    lines << QString("%1 = %2, was %3").arg(name, value).arg(widget.list().ListIndex());
+  };
+  sheet.show({&widget});
+  change(sheet.findChild<QWidget*>("ListIndex"));
+  type(sheet.findChild<QLineEdit*>("Text"), "Vienna");
+  EXPECT_EQ(lines, QStringList({"ListIndex = 6, was 1", "Text = \"Vienna\", was 1"}));
+  EXPECT_EQ(widget.list().ListIndex(), 2);
+}
+
+TEST_F(SheetTest, coloursAreTypedByName) {
+  Sheet sheet(propertiesOfItems());
+  sheet.show({&widget, 1});
+  auto* own = sheet.findChild<QLineEdit*>("ItemForeColorSelect");
+  EXPECT_EQ(own->text(), "def");
+  type(own, "system 17");
+  EXPECT_EQ(widget.list().ItemForeColorSelect(1).toInt32(), norvane::colours::greyText);
+  type(own, "def");
+  EXPECT_TRUE(isDefaultMark(widget.list().ItemForeColorSelect(1)));
+  type(own, "red");
+  EXPECT_EQ(widget.list().ItemForeColorSelect(1).toInt32(), 0x0000FF);
+
+  // What is no colour changes nothing and is not left standing.
+  sheet.show({&widget, 1});
+  told.clear();
+  for (const char* bad : {"reddish", "system 256", ""}) type(own, bad);
+  auto* number = sheet.findChild<QLineEdit*>("ItemForeColorDis");
+  type(number, "def");
+  EXPECT_EQ(told, std::vector<std::string>());
+  EXPECT_EQ(own->text(), "#FF0000");
+  EXPECT_EQ(number->text(), "system 17");
+}
+
+TEST_F(SheetTest, aHalfTypedTextSurvivesARefresh) {
+  Sheet sheet(propertiesOfItems());
+  sheet.show({&widget, 1});
+  auto* line = sheet.findChild<QLineEdit*>("ItemText");
+  line->setText("Lin");
+  line->setModified(true);
+  sheet.show({&widget, 1});
+  EXPECT_EQ(line->text(), "Lin");
+}
+
+TEST_F(SheetTest, theLogWritesEventsAndFailures) {
+  EventLog log;
+  widget.list().addSink(log);
+  widget.list().ListIndex(7);
+  widget.list().ItemText("Graz");
+  widget.list().removeSink(log);
+  const QStringList lines = log.toPlainText().split('\n');
+  ASSERT_EQ(lines.size(), 2);
+  EXPECT_EQ(lines[0], "ErrorWrongIndex   Index = 7");
+  EXPECT_TRUE(lines[1].startsWith("Failure 13 in nvList.ItemText, line "))
+      << lines[1].toStdString();
+}
+
+}  // namespace
+}  // namespace gallery
