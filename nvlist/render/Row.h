@@ -20,7 +20,10 @@ class nvList::Row {
   // render/rows.cpp
   ListItem& item() { return list_.item(state_.LoopIndex); }
   float width() { return surface_.ScaleWidth(); }
-  float textWidth() { return surface_.TextWidth(repaint_.text); }
+  float height() const { return state_.ItemHeightValue; }
+  /// A copy: the surface may let the host in, and the item may go.
+  const std::string& text() { return repaint_.text = item().Text; }
+  float textWidth() { return surface_.TextWidth(text()); }
   float pictureColumn() const;
   float contentLeft() const;
   bool isScrollNeeded();
@@ -38,7 +41,9 @@ class nvList::Row {
   void selectWholeRow();
   void selectText();
   float selectionLeft();
-  void setFocusRect(float left, float right);
+  /// Up to the right edge of the row, or of a text that stands at its left.
+  enum class FocusRight { ofRow, ofText };
+  void setFocusRect(float left, FocusRight right);
   void fillPictureColumn();
 
   // render/rowText.cpp
@@ -52,7 +57,6 @@ class nvList::Row {
   RepaintValues& repaint_;
   Surface& surface_;
   ListState& state_;
-  const float height_;
   float top_ = 0;
   Variant selectColour_;
 };

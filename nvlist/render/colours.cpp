@@ -18,7 +18,7 @@ constexpr Palette blue = {0xC56A31, 0xB99D7F};
 constexpr Palette silver = {0xBFB4B2, 0xB99D7F};
 constexpr Palette olive = {0x70A093, 0x7FB9A4};
 
-Palette paletteOf(cColorStyle style, const Palette& custom) {
+std::optional<Palette> paletteOf(cColorStyle style, const Palette& custom) {
   switch (style) {
     case cXPBlue:
       return blue;
@@ -29,7 +29,7 @@ Palette paletteOf(cColorStyle style, const Palette& custom) {
     case cCustom:
       return custom;
   }
-  return {0, 0};
+  return std::nullopt;
 }
 
 std::string_view withoutBlanks(std::string_view text) {
@@ -49,11 +49,13 @@ Colour channelOf(std::string_view pair) {
 }  // namespace
 
 Colour selectionColour(cColorStyle style, Colour valueColor) {
-  return paletteOf(style, {valueColor, 0}).selection;
+  const auto palette = paletteOf(style, {valueColor, 0});
+  return palette ? palette->selection : 0;
 }
 
-Colour borderColour(cColorStyle style, Colour borderColor) {
-  return paletteOf(style, {0, borderColor}).border;
+std::optional<Colour> borderColour(cColorStyle style, Colour borderColor) {
+  const auto palette = paletteOf(style, {0, borderColor});
+  return palette ? std::optional(palette->border) : std::nullopt;
 }
 
 std::string CHex(std::int32_t value, std::int16_t width) {

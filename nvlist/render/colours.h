@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,8 +15,8 @@ namespace norvane {
 /// unknown style.
 Colour selectionColour(cColorStyle style, Colour valueColor);
 
-/// The colour of the frame around the list, in the same way.
-Colour borderColour(cColorStyle style, Colour borderColor);
+/// The colour of the frame around the list, in the same way; an unknown style has none.
+std::optional<Colour> borderColour(cColorStyle style, Colour borderColor);
 
 /// The number in upper-case hexadecimal, with zeros in front up to `width` digits; a longer one
 /// stays whole. Negative numbers take all eight digits.

@@ -12,8 +12,9 @@ void nvList::paintPreview(Trap& on) {
   const bool hasIcon = state_.Style == cIcons || state_.Style == cCheckBoxesIcons;
 
   on.step([&] { surface_.Cls(); });
-  float textHeight = 0;
-  on.step([&] { textHeight = surface_.TextHeight("A"); });
+  const auto centred = [&](float height) {
+    return (surface_.TextHeight("A") - height) / 2 + margin;
+  };
   float nameLeft = state_.IndentLeft;
   float iconLeft = margin;
   if (hasCheckBox) {
@@ -21,14 +22,13 @@ void nvList::paintPreview(Trap& on) {
     on.step([&] { box = art::checkBox(false, true); });
     const float width = box ? box->width() : 0;
     const float height = box ? box->height() : 0;
-    on.step([&] { surface_.PaintPicture(box, margin, (textHeight - height) / 2 + margin); });
+    on.step([&] { surface_.PaintPicture(box, margin, centred(height)); });
     nameLeft += hasIcon ? width + margin : width + state_.DistPicText;
     iconLeft += width + margin;
   }
   if (hasIcon) {
     on.step([&] {
-      surface_.PaintPicture(art::sampleIcon(), iconLeft, (textHeight - iconSize) / 2 + margin,
-                            iconSize, iconSize);
+      surface_.PaintPicture(art::sampleIcon(), iconLeft, centred(iconSize), iconSize, iconSize);
     });
     nameLeft += iconSize + state_.DistPicText;
   }

@@ -103,7 +103,6 @@ void nvList::paintFace(Trap& on) {
     if (state_.SuppressRedraw) return;
     paintRow(on, repaint);
     if (state_.SuppressRedraw) return;
-    repaint.isFirstRow = false;
   }
 
   // Leaves its mark that the rows were counted; an unusable row height is told here.

@@ -31,6 +31,7 @@ bool nvList::Row::paintBackground() {
     return true;
   }
 
+  on_.step([&] { selectColour_ = selectColour(); });
   if (state_.FullRowSelect)
     selectWholeRow();
   else
@@ -39,7 +40,7 @@ bool nvList::Row::paintBackground() {
     on_.step([&] { surface_.DrawFocusRect(surface_.hDC(), state_.FocusRect); });
   if (state_.SuppressRedraw) return false;
   // Every way to here ended in a box, which left CurrentY at the row's foot.
-  on_.step([&] { top_ = surface_.CurrentY() - height_; });
+  on_.step([&] { top_ = surface_.CurrentY() - height(); });
   fillPictureColumn();
   toTop();
   return true;
@@ -50,6 +51,16 @@ Variant nvList::Row::selectColour() {
   return isDefaultMark(own) ? Variant(list_.aktValueColor()) : own;
 }
 
+void nvList::Row::setFocusRect(float left, FocusRight right) {
+  Rectangle& rect = state_.FocusRect;
+  on_.step([&] { rect.Left = nearest<std::int32_t>(left); });
+  on_.step([&] { rect.Top = nearest<std::int32_t>(top_); });
+  on_.step([&] {
+    rect.Right = nearest<std::int32_t>(right == FocusRight::ofRow ? width() : textWidth());
+  });
+  on_.step([&] { rect.Bottom = nearest<std::int32_t>(top_ + height()); });
+}
+
 void nvList::Row::selectWholeRow() {
   const float left = pictureColumn();
   on_.step([&] { fill(left, width(), selectColour_.toInt32()); });
@@ -58,7 +69,7 @@ void nvList::Row::selectWholeRow() {
       state_.Style == cCheckBoxesIcons
           ? state_.IconW + static_cast<float>(repaint_.ItemLeft) + state_.DistPicText
           : left;
-  setFocusRect(focusLeft, width());
+  setFocusRect(focusLeft, FocusRight::ofRow);
 }
 
 /// Selects the text alone. The boxes follow neither a horizontal scroll nor the place that the
@@ -78,7 +89,7 @@ void nvList::Row::selectText() {
     fill(left, right, selectColour_.toInt32());
   });
   // At the left edge, wherever the text stands.
-  setFocusRect(0, textWidth());
+  setFocusRect(0, FocusRight::ofText);
 }
 
 float nvList::Row::selectionLeft() {
@@ -86,14 +97,6 @@ float nvList::Row::selectionLeft() {
   if (alignment != cCenter && alignment != cRight) return pictureColumn();
   const float right = width() - (isScrollNeeded() ? list_.VScroll1.Width() : 0);
   return alignment == cCenter ? (right - textWidth()) / 2 : right - textWidth() - 3;
-}
-
-void nvList::Row::setFocusRect(float left, float right) {
-  Rectangle& rect = state_.FocusRect;
-  on_.step([&] { rect.Left = nearest<std::int32_t>(left); });
-  on_.step([&] { rect.Top = nearest<std::int32_t>(top_); });
-  on_.step([&] { rect.Right = nearest<std::int32_t>(right); });
-  on_.step([&] { rect.Bottom = nearest<std::int32_t>(top_ + height_); });
 }
 
 void nvList::Row::fillPictureColumn() {

@@ -46,23 +46,31 @@ float pictureAllowance(const ListState& state) {
 }  // namespace
 
 void nvList::Row::alignText() {
+  cItemAlignment alignment = cLeft;
+  on_.step([&] { alignment = item().Alignment; });
+  if (alignment != cCenter && alignment != cRight) return;
+  const auto room = [&] {
+    const float bar = isScrollNeeded() ? list_.VScroll1.Width() : 0;
+    return static_cast<double>(repaint_.ItemRight) - bar;
+  };
+  if (alignment == cRight) {
+    on_.step([&] {
+      surface_.CurrentX(static_cast<float>(room() - repaint_.ScrollOffset - textWidth() - 3));
+    });
+    return;
+  }
+  float centerWidth = 0;
+  on_.step([&] { centerWidth = textWidth() - pictureAllowance(state_); });
   on_.step([&] {
-    const cItemAlignment alignment = item().Alignment;
-    if (alignment != cCenter && alignment != cRight) return;
-    const double right =
-        static_cast<double>(repaint_.ItemRight) - (isScrollNeeded() ? list_.VScroll1.Width() : 0);
-    const double left = alignment == cCenter
-                            ? (right - (textWidth() - pictureAllowance(state_))) / 2
-                            : right - textWidth() - 3;
-    surface_.CurrentX(static_cast<float>(left - repaint_.ScrollOffset));
+    surface_.CurrentX(static_cast<float>((room() - centerWidth) / 2 - repaint_.ScrollOffset));
   });
 }
 
 void nvList::Row::paintText() {
   Rectangle rect;
   on_.step([&] {
-    const float textHeight = surface_.TextHeight(repaint_.text);
-    rect.Top = nearest<std::int32_t>((height_ - textHeight) / 2 + surface_.CurrentY());
+    const float textHeight = surface_.TextHeight(text());
+    rect.Top = nearest<std::int32_t>((height() - textHeight) / 2 + surface_.CurrentY());
   });
   on_.step([&] { rect.Left = nearest<std::int32_t>(surface_.CurrentX()); });
   rect.Right = repaint_.ItemRight;
@@ -70,13 +78,13 @@ void nvList::Row::paintText() {
   on_.step([&] { rect.Bottom = nearest<std::int32_t>(surface_.ScaleHeight()); });
 
   setFontFlags();
-  const std::size_t marker = markerIn(repaint_.text);
+  std::size_t marker = std::string_view::npos;
+  on_.step([&] { marker = markerIn(text()); });
   if (marker != std::string_view::npos) {
     paintTwoColumns(rect, marker);
     return;
   }
-  on_.step(
-      [&] { surface_.DrawTextA(surface_.hDC(), repaint_.text, -1, rect, TextFormat::expandTabs); });
+  on_.step([&] { surface_.DrawTextA(surface_.hDC(), text(), -1, rect, TextFormat::expandTabs); });
 }
 
 /// Only now: all measures of the row were taken with the flags of the row above.
@@ -87,17 +95,18 @@ void nvList::Row::setFontFlags() {
 }
 
 void nvList::Row::paintTwoColumns(Rectangle rect, std::size_t marker) {
-  const std::string_view text = repaint_.text;
   if (list_.VScroll1.Visible())
     on_.step([&] {
       rect.Right = nearest<std::int32_t>(static_cast<double>(rect.Right) - list_.VScroll1.Width());
     });
   on_.step([&] {
-    surface_.DrawTextA(surface_.hDC(), text.substr(0, marker), -1, rect, TextFormat::expandTabs);
+    surface_.DrawTextA(surface_.hDC(), std::string_view(text()).substr(0, marker), -1, rect,
+                       TextFormat::expandTabs);
   });
   on_.step([&] { rect.Right = checked::subtract(rect.Right, marginOfRightColumn); });
   on_.step([&] {
-    surface_.DrawTextA(surface_.hDC(), text.substr(marker + columnMarker.size()), -1, rect,
+    surface_.DrawTextA(surface_.hDC(),
+                       std::string_view(text()).substr(marker + columnMarker.size()), -1, rect,
                        TextFormat::right);
   });
 }

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include <nvlist/render/Row.h>
 #include <nvlist/render/art.h>
 
@@ -20,19 +22,10 @@ void nvList::paintRow(Trap& on, RepaintValues& repaint) {
 }
 
 nvList::Row::Row(nvList& list, Trap& on, RepaintValues& repaint)
-    : list_(list),
-      on_(on),
-      repaint_(repaint),
-      surface_(list.surface_),
-      state_(list.state_),
-      height_(state_.ItemHeightValue) {}
+    : list_(list), on_(on), repaint_(repaint), surface_(list.surface_), state_(list.state_) {}
 
 bool nvList::Row::paint() {
   on_.step([&] { surface_.CurrentX(contentLeft()); });
-  // A copy: the surface may let the host in, and the item may go.
-  repaint_.text.clear();
-  on_.step([&] { repaint_.text = item().Text; });
-
   if (!paintBackground()) return false;
   markMoveTarget();
   on_.step([&] { surface_.CurrentX(contentLeft()); });
@@ -46,7 +39,7 @@ bool nvList::Row::paint() {
   on_.step([&] { contentX = surface_.CurrentX(); });
   alignText();
   paintText();
-  on_.step([&] { surface_.CurrentY(surface_.CurrentY() + height_); });
+  on_.step([&] { surface_.CurrentY(surface_.CurrentY() + height()); });
   on_.step([&] { surface_.CurrentX(contentX); });
   if (state_.GridLines.isTrue()) paintGridLines();
   return true;
@@ -76,7 +69,7 @@ bool nvList::Row::isScrollNeeded() { return list_.VisibleItems() < list_.ItemsCo
 
 /// Fills a part of the row, over its whole height.
 void nvList::Row::fill(float left, float right, Colour colour) {
-  surface_.Line(LineMode::filledBox, left, top_, right, top_ + height_, colour);
+  surface_.Line(LineMode::filledBox, left, top_, right, top_ + height(), colour);
 }
 
 void nvList::Row::toTop() {
@@ -98,22 +91,22 @@ void nvList::Row::paintCheckBox() {
     state_.PaintIcon = art::checkBox(isChecked, isEnabled);
   });
   on_.step([&] {
-    const float y = (height_ - art::checkBox(false, true)->height()) / 2 + surface_.CurrentY();
+    const float y = (height() - art::checkBox(false, true)->height()) / 2 + surface_.CurrentY();
     surface_.PaintPicture(state_.PaintIcon, static_cast<float>(repaint_.ItemLeft), y);
   });
 }
 
 void nvList::Row::paintIcon() {
   on_.ignoring([&] {
-    const ListItem& current = item();
-    const bool isSelected = current.Selected && current.Enabled;
-    const Picture icon =
-        isSelected && isShown(current.IconSelected) ? current.IconSelected : current.Icon;
+    // Copies: asking a picture for its handle may let the host in.
+    const bool isSelected = item().Selected && item().Enabled;
+    const Picture chosen = item().IconSelected;
+    const Picture icon = isSelected && isShown(chosen) ? chosen : item().Icon;
     if (!isShown(icon)) return;
     float x = static_cast<float>(repaint_.ItemLeft);
     if (hasCheckBox(state_.Style)) x += checkBoxWidth() + gapBetweenPictures;
-    surface_.PaintPicture(icon, x, (height_ - state_.IconH) / 2 + surface_.CurrentY(), state_.IconW,
-                          state_.IconH);
+    surface_.PaintPicture(icon, x, (height() - state_.IconH) / 2 + surface_.CurrentY(),
+                          state_.IconW, state_.IconH);
   });
 }
 
@@ -138,11 +131,12 @@ void nvList::Row::paintGridLines() {
   const auto line = [&](float y) {
     surface_.Line(LineMode::plainLine, 0, y, width(), y, state_.GridLineColor);
   };
-  if (!repaint_.isFirstRow) on_.step([&] { line(top_ - height_); });
+  // The first row shown has none.
+  if (state_.LoopIndex > std::max(state_.TopIndex, 0)) on_.step([&] { line(top_ - height()); });
   // Where the line above was drawn, CurrentY is at this row's own top; so the line below is there
   // for one row more.
   const auto isLineBelow = [&] {
-    return surface_.ScaleHeight() - height_ > surface_.CurrentY() &&
+    return surface_.ScaleHeight() - height() > surface_.CurrentY() &&
            state_.LoopIndex < state_.Items.upperBound();
   };
   if (on_.test(isLineBelow)) on_.step([&] { line(top_); });

@@ -60,7 +60,7 @@ TEST_F(Colours, HangOnTheStyle) {
   const auto both = [](int style) {
     const auto colorStyle = static_cast<cColorStyle>(style);
     return VBColor2HTML(selectionColour(colorStyle, 0x123456)) + " " +
-           VBColor2HTML(borderColour(colorStyle, 0xABCDEF));
+           VBColor2HTML(borderColour(colorStyle, 0xABCDEF).value_or(0));
   };
   EXPECT_EQ(both(cXPBlue), "316AC5 7F9DB9");
   EXPECT_EQ(both(cXPSilver), "B2B4BF 7F9DB9");
