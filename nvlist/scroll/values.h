@@ -77,9 +77,9 @@ struct ScrollState {
   std::int32_t PageDirection = 0;
 };
 
-/// Makes the whole surface one colour, which it shows from the next Cls on.
-inline void fill(Surface& surface, Colour colour) {
-  surface.BackColor(colour);
+/// Shows nothing but a colour: a surface takes its background from the next Cls on.
+inline void fill(Surface& surface, Colour background) {
+  surface.BackColor(background);
   surface.Cls();
 }
 

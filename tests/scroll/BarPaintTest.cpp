@@ -76,11 +76,16 @@ TEST_F(HorizontalPaint, CustomStyleIsFlatWhateverElseIsSet) {
   EXPECT_EQ(shown(farButton), 1);
   bar.ColorStyle(bar.custom);
   EXPECT_EQ(flatColour(place), 0x123456);
+  bar.Gradient(false);
   press(150);
   EXPECT_EQ(flatColour(place), 0x123456);
   EXPECT_EQ(heard(), "Change 1");
   release();
+  moveTo(8, 8, 0);
+  EXPECT_EQ(background(nearButton), 0x777777);
+  moveTo(50, 8, 0);
   for (HeadlessContainer* button : {&nearButton, &farButton}) {
+    EXPECT_EQ(background(*button), systemColour(15));
     const std::string chevron = button->ownSurface().image().text();
     EXPECT_EQ(chevron.substr(0, 22), "Cls\nForeColor #FE0000\n");
     EXPECT_EQ(std::count(chevron.begin(), chevron.end(), '\n'), 9);

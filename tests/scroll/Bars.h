@@ -10,6 +10,17 @@
 
 namespace norvane {
 
+/// What the last Cls filled a surface with.
+inline Colour background(HeadlessContainer& place) {
+  struct Watcher : HeadlessSurface {
+    Watcher() : HeadlessSurface(0, 0) {}
+    void BackColor(Colour value) override { colour = value; }
+    Colour colour = -1;
+  } watcher;
+  place.ownSurface().replay(watcher);
+  return watcher.colour;
+}
+
 /// A bar of 200 pixels as its list has it, which writes down what it tells. Positions are given
 /// along and across the bar, so that one test serves both.
 template <class Bar>
@@ -91,14 +102,8 @@ class BarTest : public ListTest, protected nvVScrollEvents, protected nvHScrollE
 
   /// The colour of a surface that shows nothing but its background.
   static Colour flatColour(HeadlessContainer& place) {
-    struct Watcher : HeadlessSurface {
-      Watcher() : HeadlessSurface(0, 0) {}
-      void BackColor(Colour value) override { colour = value; }
-      Colour colour = -1;
-    } watcher;
-    EXPECT_EQ(place.ownSurface().image().calls.size(), 1U);
-    place.ownSurface().replay(watcher);
-    return watcher.colour;
+    EXPECT_EQ(place.ownSurface().image().text(), "Cls\n");
+    return background(place);
   }
 
   HeadlessContainer& form = headless.container();
