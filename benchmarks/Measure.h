@@ -76,6 +76,7 @@ void addShared(const std::string& work, const char* who, bool once, Prepare prep
 void addAddBenchmarks();
 void addMoveBenchmarks();
 void addSearchBenchmarks();
+void addSortBenchmarks();
 void addDuplicatesBenchmarks();
 void addPaintBenchmarks();
 void addMemoryBenchmarks();

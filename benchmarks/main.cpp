@@ -14,6 +14,7 @@ int main(int argc, char** argv) {
   addAddBenchmarks();
   addMoveBenchmarks();
   addSearchBenchmarks();
+  addSortBenchmarks();
   addDuplicatesBenchmarks();
   addPaintBenchmarks();
   addMemoryBenchmarks();

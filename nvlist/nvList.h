@@ -155,8 +155,30 @@ class nvList final : public UserControl,
   /// whole text only. A malformed pattern is a failure, which gives -1.
   std::int32_t IsInList(std::string_view sText, cFindCompare oCompare = cFindBinary);
 
-  void MoveItemUp(const Variant&, const Variant&) {}
-  void MoveItemDown(const Variant&, const Variant&) {}
+  // ---- ordering: core/ordering.cpp ----
+  //
+  // What an item holds travels with it, its mark of the selection too. ListIndex, TopIndex,
+  // NewIndex and the anchor of a range stay as numbers, but for what is said of ListIndex at the
+  // moves. No event is raised.
+
+  /// Orders the items by text, byte by byte: upper-case letters stand before lower-case ones, and
+  /// "10" before "9". Any other mode leaves the order as it is. Equal texts may change places, in
+  /// the same way each time (core/partitionSort.h). Paints whatever AutoRedraw says. An empty list
+  /// is left alone.
+  void Sort(cSortMode SortMode);
+
+  /// Moves an item `lCount` places towards 0, where it stops, and takes `lCount` off ListIndex,
+  /// whichever item is the current one. A bad `lItem` does nothing and is not reported. An `lCount`
+  /// of no number is a failure, which does nothing (under SilentError the item goes all the way).
+  ///
+  /// A negative `lCount` moves nothing along: the item then stands at the far place too, and the
+  /// one that stood there is lost. A far place outside the list is a failure, which changes nothing
+  /// (under SilentError it still changes ListIndex). Fractions are rounded slot by slot.
+  void MoveItemUp(const Variant& lItem, const Variant& lCount);
+  /// The same in the other direction: away from 0, the last item being the end, and ListIndex grows
+  /// by `lCount`.
+  void MoveItemDown(const Variant& lItem, const Variant& lCount);
+
   // ---- events: input/events.h ----
 
   /// Registers a host for the events; it has to live until it is removed, or as long as the list.
@@ -439,6 +461,12 @@ class nvList final : public UserControl,
     state_.LoopIndex = state_.Items.find(fits);
     return state_.LoopIndex <= state_.Items.upperBound() ? state_.LoopIndex : -1;
   }
+
+  // core/ordering.cpp
+  void QuickSortAsc() { sortTexts("QuickSortAsc", cAscending); }
+  void QuickSortDesc() { sortTexts("QuickSortDesc", cDescending); }
+  void sortTexts(const char* procedure, cSortMode mode);
+  void moveItem(double from, double count, int direction);
 
   // core/selection.cpp
   void SetNewSelected(const Variant& Index);

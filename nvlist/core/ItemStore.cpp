@@ -1,6 +1,9 @@
 #include <nvlist/core/ItemStore.h>
 
+#include <algorithm>
+#include <iterator>
 #include <limits>
+#include <vector>
 
 #include <nvlist/objects/Failure.h>
 
@@ -59,6 +62,24 @@ void ItemStore::moveDownOnto(std::int32_t index) {
   const Ref<ListItem> removed = slot(index);
   slots_.push_back(Ref(slots_.back()));
   slots_.erase(slots_.begin() + index);
+}
+
+void ItemStore::moveOnto(std::int32_t from, std::int32_t to) {
+  slot(from);
+  Ref<ListItem> carried = slot(to);
+  const auto exchange = [&](Ref<ListItem>& reference) { reference.swap(carried); };
+  const auto first = slots_.begin();
+  if (from < to)
+    std::for_each(std::reverse_iterator(first + to), std::reverse_iterator(first + from), exchange);
+  else
+    std::for_each(first + to + 1, first + from + 1, exchange);
+}
+
+void ItemStore::reorder(std::span<const std::int32_t> order) {
+  std::vector<Ref<ListItem>> old(slots_.size());
+  std::ranges::move(slots_, old.begin());
+  auto slot = slots_.begin();
+  for (const std::int32_t index : order) *slot++ = std::move(old[static_cast<std::size_t>(index)]);
 }
 
 }  // namespace norvane

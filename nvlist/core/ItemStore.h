@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <span>
 #include <utility>
 
 #include <nvlist/core/ListItem.h>
@@ -43,6 +44,15 @@ class ItemStore {
     return index;
   }
 
+  /// Shows every item to `look`, from 0. Nothing but `look` runs in it.
+  template <class Look>
+  void forEach(Look&& look) {
+    find([&](const ListItem& item) {
+      look(item);
+      return false;
+    });
+  }
+
   /// Forgets what every text was measured with.
   void forgetTextWidths();
 
@@ -58,6 +68,11 @@ class ItemStore {
   /// Takes the reference at `index` out and moves those behind it down by one. The last slot keeps
   /// the reference that stood there, as after a move slot by slot.
   void moveDownOnto(std::int32_t index);
+  /// Moves the references behind `from` up to `to` by one, onto `from`; where `to` lies before it,
+  /// the other way round. `to` keeps the reference that stood there, `from` loses its own.
+  void moveOnto(std::int32_t from, std::int32_t to);
+  /// Gives each slot the reference that stood at the index named for it. Every index is named once.
+  void reorder(std::span<const std::int32_t> order);
 
  private:
   std::deque<Ref<ListItem>> slots_ = std::deque<Ref<ListItem>>(1);

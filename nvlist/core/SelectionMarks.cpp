@@ -1,5 +1,7 @@
 #include <nvlist/core/SelectionMarks.h>
 
+#include <algorithm>
+
 namespace norvane {
 
 void SelectionMarks::set(ItemStore& items, std::int32_t index, Boolean selected) {
@@ -18,6 +20,11 @@ void SelectionMarks::clear(ItemStore& items) {
       items.touch(index).Selected = false;
   }
   marksSet_ = 0;
+}
+
+void SelectionMarks::reordered(std::span<const std::int32_t> order) {
+  const auto place = std::ranges::find(order, lastIndex_);
+  if (place != order.end()) lastIndex_ = static_cast<std::int32_t>(place - order.begin());
 }
 
 }  // namespace norvane

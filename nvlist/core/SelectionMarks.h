@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 
 #include <nvlist/core/ItemStore.h>
 
@@ -15,6 +16,12 @@ class SelectionMarks {
   void set(ItemStore& items, std::int32_t index, Boolean selected);
   /// Takes the mark off every item.
   void clear(ItemStore& items);
+
+  /// An item was moved, or all of them were; so that the one with the mark is found again.
+  void itemMoved(std::int32_t from, std::int32_t to) {
+    if (lastIndex_ == from) lastIndex_ = to;
+  }
+  void reordered(std::span<const std::int32_t> order);
 
  private:
   std::int64_t marksSet_ = 0;  ///< since the last clear; no more items than that have one

@@ -11,7 +11,7 @@ TEST(PropertyBag, KeepsWhatIsNotTheDefaultInTheOrderItCameIn) {
   bag.WriteProperty("b", 1, 0);
   bag.WriteProperty("a", "x", "");
   bag.WriteProperty("same", "x", "x");
-  bag.WriteProperty("type", true, -1);
+  bag.WriteProperty("otherType", std::int16_t{-1}, true);
   bag.WriteProperty("object", object, Variant());
   bag.WriteProperty("sameObject", object, object);
   bag.WriteProperty("b", 2, 0);
@@ -19,7 +19,7 @@ TEST(PropertyBag, KeepsWhatIsNotTheDefaultInTheOrderItCameIn) {
   bag.WriteProperty("gone", 0, 0);
   std::string names;
   for (const auto& property : bag.properties()) names += property.name + " ";
-  EXPECT_EQ(names, "b a type object ");
+  EXPECT_EQ(names, "b a object ");
   EXPECT_EQ(bag.ReadProperty("b", 7).toInt32(), 2);
   EXPECT_EQ(bag.ReadProperty("B", 7).toInt32(), 7);
   EXPECT_EQ(bag.ReadProperty("gone", 7).toInt32(), 7);

@@ -1,0 +1,78 @@
+#include <algorithm>
+#include <map>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "Measure.h"
+#include "Subjects.h"
+
+namespace {
+
+/// Eight to twenty letters; short ones stand in the string itself, long ones on the heap.
+std::string randomText(std::mt19937& random) {
+  std::string text(8 + random() % 13, ' ');
+  for (char& letter : text) letter = static_cast<char>('a' + random() % 26);
+  return text;
+}
+
+/// Texts as a list finds them, `different` of them at most; made once.
+struct Texts {
+  Texts(int count, int different) {
+    std::mt19937 random(7);
+    std::vector<std::string> choice;
+    for (int i = 0; i < different; ++i) choice.push_back(randomText(random));
+    for (int i = 0; i < count; ++i) {
+      plain.push_back(different == count ? choice[i] : choice[random() % different]);
+      qt.push_back(QString::fromStdString(plain.back()));
+    }
+  }
+
+  std::vector<std::string> plain;
+  std::vector<QString> qt;
+};
+
+const Texts& textsOf(int count, int different) {
+  static std::map<std::pair<int, int>, Texts> made;
+  return made.try_emplace({count, different}, count, different).first->second;
+}
+
+void addSort(const std::string& name, int count, int different) {
+  const std::string work = name + '/' + std::to_string(count);
+  addFresh(
+      work, subject::nvList, count,
+      [=] {
+        auto widget = makeNvList(false);
+        for (const std::string& text : textsOf(count, different).plain)
+          widget->list().ItemsAdd(text);
+        return widget;
+      },
+      [](auto& widget) { widget->list().Sort(norvane::cAscending); });
+  addFresh(
+      work, subject::listWidget, count,
+      [=] {
+        auto widget = makeListWidget(false);
+        for (const QString& text : textsOf(count, different).qt) widget->addItem(text);
+        return widget;
+      },
+      [](auto& widget) { widget->sortItems(); });
+  addFresh(
+      work, subject::floor, count,
+      [=] {
+        std::vector<const std::string*> pointers;
+        for (const std::string& text : textsOf(count, different).plain) pointers.push_back(&text);
+        return pointers;
+      },
+      [](auto& pointers) {
+        std::ranges::sort(
+            pointers, {}, [](auto* text) -> auto& { return *text; });
+        benchmark::DoNotOptimize(pointers.data());
+      });
+}
+
+}  // namespace
+
+void addSortBenchmarks() {
+  for (const int count : {10'000, 100'000, 1'000'000}) addSort("Sort", count, count);
+  addSort("Sort many equal", 100'000, 100);
+}
