@@ -231,13 +231,16 @@ class nvList final : public UserControl,
   /// Whether the user may edit the text, given the list's AllowEdit too.
   Boolean ItemAllowEdit(const Variant& Index);
   void ItemAllowEdit(const Variant& Index, Boolean value);
-  /// The text. A wider one does not change the horizontal range at once.
+  /// The text. A `&` underlines the character behind it, two show one; what stands behind "|right=",
+  /// in any capitalisation, is a second column at the right. A wider text does not change the
+  /// horizontal range at once.
   std::string ItemText(const Variant& Index);
   void ItemText(const Variant& Index, const std::string& value);
   /// Whether the item can become the current one.
   Boolean ItemEnabled(const Variant& Index);
   void ItemEnabled(const Variant& Index, Boolean value);
-  /// Flags of the font.
+  /// Flags of the font. A row is measured with the flags of the row painted before it, so a bold
+  /// text that is not left-aligned may stand a little to the side.
   Boolean ItemBold(const Variant& Index);
   void ItemBold(const Variant& Index, Boolean value);
   Boolean ItemItalic(const Variant& Index);
@@ -326,10 +329,13 @@ class nvList final : public UserControl,
   /// pictures and puts the text at the very left.
   cListStyle Style() const { return state_.Style; }
   void Style(cListStyle value);
-  /// Whether the selection fills the row, or the text alone. Default: true.
+  /// Whether the selection fills the row, or the text alone. The text alone stands out only where
+  /// the item has a BackColor of its own: "def" is the selection colour while an item is selected.
+  /// Default: true.
   Boolean FullRowSelect() const { return state_.FullRowSelect; }
   void FullRowSelect(Boolean value);
-  /// Whether the selection covers the check box and icon too. Default: true.
+  /// Whether the selection covers the check box and icon too; seen, like FullRowSelect, where the
+  /// item has a BackColor of its own. Default: true.
   Boolean IconSelect() const { return state_.IconSelect; }
   void IconSelect(Boolean value);
   /// Whether selected rows have a dotted outline while the list has the focus. Does not repaint.

@@ -1,6 +1,9 @@
 #include "../Lists.h"
 
+#include <stdexcept>
 #include <string>
+
+#include <nvlist/render/art.h>
 
 namespace norvane {
 namespace {
@@ -310,12 +313,103 @@ TEST_F(Rows, GridLinesStandAboveAndBelowRows) {
 }
 
 TEST_F(Rows, PicturesThatAreNoneAreSkipped) {
+  class Broken final : public PictureObject {
+   public:
+    std::uintptr_t handle() const override { throw std::runtime_error("no handle"); }
+    float width() const override { return 1; }
+    float height() const override { return 1; }
+  };
   list.Style(cIcons);
   list.ItemsAdd({.aText = "a"});
   list.ItemsAdd({.aText = "b", .aIcon = flag, .aIconSelected = makeRef<Flag>("empty", 0)});
+  list.ItemsAdd({.aText = "c", .aIcon = makeRef<Broken>()});
   list.ItemSelected(1, true);
   EXPECT_EQ(seen().find("PaintPicture"), seen().find("PaintPicture 32x24 \"flag\" at (3, 14.5)"));
   EXPECT_EQ(reports(), "");
+}
+
+TEST_F(Rows, TheVerticalBarTakesItsWidthFromAlignedTextsWhereRowsDoNotFit) {
+  list.AutoRedraw(false);
+  list.FullRowSelect(false);
+  for (int i = 0; i < 7; ++i)
+    list.ItemsAdd({.aText = "ab", .aAlignment = i % 2 ? cRight : cCenter});
+  list.ItemSelected(0, true);
+  list.ItemSelected(1, true);
+  const auto holds = [&](const char* call) { return seen().find(call) != std::string::npos; };
+  EXPECT_TRUE(holds("\"ab\" (93, 3)"));
+  EXPECT_TRUE(holds("Line 38 (183, 16)-(197, 29)"));
+  list.ItemsAdd("8");
+  EXPECT_TRUE(holds("\"ab\" (84, 3)"));
+  EXPECT_TRUE(holds("\"ab\" (166, 16)"));
+  EXPECT_TRUE(holds("Line 38 (84.5, 3)-(98.5, 16)"));
+  EXPECT_TRUE(holds("Line 38 (166, 16)-(180, 29)"));
+}
+
+TEST_F(Rows, WhatARowLeavesBehind) {
+  list.Style(cCheckBoxes);
+  list.IndentLeft(4);
+  list.DistPicText(2.5);
+  list.IndentTop(3.25);
+  list.MinHeight(16.5);
+  list.AutoRedraw(false);
+  list.ItemsAdd({.aText = "a", .aChecked = true, .aBackColor = 5, .aAlignment = cRight});
+  list.ItemsAdd({.aText = "b", .aChecked = true, .aEnabled = false});
+  list.ItemSelected(0, true);
+  list.Redraw();
+  EXPECT_EQ(list.state().FocusRect, (Rectangle{20, 3, 200, 20}));
+  EXPECT_EQ(list.state().PaintIcon, art::checkBox(true, false));
+  EXPECT_EQ(list.state().RowBackColor, 5);
+  EXPECT_EQ(list.state().LoopIndex, 2);
+  EXPECT_TRUE(headless.picture().ends_with("CurrentX 19.5\n"));
+}
+
+TEST_F(Rows, AScrolledListHasNoLineAboveItsFirstRow) {
+  for (int i = 0; i < 40; ++i) list.ItemsAdd(i);
+  list.GridLines(true);
+  list.TopIndex(5);
+  EXPECT_EQ(headless.picture().find("Line 6 (0, 3)"), std::string::npos);
+}
+
+TEST_F(Rows, WhateverTheSurfaceThrowsIsReportedOnce) {
+  /// Fails at the n-th question, counted over all kinds of them.
+  class Failing : public HeadlessSurface {
+   public:
+    using HeadlessSurface::HeadlessSurface;
+    float ScaleWidth() const override { return ask(HeadlessSurface::ScaleWidth()); }
+    float TextWidth(std::string_view text) override {
+      return ask(HeadlessSurface::TextWidth(text));
+    }
+    float TextHeight(std::string_view text) override {
+      return ask(HeadlessSurface::TextHeight(text));
+    }
+    float CurrentY() const override { return ask(HeadlessSurface::CurrentY()); }
+    mutable int questionsLeft = 0;
+
+   private:
+    float ask(float answer) const {
+      if (--questionsLeft == 0) throw std::runtime_error("no answer");
+      return answer;
+    }
+  };
+  for (const bool isWholeRow : {true, false}) {
+    bool hasFailed = true;
+    for (int question = 1; hasFailed; ++question) {
+      Failing surface(200, 40);
+      HeadlessContainer container(surface);
+      nvList own(container);
+      own.UserControl_InitProperties();
+      own.Style(cCheckBoxesIcons);
+      own.FullRowSelect(isWholeRow);
+      own.GridLines(true);
+      own.ItemsAdd({.aText = "a", .aAlignment = cCenter});
+      own.ItemSelected(0, true);
+      surface.questionsLeft = question;
+      own.Redraw();
+      hasFailed = surface.questionsLeft <= 0;
+      EXPECT_EQ(application.boxes.size(), hasFailed ? 1U : 0U) << question;
+      reports();
+    }
+  }
 }
 
 }  // namespace
