@@ -77,4 +77,15 @@ std::string textOf(float number) {
   return stream.str();
 }
 
+std::string hexTextOf(std::uint32_t number, int width) {
+  std::string result;
+  do {
+    result.insert(result.begin(), "0123456789ABCDEF"[number & 15]);
+    number >>= 4;
+  } while (number != 0);
+  const auto wanted = static_cast<std::size_t>(width > 0 ? width : 0);
+  if (result.size() < wanted) result.insert(0, wanted - result.size(), '0');
+  return result;
+}
+
 }  // namespace norvane

@@ -63,5 +63,7 @@ std::optional<double> numberOf(std::string_view text);
 /// The decimal form of a number: no more digits than the type holds, a point as decimal separator.
 std::string textOf(std::int32_t number);
 std::string textOf(float number);
+/// Upper-case hexadecimal digits, with zeros in front up to `width` of them.
+std::string hexTextOf(std::uint32_t number, int width);
 
 }  // namespace norvane

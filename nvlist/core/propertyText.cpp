@@ -7,7 +7,6 @@
 #include <nvlist/core/PropertyBag.h>
 #include <nvlist/core/numbers.h>
 #include <nvlist/objects/Failure.h>
-#include <nvlist/render/colours.h>
 
 namespace norvane {
 namespace {
@@ -34,7 +33,7 @@ std::string quoted(std::string_view text) {
   std::string result = "\"";
   for (const char c : text) {
     if (static_cast<unsigned char>(c) < 0x20)
-      result += "\\x" + CHex(c, 2);
+      result += "\\x" + hexTextOf(static_cast<unsigned char>(c), 2);
     else if (c == '"' || c == '\\')
       result += {'\\', c};
     else
@@ -56,7 +55,7 @@ std::optional<std::string> valueText(const Variant& value) {
       return quoted(value.text());
     case Variant::Type::Int32:
       if (const std::int32_t number = value.toInt32(); number < 0 || number > 65535)
-        return "&H" + CHex(number, 8);
+        return "&H" + hexTextOf(static_cast<std::uint32_t>(number), 8);
       return value.toText();
     case Variant::Type::Object:
       if (const auto* font = dynamic_cast<const FontObject*>(value.object().get()))

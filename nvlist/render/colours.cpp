@@ -61,17 +61,7 @@ std::optional<Colour> borderColour(cColorStyle style, Colour borderColor) {
 std::string CHex(std::int32_t value, std::int16_t width) {
   std::string result;
   trapped(here, "CHex", [&](Trap& on) {
-    on.step([&] {
-      auto bits = static_cast<std::uint32_t>(value);
-      do {
-        result.insert(result.begin(), "0123456789ABCDEF"[bits & 15]);
-        bits >>= 4;
-      } while (bits != 0);
-    });
-    on.step([&] {
-      const int missing = width - static_cast<int>(result.size());
-      if (missing > 0) result.insert(0, static_cast<std::size_t>(missing), '0');
-    });
+    on.step([&] { result = hexTextOf(static_cast<std::uint32_t>(value), width); });
   });
   return result;
 }

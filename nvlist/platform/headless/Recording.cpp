@@ -5,10 +5,7 @@
 namespace norvane {
 namespace {
 
-std::string hex(std::uint32_t byte) {
-  constexpr std::string_view digits = "0123456789ABCDEF";
-  return {digits[byte >> 4 & 15], digits[byte & 15]};
-}
+std::string hex(std::uint32_t byte) { return hexTextOf(byte & 0xFF, 2); }
 
 std::string textOfColour(Colour colour) {
   const auto bits = static_cast<std::uint32_t>(colour);
