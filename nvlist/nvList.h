@@ -231,9 +231,9 @@ class nvList final : public UserControl,
   /// Whether the user may edit the text, given the list's AllowEdit too.
   Boolean ItemAllowEdit(const Variant& Index);
   void ItemAllowEdit(const Variant& Index, Boolean value);
-  /// The text. A `&` underlines the character behind it, two show one; what stands behind "|right=",
-  /// in any capitalisation, is a second column at the right. A wider text does not change the
-  /// horizontal range at once.
+  /// The text. A `&` underlines the character behind it, two show one; what stands behind
+  /// "|right=", in any capitalisation, is a second column at the right. A wider text does not
+  /// change the horizontal range at once.
   std::string ItemText(const Variant& Index);
   void ItemText(const Variant& Index, const std::string& value);
   /// Whether the item can become the current one.

@@ -24,6 +24,16 @@ enum cFindCompare : std::int32_t { cFindBinary = 0, cFindText = 1 };
 
 enum cWheelFunction : std::int32_t { cWheelScroll = 0, cWheelListIndex = 1, cWheelOff = 2 };
 
+enum cActiveXPTheme : std::int32_t {
+  styleBlue = 1,
+  styleSilver = 2,
+  styleOlive = 3,
+  styleClassic = 4
+};
+
+/// What the mouse tells is not always one of these: the middle button is 4.
+enum cMouseButton : std::int32_t { mouseNone = 0, mouseLeft = 1, mouseRight = 2, mouseMiddle = 3 };
+
 /// Which scroll bars the list may show.
 enum ScrollBarConstants : std::int32_t {
   vbSBNone = 0,

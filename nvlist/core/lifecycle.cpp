@@ -1,5 +1,5 @@
 #include <nvlist/nvList.h>
-#include <nvlist/platform/Application.h>
+#include <nvlist/objects/about.h>
 
 namespace norvane {
 namespace {
@@ -7,8 +7,6 @@ namespace {
 /// Where the text of a row begins while nobody has changed its margins: the edit box stands there
 /// in a list with both pictures.
 constexpr Bounds newEditBox{37, 3, 100, 14};
-
-constexpr std::int32_t information = 64;
 
 }  // namespace
 
@@ -42,12 +40,7 @@ void nvList::UserControl_AmbientChanged(std::string_view PropertyName) {
 }
 
 void nvList::About() {
-  trapped(here, "About", [&](Trap& on) {
-    on.step([&] {
-      Application::inUse().MsgBox("nvList " NVLIST_VERSION "\nA visual list control", information,
-                                  "nvList");
-    });
-  });
+  trapped(here, "About", [&](Trap& on) { on.step([] { showAboutBox(); }); });
 }
 
 }  // namespace norvane

@@ -2,10 +2,12 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 
 #include <nvlist/core/Variant.h>
+#include <nvlist/platform/TipWindow.h>
 
 namespace norvane {
 
@@ -18,6 +20,14 @@ struct ApplicationFacts {
   std::int32_t Revision = 0;
   /// Folder of the program, in the form of the system it runs on.
   std::string Path;
+};
+
+/// The operating system as Windows numbers it.
+struct SystemVersion {
+  /// 2 for Windows NT and all that came after it, 0 for what is no Windows.
+  std::int32_t PlatformId = 0;
+  std::int32_t Major = 0;
+  std::int32_t Minor = 0;
 };
 
 /// A host's own receiver of failures. It is asked before the box is shown.
@@ -74,6 +84,38 @@ class Application {
   /// Date and time of day in the form in which the program's user reads them.
   virtual std::string dateText() = 0;
   virtual std::string timeText() = 0;
+
+  // ---- the system; here: one without themes, sound, mouse and tool tips ----
+
+  virtual SystemVersion systemVersion() { return {}; }
+
+  /// Puts the file of the visual theme in use, its colour scheme and its size to the front of three
+  /// buffers, each with a zero character behind it where there is room for one. 0 tells success;
+  /// anything else, that there is no theme, and that the buffers are as they were.
+  virtual std::int32_t currentThemeName(std::span<char16_t> themeFile,
+                                        std::span<char16_t> colourScheme,
+                                        std::span<char16_t> size) {
+    (void)themeFile, (void)colourScheme, (void)size;
+    return -1;
+  }
+
+  /// Of a mouse button (1 left, 2 right, 4 middle): negative while it is down; with the lowest bit
+  /// set where it was pressed since it was asked for last; else 0.
+  virtual std::int16_t asyncKeyState(std::int32_t key) {
+    (void)key;
+    return 0;
+  }
+
+  /// Begins to play a sound file and returns at once; one that still plays ends. What cannot be
+  /// played is silence.
+  virtual void playSound(const std::string& path) { (void)path; }
+
+  /// A window of tool tips for the controls of a form, which shows also while another window is the
+  /// active one. `form` is the form's handle. Nothing where there can be none.
+  virtual std::shared_ptr<TipWindow> createTipWindow(std::int32_t form) {
+    (void)form;
+    return nullptr;
+  }
 
   /// Shows a modal box and returns when it is closed. Style 16 is a critical stop with one OK.
   virtual void MsgBox(const std::string& text, std::int32_t style, const std::string& title) = 0;

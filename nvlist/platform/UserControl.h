@@ -52,8 +52,8 @@ class UserControl {
   virtual void UserControl_ExitFocus() {}
   /// An ambient value of the form has changed; "DisplayName" is the control's name.
   virtual void UserControl_AmbientChanged(std::string_view PropertyName);
-  /// The control has to paint itself anew: it has asked for that (Container::paintLater), or what it
-  /// had painted is lost, as on a screen of another resolution.
+  /// The control has to paint itself anew: it has asked for that (Container::paintLater), or what
+  /// it had painted is lost, as on a screen of another resolution.
   virtual void UserControl_Paint() {}
 
   // ---- the place, in pixels of the control around it ----

@@ -15,6 +15,10 @@
 #include <cstdio>
 
 #include <nvlist/objects/Failure.h>
+#include <nvlist/platform/qt/QtMouse.h>
+#include <nvlist/platform/qt/QtSound.h>
+#include <nvlist/platform/qt/QtTipWindow.h>
+#include <nvlist/platform/qt/QtWindow.h>
 
 namespace norvane {
 namespace {
@@ -52,7 +56,8 @@ QMessageBox::Icon iconOf(std::int32_t style) {
   }
 }
 
-bool canShowBoxes() {
+/// Whether there is a program with windows, and this is the thread of its windows.
+bool canShow() {
   const auto* program = qobject_cast<QApplication*>(QCoreApplication::instance());
   return program && program->thread() == QThread::currentThread();
 }
@@ -62,6 +67,13 @@ bool canShowBoxes() {
 void QtApplication::ensure() {
   if (Application::anyInUse()) return;
   static QtApplication application;
+}
+
+QtApplication::QtApplication() = default;
+
+QtApplication::~QtApplication() {
+  delete mouse_.data();
+  delete sound_.data();
 }
 
 ApplicationFacts QtApplication::facts() {
@@ -115,8 +127,32 @@ std::string QtApplication::timeText() {
   return QLocale().toString(QTime::currentTime(), QLocale::LongFormat).toStdString();
 }
 
+SystemVersion QtApplication::systemVersion() {
+  if (!isWindows()) return {};
+  const auto version = QOperatingSystemVersion::current();
+  return {2, version.majorVersion(), version.minorVersion()};
+}
+
+std::int16_t QtApplication::asyncKeyState(std::int32_t key) {
+  if (!canShow()) return 0;
+  if (!mouse_) mouse_ = new QtMouse(*QCoreApplication::instance());
+  return mouse_->asyncKeyState(key);
+}
+
+void QtApplication::playSound(const std::string& path) {
+  if (!canShow()) return;
+  if (!sound_) sound_ = new QtSound(QCoreApplication::instance());
+  sound_->play(qtText(path));
+}
+
+std::shared_ptr<TipWindow> QtApplication::createTipWindow(std::int32_t form) {
+  QWidget* widget = widgetOf(form);
+  if (!widget || !canShow()) return nullptr;
+  return std::make_shared<QtTipWindow>(*widget);
+}
+
 void QtApplication::MsgBox(const std::string& text, std::int32_t style, const std::string& title) {
-  if (!canShowBoxes()) {
+  if (!canShow()) {
     std::fprintf(stderr, "%s\n%s\n", title.c_str(), text.c_str());
     return;
   }

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <nvlist/core/Ref.h>
+#include <nvlist/core/Variant.h>
+#include <nvlist/objects/Failure.h>
+
+namespace norvane {
+
+/// The object in a variant, as one that has the members of a class. Throws Failure 424 where there
+/// is no object, 91 where the reference is empty, and 438 where the object is of another class.
+template <class Members>
+Ref<Members> lateBound(const Variant& value) {
+  if (value.type() != Variant::Type::Object) throw Failure::objectRequired();
+  const Ref<Object> object = value.object();
+  if (!object) throw Failure::objectNotSet();
+  auto* members = dynamic_cast<Members*>(object.get());
+  if (!members) throw Failure::noSuchMember();
+  return Ref<Members>(members);
+}
+
+}  // namespace norvane

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <cstdint>
+
+namespace norvane {
+
+/// Which mouse buttons are down, and which were pressed over a window of the program since they
+/// were asked for last.
+class QtMouse final : public QObject {
+ public:
+  explicit QtMouse(QCoreApplication& program) : QObject(&program) {
+    program.installEventFilter(this);
+  }
+
+  /// As Application::asyncKeyState. Qt's own numbers of the three buttons are the same.
+  std::int16_t asyncKeyState(std::int32_t key) {
+    if (key != Qt::LeftButton && key != Qt::RightButton && key != Qt::MiddleButton) return 0;
+    const auto button = static_cast<Qt::MouseButton>(key);
+    const bool isDown = QGuiApplication::mouseButtons() & button;
+    const bool wasPressed = pressed_ & button;
+    pressed_ &= ~button;
+    return static_cast<std::int16_t>((isDown ? -0x8000 : 0) | (wasPressed ? 1 : 0));
+  }
+
+ protected:
+  /// Windows alone are looked at: widgets may get the same press one after the other.
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    const bool isPress =
+        event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+    if (isPress && watched->isWindowType()) pressed_ |= static_cast<QMouseEvent*>(event)->button();
+    return false;
+  }
+
+ private:
+  Qt::MouseButtons pressed_;
+};
+
+}  // namespace norvane

@@ -1,0 +1,159 @@
+#include <nvlist/objects/SpEv.h>
+#include <nvlist/platform/qt/QtApplication.h>
+#include <nvlist/platform/qt/QtListBox.h>
+#include <nvlist/platform/qt/QtWindow.h>
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+#include <memory>
+
+namespace norvane {
+namespace {
+
+std::string nameIn(const QTemporaryDir& folder, const char* name) {
+  return folder.filePath(name).toStdString();
+}
+
+QByteArray contents(const std::string& path) {
+  QFile file(QString::fromStdString(path));
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+template <class Action>
+std::int32_t failureOf(Action&& action) {
+  try {
+    action();
+    return 0;
+  } catch (const Failure& failure) {
+    return failure.number();
+  }
+}
+
+TEST(QtListBoxTest, GoesToAFileAndComesBack) {
+  const QTemporaryDir folder;
+  QListWidget widget;
+  widget.addItems({"Zoë", "", "Ω"});
+  SpEv helper;
+  helper.ListSave(QtListBox::of(widget), nameIn(folder, "list"), "* ");
+  EXPECT_EQ(contents(nameIn(folder, "list")), "* Zoë\r\n* \r\n* Ω\r\n");
+  helper.ListRead(QtListBox::of(widget), nameIn(folder, "list"));
+  ASSERT_EQ(widget.count(), 6);
+  EXPECT_EQ(widget.item(3)->text(), "* Zoë");
+}
+
+TEST(QtAdaptersTest, FailWithoutTheirWidgets) {
+  auto form = std::make_unique<QWidget>();
+  auto* list = new QListWidget(form.get());
+  QtListBox box(*list);
+  QtWindow window(*form);
+  QtWindow control(*list);
+  EXPECT_EQ(failureOf([&] { box.List(0); }), 381);
+  EXPECT_EQ(control.Container()->hwnd(), handleOf(*form));
+  EXPECT_EQ(failureOf([&] { window.Container(); }), 438);
+
+  const std::int32_t gone = handleOf(*list);
+  EXPECT_EQ(widgetOf(gone), list);
+  delete list;
+  EXPECT_EQ(widgetOf(gone), nullptr);
+  EXPECT_NE(handleOf(*new QListWidget(form.get())), gone);
+  EXPECT_EQ(failureOf([&] { box.ListCount(); }), 91);
+  EXPECT_EQ(failureOf([&] { control.hwnd(); }), 91);
+  EXPECT_TRUE(window.isForm());
+  form.reset();
+  EXPECT_FALSE(window.isForm());
+}
+
+TEST(QtMouseTest, TellsButtonsThatAreDownOrWerePressed) {
+  QtApplication application;
+  SpEv helper;
+  const auto pressed = [&] { return static_cast<int>(helper.MouseButtonPressed()); };
+  EXPECT_EQ(pressed(), 0);
+
+  QWidget widget;
+  widget.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&widget));
+  QWindow* window = widget.windowHandle();
+  QTest::mousePress(window, Qt::MiddleButton);
+  EXPECT_EQ(pressed(), 4);
+  EXPECT_EQ(pressed(), 4);
+  QTest::mousePress(window, Qt::RightButton);
+  EXPECT_EQ(pressed(), 2);
+  QTest::mouseRelease(window, Qt::RightButton);
+  QTest::mouseRelease(window, Qt::MiddleButton);
+  EXPECT_EQ(pressed(), 0);
+  QTest::mouseClick(window, Qt::LeftButton);
+  EXPECT_EQ(pressed(), 1);
+  EXPECT_EQ(pressed(), 0);
+}
+
+/// A system whose only sound player writes down what it is told, and plays for a long time.
+class QtSoundTest : public testing::Test {
+ protected:
+  QtSoundTest() {
+#ifdef Q_OS_WIN
+    GTEST_SKIP();
+#endif
+    QFile player(folder.filePath("aplay"));
+    EXPECT_TRUE(player.open(QIODevice::WriteOnly));
+    player.write(
+        "#!/bin/sh\nhere=${0%/*}\necho \"$$ $*\" >>\"$here/played\"\n"
+        "PATH=/usr/bin:/bin exec sleep 60\n");
+    player.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    player.close();
+    qputenv("PATH", folder.path().toLocal8Bit());
+    for (const char* name : {"-one.wav", "two.wav"}) {
+      QFile sound(folder.filePath(name));
+      EXPECT_TRUE(sound.open(QIODevice::WriteOnly));
+    }
+  }
+  ~QtSoundTest() override { qputenv("PATH", path); }
+
+  QList<QByteArray> played() const {
+    QList<QByteArray> lines = contents(nameIn(folder, "played")).split('\n');
+    lines.removeLast();
+    return lines;
+  }
+  bool hasPlayed(int count) const {
+    return QTest::qWaitFor([&] { return played().size() >= count; }, 5000);
+  }
+  /// Whether the player of a line still runs.
+  static bool runs(const QByteArray& line) {
+    return QFile::exists("/proc/" + QString::fromLatin1(line.split(' ').first()));
+  }
+
+  const QByteArray path = qgetenv("PATH");
+  QTemporaryDir folder;
+  SpEv helper;
+};
+
+TEST_F(QtSoundTest, PlaysOneAfterTheOther) {
+  auto application = std::make_unique<QtApplication>();
+  helper.PlayMusic(nameIn(folder, "missing.wav"));
+  const std::string back = QDir::currentPath().toStdString();
+  QDir::setCurrent(folder.path());
+  helper.PlayMusic("-one.wav");
+  QDir::setCurrent(QString::fromStdString(back));
+  ASSERT_TRUE(hasPlayed(1));
+  EXPECT_TRUE(played()[0].endsWith(" -q " + folder.filePath("-one.wav").toUtf8()));
+  if (!QFile::exists("/proc/self")) GTEST_SKIP() << "no list of processes";
+  EXPECT_TRUE(runs(played()[0]));
+  helper.PlayMusic(nameIn(folder, "two.wav"));
+  EXPECT_FALSE(runs(played()[0]));
+  ASSERT_TRUE(hasPlayed(2));
+  EXPECT_EQ(played().size(), 2);
+  application.reset();
+  EXPECT_FALSE(runs(played()[1]));
+
+  QtApplication another;
+  qputenv("PATH", "");
+  helper.PlayMusic(nameIn(folder, "two.wav"));
+  QTest::qWait(50);
+  EXPECT_EQ(played().size(), 2);
+}
+
+}  // namespace
+}  // namespace norvane

@@ -1,0 +1,241 @@
+#include <nvlist/objects/QI.h>
+#include <nvlist/objects/nvToolTip.h>
+#include <nvlist/platform/qt/QtApplication.h>
+#include <nvlist/platform/qt/QtWindow.h>
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QTest>
+#include <memory>
+
+namespace norvane {
+namespace {
+
+/// A form with two labels side by side, over which the test moves the mouse. Times are long enough
+/// for a busy machine: no test asks that something happens at once.
+class QtToolTipTest : public testing::Test {
+ protected:
+  QtToolTipTest() {
+    form->setGeometry(100, 100, 300, 100);
+    one->setGeometry(20, 20, 100, 40);
+    two->setGeometry(140, 20, 100, 40);
+    inner->setGeometry(10, 10, 40, 20);
+    form->show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(form.get()));
+    QCursor::setPos(0, 0);
+    QCoreApplication::processEvents();
+  }
+
+  void moveTo(const QWidget& widget, QPoint offset = {}) {
+    QCursor::setPos(widget.mapToGlobal(widget.rect().center()) + offset);
+    QCoreApplication::processEvents();
+  }
+  void moveAway() { moveTo(*form, {0, 40}); }
+
+  /// The tip that shows, or nullptr.
+  static QWidget* tip() {
+    for (QWidget* widget : QApplication::topLevelWidgets())
+      if (widget->windowType() == Qt::ToolTip && widget->isVisible()) return widget;
+    return nullptr;
+  }
+  static QString shown() { return tip() ? tip()->accessibleName() : QString("nothing"); }
+  static bool waitForTip() {
+    return QTest::qWaitFor([] { return tip() != nullptr; }, 5000);
+  }
+
+  QtApplication application;
+  std::unique_ptr<QWidget> form = std::make_unique<QWidget>();
+  QLabel* one = new QLabel("one", form.get());
+  QLabel* two = new QLabel("two", form.get());
+  QLabel* inner = new QLabel("inner", two);
+  nvToolTip tips;
+};
+
+/// Milliseconds until something is true, or -1.
+template <class Condition>
+qint64 timeUntil(Condition&& condition) {
+  QElapsedTimer clock;
+  clock.start();
+  return QTest::qWaitFor(condition, 5000) ? clock.elapsed() : -1;
+}
+
+TEST_F(QtToolTipTest, ShowsATextWhileTheMouseRests) {
+  EXPECT_FALSE(tips.Create(QtWindow::of(*one)));
+  ASSERT_TRUE(tips.Create(QtWindow::of(*form)));
+  EXPECT_NE(tips.hwnd(), handleOf(*form));
+  EXPECT_EQ(tips.DelayTime(3), 500);
+  tips.DelayTime(3, 150);
+  ASSERT_TRUE(tips.AddTool(QtWindow::of(*one), "Grüße & <b>Küsse</b>"));
+  moveTo(*one);
+  EXPECT_EQ(shown(), "nothing");
+  EXPECT_GE(timeUntil([] { return tip() != nullptr; }), 100);
+  EXPECT_EQ(shown(), "Grüße & <b>Küsse</b>");
+  EXPECT_GT(tip()->y(), QCursor::pos().y());
+  EXPECT_EQ(QApplication::activeWindow(), form.get());
+  tips.ToolText(QtWindow::of(*one), "another");
+  EXPECT_EQ(shown(), "another");
+  moveAway();
+  EXPECT_EQ(shown(), "nothing");
+
+  moveTo(*one);
+  ASSERT_TRUE(waitForTip());
+  tips.RemoveTool(QtWindow::of(*one));
+  EXPECT_EQ(shown(), "nothing");
+  moveAway();
+  moveTo(*one);
+  QTest::qWait(300);
+  EXPECT_EQ(shown(), "nothing");
+}
+
+TEST_F(QtToolTipTest, AMovingMouseWaitsLonger) {
+  tips.Create(QtWindow::of(*form));
+  tips.DelayTime(3, 500);
+  tips.AddTool(QtWindow::of(*one), "one");
+  moveTo(*one);
+  QTest::qWait(50);
+  moveTo(*one, {5, 5});
+  QElapsedTimer clock;
+  clock.start();
+  EXPECT_TRUE(waitForTip());
+  EXPECT_GE(clock.elapsed(), 500);
+}
+
+TEST_F(QtToolTipTest, StaysAsLongAsItWasTold) {
+  auto quick = std::make_unique<QI>();
+  quick->Create(QtWindow::of(*form), QtWindow::of(*one), "one", 300, 0);
+  moveTo(*one);
+  ASSERT_TRUE(waitForTip());
+  const qint64 time = timeUntil([] { return tip() == nullptr; });
+  EXPECT_GE(time, 200);
+  EXPECT_LT(time, 2000);
+  // It has had its time until the mouse comes anew.
+  moveTo(*one, {3, 3});
+  QTest::qWait(700);
+  EXPECT_EQ(shown(), "nothing");
+  moveAway();
+  moveTo(*one);
+  EXPECT_TRUE(waitForTip());
+  quick.reset();
+  EXPECT_EQ(shown(), "nothing");
+}
+
+TEST_F(QtToolTipTest, GoesWithAPress) {
+  tips.Create(QtWindow::of(*form));
+  tips.DelayTime(0, 20);
+  tips.AddTool(QtWindow::of(*one), "one");
+  moveTo(*one);
+  ASSERT_TRUE(waitForTip());
+  QTest::mouseClick(one, Qt::LeftButton);
+  EXPECT_EQ(shown(), "nothing");
+  QTest::qWait(100);
+  EXPECT_EQ(shown(), "nothing");
+}
+
+TEST_F(QtToolTipTest, BreaksLinesAtItsWidth) {
+  const QString text = "some words that take more room than a line of a narrow tip can give";
+  tips.Create(QtWindow::of(*form));
+  tips.DelayTime(3, 10);
+  tips.AddTool(QtWindow::of(*one), text.toStdString());
+  moveTo(*one);
+  ASSERT_TRUE(waitForTip());
+  const QSize line = tip()->size();
+  EXPECT_GE(line.width(), tip()->fontMetrics().horizontalAdvance(text));
+  tips.MaxTipWidth(120);
+  const QSize narrow = tip()->size();
+  EXPECT_LE(narrow.width(), 130);
+  EXPECT_GT(narrow.height(), 2 * tip()->fontMetrics().height());
+  tips.Margin(0, 7);
+  tips.Margin(3, 5);
+  EXPECT_EQ(tip()->size(), narrow + QSize(7, 5));
+  tips.Margin(1, std::numeric_limits<std::int32_t>::max());
+  tips.Margin(1, -5);
+  EXPECT_EQ(tip()->size(), narrow + QSize(7, 5));
+  tips.MaxTipWidth(0);
+  EXPECT_EQ(tip()->size(), line + QSize(7, 5));
+}
+
+TEST_F(QtToolTipTest, HasItsColours) {
+  tips.Create(QtWindow::of(*form));
+  tips.DelayTime(3, 10);
+  tips.AddTool(QtWindow::of(*one), "W");
+  tips.BackColor(0x0000FF);
+  moveTo(*one);
+  ASSERT_TRUE(waitForTip());
+  EXPECT_EQ(tip()->grab().toImage().pixel(1, 1), qRgb(255, 0, 0));
+  tips.ForeColor(0xFF0000);
+  EXPECT_EQ(tip()->grab().toImage().pixel(0, 0), qRgb(0, 0, 255));
+}
+
+TEST_F(QtToolTipTest, MovesOnToTheNextControlSooner) {
+  tips.Create(QtWindow::of(*form));
+  tips.DelayTime(0, 20);
+  tips.AddTool(QtWindow::of(*one), "one");
+  tips.AddTool(QtWindow::of(*two), "two");
+  moveTo(*one);
+  ASSERT_TRUE(waitForTip());
+  tips.DelayTime(3, 3000);
+  moveTo(*two, {30, 0});
+  EXPECT_EQ(shown(), "nothing");
+  EXPECT_LT(timeUntil([] { return tip() != nullptr; }), 2000);
+  EXPECT_EQ(shown(), "two");
+  moveAway();
+  QTest::qWait(150);
+  moveTo(*one);
+  QTest::qWait(100);
+  EXPECT_EQ(shown(), "nothing");
+}
+
+TEST_F(QtToolTipTest, AControlInsideAnother) {
+  tips.Create(QtWindow::of(*form));
+  tips.DelayTime(0, 20);
+  tips.AddTool(QtWindow::of(*two), "outer");
+  tips.AddTool(QtWindow::of(*inner), "inner");
+  const auto showsNext = [](const QString& text) {
+    return QTest::qWaitFor([&] { return shown() == text; }, 5000);
+  };
+  moveTo(*two, {30, 0});
+  EXPECT_TRUE(showsNext("outer"));
+  moveTo(*inner);
+  EXPECT_TRUE(showsNext("inner"));
+  moveTo(*two, {30, 0});
+  EXPECT_TRUE(showsNext("outer"));
+  moveAway();
+  moveTo(*inner);
+  moveTo(*two, {30, 0});
+  EXPECT_TRUE(showsNext("outer"));
+  moveTo(*inner);
+  EXPECT_TRUE(showsNext("inner"));
+  QTest::mouseClick(inner, Qt::LeftButton);
+  QTest::qWait(100);
+  EXPECT_EQ(shown(), "nothing");
+}
+
+TEST_F(QtToolTipTest, OutlivesItsControlsAndItsForm) {
+  const Variant control = QtWindow::of(*one);
+  tips.Create(QtWindow::of(*form));
+  tips.DelayTime(0, 20);
+  tips.DelayTime(2, 300);
+  tips.AddTool(control, "one");
+  tips.AddTool(QtWindow::of(*two), "two");
+  moveTo(*one);
+  ASSERT_TRUE(waitForTip());
+  delete one;
+  EXPECT_EQ(shown(), "nothing");
+  tips.BackColor(0);
+  EXPECT_EQ(tips.ToolCount(), 2);
+  moveTo(*two, {30, 0});
+  ASSERT_TRUE(waitForTip());
+  EXPECT_EQ(shown(), "two");
+  form.reset();
+  EXPECT_EQ(shown(), "nothing");
+  tips.ForeColor(0);
+  tips.MaxTipWidth(10);
+  QTest::qWait(50);
+  EXPECT_EQ(tips.DelayTime(2), 300);
+}
+
+}  // namespace
+}  // namespace norvane
