@@ -124,13 +124,13 @@ class nvList final : public UserControl,
   void ItemsSelectedRemove();
 
   /// Number of items, from 0.
-  std::int32_t ItemsCount();
+  std::int32_t ItemsCount() const;
   /// Number of items that are selected, or checked. Pending events run once an item.
   std::int32_t ItemsSelectCount();
   std::int32_t ItemsCheckCount();
 
   /// Where ItemsAdd last put an item; removing items leaves it as it is.
-  std::int32_t NewIndex();
+  std::int32_t NewIndex() const { return state_.NewIndex; }
 
   // ---- duplicates: core/duplicates.cpp ----
 
@@ -192,7 +192,7 @@ class nvList final : public UserControl,
   /// Setting it selects that item alone and scrolls it into view. An index of no item, -1 among
   /// them, and that of a disabled item are refused with ErrorWrongIndex. On an empty list nothing
   /// happens.
-  std::int32_t ListIndex();
+  std::int32_t ListIndex() const { return state_.ListIndex; }
   void ListIndex(std::int32_t value);
   /// Whether an item is selected. Setting it leaves the other items as they are, and ListIndex at
   /// -1 for true and 0 for false; an item selected outside the window becomes the top row. A bad
@@ -273,7 +273,7 @@ class nvList final : public UserControl,
 
   /// The item in the top row. A value is brought into the range in which the last row shown is the
   /// last item; on a list shorter than the window that is a negative number, which is kept.
-  std::int32_t TopIndex();
+  std::int32_t TopIndex() const { return state_.TopIndex; }
   void TopIndex(std::int32_t value);
 
   // ---- properties: core/properties.cpp ----

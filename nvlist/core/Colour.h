@@ -8,6 +8,11 @@ namespace norvane {
 /// byte is the index of a system colour, which only a drawing surface resolves.
 using Colour = std::int32_t;
 
+/// The colour of three channels, 0 to 255 each.
+constexpr Colour rgb(std::uint8_t red, std::uint8_t green, std::uint8_t blue) {
+  return red | green << 8 | blue << 16;
+}
+
 constexpr Colour systemColour(std::uint8_t index) {
   return static_cast<Colour>(0x80000000U | index);
 }

@@ -166,7 +166,7 @@ void nvList::ItemsSelectedRemove() {
   });
 }
 
-std::int32_t nvList::ItemsCount() {
+std::int32_t nvList::ItemsCount() const {
   return state_.ItemsDimensioned ? state_.Items.upperBound() + 1 : 0;
 }
 
@@ -192,8 +192,6 @@ std::int32_t nvList::countItems(const char* procedure, Boolean ListItem::*mark) 
   });
   return count;
 }
-
-std::int32_t nvList::NewIndex() { return state_.NewIndex; }
 
 /// What every change of the items ends with.
 void nvList::updateAfterChange(Trap& on) {

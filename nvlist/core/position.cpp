@@ -3,8 +3,6 @@
 
 namespace norvane {
 
-std::int32_t nvList::TopIndex() { return state_.TopIndex; }
-
 void nvList::TopIndex(std::int32_t value) {
   trapped(here, "TopIndex", [&](Trap& on) {
     std::int32_t visible = 0;

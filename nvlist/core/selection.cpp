@@ -3,8 +3,6 @@
 
 namespace norvane {
 
-std::int32_t nvList::ListIndex() { return state_.ListIndex; }
-
 void nvList::ListIndex(std::int32_t value) {
   trapped(here, "ListIndex", [&](Trap& on) {
     if (ItemsCount() == 0) return;
