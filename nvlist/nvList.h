@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include <nvlist/core/ListState.h>
@@ -11,6 +12,9 @@
 #include <nvlist/render/colours.h>
 
 namespace norvane {
+
+class FileWriter;
+class PropertyImage;
 
 /// A visual list: items in rows that the control paints itself.
 ///
@@ -328,6 +332,49 @@ class nvList final : public UserControl {
   /// Fits the scroll bars to the items.
   void CheckScroll();
 
+  // ---- list files: files/listSave.cpp, files/listInput.cpp, files/imageInput.cpp ----
+  //
+  // Names of files are UTF-8. docs/list-files.md tells what a list file holds and what is lost in
+  // it. None of these reports a failure: the events ErrorListSave and ErrorListInput tell of it.
+
+  /// Saves all items in a file, which is deleted first where it is there. With `SaveItemProperties`
+  /// everything of an item is saved, pictures too, which makes the file big; otherwise its text
+  /// alone. Raises ListSaving after each item. After ErrorListSave what was written stays.
+  void ListSave(const std::string& Filename, Boolean SaveItemProperties = false);
+
+  /// Puts the items of a list file in the place of all that are there, and paints. Without
+  /// `ReadItemPropertiesIfExists` they get the properties of new items. ListIndex, TopIndex and the
+  /// scroll bars stay as they are: the host calls CheckScroll itself. After ErrorListInput the list
+  /// is empty, but as it was where no file of the name exists.
+  ///
+  /// A file saved with properties wants to be read with them: else its keys and tags are mistaken
+  /// for what follows them. IconSelected does not come back, and Icon only where the file has both.
+  void ListInput(const std::string& Filename, Boolean ReadItemPropertiesIfExists = false);
+
+  /// The number of items in a property store image, the older form of list files; -1 where no file
+  /// of the name exists, 0 for any other file.
+  std::int32_t ListFileItemsCount(const Variant& Filename);
+
+  // ---- text files: files/textInput.cpp ----
+
+  /// Adds an item for each piece of a text file, whose pieces the delimiter parts; an empty one
+  /// parts nothing. The file's bytes are taken as UTF-8. AutoRedraw and AutoCheckScroll are off
+  /// afterwards. ErrorListInput tells that no file of the name exists; one that cannot be read is
+  /// reported and counts as empty, which is one empty piece. Always 0.
+  std::int32_t ListInput2(const std::string& Filename, const Variant& Delimiter);
+
+  // ---- data: files/recordset.cpp ----
+
+  /// The object last assigned. Assigning one replaces all items by the first fields of its rows, a
+  /// norvane::Recordset's, and paints; where it has no row, or does not know how many, the items
+  /// stay as they are. Later changes of the rows are not seen.
+  ///
+  /// A Null, and an object that is no Recordset or lacks a member, is a failure, which ends the
+  /// fill with AutoRedraw and AutoCheckScroll off where it has begun. Under SilentError the item
+  /// has an empty text and the fill goes on.
+  Ref<Object> Recordset() const { return state_.Recordset; }
+  void Recordset(const Ref<Object>& value);
+
   /// Everything the control knows, for a look from outside; it changes with every operation.
   const ListState& state() const { return state_; }
 
@@ -401,6 +448,47 @@ class nvList final : public UserControl {
   // render/scrollfit.cpp
   void CheckItemWidth();
   void CheckItemWidth(Variant Index);
+
+  // files/listSave.cpp
+  static std::string aktuelleSpeicherVersion() { return "273"; }
+  void saveItems(const std::string& Filename, Boolean SaveItemProperties);
+  void saveProperties(FileWriter& file, const ListItem& item);
+  void saveIcon(FileWriter& file, const Picture& icon);
+
+  // files/listInput.cpp
+  class ListFile;
+  void inputItems(const std::string& Filename, Boolean ReadItemPropertiesIfExists);
+  Variant HTML2VBColor(std::string_view Text);
+
+  // files/imageInput.cpp
+  bool isImage(Trap& on, const std::string& Filename);
+  void inputImage(Boolean ReadItemPropertiesIfExists);
+  void inputImageItem(const PropertyImage& image, bool readsProperties);
+
+  // files/pictures.cpp
+  /// The bytes of the picture's file, one a character, and how many they are.
+  std::string GetPictureString(const Picture& picture, std::int32_t& length);
+  Picture GetStringPicture(std::string_view file);
+
+  // files/recordset.cpp
+  void addRows(Trap& on, const Ref<Object>& rows);
+
+  // files/fileEvents.cpp
+  void raise(Trap& on, void (__nvList::*event)());
+  /// Tells of an item by its position, and takes the position back.
+  void raiseAtLoopIndex(void (__nvList::*event)(Variant& Index));
+  /// Runs a body that has a trap of its own: whatever fails in it ends it and raises the event,
+  /// also under SilentError. Whether nothing failed.
+  template <class Body>
+  bool orRaise(Trap& on, void (__nvList::*event)(), Body&& body) {
+    try {
+      body();
+      return true;
+    } catch (...) {
+      raise(on, event);
+      return false;
+    }
+  }
 
   EventSinks sinks_;
   ListState state_;

@@ -22,6 +22,14 @@ class __nvList {  // NOLINT(bugprone-reserved-identifier): the published name of
   virtual void DblClick() {}
   /// Before a check mark flips; `Cancel` is read back.
   virtual void ItemCheck(std::int32_t& Item, Boolean& Cancel) { (void)Item, (void)Cancel; }
+  /// A list file could not be loaded, or not whole.
+  virtual void ErrorListInput() {}
+  /// A list could not be saved, or not whole.
+  virtual void ErrorListSave() {}
+  /// Each time an item has been saved, or read from a property store image. `Index` is the position
+  /// of the loop, which goes on behind what is read back of it.
+  virtual void ListSaving(Variant& Index) { (void)Index; }
+  virtual void ListReading(Variant& Index) { (void)Index; }
   /// ListIndex has refused a value, which stays as it was.
   virtual void ErrorWrongIndex(Variant& Index) { (void)Index; }
 };

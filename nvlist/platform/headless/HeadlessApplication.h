@@ -11,8 +11,8 @@
 namespace norvane {
 
 /// A program without a screen, in use from its making to its destruction. All that the reporter
-/// asks of it can be set, and all that it does can be read back: no box is shown and no file is
-/// written.
+/// asks of it can be set, and all that it does can be read back: no box is shown and no log is
+/// written. List files are files on the disk.
 class HeadlessApplication : public Application {
  public:
   struct Box {

@@ -15,6 +15,7 @@
 #include <cstdio>
 
 #include <nvlist/objects/Failure.h>
+#include <nvlist/platform/qt/QtPicture.h>
 
 namespace norvane {
 namespace {
@@ -124,6 +125,13 @@ void QtApplication::MsgBox(const std::string& text, std::int32_t style, const st
                   QApplication::activeWindow());
   box.setTextFormat(Qt::PlainText);
   box.exec();
+}
+
+Picture QtApplication::loadPicture(std::vector<std::byte> file) {
+  Picture picture = QtPicture::fromBytes(QByteArray(reinterpret_cast<const char*>(file.data()),
+                                                    static_cast<qsizetype>(file.size())));
+  if (!picture) throw Failure::invalidPicture();
+  return picture;
 }
 
 }  // namespace norvane

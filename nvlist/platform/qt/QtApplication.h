@@ -26,6 +26,8 @@ class QtApplication : public Application {
   std::string dateText() override;
   std::string timeText() override;
   void MsgBox(const std::string& text, std::int32_t style, const std::string& title) override;
+  /// In any format that Qt knows.
+  Picture loadPicture(std::vector<std::byte> file) override;
 };
 
 }  // namespace norvane
