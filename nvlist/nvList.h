@@ -345,7 +345,7 @@ class nvList final : public UserControl {
   /// Puts the items of a list file in the place of all that are there, and paints. Without
   /// `ReadItemPropertiesIfExists` they get the properties of new items. ListIndex, TopIndex and the
   /// scroll bars stay as they are: the host calls CheckScroll itself. After ErrorListInput the list
-  /// is empty, but as it was where no file of the name exists.
+  /// is empty, or as it was where the file could not be begun.
   ///
   /// A file saved with properties wants to be read with them: else its keys and tags are mistaken
   /// for what follows them. IconSelected does not come back, and Icon only where the file has both.
@@ -452,7 +452,7 @@ class nvList final : public UserControl {
   // files/listSave.cpp
   static std::string aktuelleSpeicherVersion() { return "273"; }
   void saveItems(const std::string& Filename, Boolean SaveItemProperties);
-  void saveProperties(FileWriter& file, const ListItem& item);
+  void saveProperties(FileWriter& file, ListItem& item);
   void saveIcon(FileWriter& file, const Picture& icon);
 
   // files/listInput.cpp

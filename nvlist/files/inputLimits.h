@@ -24,13 +24,14 @@ inline std::size_t believedCount(std::int64_t claimed, std::uint64_t left, std::
 
 /// What a blank item has where a file has nothing to say of it.
 inline void setDefaults(ListItem& item) {
-  item.BackColor = defaultMark;
+  static const Variant mark = defaultMark;
+  item.BackColor = mark;
   item.BackColorDis = colours::light3D;
-  item.BackColorSelect = defaultMark;
+  item.BackColorSelect = mark;
   item.Enabled = true;
-  item.ForeColor = defaultMark;
+  item.ForeColor = mark;
   item.ForeColorDis = colours::greyText;
-  item.ForeColorSelect = defaultMark;
+  item.ForeColorSelect = mark;
 }
 
 }  // namespace norvane

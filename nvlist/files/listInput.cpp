@@ -15,7 +15,9 @@ namespace norvane {
 class nvList::ListFile {
  public:
   ListFile(nvList& list, File& file, Boolean wantsProperties)
-      : list_(list), file_(file), wantsProperties_(wantsProperties) {}
+      : list_(list),
+        file_(file),
+        wantsProperties_(static_cast<std::uint8_t>(wantsProperties.number()) != 0) {}
 
   /// Whether the file is one of an empty list.
   bool isEmpty() const { return last_ == -1; }
@@ -90,8 +92,9 @@ void nvList::ListFile::readProperties(ListItem& item) {
     const std::string_view text(std::exchange(next, next + colourSize), colourSize);
     return list_.HTML2VBColor(text);
   };
-  setDefaults(item);
-  if (wantsProperties_) {
+  if (!wantsProperties_) {
+    setDefaults(item);
+  } else {
     item.AllowEdit = byte() != 0;
     item.BackColor = colour();
     item.BackColorDis = colour().toInt32();

@@ -37,10 +37,9 @@ void nvList::saveItems(const std::string& Filename, Boolean SaveItemProperties) 
   writer.number(Variant(aktuelleSpeicherVersion()).toInt16());
   for (state_.LoopIndex = 0; state_.LoopIndex <= last;
        state_.LoopIndex = checked::add(state_.LoopIndex, 1)) {
-    // A report in the middle of an item may let the host remove it.
-    const Ref<ListItem> saved(&item(state_.LoopIndex));
-    writer.text(saved->Text);
-    if (hasProperties) saveProperties(writer, *saved);
+    ListItem& saved = item(state_.LoopIndex);
+    writer.text(saved.Text);
+    if (hasProperties) saveProperties(writer, saved);
     writer.writeBlock();
     raiseAtLoopIndex(&__nvList::ListSaving);
   }
@@ -48,7 +47,9 @@ void nvList::saveItems(const std::string& Filename, Boolean SaveItemProperties) 
   file->close();
 }
 
-void nvList::saveProperties(FileWriter& file, const ListItem& item) {
+void nvList::saveProperties(FileWriter& file, ListItem& item) {
+  // A report in the middle of it may let the host remove the item.
+  const Ref<ListItem> held(&item);
   writeBoolean(file, item.AllowEdit);
   writeColour(file, item.BackColor);
   writeColour(file, item.BackColorDis);

@@ -12,8 +12,9 @@ std::string nvList::GetPictureString(const Picture& picture, std::int32_t& lengt
     on.step([&] {
       const std::vector<std::byte> file = picture->fileBytes();
       if (file.empty()) throw Failure::invalidPicture();
+      std::string bytes(reinterpret_cast<const char*>(file.data()), file.size());
       length = checked::narrow<std::int32_t>(static_cast<std::int64_t>(file.size()));
-      result.assign(reinterpret_cast<const char*>(file.data()), file.size());
+      result.swap(bytes);
     });
   });
   return result;

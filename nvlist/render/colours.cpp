@@ -1,7 +1,6 @@
 #include <nvlist/render/colours.h>
 
 #include <algorithm>
-#include <charconv>
 
 #include <nvlist/core/numbers.h>
 #include <nvlist/objects/Failure.h>
@@ -41,6 +40,13 @@ std::array<Colour, 3> channelsOf(Colour color) {
 }
 
 constexpr char hexDigits[] = "0123456789ABCDEF";
+
+Colour digitOf(char hex) {
+  if (hex >= '0' && hex <= '9') return hex - '0';
+  const char letter = static_cast<char>(hex | 0x20);
+  if (letter < 'a' || letter > 'f') throw Failure::typeMismatch();
+  return letter - 'a' + 10;
+}
 
 }  // namespace
 
@@ -130,11 +136,8 @@ std::string_view trimmedBlanks(std::string_view text) {
 }
 
 Colour channelOfText(std::string_view text, std::size_t at) {
-  std::uint8_t channel = 0;
   if (text.size() < at + 2) throw Failure::typeMismatch();
-  const char* end = text.data() + at + 2;
-  if (std::from_chars(end - 2, end, channel, 16).ptr != end) throw Failure::typeMismatch();
-  return channel;
+  return digitOf(text[at]) << 4 | digitOf(text[at + 1]);
 }
 
 }  // namespace norvane

@@ -1,107 +1,30 @@
 #pragma once
 
-#include <cstdint>
-#include <memory>
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "../Lists.h"
+#include "MemoryFiles.h"
 
 namespace norvane {
 
-/// Bytes put together by hand.
-class Bytes {
- public:
-  Bytes& byte(int value) { return little(value, 1); }
-  Bytes& int16(int value) { return little(value, 2); }
-  Bytes& int32(int value) { return little(value, 4); }
-  Bytes& raw(const std::string& bytes) {
-    bytes_ += bytes;
-    return *this;
-  }
-  /// With its length in front.
-  Bytes& text(const std::string& bytes) { return int32(static_cast<int>(bytes.size())).raw(bytes); }
-  operator std::string() const { return bytes_; }
+// Bytes put together by hand.
 
- private:
-  Bytes& little(int value, int size) {
-    for (int i = 0; i < size; ++i) bytes_ += static_cast<char>(value >> 8 * i);
-    return *this;
-  }
-
-  std::string bytes_;
-};
-
-/// A program whose files stand in memory, and of whose file operations any can fail.
-class MemoryFiles : public HeadlessApplication {
- public:
-  explicit MemoryFiles(HeadlessApplication& boxesGoTo) : boxesGoTo_(boxesGoTo) {}
-
-  int operations = 0;
-  /// Which operation fails, from 1; 0 none.
-  int failing = 0;
-  int open = 0;
-  /// Bytes that the largest read asked for.
-  std::size_t largestRead = 0;
-  /// Answers of holdsFile to come; afterwards it looks for the file.
-  std::vector<bool> nextAnswers;
-
-  void MsgBox(const std::string& text, std::int32_t style, const std::string& title) override {
-    boxesGoTo_.MsgBox(text, style, title);
-  }
-  bool holdsFile(const std::string& path) override {
-    operate();
-    if (nextAnswers.empty()) return files.contains(path);
-    const bool answer = nextAnswers.front();
-    nextAnswers.erase(nextAnswers.begin());
-    return answer;
-  }
-  void removeFile(const std::string& path) override {
-    operate();
-    files.erase(path);
-  }
-  std::unique_ptr<File> openFile(const std::string& path, FileMode mode) override {
-    operate();
-    if (mode == FileMode::read && !files.contains(path)) throw Failure(53, "File not found");
-    if (mode == FileMode::write) files[path].clear();
-    return std::make_unique<MemoryFile>(*this, files[path]);
-  }
-
- private:
-  class MemoryFile final : public File {
-   public:
-    MemoryFile(MemoryFiles& of, std::string& bytes) : of_(of), bytes_(bytes) { ++of_.open; }
-    ~MemoryFile() override { --of_.open; }
-    std::uint64_t size() override {
-      of_.operate();
-      return bytes_.size();
-    }
-    std::size_t read(char* bytes, std::size_t count) override {
-      of_.operate();
-      of_.largestRead = std::max(of_.largestRead, count);
-      const std::size_t got = bytes_.copy(bytes, count, at_);
-      at_ += got;
-      return got;
-    }
-    void write(const char* bytes, std::size_t count) override {
-      of_.operate();
-      bytes_.append(bytes, count);
-    }
-    void close() override { of_.operate(); }
-
-   private:
-    MemoryFiles& of_;
-    std::string& bytes_;
-    std::size_t at_ = 0;
-  };
-
-  void operate() {
-    if (++operations == failing) throw Failure(57, "Device I/O error");
-  }
-
-  HeadlessApplication& boxesGoTo_;
-};
+inline std::string little(int value, int size) {
+  std::string bytes;
+  for (int i = 0; i < size; ++i) bytes += static_cast<char>(value >> 8 * i);
+  return bytes;
+}
+inline std::string byte(int value) { return little(value, 1); }
+inline std::string int16(int value) { return little(value, 2); }
+inline std::string int32(int value) { return little(value, 4); }
+inline std::string zeros(std::size_t count) { return std::string(count, '\0'); }
+/// With its length in front.
+inline std::string text(const std::string& bytes) {
+  return int32(static_cast<int>(bytes.size())) + bytes;
+}
 
 /// A list and files in memory, with every event of list files written down.
 class FileTest : public ListTest, protected __nvList {
@@ -112,21 +35,40 @@ class FileTest : public ListTest, protected __nvList {
   }
   ~FileTest() override { list.removeSink(*this); }
 
-  void ErrorListInput() override { heard += "ErrorListInput "; }
-  void ErrorListSave() override { heard += "ErrorListSave "; }
+  void ErrorListInput() override { heard += "input! "; }
+  void ErrorListSave() override { heard += "save! "; }
   void ListSaving(Variant& Index) override { progress(Index); }
   void ListReading(Variant& Index) override { progress(Index); }
 
-  /// What was heard since the last call.
-  std::string events() { return std::exchange(heard, ""); }
+  /// What was heard and reported since the last call.
+  std::string events() {
+    EXPECT_EQ(memory.open, 0);
+    return std::exchange(heard, "") + reports();
+  }
 
-  std::string save(bool properties = true) {
+  std::string save(Boolean properties = true) {
     list.ListSave("file", properties);
     return memory.files["file"];
   }
   void input(const std::string& bytes, bool properties = true) {
     memory.files["file"] = bytes;
     list.ListInput("file", properties);
+  }
+
+  /// Runs `operation` with the first, the second, ... file operation failing, until none does any
+  /// more, and tells what was heard each time.
+  template <class Operation>
+  std::string eachFailing(Operation&& operation) {
+    std::string result;
+    for (memory.failing = 1;; ++memory.failing) {
+      memory.operations = 0;
+      operation();
+      if (memory.operations < memory.failing) break;
+      result += "[" + events() + "]";
+    }
+    memory.failing = 0;
+    events();
+    return result;
   }
 
   MemoryFiles memory{application};
