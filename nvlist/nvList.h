@@ -348,7 +348,7 @@ class nvList final : public UserControl {
   /// is empty, or as it was where the file could not be begun.
   ///
   /// A file saved with properties wants to be read with them: else its keys and tags are mistaken
-  /// for what follows them. IconSelected does not come back, and Icon only where the file has both.
+  /// for what follows them. The picture of IconSelected, or its absence, comes back as Icon.
   void ListInput(const std::string& Filename, Boolean ReadItemPropertiesIfExists = false);
 
   /// The number of items in a property store image, the older form of list files; -1 where no file

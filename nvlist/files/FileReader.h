@@ -33,10 +33,9 @@ class FileReader {
   /// Bytes up to the end of the file.
   std::uint64_t left() const { return unread_ + (end_ - at_); }
 
-  /// The next bytes, to be looked at until the next call. Throws Failure 5 for a negative count and
-  /// 62 where the file ends before.
+  /// The next bytes, to be looked at until the next call. Throws Failure 62 where the file ends
+  /// before; a negative count is more than any file has.
   std::string_view bytes(std::int64_t count) {
-    if (count < 0) throw Failure::invalidCall();
     if (static_cast<std::uint64_t>(count) > end_ - at_) fetch(static_cast<std::uint64_t>(count));
     const char* first = buffer_.data() + at_;
     at_ += static_cast<std::size_t>(count);

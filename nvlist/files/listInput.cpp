@@ -6,7 +6,6 @@
 #include <nvlist/nvList.h>
 #include <nvlist/platform/Application.h>
 
-#include <algorithm>
 #include <utility>
 
 namespace norvane {

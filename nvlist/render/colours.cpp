@@ -123,8 +123,8 @@ std::array<char, 6> listFileColour(const Variant& colour) {
     }
   } else {
     result.fill(' ');
-    const std::string text = GetCorrectColor(colour.toText());
-    std::ranges::copy_backward(text, result.end());
+    // Six characters or, after a report, none.
+    std::ranges::copy(GetCorrectColor(colour.toText()), result.begin());
   }
   return result;
 }

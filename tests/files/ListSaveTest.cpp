@@ -57,9 +57,7 @@ TEST_F(ListSave, WritesSixCharactersForAnyColour) {
     Variant colour;
     std::string written;
     std::string report;
-  } cases[] = {{"def", "   def", ""},
-               {"Def", "FFFFFF", ""},
-               {"255", "FF0000", ""},
+  } cases[] = {{"255", "FF0000", ""},
                {Variant(), "FFFFFF", ""},
                {2.5F, "020000", ""},
                {std::int16_t{-1}, "FF0000", ""},
@@ -117,9 +115,14 @@ TEST_F(ListSave, GoesOnFromWhereTheHostPutsIt) {
 }
 
 TEST_F(ListSave, WritesBigListsInBlocks) {
-  for (int i = 0; i < 30000; ++i) list.ItemsAdd("a text of some length");
-  EXPECT_EQ(save(false).size(), 7U + 30000U * 25);
-  EXPECT_LE(memory.operations, 8);
+  for (int i = 10000; i < 40000; ++i) list.ItemsAdd("an item of the list " + std::to_string(i));
+  list.ItemText(77, std::string(300'000, 'x'));
+  EXPECT_EQ(save(false).size(), 7U + 29999U * 29 + 300'004);
+  EXPECT_EQ(memory.operations, 2 + 5 + 1);
+  list.ItemsClear();
+  list.ListInput("file");
+  ASSERT_EQ(list.ItemsCount(), 30000);
+  for (int i = 78; i < 30000; ++i) ASSERT_TRUE(item(i).Text.ends_with(std::to_string(i + 10000)));
 }
 
 class FailingHost : public ListSave {

@@ -23,6 +23,8 @@ class MemoryFiles : public HeadlessApplication {
   int open = 0;
   /// Bytes that the largest read asked for.
   std::size_t largestRead = 0;
+  /// By how much files are shorter than they say.
+  std::uint64_t missing = 0;
   /// Answers of holdsFile to come; afterwards it looks for the file.
   std::vector<bool> nextAnswers;
 
@@ -54,7 +56,7 @@ class MemoryFiles : public HeadlessApplication {
     ~MemoryFile() override { --of_.open; }
     std::uint64_t size() override {
       of_.operate();
-      return bytes_.size();
+      return bytes_.size() + of_.missing;
     }
     std::size_t read(char* bytes, std::size_t count) override {
       of_.operate();
