@@ -13,6 +13,7 @@ namespace subject {
 inline constexpr const char* nvList = "nvList";
 inline constexpr const char* headless = "headless";
 inline constexpr const char* listWidget = "QListWidget";
+inline constexpr const char* dataStream = "QDataStream";
 inline constexpr const char* floor = "floor";
 }  // namespace subject
 
@@ -80,3 +81,4 @@ void addSortBenchmarks();
 void addDuplicatesBenchmarks();
 void addPaintBenchmarks();
 void addMemoryBenchmarks();
+void addListFileBenchmarks();

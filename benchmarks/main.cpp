@@ -18,6 +18,7 @@ int main(int argc, char** argv) {
   addDuplicatesBenchmarks();
   addPaintBenchmarks();
   addMemoryBenchmarks();
+  addListFileBenchmarks();
 
   TableReporter table;
   benchmark::RunSpecifiedBenchmarks(&table);

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <type_traits>
 #include <vector>
@@ -21,6 +22,9 @@
 #include <nvlist/scroll/nvVScroll.h>
 
 namespace norvane {
+
+class FileWriter;
+class PropertyImage;
 
 /// A visual list: items in rows that the control paints itself.
 ///
@@ -412,6 +416,49 @@ class nvList final : public UserControl,
   /// Fits the scroll bars to the items: which of them show, their ranges and their places.
   void CheckScroll();
 
+  // ---- list files: files/listSave.cpp, files/listInput.cpp, files/imageInput.cpp ----
+  //
+  // Names of files are UTF-8. docs/list-files.md tells what a list file holds and what is lost in
+  // it. None of these reports a failure: the events ErrorListSave and ErrorListInput tell of it.
+
+  /// Saves all items in a file, which is deleted first where it is there. With `SaveItemProperties`
+  /// everything of an item is saved, pictures too, which makes the file big; otherwise its text
+  /// alone. Raises ListSaving after each item. After ErrorListSave what was written stays.
+  void ListSave(const std::string& Filename, Boolean SaveItemProperties = false);
+
+  /// Puts the items of a list file in the place of all that are there, and paints. Without
+  /// `ReadItemPropertiesIfExists` they get the properties of new items. ListIndex, TopIndex and the
+  /// scroll bars stay as they are: the host calls CheckScroll itself. After ErrorListInput the list
+  /// is empty, or as it was where the file could not be begun.
+  ///
+  /// A file saved with properties wants to be read with them: else its keys and tags are mistaken
+  /// for what follows them. The picture of IconSelected, or its absence, comes back as Icon.
+  void ListInput(const std::string& Filename, Boolean ReadItemPropertiesIfExists = false);
+
+  /// The number of items in a property store image, the older form of list files; -1 where no file
+  /// of the name exists, 0 for any other file.
+  std::int32_t ListFileItemsCount(const Variant& Filename);
+
+  // ---- text files: files/textInput.cpp ----
+
+  /// Adds an item for each piece of a text file, whose pieces the delimiter parts; an empty one
+  /// parts nothing. The file's bytes are taken as UTF-8. AutoRedraw and AutoCheckScroll are off
+  /// afterwards. ErrorListInput tells that no file of the name exists; one that cannot be read is
+  /// reported and counts as empty, which is one empty piece. Always 0.
+  std::int32_t ListInput2(const std::string& Filename, const Variant& Delimiter);
+
+  // ---- data: files/recordset.cpp ----
+
+  /// The object last assigned. Assigning one replaces all items by the first fields of its rows, a
+  /// norvane::Recordset's, and paints; where it has no row, or does not know how many, the items
+  /// stay as they are. Later changes of the rows are not seen.
+  ///
+  /// A Null, and an object that is no Recordset or lacks a member, is a failure, which ends the
+  /// fill with AutoRedraw and AutoCheckScroll off where it has begun. Under SilentError the item
+  /// has an empty text and the fill goes on.
+  Ref<Object> Recordset() const { return state_.Recordset; }
+  void Recordset(const Ref<Object>& value);
+
   /// Everything the control knows, for a look from outside; it changes with every operation.
   const ListState& state() const { return state_; }
   /// The bars, which go up and down with the list.
@@ -535,6 +582,47 @@ class nvList final : public UserControl,
   void VScroll1_Scroll() override;
   void HScroll1_Change() override;
   void HScroll1_Scroll() override;
+
+  // files/listSave.cpp
+  static std::string aktuelleSpeicherVersion() { return "273"; }
+  void saveItems(const std::string& Filename, Boolean SaveItemProperties);
+  void saveProperties(FileWriter& file, ListItem& item);
+  void saveIcon(FileWriter& file, const Picture& icon);
+
+  // files/listInput.cpp
+  class ListFile;
+  void inputItems(const std::string& Filename, Boolean ReadItemPropertiesIfExists);
+  Variant HTML2VBColor(std::string_view Text);
+
+  // files/imageInput.cpp
+  bool isImage(Trap& on, const std::string& Filename);
+  void inputImage(Boolean ReadItemPropertiesIfExists);
+  void inputImageItem(const PropertyImage& image, bool readsProperties);
+
+  // files/pictures.cpp
+  /// The bytes of the picture's file, one a character, and how many they are.
+  std::string GetPictureString(const Picture& picture, std::int32_t& length);
+  Picture GetStringPicture(std::string_view file);
+
+  // files/recordset.cpp
+  void addRows(Trap& on, const Ref<Object>& rows);
+
+  // files/fileEvents.cpp
+  void raise(Trap& on, void (__nvList::*event)());
+  /// Tells of an item by its position, and takes the position back.
+  void raiseAtLoopIndex(void (__nvList::*event)(Variant& Index));
+  /// Runs a body that has a trap of its own: whatever fails in it ends it and raises the event,
+  /// also under SilentError. Whether nothing failed.
+  template <class Body>
+  bool orRaise(Trap& on, void (__nvList::*event)(), Body&& body) {
+    try {
+      body();
+      return true;
+    } catch (...) {
+      raise(on, event);
+      return false;
+    }
+  }
 
   EventSinks sinks_;
   ListState state_;

@@ -45,8 +45,8 @@ void ItemStore::shrink() {
   slots_.pop_back();
 }
 
-void ItemStore::reset() {
-  std::deque<Ref<ListItem>> old(1);
+void ItemStore::recreate(std::size_t count) {
+  std::deque<Ref<ListItem>> old(count);
   slots_.swap(old);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <deque>
 #include <span>
@@ -61,7 +62,10 @@ class ItemStore {
   /// Drops the last slot with its reference.
   void shrink();
   /// A single empty slot again; all references are dropped.
-  void reset();
+  void reset() { recreate(1); }
+
+  /// So many empty slots, at least one; all references are dropped.
+  void recreate(std::size_t count);
 
   /// Moves the reference in the last slot to `index` and those behind it up by one.
   void moveLastTo(std::int32_t index);

@@ -22,7 +22,8 @@ class PictureObject : public Shared {
   virtual float width() const = 0;
   virtual float height() const = 0;
 
-  /// The bytes of the file that the picture was read from; empty where there was none.
+  /// The bytes of a file of the picture: of the one it was read from, or of one that the platform
+  /// makes; empty where there is none. List files hold them.
   virtual std::vector<std::byte> fileBytes() const { return {}; }
 
   /// What a recording calls the picture; empty: its size alone.

@@ -23,14 +23,18 @@ class Failure : public std::runtime_error {
   static Failure subscriptOutOfRange() { return {9, "Subscript out of range"}; }
   static Failure divisionByZero() { return {11, "Division by zero"}; }
   static Failure typeMismatch() { return {13, "Type mismatch"}; }
+  static Failure pastEndOfFile() { return {62, "Input past end of file"}; }
   static Failure objectNotSet() { return {91, "Object variable or With block variable not set"}; }
   static Failure invalidPattern() { return {93, "Invalid pattern string"}; }
+  static Failure invalidNull() { return {94, "Invalid use of Null"}; }
+  static Failure invalidFormat() { return {321, "Invalid file format"}; }
   static Failure noControlArrayElement(std::int32_t index) {
     return {340, "Control array element '" + std::to_string(index) + "' doesn't exist"};
   }
   static Failure objectRequired() { return {424, "Object required"}; }
   static Failure noSuchMember() { return {438, "Object doesn't support this property or method"}; }
   static Failure automation(const std::string& what) { return {440, "Automation error: " + what}; }
+  static Failure invalidPicture() { return {481, "Invalid picture"}; }
 
  private:
   std::int32_t number_;

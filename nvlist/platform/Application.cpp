@@ -1,6 +1,10 @@
 #include <nvlist/platform/Application.h>
 
 #include <cstdio>
+#include <utility>
+
+#include <nvlist/objects/Failure.h>
+#include <nvlist/platform/diskFiles.h>
 
 namespace norvane {
 namespace {
@@ -21,6 +25,19 @@ class BareApplication final : public Application {
   }
 };
 
+/// A picture that nobody here can draw.
+class UnreadPicture final : public PictureObject {
+ public:
+  explicit UnreadPicture(std::vector<std::byte> file) : file_(std::move(file)) {}
+
+  float width() const override { return 0; }
+  float height() const override { return 0; }
+  std::vector<std::byte> fileBytes() const override { return file_; }
+
+ private:
+  std::vector<std::byte> file_;
+};
+
 }  // namespace
 
 Application::Application() : before_(current) { current = this; }
@@ -37,5 +54,18 @@ Application& Application::inUse() {
 }
 
 bool Application::anyInUse() { return current && !dynamic_cast<BareApplication*>(current); }
+
+bool Application::holdsFile(const std::string& path) { return disk::holdsAny(path); }
+
+void Application::removeFile(const std::string& path) { disk::remove(path); }
+
+std::unique_ptr<File> Application::openFile(const std::string& path, FileMode mode) {
+  return disk::open(path, mode);
+}
+
+Picture Application::loadPicture(std::vector<std::byte> file) {
+  if (file.empty()) throw Failure::invalidPicture();
+  return makeRef<UnreadPicture>(std::move(file));
+}
 
 }  // namespace norvane

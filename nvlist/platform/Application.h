@@ -1,12 +1,16 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include <nvlist/core/Picture.h>
 #include <nvlist/core/Variant.h>
+#include <nvlist/platform/File.h>
 #include <nvlist/platform/TipWindow.h>
 
 namespace norvane {
@@ -43,8 +47,8 @@ class ErrorHandler {
                           const std::string& Module) = 0;
 };
 
-/// The program around the controls: its settings, its log files, its boxes. There is one for the
-/// whole program, and it serves the reporter of failures.
+/// The program around the controls: its settings, its files, its boxes. There is one for the whole
+/// program, and it serves the reporter of failures and the list files.
 ///
 /// Making an object of a derived class puts it to use; destroying it puts the one before it back.
 /// Where none was made, failures are written to the standard error stream. Make and destroy them on
@@ -119,6 +123,19 @@ class Application {
 
   /// Shows a modal box and returns when it is closed. Style 16 is a critical stop with one OK.
   virtual void MsgBox(const std::string& text, std::int32_t style, const std::string& title) = 0;
+
+  // ---- files of the host; here: those on the disk (platform/diskFiles.h) ----
+
+  /// Whether there is a file or folder of that name, in which `*` and `?` may stand for others.
+  virtual bool holdsFile(const std::string& path);
+  /// Deletes a file, where there is one.
+  virtual void removeFile(const std::string& path);
+  /// Opens a file to read it, or makes one new to write it. Throws where that fails.
+  virtual std::unique_ptr<File> openFile(const std::string& path, FileMode mode);
+
+  /// The picture that the bytes of a picture file stand for. Throws Failure 481 where they stand
+  /// for none. Here: a picture of no size that has these bytes, whatever they are.
+  virtual Picture loadPicture(std::vector<std::byte> file);
 
  private:
   Application* before_;

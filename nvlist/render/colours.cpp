@@ -1,5 +1,7 @@
 #include <nvlist/render/colours.h>
 
+#include <algorithm>
+
 #include <nvlist/core/numbers.h>
 #include <nvlist/objects/Failure.h>
 #include <nvlist/objects/Trap.h>
@@ -32,18 +34,18 @@ std::optional<Palette> paletteOf(cColorStyle style, const Palette& custom) {
   return std::nullopt;
 }
 
-std::string_view withoutBlanks(std::string_view text) {
-  const auto first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+/// Red, green and blue; a negative number is divided towards zero.
+std::array<Colour, 3> channelsOf(Colour color) {
+  return {color & 255, color / 256 & 255, color / 65536 & 255};
 }
 
-Colour channelOf(std::string_view pair) {
-  // A blank behind a single digit would pass for the end of the number.
-  const bool isPair = pair.size() == 2 && pair.find_first_of(" \t\n\v\f\r") == pair.npos;
-  const auto value = isPair ? numberOf("&H" + std::string(pair)) : std::nullopt;
-  if (!value) throw Failure::typeMismatch();
-  return static_cast<Colour>(*value);
+constexpr char hexDigits[] = "0123456789ABCDEF";
+
+Colour digitOf(char hex) {
+  if (hex >= '0' && hex <= '9') return hex - '0';
+  const char letter = static_cast<char>(hex | 0x20);
+  if (letter < 'a' || letter > 'f') throw Failure::typeMismatch();
+  return letter - 'a' + 10;
 }
 
 }  // namespace
@@ -77,9 +79,11 @@ std::string RGB2HTML(std::int16_t red, std::int16_t green, std::int16_t blue) {
 std::string VBColor2HTML(Colour color) {
   std::string result;
   trapped(here, "VBColor2HTML", [&](Trap& on) {
-    const auto lowByte = [](Colour bits) { return static_cast<std::int16_t>(bits & 255); };
-    on.step(
-        [&] { result = RGB2HTML(lowByte(color), lowByte(color / 256), lowByte(color / 65536)); });
+    on.step([&] {
+      const auto [red, green, blue] = channelsOf(color);
+      result = RGB2HTML(static_cast<std::int16_t>(red), static_cast<std::int16_t>(green),
+                        static_cast<std::int16_t>(blue));
+    });
   });
   return result;
 }
@@ -98,13 +102,34 @@ std::string GetCorrectColor(std::string_view text) {
   return result;
 }
 
-Variant colourOfText(std::string_view text) {
-  if (withoutBlanks(text) == defaultMark) return defaultMark;
-  if (text.starts_with('#')) text.remove_prefix(1);
-  if (text.size() < 6) throw Failure::typeMismatch();
-  const Colour red = channelOf(text.substr(0, 2));
-  const Colour green = channelOf(text.substr(2, 2));
-  return red | green << 8 | channelOf(text.substr(4, 2)) << 16;
+std::array<char, 6> listFileColour(const Variant& colour) {
+  std::array<char, 6> result;
+  if (isDefaultMark(colour)) {
+    result = {' ', ' ', ' ', 'd', 'e', 'f'};
+  } else if (colour.type() == Variant::Type::Int32) {
+    // The long way round gives the same, as the text of a number is a number.
+    char* digit = result.data();
+    for (const Colour channel : channelsOf(colour.toInt32())) {
+      *digit++ = hexDigits[channel >> 4];
+      *digit++ = hexDigits[channel & 15];
+    }
+  } else {
+    result.fill(' ');
+    // Six characters or, after a report, none.
+    std::ranges::copy(GetCorrectColor(colour.toText()), result.begin());
+  }
+  return result;
+}
+
+std::string_view trimmedBlanks(std::string_view text) {
+  const auto first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+Colour channelOfText(std::string_view text, std::size_t at) {
+  if (text.size() < at + 2) throw Failure::typeMismatch();
+  return digitOf(text[at]) << 4 | digitOf(text[at + 1]);
 }
 
 }  // namespace norvane

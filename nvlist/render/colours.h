@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -34,9 +36,14 @@ std::string VBColor2HTML(Colour color);
 /// reported and gives the empty text.
 std::string GetCorrectColor(std::string_view text);
 
-/// The colour that such characters stand for, or the text "def". A "#" may come first, and what
-/// follows the six characters is not read. Throws Failure 13, Type mismatch, where one of the three
-/// pairs is missing or no hexadecimal number.
-Variant colourOfText(std::string_view text);
+/// The same for a colour as an item holds it, always of six characters: blanks come first.
+std::array<char, 6> listFileColour(const Variant& colour);
+
+/// The number of the two hexadecimal digits at `at`. Throws Failure 13, Type mismatch, where one is
+/// missing or none.
+Colour channelOfText(std::string_view text, std::size_t at);
+
+/// Without the blanks before and behind it.
+std::string_view trimmedBlanks(std::string_view text);
 
 }  // namespace norvane

@@ -15,7 +15,7 @@ namespace norvane {
 
 /// A program without a screen, in use from its making to its destruction. All that is asked of it
 /// can be set, and all that it does can be read back: no box is shown, no log is written, no sound
-/// is heard.
+/// is heard. List files are files on the disk.
 class HeadlessApplication : public Application {
  public:
   struct Box {

@@ -16,6 +16,7 @@
 
 #include <nvlist/objects/Failure.h>
 #include <nvlist/platform/qt/QtMouse.h>
+#include <nvlist/platform/qt/QtPicture.h>
 #include <nvlist/platform/qt/QtSound.h>
 #include <nvlist/platform/qt/QtTipWindow.h>
 #include <nvlist/platform/qt/QtWindow.h>
@@ -160,6 +161,13 @@ void QtApplication::MsgBox(const std::string& text, std::int32_t style, const st
                   QApplication::activeWindow());
   box.setTextFormat(Qt::PlainText);
   box.exec();
+}
+
+Picture QtApplication::loadPicture(std::vector<std::byte> file) {
+  Picture picture = QtPicture::fromBytes(
+      QByteArray(reinterpret_cast<const char*>(file.data()), static_cast<qsizetype>(file.size())));
+  if (!picture) throw Failure::invalidPicture();
+  return picture;
 }
 
 }  // namespace norvane

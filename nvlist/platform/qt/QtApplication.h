@@ -41,6 +41,8 @@ class QtApplication : public Application {
   /// For a form that is a widget: a QtTipWindow.
   std::shared_ptr<TipWindow> createTipWindow(std::int32_t form) override;
   void MsgBox(const std::string& text, std::int32_t style, const std::string& title) override;
+  /// In any format that Qt knows.
+  Picture loadPicture(std::vector<std::byte> file) override;
 
  private:
   // They belong to the program.

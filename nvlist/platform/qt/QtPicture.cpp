@@ -1,5 +1,6 @@
 #include <nvlist/platform/qt/QtPicture.h>
 
+#include <QBuffer>
 #include <QFile>
 #include <utility>
 
@@ -36,8 +37,14 @@ QtPicture::QtPicture(QImage image, QByteArray bytes)
     : image_(readyToPaint(std::move(image))), bytes_(std::move(bytes)) {}
 
 std::vector<std::byte> QtPicture::fileBytes() const {
-  const auto* first = reinterpret_cast<const std::byte*>(bytes_.constData());
-  return {first, first + bytes_.size()};
+  QByteArray bytes = bytes_;
+  if (bytes.isEmpty()) {
+    QBuffer file(&bytes);
+    file.open(QIODevice::WriteOnly);
+    image_.save(&file, "PNG");
+  }
+  const auto* first = reinterpret_cast<const std::byte*>(bytes.constData());
+  return {first, first + bytes.size()};
 }
 
 }  // namespace norvane

@@ -26,6 +26,7 @@ class QtPicture final : public PictureObject {
 
   float width() const override { return static_cast<float>(image_.width()); }
   float height() const override { return static_cast<float>(image_.height()); }
+  /// Of a picture that came from no file those of a PNG file.
   std::vector<std::byte> fileBytes() const override;
 
  private:

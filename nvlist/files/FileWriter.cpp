@@ -1,0 +1,18 @@
+#include <nvlist/files/FileWriter.h>
+
+#include <nvlist/core/numbers.h>
+#include <nvlist/files/windows1252.h>
+
+namespace norvane {
+
+void FileWriter::text(std::string_view text) {
+  const std::size_t start = buffer_.size();
+  number(std::int32_t{0});
+  const std::size_t first = buffer_.size();
+  windows1252::append(buffer_, text);
+  // A length counts the characters as they stand in the file.
+  put(buffer_.data() + start,
+      checked::narrow<std::int32_t>(static_cast<std::int64_t>(buffer_.size() - first)));
+}
+
+}  // namespace norvane

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <concepts>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <type_traits>
+
+#include <nvlist/platform/File.h>
+
+namespace norvane {
+
+/// Writes a file from front to back, in big blocks.
+class FileWriter {
+ public:
+  explicit FileWriter(File& file) : file_(file) {}
+
+  void bytes(std::string_view bytes) { buffer_ += bytes; }
+
+  /// Little-endian.
+  template <std::integral Integer>
+  void number(Integer number) {
+    char bytes[sizeof number];
+    put(bytes, number);
+    buffer_.append(bytes, sizeof number);
+  }
+
+  /// A text with its length in front. Throws Failure 6 for one whose length is no 32-bit number.
+  void text(std::string_view text);
+
+  /// Hands over what has become a block. Called now and then, it keeps the memory small.
+  void writeBlock() {
+    if (buffer_.size() >= blockSize) flush();
+  }
+  /// Hands over all.
+  void flush() {
+    file_.write(buffer_.data(), buffer_.size());
+    buffer_.clear();
+  }
+
+ private:
+  static constexpr std::size_t blockSize = 256 * 1024;
+
+  template <std::integral Integer>
+  static void put(char* bytes, Integer number) {
+    auto rest = static_cast<std::make_unsigned_t<Integer>>(number);
+    for (std::size_t i = 0; i < sizeof rest; ++i)
+      bytes[i] = static_cast<char>(std::uint64_t{rest} >> 8 * i & 0xFF);
+  }
+
+  File& file_;
+  std::string buffer_;
+};
+
+}  // namespace norvane

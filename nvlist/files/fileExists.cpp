@@ -1,0 +1,16 @@
+#include <nvlist/files/fileExists.h>
+
+#include <nvlist/objects/Trap.h>
+#include <nvlist/platform/Application.h>
+
+namespace norvane {
+
+Boolean FileExists(const std::string& path) {
+  static constexpr Module here = {kinds::module, "basList"};
+  Boolean result;
+  trapped(here, "FileExists",
+          [&](Trap& on) { on.step([&] { result = Application::inUse().holdsFile(path); }); });
+  return result;
+}
+
+}  // namespace norvane

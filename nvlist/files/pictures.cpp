@@ -1,0 +1,34 @@
+#include <nvlist/core/numbers.h>
+#include <nvlist/nvList.h>
+#include <nvlist/platform/Application.h>
+
+namespace norvane {
+
+// A platform gives and takes the bytes of picture files, so that there is no temporary file.
+
+std::string nvList::GetPictureString(const Picture& picture, std::int32_t& length) {
+  std::string result;
+  trapped(here, "GetPictureString", [&](Trap& on) {
+    on.step([&] {
+      const std::vector<std::byte> file = picture->fileBytes();
+      if (file.empty()) throw Failure::invalidPicture();
+      std::string bytes(reinterpret_cast<const char*>(file.data()), file.size());
+      length = checked::narrow<std::int32_t>(static_cast<std::int64_t>(file.size()));
+      result.swap(bytes);
+    });
+  });
+  return result;
+}
+
+Picture nvList::GetStringPicture(std::string_view file) {
+  Picture result;
+  trapped(here, "GetStringPicture", [&](Trap& on) {
+    on.step([&] {
+      const auto* first = reinterpret_cast<const std::byte*>(file.data());
+      result = Application::inUse().loadPicture({first, first + file.size()});
+    });
+  });
+  return result;
+}
+
+}  // namespace norvane

@@ -1,0 +1,60 @@
+#include <nvlist/core/numbers.h>
+#include <nvlist/files/fileExists.h>
+#include <nvlist/files/textFile.h>
+#include <nvlist/nvList.h>
+
+#include <vector>
+
+namespace norvane {
+namespace {
+
+/// A failure is one of the object that reads whole text files, and gives the empty text.
+std::string TextRead(const std::string& Filename) {
+  static constexpr Module spEv = {kinds::classModule, "SpEv"};
+  std::string text;
+  trapped(spEv, "TextRead", [&](Trap& on) { on.step([&] { text = textOfFile(Filename); }); });
+  return text;
+}
+
+/// At least one piece. An empty delimiter parts nothing.
+std::vector<std::string_view> split(std::string_view text, std::string_view delimiter) {
+  std::vector<std::string_view> pieces;
+  while (!delimiter.empty()) {
+    const std::size_t end = text.find(delimiter);
+    if (end == std::string_view::npos) break;
+    pieces.push_back(text.substr(0, end));
+    text.remove_prefix(end + delimiter.size());
+  }
+  pieces.push_back(text);
+  return pieces;
+}
+
+}  // namespace
+
+std::int32_t nvList::ListInput2(const std::string& Filename, const Variant& Delimiter) {
+  trapped(here, "ListInput2", [&](Trap& on) {
+    if (!FileExists(Filename)) {
+      raise(on, &__nvList::ErrorListInput);
+      return;
+    }
+    const std::string text = TextRead(Filename);
+    std::vector<std::string_view> pieces;
+    on.step([&] { pieces = split(text, Delimiter.toText()); });
+    // Both flags stay off: they are the host's to turn on again.
+    state_.AutoCheckScroll = false;
+    state_.AutoRedraw = false;
+    const bool isWhole = orRaise(on, &__nvList::ErrorListInput, [&] {
+      if (pieces.empty()) throw Failure::subscriptOutOfRange();
+      const auto count = static_cast<std::int32_t>(pieces.size());
+      for (state_.LoopIndex = 0; state_.LoopIndex < count;
+           state_.LoopIndex = checked::add(state_.LoopIndex, 1))
+        ItemsAdd(pieces.at(static_cast<std::size_t>(state_.LoopIndex)));
+    });
+    if (!isWhole) return;
+    on.step([&] { CheckScroll(); });
+    on.step([&] { Redraw(); });
+  });
+  return 0;
+}
+
+}  // namespace norvane

@@ -1,0 +1,112 @@
+#include <nvlist/platform/diskFiles.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include <nvlist/core/like.h>
+#include <nvlist/objects/Failure.h>
+
+namespace norvane::disk {
+namespace {
+
+namespace fs = std::filesystem;
+
+#ifdef _WIN32
+constexpr bool ignoresCase = true;
+#else
+constexpr bool ignoresCase = false;
+#endif
+
+fs::path pathOf(const std::string& path) { return std::u8string(path.begin(), path.end()); }
+
+std::string nameOf(const fs::path& path) {
+  const std::u8string name = path.filename().u8string();
+  return {name.begin(), name.end()};
+}
+
+/// The wildcards of file names as a pattern, in which more characters have a meaning.
+LikePattern patternOf(const std::string& name) {
+  std::string pattern;
+  for (const char c : name) {
+    if (c == '#' || c == '[')
+      pattern.append("[").append(1, c).append("]");
+    else
+      pattern += c;
+  }
+  return {pattern, ignoresCase};
+}
+
+bool anyMatches(fs::path folder, const std::string& name) {
+  const LikePattern pattern = patternOf(name);
+  const bool mayLackEnding = name.ends_with(".*");
+  const LikePattern bare = patternOf(mayLackEnding ? name.substr(0, name.size() - 2) : name);
+  if (folder.empty()) folder = ".";
+  std::error_code error;
+  for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+       entry.increment(error)) {
+    const std::string candidate = nameOf(entry->path());
+    if (pattern.matches(candidate) || (mayLackEnding && bare.matches(candidate))) return true;
+  }
+  return false;
+}
+
+Failure accessFailure() { return {75, "Path/File access error"}; }
+Failure deviceFailure() { return {57, "Device I/O error"}; }
+
+/// Unbuffered: who reads and writes does so in big blocks.
+class DiskFile final : public File {
+ public:
+  DiskFile(const fs::path& path, FileMode mode) {
+    std::error_code error;
+    // Anything but a regular file has no size, and opening it might wait for ever.
+    if (mode == FileMode::read) size_ = fs::file_size(path, error);
+    if (error == std::errc::no_such_file_or_directory) throw Failure(53, "File not found");
+    if (error) throw accessFailure();
+    file_.pubsetbuf(nullptr, 0);
+    const auto direction = mode == FileMode::read ? std::ios::in : std::ios::out | std::ios::trunc;
+    if (!file_.open(path, direction | std::ios::binary)) throw accessFailure();
+  }
+
+  std::uint64_t size() override { return size_; }
+
+  std::size_t read(char* bytes, std::size_t count) override {
+    return static_cast<std::size_t>(file_.sgetn(bytes, static_cast<std::streamsize>(count)));
+  }
+
+  void write(const char* bytes, std::size_t count) override {
+    const auto size = static_cast<std::streamsize>(count);
+    if (file_.sputn(bytes, size) != size) throw deviceFailure();
+  }
+
+  void close() override {
+    if (!file_.close()) throw deviceFailure();
+  }
+
+ private:
+  std::filebuf file_;
+  std::uint64_t size_ = 0;
+};
+
+}  // namespace
+
+bool holdsAny(const std::string& path) {
+  const fs::path place = pathOf(path);
+  const std::string name = nameOf(place);
+  if (name.find_first_of("*?") != std::string::npos) return anyMatches(place.parent_path(), name);
+  std::error_code error;
+  return !name.empty() && fs::exists(place, error);
+}
+
+void remove(const std::string& path) {
+  const fs::path place = pathOf(path);
+  std::error_code error;
+  if (!fs::is_regular_file(place, error)) return;
+  fs::remove(place, error);
+  if (error) throw accessFailure();
+}
+
+std::unique_ptr<File> open(const std::string& path, FileMode mode) {
+  return std::make_unique<DiskFile>(pathOf(path), mode);
+}
+
+}  // namespace norvane::disk

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include <nvlist/platform/File.h>
+
+/// Files as the standard library reaches them. Paths are UTF-8.
+namespace norvane::disk {
+
+/// Whether there is a file or folder of that name. In the last part of the path `*` stands for any
+/// characters and `?` for one; a closing `.*` also for no ending at all. Case counts as it does in
+/// the names of the system's files.
+bool holdsAny(const std::string& path);
+
+/// Deletes a file; one that is not there, a folder and a device stay as they are. Throws Failure 75
+/// where a file cannot be deleted.
+void remove(const std::string& path);
+
+/// Throws Failure 53 for a file to be read that is not there, and 75 for one that may not be opened
+/// or is no file at all. A file to be written is made new.
+std::unique_ptr<File> open(const std::string& path, FileMode mode);
+
+}  // namespace norvane::disk

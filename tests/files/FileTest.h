@@ -1,0 +1,108 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "../Lists.h"
+#include "MemoryFiles.h"
+
+namespace norvane {
+
+// Bytes put together by hand.
+
+inline std::string little(int value, int size) {
+  std::string bytes;
+  for (int i = 0; i < size; ++i) bytes += static_cast<char>(value >> 8 * i);
+  return bytes;
+}
+inline std::string byte(int value) { return little(value, 1); }
+inline std::string int16(int value) { return little(value, 2); }
+inline std::string int32(int value) { return little(value, 4); }
+inline std::string zeros(std::size_t count) { return std::string(count, '\0'); }
+/// With its length in front.
+inline std::string text(const std::string& bytes) {
+  return int32(static_cast<int>(bytes.size())) + bytes;
+}
+
+/// A list and files in memory, with every event of list files written down.
+class FileTest : public ListTest, protected __nvList {
+ protected:
+  FileTest() {
+    list.addSink(*this);
+    list.AutoRedraw(false);
+  }
+  ~FileTest() override { list.removeSink(*this); }
+
+  void ErrorListInput() override { heard += "input! "; }
+  void ErrorListSave() override { heard += "save! "; }
+  void ListSaving(Variant& Index) override { progress(Index); }
+  void ListReading(Variant& Index) override { progress(Index); }
+
+  /// What was heard and reported since the last call.
+  std::string events() {
+    EXPECT_EQ(memory.open, 0);
+    return std::exchange(heard, "") + reports();
+  }
+
+  std::string save(Boolean properties = true) {
+    list.ListSave("file", properties);
+    return memory.files["file"];
+  }
+  void input(const std::string& bytes, bool properties = true) {
+    memory.files["file"] = bytes;
+    list.ListInput("file", properties);
+  }
+
+  /// Runs `operation` with the first, the second, ... file operation failing, until none does any
+  /// more, and tells what was heard each time.
+  template <class Operation>
+  std::string eachFailing(Operation&& operation) {
+    std::string result;
+    for (memory.failing = 1;; ++memory.failing) {
+      memory.operations = 0;
+      operation();
+      if (memory.operations < memory.failing) break;
+      result += "[" + events() + "]";
+    }
+    memory.failing = 0;
+    events();
+    return result;
+  }
+
+  MemoryFiles memory{application};
+  std::string heard;
+  /// What the host does for each item of a list that is saved or read.
+  std::function<void(Variant&)> onProgress;
+
+ private:
+  void progress(Variant& Index) {
+    heard += Index.toText() + " ";
+    if (onProgress) onProgress(Index);
+  }
+};
+
+/// A picture with the bytes that it is given.
+class BytePicture final : public PictureObject {
+ public:
+  explicit BytePicture(std::string bytes) : bytes_(std::move(bytes)) {}
+  float width() const override { return 1; }
+  float height() const override { return 1; }
+  std::vector<std::byte> fileBytes() const override {
+    if (bytes_ == "broken") throw std::runtime_error("no bytes");
+    const auto* first = reinterpret_cast<const std::byte*>(bytes_.data());
+    return {first, first + bytes_.size()};
+  }
+
+ private:
+  std::string bytes_;
+};
+
+inline std::string fileOf(const Picture& picture) {
+  if (!picture) return "none";
+  const auto bytes = picture->fileBytes();
+  return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+}
+
+}  // namespace norvane

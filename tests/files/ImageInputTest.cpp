@@ -1,0 +1,154 @@
+#include "FileTest.h"
+
+namespace norvane {
+namespace {
+
+// Properties as a store's contents hold them, and the file that holds the contents.
+
+std::string property(const std::string& name, int kind, const std::string& value) {
+  return int16(static_cast<int>(name.size())) + name + int16(kind) + value;
+}
+std::string number(const std::string& name, int value) { return property(name, 3, int32(value)); }
+std::string truth(const std::string& name, int value) { return property(name, 11, int16(value)); }
+std::string words(const std::string& name, const std::string& value) {
+  return property(name, 8, text(value));
+}
+std::string picture(const std::string& name, const std::string& file) {
+  return property(name, 9, text(file));
+}
+std::string image(const std::string& properties) {
+  return int16(0x2011) + int16(1) + int32(static_cast<int>(properties.size()) + 4) + int32(0) +
+         "PBAG" + properties;
+}
+
+const std::string full =
+    property("count", 2, int16(2)) + truth("sip", -1) + words("i0Text", "\xC4") +
+    words("i1Text", "b") + truth("i0AllowEdit", -1) + number("i0BackColor", 1) +
+    number("i0BackColorDis", 2) + number("i0BackColorSelect", 3) + truth("i0Checked", -1) +
+    truth("i0Enabled", 0) + property("i0ForeColor", 4, std::string("\0\0\x80\x40", 4)) +
+    number("i0ForeColorDis", 5) + number("i0ForeColorSelect", 6) + picture("i0Icon", "icon") +
+    picture("i0IconSelected", "selected") + property("i0Alignment", 2, int16(2));
+
+class ImageInput : public FileTest {
+ protected:
+  std::string told(int index) {
+    const ListItem& it = item(index);
+    std::string result = it.Text + " ";
+    for (const Boolean flag : {it.AllowEdit, it.Checked, it.Enabled}) result += flag ? '1' : '0';
+    for (const Variant& value :
+         {Variant(it.Alignment), it.BackColor, Variant(it.BackColorDis), it.BackColorSelect,
+          it.ForeColor, Variant(it.ForeColorDis), it.ForeColorSelect})
+      result += " " + value.toText();
+    return result + " " + fileOf(it.Icon) + " " + fileOf(it.IconSelected);
+  }
+  const std::string ordinary = " 001 0 def -2147483626 def def -2147483631 def none none";
+};
+
+TEST_F(ImageInput, ReadsEveryProperty) {
+  list.ColorStyle(cXPOlive);
+  input(image(full));
+  EXPECT_EQ(told(0), "\u00c4 110 2 1 2 3 4 5 6 icon selected");
+  // What is not in the store has the defaults of the store.
+  EXPECT_EQ(told(1), "b 001 0 16777215 0 " + std::to_string(0x70A093) + " 0 0 16777215 none none");
+  EXPECT_EQ(events(), "0 1 ");
+  EXPECT_EQ(list.ListFileItemsCount("file"), 2);
+  input(image(full), false);
+  EXPECT_EQ(told(0), "\u00c4" + ordinary);
+  EXPECT_EQ(texts(), "\u00c4 b");
+  input(image(number("count", 1) + truth("i0Checked", -1)));
+  EXPECT_EQ(told(0), ordinary);
+}
+
+TEST_F(ImageInput, LetsTheHostInBetweenTheItems) {
+  int yields = 0;
+  for (int i = 0; i < 2; ++i) headless.container().post([&] { ++yields; });
+  headless.surface().Cls();
+  onProgress = [&](Variant& Index) { EXPECT_EQ(yields, Index.toInt32()); };
+  input(image(full));
+  EXPECT_EQ(yields, 2);
+  EXPECT_NE(headless.picture().find("\u00c4"), std::string::npos);
+  onProgress = [](Variant& Index) { Index = 1; };
+  input(image(full));
+  EXPECT_EQ(texts(), "\u00c4 ");
+  // The handler loads another image into the store that is being read.
+  onProgress = [&](Variant&) {
+    onProgress = nullptr;
+    input(image(number("count", 1) + words("i0Text", "inner")));
+  };
+  input(image(full));
+  EXPECT_EQ(texts(), "inner");
+  EXPECT_EQ(events(), "0 1 0 0 0 ");
+}
+
+TEST_F(ImageInput, RaisesTheEventOnTheWay) {
+  const struct {
+    std::string properties;
+    std::string heard;
+    int count;
+  } cases[] = {{number("count", 0), "", 2},
+               {number("count", -2), "input! ", 2},
+               {number("count", 2000000000), "input! ", 2},
+               {number("count", 4097), "input! ", 2},
+               {words("count", "some"), "input! ", 0},
+               {number("count", 1) + words("sip", "neither"), "input! ", 2},
+               {number("count", 3) + picture("i1Text", "no text"), "0 input! ", 3},
+               {full + picture("i1Icon", ""), "0 input! ", 2},
+               {full + number("i1Icon", 7), "0 input! ", 2},
+               {full + words("i1ForeColorDis", "def"), "0 input! ", 2}};
+  for (const auto& [properties, expected, count] : cases) {
+    list.ItemsClear();
+    add({"old", "older"});
+    input(image(properties));
+    EXPECT_EQ(events(), expected);
+    EXPECT_EQ(list.ItemsCount(), count);
+  }
+}
+
+TEST_F(ImageInput, IsNotTakenFromAnyOtherFile) {
+  const std::string whole = image(full);
+  std::vector<std::string> files = {image(number("Count", 1)), image(number("count", -1)),
+                                    image(property("count", 5, "12345678"))};
+  // Another tag, dimension, index, signature, name, and kind.
+  for (const std::size_t place : {0U, 2U, 3U, 8U, 12U, 18U, 23U}) {
+    files.push_back(whole);
+    files.back()[place] ^= 0x20;
+  }
+  for (std::size_t size = 0; size < whole.size(); ++size) files.push_back(whole.substr(0, size));
+  for (const std::string& file : files) {
+    input(file);
+    EXPECT_LE(list.ListFileItemsCount("file"), 0);
+    EXPECT_EQ(events(), "input! ");
+  }
+  // Cut within the contents; only a cut between two properties leaves an image.
+  for (std::size_t size = 0; size < full.size(); ++size) {
+    input(image(full.substr(0, size)));
+    EXPECT_EQ(list.ListFileItemsCount("file") == 2, heard != "input! ") << size;
+    events();
+  }
+}
+
+TEST_F(ImageInput, CountsTheItemsOfImagesOnly) {
+  memory.files["image"] = image(words("count", "70000"));
+  memory.files["none"] = image(number("other", 1));
+  save();
+  EXPECT_EQ(list.ListFileItemsCount("image"), 70000);
+  EXPECT_EQ(list.ListFileItemsCount("none"), 0);
+  EXPECT_EQ(list.ListFileItemsCount("file"), 0);
+  EXPECT_EQ(list.ListFileItemsCount("missing"), -1);
+  EXPECT_EQ(list.ListFileItemsCount(Ref<Object>(makeRef<Object>())), 0);
+  EXPECT_TRUE(list.state().ReadBagContents.isEmpty());
+  memory.files["file"] = image(full);
+  for (const bool isSilent : {false, true}) {
+    if (isSilent) silent();
+    std::string counts;
+    const std::string notFound = isSilent ? "[input! ]" : "[input! 57 FileExists]";
+    const std::string missed = isSilent ? "[input! input! ]" : "[input! input! 57 FileExists]";
+    EXPECT_EQ(eachFailing([&] { list.ListInput("file"); }),
+              notFound + missed + "[input! ][input! ][input! ][input! ]");
+    eachFailing([&] { counts += std::to_string(list.ListFileItemsCount("file")) + " "; });
+    EXPECT_EQ(counts, "-1 0 0 0 0 2 ");
+  }
+}
+
+}  // namespace
+}  // namespace norvane

@@ -1,0 +1,286 @@
+#include <algorithm>
+#include <cstdlib>
+#include <new>
+#include <random>
+
+#include "FileTest.h"
+
+namespace {
+std::size_t largestAllocation = 0;
+}
+
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+  largestAllocation = std::max(largestAllocation, size);
+  return std::malloc(size);
+}
+void* operator new(std::size_t size) {
+  if (void* memory = operator new(size, std::nothrow)) return memory;
+  throw std::bad_alloc();
+}
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+
+namespace norvane {
+namespace {
+
+std::string header(int last, bool properties, int version = 273) {
+  return int32(last) + byte(properties ? 0xFF : 0) + int16(version);
+}
+/// The fields that all versions have, but for the icons.
+std::string fields(const std::string& backColor = "0A0000") {
+  return "\1" + backColor + "0B00000C0000\xFF" + byte(0) + "0D00000E00000F0000\1";
+}
+std::string flagsAndKeys(const std::string& key, const std::string& tag) {
+  return std::string("\1\0\2\3", 4) + text(key) + text(tag);
+}
+const std::string noIcons = zeros(2);
+
+class ListInput : public FileTest {
+ protected:
+  /// Every field of an item, but for its pictures.
+  static std::string told(const ListItem& item) {
+    std::string result = item.Text + "|";
+    for (const Boolean flag : {item.Checked, item.AllowEdit, item.Enabled, item.Selected, item.Bold,
+                               item.Italic, item.Underline})
+      result += flag.number() == -1 ? '1' : flag.number() == 0 ? '0' : '?';
+    result += " " + std::to_string(item.Alignment);
+    for (const Variant& colour : {item.BackColor, Variant(item.BackColorDis), item.BackColorSelect,
+                                  item.ForeColor, Variant(item.ForeColorDis), item.ForeColorSelect})
+      result += " " + colour.toText();
+    return result + "|" + std::string(item.Key.view()) + "|" + item.Tag.toText();
+  }
+  static std::string ordinary(const std::string& text) {
+    return text + "|0010000 0 def -2147483626 def def -2147483631 def||";
+  }
+
+  void expectRefused(const std::string& bytes, const std::string& what) {
+    input(bytes);
+    EXPECT_EQ(events(), "input! ") << what;
+    EXPECT_EQ(list.ItemsCount(), 0) << what;
+  }
+};
+
+TEST_F(ListInput, ReadsEveryVersion) {
+  const std::string old = "12345678901    2ab", ab = text("ab"), properties = fields() + noIcons,
+                    all = fields() + flagsAndKeys("k", "t") + noIcons;
+  const std::string some = "|1100000 1 10 11 12 13 14 15||";
+  const struct {
+    int version;
+    bool hasProperties;
+    std::string record;
+    std::string told;
+  } cases[] = {{-1, false, "", ordinary("")},
+               {269, true, properties, some},
+               {270, false, old, ordinary("ab")},
+               {270, true, old + properties, "ab" + some},
+               {271, true, ab + properties, "ab" + some},
+               {272, true, ab + properties, "ab" + some},
+               {273, false, ab, ordinary("ab")},
+               {273, true, ab + all, "ab|1101101 1 10 11 12 13 14 15|k|t"},
+               {32767, true, ab + all, "ab|1101101 1 10 11 12 13 14 15|k|t"}};
+  for (const auto& [version, hasProperties, record, expected] : cases) {
+    input(header(1, hasProperties, version) + record + record);
+    EXPECT_EQ(events(), "") << version;
+    ASSERT_EQ(list.ItemsCount(), 2) << version;
+    EXPECT_EQ(told(item(0)), expected) << version;
+    EXPECT_EQ(told(item(1)), expected) << version;
+  }
+}
+
+TEST_F(ListInput, GivesDefaultsWithoutTheArgument) {
+  const auto record = [](const std::string& key, const std::string& tag) {
+    return text("a") + fields("no hex") + flagsAndKeys(key, tag) + "\1" + text("") + "\1" +
+           text("y");
+  };
+  input(header(1, true) + record("", "") + record("", ""), false);
+  EXPECT_EQ(events(), "");
+  EXPECT_EQ(told(item(0)), ordinary("a"));
+  EXPECT_EQ(texts(), "a a");
+  EXPECT_EQ(fileOf(item(0).Icon), "none");
+  // Keys and tags that nobody wants are left in the file, for what follows them.
+  const std::string pictureOfNoLength = "\1\xFF\xFF\xFF\xFF";
+  input(header(0, true) + record("four" + pictureOfNoLength, ""), false);
+  input(header(0, true) + record("", pictureOfNoLength), false);
+  EXPECT_EQ(events(), "input! input! ");
+}
+
+TEST_F(ListInput, ReadsTheSecondPictureAsIcon) {
+  const auto icons = [&](const std::string& markers) {
+    input(header(0, true) + text("a") + fields() + flagsAndKeys("", "") + markers);
+    return fileOf(item(0).Icon) + " " + fileOf(item(0).IconSelected) + " " + events();
+  };
+  EXPECT_EQ(icons("\1" + text("one") + "\1" + text("two")), "two none ");
+  EXPECT_EQ(icons(byte(0) + "\1" + text("two")), "two none ");
+  EXPECT_EQ(icons("\1" + text("one") + byte(0)), "none none ");
+  EXPECT_EQ(icons("\2\xFF"), "none none ");
+  // A picture that is none.
+  EXPECT_EQ(icons("\1" + text("") + "\1" + text("two")), "two none 481 GetStringPicture");
+  EXPECT_EQ(icons("\1" + text("one") + "\1" + text("")), "none none 481 GetStringPicture");
+}
+
+TEST_F(ListInput, GoesOnBehindAColourThatIsNone) {
+  const auto colour = [&](const std::string& six) {
+    input(header(0, true) + text("a") + fields(six) + flagsAndKeys("", "") + noIcons);
+    return item(0).BackColor.toText() + " " + item(0).ForeColor.toText() + " " + events();
+  };
+  EXPECT_EQ(colour("4080FF"), "16744512 13 ");
+  EXPECT_EQ(colour("ff8040"), "4227327 13 ");
+  EXPECT_EQ(colour("   def"), "def 13 ");
+  EXPECT_EQ(colour("def   "), "def 13 ");
+  for (const char* six : {"      ", "#FF804", "+1+1+1", "FF80 4", "FF80G0", "0@1020", "DEFdef"})
+    EXPECT_EQ(colour(six), six[0] == 'D' ? "15728094 13 " : " 13 13 HTML2VBColor") << six;
+  silent();
+  EXPECT_EQ(colour("0A--0B"), std::to_string(0x0B000A) + " 13 ");
+  EXPECT_EQ(colour("#0A0B0"), std::to_string(0x000B0A) + " 13 ");
+  // The disabled ones cannot be "def".
+  for (const char* two : {"   def000000", "000000   def"}) {
+    const std::string six = "000000", wrong(two);
+    expectRefused(header(0, true) + text("a") + "\1" + six + wrong.substr(0, 6) + six + zeros(2) +
+                      six + wrong.substr(6) + six + "\1" + flagsAndKeys("", "") + noIcons,
+                  two);
+  }
+}
+
+TEST_F(ListInput, TouchesNothingButTheItems) {
+  add({"a", "b", "c"});
+  list.ListIndex(2);
+  headless.surface().Cls();
+  const std::string before = headless.picture();
+  input(header(-1, true));
+  EXPECT_EQ(list.ItemsCount(), 0);
+  EXPECT_EQ(item(1).Text, "b");
+  EXPECT_EQ(headless.picture(), before);
+  const std::string record = text("new") + fields() + flagsAndKeys("", "") + noIcons;
+  input(header(1, true) + record + record);
+  EXPECT_NE(headless.picture().find("new"), std::string::npos);
+  EXPECT_EQ(list.ListIndex(), 2);
+  EXPECT_EQ(events(), "");
+  // A mark that was read goes like any other, also where one is known of.
+  for (int i = 0; i < 2; ++i) {
+    input(header(1, true) + record + record);
+    list.ItemEnabled(1, true);
+    list.ListIndex(1);
+    EXPECT_FALSE(item(0).Selected);
+  }
+}
+
+TEST_F(ListInput, RaisesOneEventForAMissingFile) {
+  add({"old"});
+  list.ListInput("missing");
+  EXPECT_EQ(events(), "input! ");
+  EXPECT_EQ(texts(), "old");
+  // One that goes while it is looked at is missed twice.
+  memory.nextAnswers = {true, false};
+  list.ListInput("missing");
+  EXPECT_EQ(events(), "input! input! ");
+}
+
+TEST_F(ListInput, RefusesAFileCutAnywhere) {
+  list.ItemsAdd({.aText = "first", .aIcon = makeRef<BytePicture>("i"), .aTag = "tag", .aKey = "k"});
+  list.ItemsAdd({.aText = "second", .aIconSelected = makeRef<BytePicture>("s")});
+  for (const bool properties : {true, false}) {
+    const std::string whole = save(properties);
+    memory.missing = properties ? 0 : 100;
+    events();
+    for (std::size_t size = 0; size < whole.size(); ++size) {
+      input(whole.substr(0, size));
+      EXPECT_EQ(events(), "input! ") << size;
+      // A file that ends before its items begin leaves those of the list.
+      EXPECT_EQ(list.ItemsCount(), size < 7 ? 2 : 0) << size;
+    }
+    EXPECT_EQ(list.state().Items.upperBound(), 1);
+    input(whole + "and more");
+    EXPECT_EQ(texts() + events(), "first second");
+  }
+}
+
+TEST_F(ListInput, BelievesNoLength) {
+  const std::string some(64, '0'), record = text("a") + fields();
+  largestAllocation = 0;
+  for (const int bad : {-2147483647 - 1, -1, 65, 2147483647}) {
+    const std::string what = std::to_string(bad), length = int32(bad) + some;
+    expectRefused(header(0, false) + length, "text " + what);
+    expectRefused(header(0, true) + record + zeros(4) + length, "key " + what);
+    expectRefused(header(0, true) + record + zeros(8) + length, "tag " + what);
+    expectRefused(header(0, true, 271) + record + "\1" + length, "icon " + what);
+    expectRefused(header(0, true, 271) + record + byte(0) + "\1" + length, "second " + what);
+  }
+  for (const char* digits : {"   -1", "99999", "abcde", "     "})
+    expectRefused(header(0, false, 270) + "12345678901" + digits + some, digits);
+  EXPECT_LE(largestAllocation, 4096U);
+}
+
+TEST_F(ListInput, BelievesNoCount) {
+  largestAllocation = 0;
+  for (const int last : {-2, -2147483647 - 1, 2000000000, 2147483647})
+    for (const int version : {100, 270, 273})
+      for (const bool properties : {false, true})
+        expectRefused(header(last, properties, version) + zeros(1000), std::to_string(last));
+  EXPECT_LE(largestAllocation, 4096U);
+  // As many as the bytes can hold, and one more.
+  input(header(4999, false, 271) + zeros(5000 * 4));
+  EXPECT_EQ(list.ItemsCount(), 5000);
+  expectRefused(header(5000, false) + zeros(5001 * 4 - 1), "one too many");
+  EXPECT_EQ(list.state().Items.upperBound(), 4999);
+  // A few that take no bytes at all are possible.
+  input(header(4095, false, 269));
+  EXPECT_EQ(list.ItemsCount(), 4096);
+  expectRefused(header(4096, false, 269), "too many of nothing");
+}
+
+TEST_F(ListInput, BringsBackWhatWasSaved) {
+  std::mt19937 random(20);
+  const auto below = [&](int end) { return static_cast<int>(random() % unsigned(end)); };
+  const auto flag = [&] { return Boolean(below(2) == 1); };
+  const auto colour = [&] { return below(4) == 0 ? Variant("def") : Variant(below(0x1000000)); };
+  const auto word = [&] {
+    const std::string_view characters[] = {"a", " ", "\u00fc", "\u20ac", "\u0178", {"", 1}};
+    std::string result;
+    for (int left = below(3) == 0 ? below(400) : below(8); left > 0; --left)
+      result += characters[below(below(2) == 0 ? 2 : 6)];
+    return result;
+  };
+  for (int round = 0; round < 20; ++round) {
+    list.ItemsClear();
+    std::vector<std::string> expected;
+    for (int i = below(300); i >= 0; --i) {
+      const Picture icon = makeRef<BytePicture>("x" + word());
+      list.ItemsAdd(word(), -1, flag() ? icon : nullptr, icon, flag(), colour(), colour(), flag(),
+                    static_cast<cItemAlignment>(below(256)), colour(), colour(), flag(), word(),
+                    below(0x1000000), below(0x1000000), flag(), flag(), flag(), word());
+      list.ItemSelected(list.NewIndex(), flag());
+      expected.push_back(told(item(list.NewIndex())) + fileOf(icon));
+    }
+    save();
+    list.ItemsClear();
+    events();
+    list.ListInput("file", true);
+    ASSERT_EQ(list.ItemsCount(), static_cast<int>(expected.size()));
+    for (int i = 0; i < list.ItemsCount(); ++i)
+      EXPECT_EQ(told(item(i)) + fileOf(item(i).Icon), expected[static_cast<std::size_t>(i)]);
+    EXPECT_EQ(events(), "");
+  }
+}
+
+TEST_F(ListInput, EndsInTheEventWhereverAFileFails) {
+  for (const bool isSilent : {false, true}) {
+    if (isSilent) silent();
+    list.ItemsClear();
+    add({"a", "b"});
+    const std::string notFound = isSilent ? "[input! ]" : "[input! 57 FileExists]";
+    const std::string unread = isSilent ? "[]" : "[57 TextRead]";
+    // Deleting, opening, writing, closing.
+    EXPECT_EQ(eachFailing([&] { save(); }), "[save! ][save! ][0 1 save! ][0 1 save! ]");
+    // Looking for it twice, at the older form, and reading it: opening, size, bytes, closing.
+    save();
+    events();
+    EXPECT_EQ(eachFailing([&] { list.ListInput("file", true); }),
+              notFound + notFound + "[][][][input! ][input! ][input! ][input! ]");
+    memory.files["text"] = "a,b";
+    EXPECT_EQ(eachFailing([&] { list.ListInput2("text", ","); }),
+              notFound + unread + unread + unread + unread);
+  }
+}
+
+}  // namespace
+}  // namespace norvane

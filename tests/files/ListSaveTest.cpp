@@ -1,0 +1,148 @@
+#include "FileTest.h"
+
+namespace norvane {
+namespace {
+
+using ListSave = FileTest;
+
+std::string header(int last, int flag) { return int32(last) + byte(flag) + "\x11\x01"; }
+
+/// What stands behind the text of an item that has nothing of its own.
+const std::string ordinary = byte(0) + "   def160101   def" + byte(0) + byte(0xFF) +
+                             "   def110101   def" + zeros(5) + text("") + text("") + zeros(2);
+
+TEST_F(ListSave, WritesTextsAlone) {
+  EXPECT_EQ(save(false), std::string("\xFF\xFF\xFF\xFF\x00\x11\x01", 7));
+  EXPECT_EQ(save(true), std::string("\xFF\xFF\xFF\xFF\xFF\x11\x01", 7));
+  EXPECT_EQ(events(), "");
+  add({"ab"});
+  EXPECT_EQ(save(false), std::string("\0\0\0\0\0\x11\x01\x02\0\0\0ab", 13));
+  EXPECT_EQ(events(), "0 ");
+  // Of a truth value the low byte counts.
+  EXPECT_EQ(save(Boolean::ofNumber(0x100)).size(), 13U);
+}
+
+TEST_F(ListSave, WritesEveryProperty) {
+  list.ItemsAdd({.aText = "\u00e4\u20ac\u0416\U0001F600!",
+                 .aIcon = makeRef<BytePicture>("icon"),
+                 .aIconSelected = makeRef<BytePicture>("selected"),
+                 .aChecked = true,
+                 .aForeColor = 0x010203,
+                 .aBackColor = 0x0A0B0C,
+                 .aAllowEdit = true,
+                 .aAlignment = static_cast<cItemAlignment>(0x102),
+                 .aForeColorSelected = 0xFF8040,
+                 .aBackColorSelected = 0xFFFFFF,
+                 .aEnabled = Boolean::ofNumber(0x100),
+                 .aTag = 5,
+                 .aForeColorDis = 1,
+                 .aBackColorDis = 0x20000,
+                 .aBold = true,
+                 .aUnderline = Boolean::ofNumber(2),
+                 .aKey = "\u0178"});
+  list.ItemSelected(0, true);
+  add({"second"});
+  EXPECT_EQ(save(), header(1, 0xFF) +
+                        text("\xE4\x80?"
+                             "?!") +
+                        byte(0xFF) + "0C0B0A000002FFFFFF" + byte(0xFF) + byte(0) +
+                        "0302010100004080FF" + "\2\xFF" + byte(0) + "\2\xFF" + text("\x9F") +
+                        text("5") + "\1" + text("icon") + "\1" + text("selected") + text("second") +
+                        ordinary);
+  EXPECT_EQ(events(), "0 1 ");
+}
+
+TEST_F(ListSave, WritesSixCharactersForAnyColour) {
+  const struct {
+    Variant colour;
+    std::string written;
+    std::string report;
+  } cases[] = {{"255", "FF0000", ""},
+               {Variant(), "FFFFFF", ""},
+               {2.5F, "020000", ""},
+               {std::int16_t{-1}, "FF0000", ""},
+               {-1, "FF0000", ""},
+               {-256, "00FF00", ""},
+               {"4294967295", "      ", "6 GetCorrectColor"}};
+  for (const auto& [colour, written, report] : cases) {
+    list.ItemsClear();
+    list.ItemsAdd({.aText = "", .aBackColor = colour});
+    EXPECT_EQ(save().substr(12, 6), written) << colour.toText();
+    EXPECT_EQ(events(), "0 " + report);
+  }
+}
+
+TEST_F(ListSave, GoesOnBehindAPictureWithoutBytes) {
+  for (const char* bytes : {"", "broken"}) {
+    list.ItemsClear();
+    list.ItemsAdd({.aText = "a", .aIcon = makeRef<BytePicture>(bytes)});
+    add({"b"});
+    EXPECT_EQ(save().substr(7 + 5 + 52), "\1" + zeros(5) + text("b") + ordinary);
+    EXPECT_EQ(events(), *bytes ? "0 1 440 GetPictureString" : "0 1 481 GetPictureString");
+  }
+}
+
+TEST_F(ListSave, EndsAtAnItemThatCannotBeWritten) {
+  list.ItemsAdd({.aText = "a"});
+  list.ItemsAdd({.aText = "b", .aTag = Ref<Object>(makeRef<Object>())});
+  save();
+  EXPECT_EQ(events(), "0 save! ");
+  EXPECT_EQ(save(false), header(1, 0) + text("a") + text("b"));
+}
+
+TEST_F(ListSave, GoesOnFromWhereTheHostPutsIt) {
+  add({"a", "b", "c", "d"});
+  onProgress = [](Variant& Index) {
+    if (Index.toInt32() == 0) Index = "2";
+  };
+  EXPECT_EQ(save(false), header(3, 0) + text("a") + text("d"));
+  const struct {
+    std::function<void(Variant&)> host;
+    std::string heard;
+  } cases[] = {{[](Variant& Index) { Index = "x"; }, "0 save! "},
+               {[](Variant& Index) { Index = -2; }, "0 save! "},
+               {[](Variant& Index) { Index = 2147483647; }, "0 save! "},
+               {[](Variant&) { throw 1; }, "0 save! "},
+               // The position is the one by which all loops of the list go.
+               {[this](Variant&) { list.ItemsCheckCount(); }, "0 "},
+               {[this](Variant&) { list.ItemsRemove(0); }, "0 save! "}};
+  events();
+  for (const auto& [host, expected] : cases) {
+    onProgress = host;
+    save();
+    EXPECT_EQ(events(), expected);
+  }
+}
+
+TEST_F(ListSave, WritesBigListsInBlocks) {
+  for (int i = 10000; i < 40000; ++i) list.ItemsAdd("an item of the list " + std::to_string(i));
+  list.ItemText(77, std::string(300'000, 'x'));
+  EXPECT_EQ(save(false).size(), 7U + 29999U * 29 + 300'004);
+  EXPECT_EQ(memory.operations, 2 + 5 + 1);
+  list.ItemsClear();
+  list.ListInput("file");
+  ASSERT_EQ(list.ItemsCount(), 30000);
+  for (int i = 78; i < 30000; ++i) ASSERT_TRUE(item(i).Text.ends_with(std::to_string(i + 10000)));
+}
+
+class FailingHost : public ListSave {
+ protected:
+  void ErrorListSave() override { throw Failure(5, "host"); }
+  void ErrorListInput() override { throw Failure(5, "host"); }
+};
+
+TEST_F(FailingHost, IsReported) {
+  memory.failing = 1;
+  save();
+  EXPECT_EQ(events(), "5 ListSave");
+  list.ListInput("missing");
+  input("cut");
+  list.ListInput2("missing", ",");
+  EXPECT_EQ(events(), "5 ListInput, 5 ListInput, 5 ListInput2");
+  silent();
+  input("cut");
+  EXPECT_EQ(events(), "");
+}
+
+}  // namespace
+}  // namespace norvane

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <nvlist/objects/Failure.h>
+#include <nvlist/platform/headless/HeadlessApplication.h>
+
+namespace norvane {
+
+/// A program whose files stand in memory, and of whose file operations any can fail.
+class MemoryFiles : public HeadlessApplication {
+ public:
+  MemoryFiles() = default;
+  explicit MemoryFiles(HeadlessApplication& boxesGoTo) : boxesGoTo_(&boxesGoTo) {}
+
+  int operations = 0;
+  /// Which operation fails, from 1; 0 none.
+  int failing = 0;
+  int open = 0;
+  /// Bytes that the largest read asked for.
+  std::size_t largestRead = 0;
+  /// By how much files are shorter than they say.
+  std::uint64_t missing = 0;
+  /// Answers of holdsFile to come; afterwards it looks for the file.
+  std::vector<bool> nextAnswers;
+
+  void MsgBox(const std::string& text, std::int32_t style, const std::string& title) override {
+    if (boxesGoTo_) boxesGoTo_->MsgBox(text, style, title);
+  }
+  bool holdsFile(const std::string& path) override {
+    operate();
+    if (nextAnswers.empty()) return files.contains(path);
+    const bool answer = nextAnswers.front();
+    nextAnswers.erase(nextAnswers.begin());
+    return answer;
+  }
+  void removeFile(const std::string& path) override {
+    operate();
+    files.erase(path);
+  }
+  std::unique_ptr<File> openFile(const std::string& path, FileMode mode) override {
+    operate();
+    if (mode == FileMode::read && !files.contains(path)) throw Failure(53, "File not found");
+    if (mode == FileMode::write) files[path].clear();
+    return std::make_unique<MemoryFile>(*this, files[path]);
+  }
+
+ private:
+  class MemoryFile final : public File {
+   public:
+    MemoryFile(MemoryFiles& of, std::string& bytes) : of_(of), bytes_(bytes) { ++of_.open; }
+    ~MemoryFile() override { --of_.open; }
+    std::uint64_t size() override {
+      of_.operate();
+      return bytes_.size() + of_.missing;
+    }
+    std::size_t read(char* bytes, std::size_t count) override {
+      of_.operate();
+      of_.largestRead = std::max(of_.largestRead, count);
+      const std::size_t got = bytes_.copy(bytes, count, at_);
+      at_ += got;
+      return got;
+    }
+    void write(const char* bytes, std::size_t count) override {
+      of_.operate();
+      bytes_.append(bytes, count);
+    }
+    void close() override { of_.operate(); }
+
+   private:
+    MemoryFiles& of_;
+    std::string& bytes_;
+    std::size_t at_ = 0;
+  };
+
+  void operate() {
+    if (++operations == failing) throw Failure(57, "Device I/O error");
+  }
+
+  HeadlessApplication* boxesGoTo_ = nullptr;
+};
+
+}  // namespace norvane

@@ -1,0 +1,136 @@
+#include <filesystem>
+#include <fstream>
+#include <random>
+
+#include "FileTest.h"
+
+#include <nvlist/files/fileExists.h>
+#include <nvlist/files/windows1252.h>
+
+namespace norvane {
+namespace {
+
+class TextInput : public FileTest {
+ protected:
+  std::string pieces(const std::string& text, const Variant& delimiter) {
+    list.ItemsClear();
+    memory.files["text"] = text;
+    EXPECT_EQ(list.ListInput2("text", delimiter), 0);
+    std::string result;
+    for (int i = 0; i < list.ItemsCount(); ++i) result += "[" + item(i).Text + "]";
+    return result + events();
+  }
+};
+
+TEST_F(TextInput, SplitsAtTheDelimiter) {
+  EXPECT_EQ(pieces("a\r\nb\r\n", "\r\n"), "[a][b][]");
+  EXPECT_EQ(pieces("", ";"), "[]");
+  EXPECT_EQ(pieces("aXbxc", "x"), "[aXb][c]");
+  EXPECT_EQ(pieces("aaa", "aa"), "[][a]");
+  EXPECT_EQ(pieces("a1b", 1), "[a][b]");
+  EXPECT_EQ(pieces("a b", ""), "[a b]");
+  EXPECT_EQ(pieces(std::string("\xFF\0\u20ac;", 6), ";"), std::string("[\xFF\0\u20ac][]", 9));
+  const Variant none = Ref<Object>(makeRef<Object>());
+  EXPECT_EQ(pieces("a", none), "13 ListInput2");
+  silent();
+  EXPECT_EQ(pieces("a", none), "input! ");
+}
+
+TEST_F(TextInput, AddsToTheListAndLeavesBothFlagsOff) {
+  add({"old"});
+  list.AutoRedraw(true);
+  headless.surface().Cls();
+  memory.files["text"] = "a,b";
+  list.ListInput2("text", ",");
+  EXPECT_EQ(texts(), "old a b");
+  EXPECT_FALSE(list.AutoRedraw());
+  EXPECT_FALSE(list.AutoCheckScroll());
+  EXPECT_NE(headless.picture().find("old"), std::string::npos);
+  list.ListInput2("missing", ",");
+  EXPECT_EQ(events(), "input! ");
+  memory.nextAnswers = {true};
+  list.ListInput2("missing", ",");
+  EXPECT_EQ(texts() + events(), "old a b 53 TextRead");
+}
+
+TEST(Windows1252, BringsEveryByteBack) {
+  std::string bytes, back;
+  for (int number = 0; number < 256; ++number) bytes += static_cast<char>(number);
+  windows1252::append(back, windows1252::textOf(bytes));
+  EXPECT_EQ(back, bytes);
+  EXPECT_EQ(windows1252::textOf("0123456\x80 01234567\x8A\x9F\xFF"),
+            "0123456\u20ac 01234567\u0160\u0178\u00ff");
+  back.clear();
+  windows1252::append(back, "\u0100 \u0080 \xE4 \U0001F600.");
+  EXPECT_EQ(back, "? ? ? ?.");
+}
+
+/// Real files in a folder of their own.
+class Disk : public ListTest, protected __nvList {
+ protected:
+  Disk() {
+    std::filesystem::create_directories(folder_ / "folder");
+    list.addSink(*this);
+  }
+  ~Disk() override {
+    list.removeSink(*this);
+    std::filesystem::remove_all(folder_);
+  }
+  void ErrorListSave() override { ++failures; }
+  void ErrorListInput() override { ++failures; }
+
+  std::string at(const std::string& name) { return (folder_ / name).string(); }
+
+  int failures = 0;
+
+ private:
+  const std::filesystem::path folder_ =
+      std::filesystem::temp_directory_path() / ("nvlist" + std::to_string(std::random_device()()));
+};
+
+TEST_F(Disk, FindsFilesByWildcards) {
+  for (const char* name : {"one.txt", "two.list", "bare", "#[1]", "\u00fc.nvl"})
+    std::ofstream(at(name)) << name;
+  for (const char* there : {"one.txt", "*.txt", "?ne.txt", "*.*", "bare.*", "folder", "fol*",
+                            "#[1]", "#[?]", "?.nvl", "\u00fc.*"})
+    EXPECT_TRUE(FileExists(at(there))) << there;
+  for (const char* missing :
+       {"one", "?one.txt", "*.doc", "bare.?", "folder/", "folder/*", "none/*", "[#][1]*", "2*"})
+    EXPECT_FALSE(FileExists(at(missing))) << missing;
+  EXPECT_FALSE(FileExists(""));
+  EXPECT_TRUE(FileExists("*"));
+  EXPECT_EQ(reports(), "");
+}
+
+TEST_F(Disk, HoldsTheList) {
+  add({"a", "\u00e4"});
+  const std::string path = at("\u00e4.nvl");
+  list.ListSave(path, true);
+  list.ItemsClear();
+  list.ListInput(path, true);
+  EXPECT_EQ(texts(), "a \u00e4");
+  list.ListSave(path);
+  EXPECT_EQ(std::filesystem::file_size(path), 7U + 5 + 5);
+  EXPECT_EQ(failures, 0);
+}
+
+TEST_F(Disk, RefusesWhatIsNoFile) {
+  list.ItemsAdd("a");
+  for (const std::string& path : {at("folder"), at("none/file"), std::string()})
+    list.ListSave(path);
+  for (const std::string& path : {at("folder"), at("fold*")}) list.ListInput(path);
+  EXPECT_EQ(failures, 5);
+  EXPECT_TRUE(std::filesystem::is_directory(at("folder")));
+  // A device is neither deleted nor read without end.
+  if (std::filesystem::exists("/dev/full")) {
+    std::filesystem::create_symlink("/dev/full", at("device"));
+    list.ListSave(at("device"));
+    list.ListInput(at("device"));
+    EXPECT_EQ(failures, 7);
+    EXPECT_TRUE(std::filesystem::is_symlink(at("device")));
+  }
+  EXPECT_EQ(reports(), "");
+}
+
+}  // namespace
+}  // namespace norvane

@@ -1,0 +1,81 @@
+// Reads random files in every way in which a list reads files. What could be read must come back
+// from the file it is then saved to.
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+
+#include <nvlist/objects/Error.h>
+#include <nvlist/platform/headless/HeadlessList.h>
+
+#include "../files/MemoryFiles.h"
+
+namespace {
+
+using namespace norvane;
+
+class Host final : public __nvList {
+ public:
+  int failures = 0;
+  void ErrorListInput() override { ++failures; }
+  void ErrorListSave() override { ++failures; }
+};
+
+void require(bool condition) {
+  if (!condition) std::abort();
+}
+
+/// Whether two items are the same in all that a list file keeps. A colour that is neither "def" nor
+/// a plain number is changed by it.
+void requireSame(const ListItem& a, const ListItem& b) {
+  const auto sameColour = [](const Variant& x, const Variant& y) {
+    const bool isKept = isDefaultMark(x) || (x.type() == Variant::Type::Int32 && x.toInt32() >= 0 &&
+                                             x.toInt32() <= 0xFFFFFF);
+    return !isKept || x.toText() == y.toText();
+  };
+  require(a.Text == b.Text && a.Key == b.Key.view() && a.Tag.toText() == b.Tag.toText());
+  require(a.Checked == b.Checked && a.AllowEdit == b.AllowEdit && a.Enabled == b.Enabled);
+  require(a.Selected == b.Selected && a.Bold == b.Bold && a.Italic == b.Italic);
+  require(a.Underline == b.Underline && a.Alignment % 256 == b.Alignment % 256);
+  require(sameColour(a.ForeColor, b.ForeColor) && sameColour(a.BackColor, b.BackColor));
+  require(sameColour(a.ForeColorSelect, b.ForeColorSelect));
+  require(sameColour(a.BackColorSelect, b.BackColorSelect));
+  require(sameColour(a.ForeColorDis, b.ForeColorDis) && sameColour(a.BackColorDis, b.BackColorDis));
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  if (size == 0) return 0;
+  const int way = data[0];
+  MemoryFiles files;
+  HeadlessList headless(50, 50);
+  nvList& list = headless.list();
+  Host host;
+  list.addSink(host);
+  Error().SilentError((way & 1) != 0);
+
+  files.files["in"].assign(reinterpret_cast<const char*>(data) + 1, size - 1);
+  list.ListFileItemsCount("in");
+  if (way & 2)
+    list.ListInput2("in", "\n");
+  else
+    list.ListInput("in", (way & 4) != 0);
+  require(files.open == 0 && host.failures <= 1);
+
+  const bool couldRead = host.failures == 0;
+  list.ListSave("out", true);
+  if (couldRead) require(host.failures == 0);
+  HeadlessList again(50, 50);
+  if (couldRead && !(way & 2)) {
+    again.list().addSink(host);
+    again.list().ListInput("out", true);
+    require(host.failures == 0 && again.list().ItemsCount() == list.ItemsCount());
+    for (std::int32_t i = 0; i < list.ItemsCount(); ++i)
+      requireSame(list.state().Items.at(i), again.list().state().Items.at(i));
+  }
+  require(files.open == 0);
+  require(files.largestRead <= std::max(files.files["in"].size(), files.files["out"].size()));
+  return 0;
+}
