@@ -4,8 +4,6 @@
 
 #include <nvlist/platform/qt/QtPicture.h>
 
-#include "StandInInput.h"
-
 namespace gallery {
 
 Chooser::Chooser(const std::vector<Page>& pages) {
@@ -26,10 +24,6 @@ Chooser::Chooser(const std::vector<Page>& pages) {
   own.AutoRedraw(true);
 
   own.addSink(*this);
-  onPropertyChanged = [this](std::string_view name) {
-    if (name == "ListIndex") tell();
-  };
-  StandInInput::serve(*this);
 }
 
 Chooser::~Chooser() { list().removeSink(*this); }

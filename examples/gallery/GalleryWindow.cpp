@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "StandInInput.h"
 
 using norvane::nvList;
 using norvane::NvListWidget;
@@ -188,7 +187,6 @@ Stage* GalleryWindow::makeStage(int index) {
   for (NvListWidget* widget : stage->lists()) {
     widget->installEventFilter(this);
     widget->onPropertyChanged = [this](std::string_view) { refreshSoon(); };
-    StandInInput::serve(*widget);
   }
   stack_->addWidget(stage);
   return stage;
