@@ -10,6 +10,7 @@ namespace gallery {
 namespace {
 
 constexpr int mostLines = 5000;
+constexpr auto mouseMove = "MouseMove";
 
 QString shown(const norvane::Variant& value) {
   if (value.type() == norvane::Variant::Type::Object) return value.object() ? "object" : "none";
@@ -40,7 +41,6 @@ class EventLog::Failures final : public norvane::ErrorHandler {
 
 EventLog::EventLog() : failures_(std::make_shared<Failures>(*this)) {
   setReadOnly(true);
-  setLineWrapMode(NoWrap);
   setMaximumBlockCount(mostLines);
   setPlaceholderText("Events appear here, and what is set in the sheets.");
   norvane::QtApplication::ensure();
@@ -50,26 +50,29 @@ EventLog::EventLog() : failures_(std::make_shared<Failures>(*this)) {
 EventLog::~EventLog() { norvane::Application::inUse().registerErrorHandler(nullptr); }
 
 void EventLog::write(const QString& line) {
-  isMoveLast_ = false;
-  appendPlainText(line);
+  const bool isRepeated = line == lastLine_ && !document()->isEmpty();
+  times_ = isRepeated ? times_ + 1 : 1;
+  if (isRepeated) removeLastLine();
+  lastLine_ = line;
+  appendPlainText(isRepeated ? QString("%1   (%2 times)").arg(line).arg(times_) : line);
 }
 
 void EventLog::removeLastLine() {
   QTextCursor cursor(document()->lastBlock());
   cursor.select(QTextCursor::BlockUnderCursor);
   cursor.removeSelectedText();
+  lastLine_.clear();
 }
 
 void EventLog::MouseMove(norvane::Variant& TextUnderMouse, std::int32_t& IndexUnderMouse,
                          std::int16_t& Button, std::int16_t& Shift, float& X, float& Y) {
-  if (isMoveLast_) removeLastLine();
-  event("MouseMove", {{"TextUnderMouse", TextUnderMouse},
-                      {"IndexUnderMouse", IndexUnderMouse},
-                      {"Button", Button},
-                      {"Shift", Shift},
-                      {"X", X},
-                      {"Y", Y}});
-  isMoveLast_ = true;
+  if (lastLine_.startsWith(mouseMove)) removeLastLine();
+  event(mouseMove, {{"TextUnderMouse", TextUnderMouse},
+                    {"IndexUnderMouse", IndexUnderMouse},
+                    {"Button", Button},
+                    {"Shift", Shift},
+                    {"X", X},
+                    {"Y", Y}});
 }
 
 void EventLog::OLEDragDrop(DataObject& Data, std::int32_t& Effect, std::int16_t& Button,

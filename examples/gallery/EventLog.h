@@ -10,7 +10,8 @@
 namespace gallery {
 
 /// A running log, one line an entry: the events of the lists it listens to with their arguments,
-/// every failure of the program's lists, and what others write. It has to outlive those lists.
+/// every failure of the program's lists, and what others write. Entries that come again and again
+/// are counted in one line. It has to outlive those lists.
 class EventLog : public QPlainTextEdit, public norvane::__nvList {
  public:
   using DataObject = norvane::Ref<norvane::Object>;
@@ -78,7 +79,8 @@ class EventLog : public QPlainTextEdit, public norvane::__nvList {
   void event(const char* name, std::initializer_list<Argument> arguments = {});
   void removeLastLine();
 
-  bool isMoveLast_ = false;  ///< whether the last line is a MouseMove
+  QString lastLine_;
+  int times_ = 0;  ///< how often it came in a row
   std::shared_ptr<Failures> failures_;
 };
 
