@@ -39,6 +39,14 @@ constexpr Switch switches[] = {
      &nvList::MultiSelect, &nvList::MultiSelect},
 };
 
+/// The mark of the selection travels with its item and ListIndex does not: it is sent after it.
+void sort(nvList& list, norvane::cSortMode mode) {
+  list.Sort(mode);
+  if (list.MultiSelect() || list.ListIndex() < 0) return;
+  for (std::int32_t i = 0; i < list.ItemsCount(); ++i)
+    if (list.state().Items.at(i).Selected) return list.ListIndex(i);
+}
+
 bool hasItems(nvList& list) { return list.ItemsCount() > 0; }
 QString moving(const char* name, nvList& list) {
   return QString("%1 %2, 1").arg(name).arg(list.ListIndex());
@@ -46,9 +54,9 @@ QString moving(const char* name, nvList& list) {
 
 const Command commands[] = {
     {"A-Z", "Sort ascending", hasItems, [](nvList&) { return QString("Sort cAscending"); },
-     [](nvList& list) { list.Sort(norvane::cAscending); }},
+     [](nvList& list) { sort(list, norvane::cAscending); }},
     {"Z-A", "Sort descending", hasItems, [](nvList&) { return QString("Sort cDescending"); },
-     [](nvList& list) { list.Sort(norvane::cDescending); }},
+     [](nvList& list) { sort(list, norvane::cDescending); }},
     {"\u25B2", "Move the current item up", [](nvList& list) { return list.ListIndex() > 0; },
      [](nvList& list) { return moving("MoveItemUp", list); },
      [](nvList& list) { list.MoveItemUp(list.ListIndex(), 1); }},
