@@ -30,10 +30,12 @@ namespace {
 constexpr int wheelWidth = 124;
 
 constexpr Switch switches[] = {
-    {"Edit", "AllowEdit", "Press the current row again, or twice, to edit its text",
+    {"Edit", "AllowEdit",
+     "Press the current row again, or twice, to edit its text.\n"
+     "The box counts rows as high as the font: with a MinHeight it stands off its row.",
      &nvList::AllowEdit, &nvList::AllowEdit},
     {"Move", "AllowItemMoving",
-     "Drag an item to another place; a press without a drag takes it to the top",
+     "Drag an item to another place.\nA press without a drag takes it to the top.",
      &nvList::AllowItemMoving, &nvList::AllowItemMoving},
     {"Several", "MultiSelect", "Select more items with Ctrl, and ranges with Shift",
      &nvList::MultiSelect, &nvList::MultiSelect},
