@@ -232,7 +232,7 @@ void GalleryWindow::save() {
   if (path.isEmpty()) return;
   try {
     saveSettings(subject_->list(), path);
-    log_->write("Saved " + path);
+    log_->write("Save " + path);
   } catch (const QString& message) {
     QMessageBox::warning(this, "Save", message);
   }
@@ -242,9 +242,8 @@ void GalleryWindow::load() {
   const QString path = QFileDialog::getOpenFileName(this, "Load the properties of the list");
   if (path.isEmpty()) return;
   try {
-    const QStringList remarks = loadSettings(subject_->list(), path);
-    for (const QString& remark : remarks) log_->write(remark);
-    log_->write("Read " + path);
+    log_->write("Load " + path);
+    for (const QString& remark : loadSettings(subject_->list(), path)) log_->write(remark);
   } catch (const QString& message) {
     QMessageBox::warning(this, "Load", message);
   }
