@@ -30,6 +30,8 @@ Chooser::~Chooser() { list().removeSink(*this); }
 
 /// Later, as the list is in the middle of its own work.
 void Chooser::tell() {
+  // A drag past the bottom of a list as short as this one leaves its bar below 0.
+  list().CheckScroll();
   QTimer::singleShot(0, this, [this] {
     if (onChosen && list().ListIndex() >= 0) onChosen(list().ListIndex());
   });
