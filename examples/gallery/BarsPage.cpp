@@ -4,6 +4,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QScrollArea>
 #include <QVBoxLayout>
 #include <memory>
 
@@ -199,13 +200,22 @@ QWidget* liveBars() {
 
 }  // namespace
 
+/// Scrolls where the window is small, so that it makes no demands on the window.
 void fillBars(Stage& stage) {
-  auto* column = new QVBoxLayout(&stage);
+  auto* content = new QWidget;
+  auto* column = new QVBoxLayout(content);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(8);
   column->addWidget(verticalSpecimens());
   column->addWidget(horizontalSpecimens());
   column->addWidget(liveBars(), 1);
+  auto* area = new QScrollArea;
+  area->setFrameShape(QFrame::NoFrame);
+  area->setWidgetResizable(true);
+  area->setWidget(content);
+  auto* whole = new QVBoxLayout(&stage);
+  whole->setContentsMargins(0, 0, 0, 0);
+  whole->addWidget(area);
 }
 
 }  // namespace gallery
