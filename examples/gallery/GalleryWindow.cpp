@@ -116,10 +116,12 @@ void GalleryWindow::layOut() {
   columns->addWidget(choice);
   columns->addWidget(pagePanel(), 1);
 
-  sheets_ = sheetPanels();
-  auto* left = splitter(Qt::Vertical, upper, logPanel(), {520, 120}, 0);
+  QWidget* log = logPanel();
+  QWidget* sheets = sheetPanels();
+  aboutLists_ = {tools_, log, sheets};
+  auto* left = splitter(Qt::Vertical, upper, log, {520, 120}, 0);
   auto* whole =
-      splitter(Qt::Horizontal, left, sheets_, {initialSize.width() - sheetWidth, sheetWidth}, 0);
+      splitter(Qt::Horizontal, left, sheets, {initialSize.width() - sheetWidth, sheetWidth}, 0);
   auto* frame = new QWidget;
   auto* margins = new QVBoxLayout(frame);
   margins->setContentsMargins(10, 4, 10, 4);
@@ -194,8 +196,7 @@ void GalleryWindow::showPage(int index) {
   setWindowTitle(title + " - nvList");
   chooser_->list().ListIndex(index);
   const bool hasLists = !stage->lists().empty();
-  sheets_->setVisible(hasLists);
-  tools_->setVisible(hasLists);
+  for (QWidget* part : aboutLists_) part->setVisible(hasLists);
   setSubject(hasLists ? stage->lists().front() : nullptr);
 }
 

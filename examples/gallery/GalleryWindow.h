@@ -60,7 +60,7 @@ class GalleryWindow : public QMainWindow {
   Sheet* itemSheet_;
   QLabel* listCaption_;
   QLabel* itemCaption_;
-  QWidget* sheets_;
+  QList<QWidget*> aboutLists_;  ///< what is of no use on a page without a list
   QLabel* rows_;
 };
 
