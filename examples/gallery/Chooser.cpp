@@ -4,8 +4,6 @@
 
 #include <nvlist/platform/qt/QtPicture.h>
 
-#include "StandInInput.h"
-
 namespace gallery {
 
 Chooser::Chooser(const std::vector<Page>& pages) {
@@ -26,16 +24,14 @@ Chooser::Chooser(const std::vector<Page>& pages) {
   own.AutoRedraw(true);
 
   own.addSink(*this);
-  onPropertyChanged = [this](std::string_view name) {
-    if (name == "ListIndex") tell();
-  };
-  StandInInput::serve(*this);
 }
 
 Chooser::~Chooser() { list().removeSink(*this); }
 
 /// Later, as the list is in the middle of its own work.
 void Chooser::tell() {
+  // A drag past the bottom of a list as short as this one leaves its bar below 0.
+  list().CheckScroll();
   QTimer::singleShot(0, this, [this] {
     if (onChosen && list().ListIndex() >= 0) onChosen(list().ListIndex());
   });

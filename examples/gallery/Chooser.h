@@ -1,7 +1,6 @@
 #pragma once
 
 #include <functional>
-#include <string_view>
 #include <vector>
 
 #include <nvlist/platform/qt/NvListWidget.h>
@@ -16,11 +15,12 @@ class Chooser : public norvane::NvListWidget, private norvane::__nvList {
   explicit Chooser(const std::vector<Page>& pages);
   ~Chooser() override;
 
-  /// Told of the index of a page some time after it became the current item.
+  /// Told of the index of the current page after each click, and after each key let go.
   std::function<void(int index)> onChosen;
 
  private:
-  void Click() override { tell(); }
+  void MouseUp(std::int16_t&, std::int16_t&, float&, float&) override { tell(); }
+  void KeyUp(std::int16_t&, std::int16_t&) override { tell(); }
   void tell();
 };
 

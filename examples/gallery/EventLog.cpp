@@ -1,6 +1,7 @@
 #include "EventLog.h"
 
 #include <QStringList>
+#include <QTextBlock>
 
 #include <nvlist/platform/Application.h>
 #include <nvlist/platform/qt/QtApplication.h>
@@ -9,6 +10,13 @@ namespace gallery {
 namespace {
 
 constexpr int mostLines = 5000;
+constexpr auto mouseMove = "MouseMove";
+
+QString shown(const norvane::Variant& value) {
+  if (value.type() == norvane::Variant::Type::Object) return value.object() ? "object" : "none";
+  const QString text = QString::fromStdString(value.toText());
+  return value.isText() ? '"' + text + '"' : text;
+}
 
 }  // namespace
 
@@ -33,7 +41,6 @@ class EventLog::Failures final : public norvane::ErrorHandler {
 
 EventLog::EventLog() : failures_(std::make_shared<Failures>(*this)) {
   setReadOnly(true);
-  setLineWrapMode(NoWrap);
   setMaximumBlockCount(mostLines);
   setPlaceholderText("Events appear here, and what is set in the sheets.");
   norvane::QtApplication::ensure();
@@ -42,13 +49,58 @@ EventLog::EventLog() : failures_(std::make_shared<Failures>(*this)) {
 
 EventLog::~EventLog() { norvane::Application::inUse().registerErrorHandler(nullptr); }
 
-void EventLog::write(const QString& line) { appendPlainText(line); }
+void EventLog::write(const QString& line) {
+  const bool isRepeated = line == lastLine_ && !document()->isEmpty();
+  times_ = isRepeated ? times_ + 1 : 1;
+  if (isRepeated) removeLastLine();
+  lastLine_ = line;
+  appendPlainText(isRepeated ? QString("%1   (%2 times)").arg(line).arg(times_) : line);
+}
+
+void EventLog::removeLastLine() {
+  QTextCursor cursor(document()->lastBlock());
+  cursor.select(QTextCursor::BlockUnderCursor);
+  cursor.removeSelectedText();
+  lastLine_.clear();
+}
+
+void EventLog::MouseMove(norvane::Variant& TextUnderMouse, std::int32_t& IndexUnderMouse,
+                         std::int16_t& Button, std::int16_t& Shift, float& X, float& Y) {
+  if (lastLine_.startsWith(mouseMove)) removeLastLine();
+  event(mouseMove, {{"TextUnderMouse", TextUnderMouse},
+                    {"IndexUnderMouse", IndexUnderMouse},
+                    {"Button", Button},
+                    {"Shift", Shift},
+                    {"X", X},
+                    {"Y", Y}});
+}
+
+void EventLog::OLEDragDrop(DataObject& Data, std::int32_t& Effect, std::int16_t& Button,
+                           std::int16_t& Shift, float& X, float& Y) {
+  event("OLEDragDrop", {{"Data", Data},
+                        {"Effect", Effect},
+                        {"Button", Button},
+                        {"Shift", Shift},
+                        {"X", X},
+                        {"Y", Y}});
+}
+
+void EventLog::OLEDragOver(DataObject& Data, std::int32_t& Effect, std::int16_t& Button,
+                           std::int16_t& Shift, float& X, float& Y, std::int16_t& State) {
+  event("OLEDragOver", {{"Data", Data},
+                        {"Effect", Effect},
+                        {"Button", Button},
+                        {"Shift", Shift},
+                        {"X", X},
+                        {"Y", Y},
+                        {"State", State}});
+}
 
 void EventLog::event(const char* name, std::initializer_list<Argument> arguments) {
-  QStringList shown;
+  QStringList texts;
   for (const Argument& argument : arguments)
-    shown << QString("%1 = %2").arg(argument.name, QString::fromStdString(argument.value.toText()));
-  write(shown.isEmpty() ? QString(name) : QString("%1   %2").arg(name, shown.join(", ")));
+    texts << QString("%1 = %2").arg(argument.name, shown(argument.value));
+  write(texts.isEmpty() ? QString(name) : QString("%1   %2").arg(name, texts.join(", ")));
 }
 
 }  // namespace gallery

@@ -10,18 +10,60 @@
 namespace gallery {
 
 /// A running log, one line an entry: the events of the lists it listens to with their arguments,
-/// every failure of the program's lists, and what others write. It has to outlive those lists.
+/// every failure of the program's lists, and what others write. Entries that come again and again
+/// are counted in one line. It has to outlive those lists.
 class EventLog : public QPlainTextEdit, public norvane::__nvList {
  public:
+  using DataObject = norvane::Ref<norvane::Object>;
+
   EventLog();
   ~EventLog() override;
 
   void write(const QString& line);
 
+  // The events of the list, all of them.
+
   void Click() override { event("Click"); }
   void DblClick() override { event("DblClick"); }
   void ItemCheck(std::int32_t& Item, norvane::Boolean& Cancel) override {
     event("ItemCheck", {{"Item", Item}, {"Cancel", Cancel}});
+  }
+  void MouseUp(std::int16_t& Button, std::int16_t& Shift, float& X, float& Y) override {
+    event("MouseUp", {{"Button", Button}, {"Shift", Shift}, {"X", X}, {"Y", Y}});
+  }
+  /// The last one of several in a row is all that is kept.
+  void MouseMove(norvane::Variant& TextUnderMouse, std::int32_t& IndexUnderMouse,
+                 std::int16_t& Button, std::int16_t& Shift, float& X, float& Y) override;
+  void MouseDown(std::int16_t& Button, std::int16_t& Shift, float& X, float& Y) override {
+    event("MouseDown", {{"Button", Button}, {"Shift", Shift}, {"X", X}, {"Y", Y}});
+  }
+  void ErrorListInput() override { event("ErrorListInput"); }
+  void ErrorListSave() override { event("ErrorListSave"); }
+  void ListSaving(norvane::Variant& Index) override { event("ListSaving", {{"Index", Index}}); }
+  void ListReading(norvane::Variant& Index) override { event("ListReading", {{"Index", Index}}); }
+  void Scroll() override { event("Scroll"); }
+  void KeyDown(std::int16_t& KeyCode, std::int16_t& Shift) override {
+    event("KeyDown", {{"KeyCode", KeyCode}, {"Shift", Shift}});
+  }
+  void KeyPress(std::int16_t& KeyAscii) override { event("KeyPress", {{"KeyAscii", KeyAscii}}); }
+  void KeyUp(std::int16_t& KeyCode, std::int16_t& Shift) override {
+    event("KeyUp", {{"KeyCode", KeyCode}, {"Shift", Shift}});
+  }
+  void OLECompleteDrag(std::int32_t& Effect) override {
+    event("OLECompleteDrag", {{"Effect", Effect}});
+  }
+  void OLEDragDrop(DataObject& Data, std::int32_t& Effect, std::int16_t& Button,
+                   std::int16_t& Shift, float& X, float& Y) override;
+  void OLEDragOver(DataObject& Data, std::int32_t& Effect, std::int16_t& Button,
+                   std::int16_t& Shift, float& X, float& Y, std::int16_t& State) override;
+  void OLEGiveFeedback(std::int32_t& Effect, norvane::Boolean& DefaultCursors) override {
+    event("OLEGiveFeedback", {{"Effect", Effect}, {"DefaultCursors", DefaultCursors}});
+  }
+  void OLESetData(DataObject& Data, std::int16_t& DataFormat) override {
+    event("OLESetData", {{"Data", Data}, {"DataFormat", DataFormat}});
+  }
+  void OLEStartDrag(DataObject& Data, std::int32_t& AllowedEffects) override {
+    event("OLEStartDrag", {{"Data", Data}, {"AllowedEffects", AllowedEffects}});
   }
   void ErrorWrongIndex(norvane::Variant& Index) override {
     event("ErrorWrongIndex", {{"Index", Index}});
@@ -35,7 +77,10 @@ class EventLog : public QPlainTextEdit, public norvane::__nvList {
   };
 
   void event(const char* name, std::initializer_list<Argument> arguments = {});
+  void removeLastLine();
 
+  QString lastLine_;
+  int times_ = 0;  ///< how often it came in a row
   std::shared_ptr<Failures> failures_;
 };
 

@@ -1,8 +1,10 @@
 #include "GalleryWindow.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMessageBox>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QToolButton>
@@ -10,7 +12,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "StandInInput.h"
+#include "Settings.h"
 
 using norvane::nvList;
 using norvane::NvListWidget;
@@ -18,7 +20,7 @@ using norvane::NvListWidget;
 namespace gallery {
 namespace {
 
-constexpr QSize initialSize(1000, 640);
+constexpr QSize initialSize(1000, 700);
 constexpr int chooserWidth = 150;
 constexpr int sheetWidth = 326;
 constexpr int captionHeight = 24;
@@ -30,15 +32,15 @@ QToolButton* button(const QString& text) {
   return result;
 }
 
-/// A part of the window below its caption, which may have a button at its right.
-QWidget* panel(QLabel* caption, QWidget* content, QWidget* extra = nullptr) {
+/// A part of the window below its caption, which may have buttons at its right.
+QWidget* panel(QLabel* caption, QWidget* content, const QList<QToolButton*>& buttons = {}) {
   auto* result = new QWidget;
   auto* column = new QVBoxLayout(result);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(2);
   auto* top = new QHBoxLayout;
   top->addWidget(caption, 1);
-  if (extra) top->addWidget(extra);
+  for (QToolButton* button : buttons) top->addWidget(button);
   caption->setFixedHeight(captionHeight);
   // A caption too long for its place is cut and does not widen the window.
   caption->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -90,6 +92,7 @@ GalleryWindow::GalleryWindow(std::vector<Page> pages)
       chooser_(new Chooser(pages_)),
       stack_(new QStackedWidget),
       about_(new QLabel),
+      tools_(new Tools),
       listSheet_(new Sheet(propertiesOfTheList())),
       itemSheet_(new Sheet(propertiesOfItems())),
       listCaption_(new QLabel),
@@ -113,11 +116,12 @@ void GalleryWindow::layOut() {
   columns->addWidget(choice);
   columns->addWidget(pagePanel(), 1);
 
-  auto* left = splitter(Qt::Vertical, upper, logPanel(), {460, 120}, 0);
-  auto* right = splitter(Qt::Vertical, panel(listCaption_, listSheet_),
-                         panel(itemCaption_, itemSheet_), {360, 220}, 0);
+  QWidget* log = logPanel();
+  QWidget* sheets = sheetPanels();
+  aboutLists_ = {tools_, log, sheets};
+  auto* left = splitter(Qt::Vertical, upper, log, {520, 120}, 0);
   auto* whole =
-      splitter(Qt::Horizontal, left, right, {initialSize.width() - sheetWidth, sheetWidth}, 0);
+      splitter(Qt::Horizontal, left, sheets, {initialSize.width() - sheetWidth, sheetWidth}, 0);
   auto* frame = new QWidget;
   auto* margins = new QVBoxLayout(frame);
   margins->setContentsMargins(10, 4, 10, 4);
@@ -132,17 +136,38 @@ QWidget* GalleryWindow::pagePanel() {
   QToolButton* again = button("Start over");
   again->setToolTip("Fill the page anew, with the settings it starts from");
   connect(again, &QToolButton::clicked, this, [this] { startOver(); });
-  return panel(about_, stack_, again);
+  auto* content = new QWidget;
+  auto* column = new QVBoxLayout(content);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(2);
+  column->addWidget(tools_);
+  column->addWidget(stack_, 1);
+  return panel(about_, content, {again});
+}
+
+QWidget* GalleryWindow::sheetPanels() {
+  QToolButton* saving = button("Save...");
+  saving->setToolTip("Save these properties into a file");
+  connect(saving, &QToolButton::clicked, this, [this] { save(); });
+  QToolButton* loading = button("Load...");
+  loading->setToolTip("Set these properties to what a file says");
+  connect(loading, &QToolButton::clicked, this, [this] { load(); });
+  return splitter(Qt::Vertical, panel(listCaption_, listSheet_, {saving, loading}),
+                  panel(itemCaption_, itemSheet_), {400, 240}, 0);
 }
 
 QWidget* GalleryWindow::logPanel() {
   QToolButton* clear = button("Clear");
   connect(clear, &QToolButton::clicked, log_, [this] { log_->clear(); });
-  return panel(new QLabel("Events"), log_, clear);
+  return panel(new QLabel("Events"), log_, {clear});
 }
 
 void GalleryWindow::connectParts() {
   chooser_->onChosen = [this](int index) { showPage(index); };
+  tools_->onUsed = [this](const QString& what) {
+    log_->write(what);
+    refreshSoon();
+  };
   listSheet_->onEdited = [this](const char* name, const QString& value) {
     log_->write(QString("%1 = %2").arg(name, value));
     refreshSoon();
@@ -170,7 +195,9 @@ void GalleryWindow::showPage(int index) {
       stage->windowTitle().isEmpty() ? QString(pages_[index].title) : stage->windowTitle();
   setWindowTitle(title + " - nvList");
   chooser_->list().ListIndex(index);
-  setSubject(stage->lists().front());
+  const bool hasLists = !stage->lists().empty();
+  for (QWidget* part : aboutLists_) part->setVisible(hasLists);
+  setSubject(hasLists ? stage->lists().front() : nullptr);
 }
 
 QPixmap GalleryWindow::picture() {
@@ -188,7 +215,6 @@ Stage* GalleryWindow::makeStage(int index) {
   for (NvListWidget* widget : stage->lists()) {
     widget->installEventFilter(this);
     widget->onPropertyChanged = [this](std::string_view) { refreshSoon(); };
-    StandInInput::serve(*widget);
   }
   stack_->addWidget(stage);
   return stage;
@@ -199,6 +225,29 @@ void GalleryWindow::startOver() {
   setSubject(nullptr);
   delete std::exchange(stages_[index], nullptr);
   showPage(index);
+}
+
+void GalleryWindow::save() {
+  const QString path = QFileDialog::getSaveFileName(this, "Save the properties of the list",
+                                                    subject_->objectName() + ".txt");
+  if (path.isEmpty()) return;
+  try {
+    saveSettings(subject_->list(), path);
+    log_->write("Save " + path);
+  } catch (const QString& message) {
+    QMessageBox::warning(this, "Save", message);
+  }
+}
+
+void GalleryWindow::load() {
+  const QString path = QFileDialog::getOpenFileName(this, "Load the properties of the list");
+  if (path.isEmpty()) return;
+  try {
+    log_->write("Load " + path);
+    for (const QString& remark : loadSettings(subject_->list(), path)) log_->write(remark);
+  } catch (const QString& message) {
+    QMessageBox::warning(this, "Load", message);
+  }
 }
 
 void GalleryWindow::setSubject(NvListWidget* widget) {
@@ -221,6 +270,8 @@ void GalleryWindow::refresh() {
   if (item.item < 0) item.widget = nullptr;
   listSheet_->show(list);
   itemSheet_->show(item);
+  tools_->show(list);
+  rows_->clear();
   if (!subject_) return;
   listCaption_->setText("Properties of " + subject_->objectName());
   itemCaption_->setText(captionOf(item));

@@ -8,14 +8,15 @@
 #include "EventLog.h"
 #include "Pages.h"
 #include "Sheet.h"
+#include "Tools.h"
 
 class QLabel;
 class QStackedWidget;
 
 namespace gallery {
 
-/// The pages at the left, the list of one in the middle, the sheets of its properties at the right,
-/// and the log of what happens below.
+/// The pages at the left, the lists of one in the middle with a row of tools, the sheets of their
+/// properties at the right, and the log of what happens below.
 class GalleryWindow : public QMainWindow {
  public:
   explicit GalleryWindow(std::vector<Page> pages);
@@ -34,9 +35,12 @@ class GalleryWindow : public QMainWindow {
   void layOut();
   QWidget* pagePanel();
   QWidget* logPanel();
+  QWidget* sheetPanels();
   void connectParts();
   Stage* makeStage(int index);
   void startOver();
+  void save();
+  void load();
   void setSubject(norvane::NvListWidget* widget);
   void refreshSoon();
   void refresh();
@@ -51,10 +55,12 @@ class GalleryWindow : public QMainWindow {
   Chooser* chooser_;
   QStackedWidget* stack_;
   QLabel* about_;
+  Tools* tools_;
   Sheet* listSheet_;
   Sheet* itemSheet_;
   QLabel* listCaption_;
   QLabel* itemCaption_;
+  QList<QWidget*> aboutLists_;  ///< what is of no use on a page without a list
   QLabel* rows_;
 };
 

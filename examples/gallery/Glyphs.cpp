@@ -87,6 +87,16 @@ void palette(QPainter& on) {
   box(on, {8, 8, 7, 7}, QColor(0x6E, 0x36, 0x78), QColor(0x9B, 0x4F, 0xA8));
 }
 
+void scrollBar(QPainter& on) {
+  const QColor blue(0xC2, 0xD3, 0xFC);
+  box(on, {5, 0, 7, 16}, edge, QColor(0xF5, 0xF4, 0xF0));
+  box(on, {5, 0, 7, 5}, edge, blue);
+  box(on, {5, 11, 7, 5}, edge, blue);
+  box(on, {5, 5, 7, 4}, ink, downwards(paper, blue));
+  stroke(on, ink, 1, {{7.3, 3}, {8.5, 1.8}, {9.7, 3}});
+  stroke(on, ink, 1, {{7.3, 13}, {8.5, 14.2}, {9.7, 13}});
+}
+
 void ticks(QPainter& on) {
   const QColor frame(0x18, 0x52, 0x84);
   for (const double top : {1.0, 9.0}) {

@@ -17,6 +17,7 @@ QImage drawn(const Glyph& glyph, int size);
 // Pages.
 void calendar(QPainter& on);
 void palette(QPainter& on);
+void scrollBar(QPainter& on);
 void ticks(QPainter& on);
 
 // Files.

@@ -16,11 +16,16 @@ using norvane::Picture;
 namespace gallery {
 namespace {
 
-Colour hostColour(QRgb rgb) { return qRed(rgb) | qGreen(rgb) << 8 | qBlue(rgb) << 16; }
-
 /// An icon for a place of `size`: on a dense screen with the pixels that it has there.
 Picture icon(const Glyph& glyph, int size = 16) {
   return norvane::QtPicture::fromImage(drawn(glyph, qRound(size * qApp->devicePixelRatio())));
+}
+
+/// Rows of their own height: where MinHeight says another one, the edit box stands off its row.
+void setFontSize(nvList& list, float points) {
+  const norvane::Font font = norvane::CloneFont(list.Font());
+  font->Size = points;
+  list.Font(font);
 }
 
 // ---- text ----
@@ -28,7 +33,9 @@ Picture icon(const Glyph& glyph, int size = 16) {
 void fillText(Stage& stage, const SampleText& text) {
   stage.setWindowTitle(text.title);
   nvList& list = stage.addList("text");
-  for (const QString& line : text.lines) list.ItemsAdd(line.toStdString());
+  setFontSize(list, 10);
+  for (const QString& line : text.lines)
+    list.ItemsAdd({.aText = line.toStdString(), .aAllowEdit = true});
   list.ListIndex(0);
 }
 
@@ -71,7 +78,10 @@ void fillChecks(Stage& stage) {
       {.aText = "Thank those who found faults", .aItalic = true},
       {.aText = "Cake"},
   };
-  for (const NewItem& item : items) list.ItemsAdd(item);
+  for (NewItem item : items) {
+    item.aAllowEdit = true;
+    list.ItemsAdd(item);
+  }
   // On a row with a background of its own FullRowSelect and IconSelect make a difference.
   list.ListIndex(9);
 }
@@ -105,11 +115,13 @@ void fillIcons(Stage& stage) {
   for (const auto& [text, glyph, selected] : entries)
     list.ItemsAdd({.aText = text,
                    .aIcon = icon(glyph, size),
-                   .aIconSelected = selected ? icon(selected, size) : nullptr});
+                   .aIconSelected = selected ? icon(selected, size) : nullptr,
+                   .aAllowEdit = true});
   // Whatever an icon's own size, it is stretched to IconW by IconH.
   for (const int own : {16, 32, 48, 64})
     list.ItemsAdd({.aText = QString("clock-%1.png|right=%1 x %1").arg(own).toStdString(),
-                   .aIcon = norvane::QtPicture::fromImage(drawn(clock, own))});
+                   .aIcon = norvane::QtPicture::fromImage(drawn(clock, own)),
+                   .aAllowEdit = true});
   list.ListIndex(1);
 }
 
@@ -130,17 +142,19 @@ void fillBoth(Stage& stage) {
                    .aIcon = icon(calendar),
                    .aChecked = isDone,
                    .aBackColor = tint,
+                   .aAllowEdit = true,
                    .aAlignment = norvane::cCenter,
                    .aBold = true});
   };
   const auto task = [&](const char* text, const Glyph& glyph, bool isDone) {
-    list.ItemsAdd({.aText = text, .aIcon = icon(glyph), .aChecked = isDone});
+    list.ItemsAdd({.aText = text, .aIcon = icon(glyph), .aChecked = isDone, .aAllowEdit = true});
   };
   const auto sum = [&](const char* text, bool isDone) {
     list.ItemsAdd({.aText = text,
                    .aIcon = icon(clock),
                    .aChecked = isDone,
                    .aForeColor = hostColour(0x5A6440),
+                   .aAllowEdit = true,
                    .aAlignment = norvane::cRight});
   };
   day("Monday", true);
@@ -160,6 +174,28 @@ void fillBoth(Stage& stage) {
   for (const int selected : {2, 8, 9, 10}) list.ItemSelected(selected, true);
 }
 
+// ---- edit ----
+
+void fillEdit(Stage& stage) {
+  nvList& list = stage.addList("edit");
+  list.Style(norvane::cCheckBoxes);
+  setFontSize(list, 11);
+  list.DistPicText(6);
+  list.AllowEdit(true);
+  const char* const spices[] = {
+      "Allspice",  "Anise",     "Asafoetida",  "Basil",        "Bay leaves",   "Caraway",
+      "Cardamom",  "Cayenne",   "Celery seed", "Chervil",      "Chives",       "Cinnamon",
+      "Cloves",    "Coriander", "Cumin",       "Curry leaves", "Dill",         "Fennel",
+      "Fenugreek", "Galangal",  "Ginger",      "Juniper",      "Lavender",     "Lemongrass",
+      "Lovage",    "Mace",      "Marjoram",    "Mint",         "Mustard seed", "Nigella",
+      "Nutmeg",    "Oregano",   "Paprika",     "Parsley",      "Pepper",       "Poppy seed",
+      "Rosemary",  "Saffron",   "Sage",        "Savory",       "Sesame",       "Star anise",
+      "Sumac",     "Tarragon",  "Thyme",       "Turmeric",     "Vanilla",      "Wasabi"};
+  for (const char* spice : spices)
+    list.ItemsAdd({.aText = spice, .aChecked = spice[1] % 2 == 0, .aAllowEdit = true});
+  list.ListIndex(6);
+}
+
 // ---- colours ----
 
 struct Shade {
@@ -175,46 +211,76 @@ void addShades(Stage& stage, const char* caption, norvane::cColorStyle style,
   list.MinHeight(20);
   list.DistPicText(6);
   for (const Shade& shade : shades)
-    list.ItemsAdd({.aText = shade.name, .aIcon = icon(swatch(QColor(shade.rgb)))});
+    list.ItemsAdd(
+        {.aText = shade.name, .aIcon = icon(swatch(QColor(shade.rgb))), .aAllowEdit = true});
   list.ListIndex(4);
 }
 
 void fillColours(Stage& stage) {
   addShades(stage, "cXPBlue", norvane::cXPBlue,
-            {{"Ice", 0xD6E4F7},
+            {{"Frost", 0xEEF5FD},
+             {"Ice", 0xD6E4F7},
+             {"Dawn", 0xB4D0F2},
              {"Sky", 0x8FB8EC},
              {"Cornflower", 0x5A8BE0},
+             {"Gentian", 0x4377D6},
              {"Cobalt", 0x316AC5},
+             {"Lake", 0x2A66B4},
              {"Ocean", 0x1F5A9E},
+             {"Denim", 0x214C86},
              {"Navy", 0x1C3A70},
-             {"Ink", 0x14233F}});
+             {"Dusk", 0x192F58},
+             {"Ink", 0x14233F},
+             {"Night", 0x0C1528}});
   addShades(stage, "cXPSilver", norvane::cXPSilver,
-            {{"Pearl", 0xEDEDF2},
+            {{"Snow", 0xF7F7FA},
+             {"Pearl", 0xEDEDF2},
+             {"Cloud", 0xE0E1E8},
              {"Mist", 0xD3D4DC},
              {"Silver", 0xB2B4BF},
+             {"Fog", 0xA5A7B2},
              {"Ash", 0x9799A3},
+             {"Pewter", 0x848692},
              {"Slate", 0x70737F},
+             {"Stone", 0x61646F},
              {"Lead", 0x51545E},
-             {"Coal", 0x2E3036}});
+             {"Iron", 0x3F4149},
+             {"Coal", 0x2E3036},
+             {"Soot", 0x1D1E22}});
   addShades(stage, "cXPOlive", norvane::cXPOlive,
-            {{"Reed", 0xE0E6C8},
+            {{"Straw", 0xF0F2E2},
+             {"Reed", 0xE0E6C8},
+             {"Celery", 0xCDD8B0},
              {"Sage", 0xBAC69A},
              {"Olive", 0x93A070},
+             {"Lichen", 0x85935F},
              {"Moss", 0x77864F},
+             {"Meadow", 0x688045},
              {"Fern", 0x5A7A3C},
+             {"Leaf", 0x476835},
              {"Pine", 0x34542F},
-             {"Ivy", 0x22381F}});
+             {"Forest", 0x2B3B27},
+             {"Ivy", 0x22381F},
+             {"Thicket", 0x172614}});
   addShades(stage, "cCustom", norvane::cCustom,
-            {{"Petal", 0xF0DCF2},
+            {{"Blossom", 0xF9EEFA},
+             {"Petal", 0xF0DCF2},
+             {"Lilac", 0xE0B8E5},
              {"Orchid", 0xCF94D8},
              {"Plum", 0x9B4FA8},
+             {"Iris", 0x8845A2},
              {"Violet", 0x743A9C},
+             {"Beet", 0x7F337F},
              {"Berry", 0x8A2C62},
+             {"Cherry", 0x74224D},
              {"Wine", 0x5E1B38},
-             {"Fig", 0x3A1D3F}});
+             {"Grape", 0x4C2B3C},
+             {"Fig", 0x3A1D3F},
+             {"Sloe", 0x241228}});
   nvList& custom = stage.lists().back()->list();
   custom.ValueColor(hostColour(0x9B4FA8));
   custom.BorderColor(hostColour(0x9B4FA8));
+  custom.ScrollColorStyle(norvane::cXPScrollSilver);
 }
 
 }  // namespace
@@ -227,10 +293,16 @@ std::vector<Page> allPages(const SampleText& text) {
        fillChecks},
       {"icons", "Icons", "cIcons: two columns, other icons while selected", folder, fillIcons},
       {"both", "Both", "cCheckBoxesIcons: three alignments, many selected", calendar, fillBoth},
+      {"edit", "Editing", "AllowEdit: press the current row again to edit its text", pencil,
+       fillEdit},
       {"colours", "Colours", "ColorStyle: three families, and one of your own", palette,
        fillColours},
+      {"bars", "Scroll bars", "The scroll bars alone: all their looks, and below some to use",
+       scrollBar, fillBars},
   };
 }
+
+Colour hostColour(QRgb rgb) { return qRed(rgb) | qGreen(rgb) << 8 | qBlue(rgb) << 16; }
 
 nvList& Stage::addList(const QString& name, const QString& caption) {
   auto* widget = new NvListWidget;
@@ -250,15 +322,15 @@ nvList& Stage::addList(const QString& name, const QString& caption) {
 
   nvList& list = widget->list();
   list.AutoRedraw(false);
-  list.MinHeight(static_cast<float>(QFontMetrics(widget->font()).height() + 2));
   list.addSink(sink_);
   return list;
 }
 
 void Stage::ready() {
   for (NvListWidget* widget : lists_) {
-    widget->list().TopIndex(0);
-    widget->list().AutoRedraw(true);
+    nvList& list = widget->list();
+    if (list.TopIndex() > 0) list.TopIndex(0);
+    list.AutoRedraw(true);
   }
 }
 

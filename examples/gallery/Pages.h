@@ -5,6 +5,7 @@
 #include <functional>
 #include <vector>
 
+#include <nvlist/core/Colour.h>
 #include <nvlist/input/events.h>
 #include <nvlist/platform/qt/NvListWidget.h>
 
@@ -14,14 +15,14 @@ class QGridLayout;
 
 namespace gallery {
 
-/// Where a page stands: its lists, two in a row.
+/// Where a page stands: its lists, two in a row, or whatever else it shows.
 class Stage : public QWidget {
  public:
   /// `sink` hears every list; it has to outlive the stage.
   explicit Stage(norvane::__nvList& sink) : sink_(sink) {}
 
-  /// A new list to fill, with AutoRedraw off until the stage is ready. Rows are a little higher
-  /// than the font. A caption stands above the list, and none where it is empty.
+  /// A new list to fill, with AutoRedraw off until the stage is ready. A caption stands above the
+  /// list, and none where it is empty.
   norvane::nvList& addList(const QString& name, const QString& caption = {});
 
   /// Ends the filling: the lists are painted, from the top.
@@ -50,5 +51,11 @@ struct Page {
 };
 
 std::vector<Page> allPages(const SampleText& text);
+
+/// A colour as the lists have it.
+norvane::Colour hostColour(QRgb rgb);
+
+/// The page of the scroll bars, which has no list.
+void fillBars(Stage& stage);
 
 }  // namespace gallery

@@ -96,6 +96,13 @@ void SpEv::ListRead(const Variant& List, const std::string& Filename) {
   });
 }
 
+Boolean SpEv::FileExists(const std::string& sFile) {
+  Boolean result;
+  trapped(here, "FileExists",
+          [&](Trap& on) { on.step([&] { result = Application::inUse().holdsFile(sFile); }); });
+  return result;
+}
+
 /// Two tests of their own: version 6.0 is none, and 6.1 is one.
 Boolean SpEv::IsWinXP() {
   Boolean result;

@@ -37,6 +37,9 @@ class SpEv {
   /// line end that closes the file adds no row.
   void ListRead(const Variant& List, const std::string& Filename);
 
+  /// Whether there is a file or folder of that name; `*` and `?` in its last part stand for others.
+  Boolean FileExists(const std::string& sFile);
+
   /// The theme of Windows XP that the program shows; styleClassic where there is none, or another.
   cActiveXPTheme ActiveXPTheme();
 

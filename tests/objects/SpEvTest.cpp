@@ -261,6 +261,14 @@ TEST_F(SpEvTest, TellsTheFirstMouseButtonOfThree) {
   EXPECT_EQ(pressed(), 0);
 }
 
+TEST_F(SpEvTest, FindsFilesByNameAndWildcard) {
+  put("one.txt", "");
+  EXPECT_TRUE(helper.FileExists(path("one.txt")).isTrue());
+  EXPECT_TRUE(helper.FileExists(path("*.txt")));
+  EXPECT_FALSE(helper.FileExists(path("*.lst")));
+  EXPECT_FALSE(helper.FileExists(path("two.txt")));
+}
+
 TEST_F(SpEvTest, PlaysSounds) {
   helper.PlayMusic("bell.wav");
   helper.PlayMusic("");

@@ -1,8 +1,5 @@
 #include <nvlist/platform/qt/NvListWidget.h>
 
-#include <QTimer>
-
-#include <nvlist/objects/Trap.h>
 #include <nvlist/platform/qt/QtApplication.h>
 
 namespace norvane {
@@ -13,12 +10,6 @@ struct NvListWidget::Core {
 
   QtPlace place;
   nvList list;
-
-  /// Ends it when no procedure of the library runs any more.
-  static void endLater(std::shared_ptr<Core> core) {
-    if (!Trap::anyRuns()) return;
-    QTimer::singleShot(1, [core = std::move(core)]() mutable { endLater(std::move(core)); });
-  }
 };
 
 NvListWidget::NvListWidget(QWidget* parent)
@@ -38,7 +29,7 @@ NvListWidget::NvListWidget(QWidget* parent)
 NvListWidget::~NvListWidget() {
   core_->place.onPropertyChanged = nullptr;
   core_->place.detach();
-  Core::endLater(std::move(core_));
+  QtPlace::endLater(std::move(core_));
 }
 
 nvList& NvListWidget::list() { return core_->list; }

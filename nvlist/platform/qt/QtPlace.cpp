@@ -9,6 +9,7 @@
 #include <chrono>
 #include <cmath>
 
+#include <nvlist/objects/Trap.h>
 #include <nvlist/platform/UserControl.h>
 #include <nvlist/platform/qt/QtFont.h>
 #include <nvlist/platform/qt/QtKeys.h>
@@ -71,6 +72,11 @@ void QtPlace::detach() {
     if (widget) widget->setParent(nullptr);
   }
   widget_ = nullptr;
+}
+
+void QtPlace::endLater(std::shared_ptr<void> control) {
+  if (!Trap::anyRuns()) return;
+  QTimer::singleShot(1, [control = std::move(control)]() mutable { endLater(std::move(control)); });
 }
 
 std::unique_ptr<Container> QtPlace::addChild() {

@@ -33,6 +33,9 @@ class QtPlace : public Container {
   void resize();
   /// The widget is about to end before the control: what is drawn from now on is seen nowhere.
   void detach();
+  /// Lets go of a control with its place when no procedure of the library runs any more: a handler
+  /// of the host may end the widget around it.
+  static void endLater(std::shared_ptr<void> control);
 
   void attach(UserControl* control) override { control_ = control; }
   Surface& surface() override { return surface_; }

@@ -1,0 +1,221 @@
+// The page of the scroll bars: every look of theirs, enlarged, and some to use.
+
+#include <QCoreApplication>
+#include <QGridLayout>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QScrollArea>
+#include <QVBoxLayout>
+#include <memory>
+
+#include <nvlist/platform/qt/NvScrollWidget.h>
+
+#include "Pages.h"
+
+using norvane::nvHScroll;
+using norvane::NvHScrollWidget;
+using norvane::NvScrollWidget;
+using norvane::nvVScroll;
+using norvane::NvVScrollWidget;
+
+namespace gallery {
+namespace {
+
+constexpr int enlargement = 3;
+constexpr int specimenLength = 56;
+
+struct Family {
+  const char* name;
+  norvane::cScrollColorStyle style;
+};
+constexpr Family families[] = {{"Blue", norvane::cXPScrollBlue},
+                               {"Silver", norvane::cXPScrollSilver},
+                               {"Olive", norvane::cXPScrollOlive}};
+constexpr Family custom = {"Custom", nvHScroll::custom};
+
+enum class State { normal, hovered, pressed, disabled };
+struct NamedState {
+  const char* name;
+  State state;
+};
+constexpr NamedState states[] = {{"normal", State::normal},
+                                 {"hovered", State::hovered},
+                                 {"pressed", State::pressed},
+                                 {"disabled", State::disabled}};
+
+/// The colours of the horizontal bar's own style.
+struct NamedColour {
+  const char* name;
+  QRgb rgb;
+};
+constexpr NamedColour customColours[] = {
+    {"ScrollBackColor", 0xF6E9F8},    {"ScrollBar", 0xB06ABE},     {"ScrollBarDown", 0x6E2F7B},
+    {"ScrollBarHover", 0xC98BD5},     {"ScrollArrows", 0xFFFFFF},  {"ScrollArrowsDown", 0xFFE08A},
+    {"ScrollArrowsHover", 0xFFFFFF},  {"ScrollButtons", 0x8A3F98}, {"ScrollButtonsDown", 0x55205F},
+    {"ScrollButtonsHover", 0xA85AB6},
+};
+
+void setStyle(nvVScroll& bar, const Family& family) { bar.ColorStyle(family.style); }
+
+void setStyle(nvHScroll& bar, const Family& family) {
+  bar.ColorStyle(family.style);
+  if (family.style != nvHScroll::custom) return;
+  norvane::PropertyBag bag;
+  for (const auto& [name, rgb] : customColours)
+    bag.WriteProperty(name, hostColour(rgb), norvane::Variant());
+  bar.SetNewProperty(bag);
+}
+
+/// The thumb and the two buttons.
+QList<QWidget*> partsOf(QWidget& widget) {
+  QWidget* bar = widget.findChild<QWidget*>({}, Qt::FindDirectChildrenOnly);
+  return bar->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+}
+
+void send(QWidget* part, QEvent::Type type, Qt::MouseButton button) {
+  const QPointF centre = QRectF(part->rect()).center();
+  QMouseEvent event(type, centre, part->mapToGlobal(centre), button, button, Qt::NoModifier);
+  QCoreApplication::sendEvent(part, &event);
+}
+
+/// A real bar whose parts all feel the mouse at once, enlarged.
+template <class Bar>
+QPixmap specimen(const Family& family, State state) {
+  NvScrollWidget<Bar> widget;
+  widget.setAttribute(Qt::WA_DontShowOnScreen);
+  widget.resize(specimenLength, specimenLength);
+  widget.show();
+  widget.bar().Max(6);
+  widget.bar().Value(3);
+  setStyle(widget.bar(), family);
+  if (state == State::disabled) widget.bar().Enabled(false);
+  for (QWidget* part : partsOf(widget)) {
+    if (state == State::hovered || state == State::pressed)
+      send(part, QEvent::MouseMove, Qt::NoButton);
+    if (state == State::pressed) send(part, QEvent::MouseButtonPress, Qt::LeftButton);
+  }
+  const QPixmap pixmap = widget.grab();
+  return pixmap.scaled(pixmap.size() * enlargement);
+}
+
+QLabel* shown(const QPixmap& pixmap) {
+  auto* label = new QLabel;
+  label->setPixmap(pixmap);
+  label->setFixedSize(pixmap.size() / pixmap.devicePixelRatio());
+  return label;
+}
+
+/// All families beside each other, each in all states.
+QWidget* verticalSpecimens() {
+  auto* result = new QWidget;
+  auto* grid = new QGridLayout(result);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setHorizontalSpacing(10);
+  grid->setVerticalSpacing(2);
+  int column = 0;
+  for (const Family& family : families) {
+    grid->addWidget(new QLabel(family.name), 0, column, 1, 4);
+    for (const auto& [name, state] : states) {
+      grid->addWidget(shown(specimen<nvVScroll>(family, state)), 1, column);
+      grid->addWidget(new QLabel(name), 2, column++, Qt::AlignHCenter);
+    }
+    grid->setColumnMinimumWidth(column++, 12);
+  }
+  grid->setColumnStretch(column, 1);
+  return result;
+}
+
+/// A family a row, a state a column.
+QWidget* horizontalSpecimens() {
+  auto* result = new QWidget;
+  auto* grid = new QGridLayout(result);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setHorizontalSpacing(14);
+  grid->setVerticalSpacing(4);
+  int row = 1;
+  const auto addRow = [&](const Family& family) {
+    int column = 0;
+    for (const auto& [name, state] : states) {
+      if (row == 1) grid->addWidget(new QLabel(name), 0, column, Qt::AlignHCenter);
+      grid->addWidget(shown(specimen<nvHScroll>(family, state)), row, column++);
+    }
+    grid->addWidget(new QLabel(family.name), row++, column);
+    grid->setColumnStretch(column, 1);
+  };
+  for (const Family& family : families) addRow(family);
+  addRow(custom);
+  return result;
+}
+
+/// A bar to use, and a label that tells of it: its value and how often each event came.
+template <class Bar>
+std::pair<QWidget*, QLabel*> live(const Family& family, int max, const char* separator) {
+  auto* widget = new NvScrollWidget<Bar>;
+  widget->setObjectName(family.name);
+  widget->bar().Max(max);
+  widget->bar().Value(max / 3);
+  setStyle(widget->bar(), family);
+  auto* label = new QLabel;
+  struct Counts {
+    int change = 0;
+    int scroll = 0;
+  };
+  const auto counts = std::make_shared<Counts>();
+  const auto tell = [=] {
+    const QStringList parts = {QString("Value %1").arg(widget->bar().Value()),
+                               QString("Change %1").arg(counts->change),
+                               QString("Scroll %1").arg(counts->scroll)};
+    label->setText(parts.join(separator));
+  };
+  widget->onChange = [=] { ++counts->change, tell(); };
+  widget->onScroll = [=] { ++counts->scroll, tell(); };
+  tell();
+  return {widget, label};
+}
+
+QWidget* liveBars() {
+  auto* result = new QWidget;
+  auto* grid = new QGridLayout(result);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setHorizontalSpacing(8);
+  int column = 0;
+  for (const Family& family : families) {
+    const auto [bar, label] = live<nvVScroll>(family, 40, "\n");
+    label->setMinimumWidth(72);
+    grid->addWidget(bar, 0, column++, 4, 1);
+    grid->addWidget(label, 0, column++, 4, 1);
+  }
+  int row = 0;
+  const auto addRow = [&](const Family& family) {
+    const auto [bar, label] = live<nvHScroll>(family, 150, "   ");
+    label->setMinimumWidth(210);
+    grid->addWidget(bar, row, column);
+    grid->addWidget(label, row++, column + 1);
+  };
+  for (const Family& family : families) addRow(family);
+  addRow(custom);
+  grid->setColumnStretch(column, 1);
+  return result;
+}
+
+}  // namespace
+
+/// Scrolls where the window is small, so that it makes no demands on the window.
+void fillBars(Stage& stage) {
+  auto* content = new QWidget;
+  auto* column = new QVBoxLayout(content);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(8);
+  column->addWidget(verticalSpecimens());
+  column->addWidget(horizontalSpecimens());
+  column->addWidget(liveBars(), 1);
+  auto* area = new QScrollArea;
+  area->setFrameShape(QFrame::NoFrame);
+  area->setWidgetResizable(true);
+  area->setWidget(content);
+  auto* whole = new QVBoxLayout(&stage);
+  whole->setContentsMargins(0, 0, 0, 0);
+  whole->addWidget(area);
+}
+
+}  // namespace gallery

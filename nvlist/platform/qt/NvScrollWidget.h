@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <memory>
+
+#include <nvlist/scroll/nvHScroll.h>
+#include <nvlist/scroll/nvVScroll.h>
+
+namespace norvane {
+
+/// A scroll bar alone on a form, as a Qt widget:
+///
+///     auto* volume = new NvHScrollWidget(form);
+///     volume->bar().Max(11);
+///     volume->onScroll = [=] { player->setVolume(volume->bar().Value()); };
+///
+/// The widget is 17 pixels across and as long as its layout makes it; each new length gives the
+/// thumb a new one. It belongs to the thread of the QApplication.
+template <class Bar>
+class NvScrollWidget : public QWidget {
+ public:
+  /// The first of them makes the application serve as the program around the bars, unless the host
+  /// has made another one (QtApplication::ensure).
+  explicit NvScrollWidget(QWidget* parent = nullptr);
+  ~NvScrollWidget() override;
+
+  /// Lives as long as the widget; a handler of one of its events may end the widget. Place, size
+  /// and visibility of the bar are the widget's to set.
+  Bar& bar();
+
+  /// Told after a step of a button or of the track, also at an end of the range, and when the thumb
+  /// is let go. Default: none.
+  std::function<void()> onChange;
+  /// Told after each change of the value by the thumb. Default: none.
+  std::function<void()> onScroll;
+
+  QSize sizeHint() const override;
+  /// The two buttons and the shortest track that has a thumb.
+  QSize minimumSizeHint() const override;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  struct Core;
+
+  std::shared_ptr<Core> core_;
+};
+
+using NvVScrollWidget = NvScrollWidget<nvVScroll>;
+using NvHScrollWidget = NvScrollWidget<nvHScroll>;
+
+extern template class NvScrollWidget<nvVScroll>;
+extern template class NvScrollWidget<nvHScroll>;
+
+}  // namespace norvane

@@ -1,0 +1,109 @@
+#include <nvlist/platform/qt/NvScrollWidget.h>
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QBoxLayout>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QTimer>
+#include <string>
+#include <type_traits>
+#include <utility>
+
+namespace norvane {
+namespace {
+
+/// A bar of 200 pixels in a form. Positions are given along the bar, so that one test serves both.
+template <class Widget>
+class NvScrollWidgetTest : public testing::Test {
+ protected:
+  static constexpr bool isVertical = std::is_same_v<Widget, NvVScrollWidget>;
+
+  NvScrollWidgetTest() {
+    auto* layout = new QBoxLayout(isVertical ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    form.setLayout(layout);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(widget);
+    widget->onChange = [this] { tell("Change"); };
+    widget->onScroll = [this] { tell("Scroll"); };
+    length(200);
+    form.show();
+    QCoreApplication::processEvents();
+  }
+  ~NvScrollWidgetTest() override {
+    if (widget) widget->onChange = widget->onScroll = nullptr;
+  }
+
+  void tell(const char* event) {
+    told += (told.empty() ? "" : ", ") + std::string(event) + " " +
+            std::to_string(widget->bar().Value());
+  }
+  std::string heard() { return std::exchange(told, {}); }
+
+  void length(int pixels) {
+    form.resize(isVertical ? QSize(17, pixels) : QSize(pixels, 17));
+    QCoreApplication::processEvents();
+  }
+
+  QPoint at(int along) { return isVertical ? QPoint(8, along) : QPoint(along, 8); }
+  void send(QEvent::Type type, int along, Qt::MouseButtons buttons) {
+    const QPoint global = form.mapToGlobal(at(along));
+    const QPoint local = held->mapFromGlobal(global);
+    const bool isMove = type == QEvent::MouseMove;
+    QMouseEvent event(type, local, global, isMove ? Qt::NoButton : Qt::LeftButton, buttons,
+                      Qt::NoModifier);
+    QApplication::sendEvent(held, &event);
+  }
+  void press(int along) {
+    held = widget->childAt(at(along));
+    send(QEvent::MouseMove, along, Qt::NoButton);
+    send(QEvent::MouseButtonPress, along, Qt::LeftButton);
+  }
+  void moveTo(int along) { send(QEvent::MouseMove, along, Qt::LeftButton); }
+  void release(int along) { send(QEvent::MouseButtonRelease, along, Qt::NoButton); }
+
+  QWidget form;
+  QPointer<Widget> widget{new Widget};
+  QPointer<QWidget> held;
+  std::string told;
+};
+
+using BothWidgets = testing::Types<NvVScrollWidget, NvHScrollWidget>;
+TYPED_TEST_SUITE(NvScrollWidgetTest, BothWidgets);
+
+TYPED_TEST(NvScrollWidgetTest, isSteppedDraggedAndTells) {
+  EXPECT_EQ(this->widget->size(), this->form.size());
+  this->press(195);
+  this->release(195);
+  EXPECT_EQ(this->heard(), "Change 1");
+  this->press(50);
+  this->moveTo(60);
+  this->moveTo(500);
+  this->release(500);
+  EXPECT_EQ(this->heard(), "Scroll 11, Scroll 100, Change 100");
+}
+
+TYPED_TEST(NvScrollWidgetTest, theThumbFitsEachNewLength) {
+  const auto lengthOfThumb = [this] {
+    QWidget* thumb = this->widget->childAt(this->at(20));
+    return TestFixture::isVertical ? thumb->height() : thumb->width();
+  };
+  EXPECT_EQ(lengthOfThumb(), 200 - 34 - 100);
+  this->length(300);
+  EXPECT_EQ(lengthOfThumb(), 300 - 34 - 100);
+  this->length(150);
+  EXPECT_EQ(lengthOfThumb(), 150 - 34 - 100);
+}
+
+TYPED_TEST(NvScrollWidgetTest, mayEndInAHandlerOfItsOwn) {
+  this->widget->onScroll = [this] { delete this->widget; };
+  this->press(50);
+  this->moveTo(60);
+  EXPECT_FALSE(this->widget);
+  QTimer::singleShot(20, qApp, &QCoreApplication::quit);
+  QCoreApplication::exec();
+}
+
+}  // namespace
+}  // namespace norvane
