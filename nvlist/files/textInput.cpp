@@ -1,20 +1,12 @@
 #include <nvlist/core/numbers.h>
 #include <nvlist/files/fileExists.h>
-#include <nvlist/files/textFile.h>
 #include <nvlist/nvList.h>
+#include <nvlist/objects/SpEv.h>
 
 #include <vector>
 
 namespace norvane {
 namespace {
-
-/// A failure is one of the object that reads whole text files, and gives the empty text.
-std::string TextRead(const std::string& Filename) {
-  static constexpr Module spEv = {kinds::classModule, "SpEv"};
-  std::string text;
-  trapped(spEv, "TextRead", [&](Trap& on) { on.step([&] { text = textOfFile(Filename); }); });
-  return text;
-}
 
 /// At least one piece. An empty delimiter parts nothing.
 std::vector<std::string_view> split(std::string_view text, std::string_view delimiter) {
@@ -37,7 +29,7 @@ std::int32_t nvList::ListInput2(const std::string& Filename, const Variant& Deli
       raise(on, &__nvList::ErrorListInput);
       return;
     }
-    const std::string text = TextRead(Filename);
+    const std::string text = SpEv().TextRead(Filename);
     std::vector<std::string_view> pieces;
     on.step([&] { pieces = split(text, Delimiter.toText()); });
     // Both flags stay off: they are the host's to turn on again.

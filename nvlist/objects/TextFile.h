@@ -1,16 +1,23 @@
 #pragma once
 
 #include <cstdint>
-#include <fstream>
+#include <memory>
 #include <string>
+
+#include <nvlist/platform/File.h>
 
 namespace norvane {
 
-/// A text file on the disk, open until it is closed or the object ends. Paths are UTF-8; texts
-/// stand in the file byte by byte as they are. Each call throws where it cannot be done.
+/// A text file, open until it is closed or the object ends; what fails in the latter case is lost.
+/// Paths are UTF-8; texts stand in the file byte by byte as they are. Each call throws where
+/// it cannot be done, as Application::openFile tells.
 class TextFile {
  public:
-  /// Takes a regular file only: others have no length, and opening them might wait for ever.
+  TextFile() = default;
+  TextFile(const TextFile&) = delete;
+  TextFile& operator=(const TextFile&) = delete;
+  ~TextFile();
+
   void openForInput(const std::string& path);
   /// Makes a file new, in the place of an old one.
   void openForOutput(const std::string& path);
@@ -29,10 +36,16 @@ class TextFile {
   void print(const std::string& text);
 
  private:
-  void requireOpen() const;
+  File& file();
+  /// The next byte, which stays; -1 at the end of the file.
+  int peek();
+  void writeBlock();
 
-  std::filebuf file_;
-  std::uint64_t length_ = 0;
+  std::unique_ptr<File> file_;
+  FileMode mode_ = FileMode::read;
+  /// Read ahead, from `at_` on, or to be written.
+  std::string block_;
+  std::size_t at_ = 0;
 };
 
 }  // namespace norvane

@@ -1,7 +1,10 @@
 #include <nvlist/platform/diskFiles.h>
 
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
+#include <ios>
+#include <system_error>
 
 #include <nvlist/core/like.h>
 #include <nvlist/objects/Failure.h>
@@ -18,6 +21,12 @@ constexpr bool ignoresCase = false;
 #endif
 
 fs::path pathOf(const std::string& path) { return std::u8string(path.begin(), path.end()); }
+
+/// Whatever stands behind a zero character would be lost without a word.
+fs::path checkedPathOf(const std::string& path) {
+  if (path.find('\0') != std::string::npos) throw Failure(52, "Bad file name or number");
+  return pathOf(path);
+}
 
 std::string nameOf(const fs::path& path) {
   const std::u8string name = path.filename().u8string();
@@ -53,33 +62,66 @@ bool anyMatches(fs::path folder, const std::string& name) {
 Failure accessFailure() { return {75, "Path/File access error"}; }
 Failure deviceFailure() { return {57, "Device I/O error"}; }
 
+Failure writeFailure() {
+  if (errno == ENOSPC) return {61, "Disk full"};
+  return deviceFailure();
+}
+
+void requireFolderOf(const fs::path& path) {
+  std::error_code error;
+  const fs::path folder = path.parent_path();
+  if (!folder.empty() && !fs::is_directory(folder, error)) throw Failure(76, "Path not found");
+}
+
+/// Anything but a regular file has no size, and opening it might wait for ever.
+std::uint64_t sizeOf(const fs::path& path) {
+  std::error_code error;
+  const fs::file_status status = fs::status(path, error);
+  if (status.type() == fs::file_type::not_found && !path.empty()) {
+    requireFolderOf(path);
+    throw Failure(53, "File not found");
+  }
+  if (!fs::is_regular_file(status)) throw accessFailure();
+  const std::uint64_t size = fs::file_size(path, error);
+  if (error) throw accessFailure();
+  return size;
+}
+
 /// Unbuffered: who reads and writes does so in big blocks.
 class DiskFile final : public File {
  public:
   DiskFile(const fs::path& path, FileMode mode) {
-    std::error_code error;
-    // Anything but a regular file has no size, and opening it might wait for ever.
-    if (mode == FileMode::read) size_ = fs::file_size(path, error);
-    if (error == std::errc::no_such_file_or_directory) throw Failure(53, "File not found");
-    if (error) throw accessFailure();
+    if (mode == FileMode::read)
+      size_ = sizeOf(path);
+    else
+      requireFolderOf(path);
     file_.pubsetbuf(nullptr, 0);
     const auto direction = mode == FileMode::read ? std::ios::in : std::ios::out | std::ios::trunc;
-    if (!file_.open(path, direction | std::ios::binary)) throw accessFailure();
+    errno = 0;
+    if (!file_.open(path, direction | std::ios::binary))
+      throw errno == ENOSPC ? writeFailure() : accessFailure();
   }
 
   std::uint64_t size() override { return size_; }
 
   std::size_t read(char* bytes, std::size_t count) override {
-    return static_cast<std::size_t>(file_.sgetn(bytes, static_cast<std::streamsize>(count)));
+    // Some libraries throw where a read fails, others answer the end of the file.
+    try {
+      return static_cast<std::size_t>(file_.sgetn(bytes, static_cast<std::streamsize>(count)));
+    } catch (const std::ios_base::failure&) {
+      throw deviceFailure();
+    }
   }
 
   void write(const char* bytes, std::size_t count) override {
     const auto size = static_cast<std::streamsize>(count);
-    if (file_.sputn(bytes, size) != size) throw deviceFailure();
+    errno = 0;
+    if (file_.sputn(bytes, size) != size) throw writeFailure();
   }
 
   void close() override {
-    if (!file_.close()) throw deviceFailure();
+    errno = 0;
+    if (!file_.close()) throw writeFailure();
   }
 
  private:
@@ -106,7 +148,7 @@ void remove(const std::string& path) {
 }
 
 std::unique_ptr<File> open(const std::string& path, FileMode mode) {
-  return std::make_unique<DiskFile>(pathOf(path), mode);
+  return std::make_unique<DiskFile>(checkedPathOf(path), mode);
 }
 
 }  // namespace norvane::disk

@@ -17,8 +17,10 @@ bool holdsAny(const std::string& path);
 /// where a file cannot be deleted.
 void remove(const std::string& path);
 
-/// Throws Failure 53 for a file to be read that is not there, and 75 for one that may not be opened
-/// or is no file at all. A file to be written is made new.
+/// A file to be written is made new, in the place of an old one. Throws Failure 53 for a file to be
+/// read that is not there, 76 where its folder is not, 75 for one that may not be opened or is no
+/// regular file, 52 for a name with a zero character. Later calls throw 61 where the disk is full
+/// and 57 for any other trouble of the device.
 std::unique_ptr<File> open(const std::string& path, FileMode mode);
 
 }  // namespace norvane::disk
