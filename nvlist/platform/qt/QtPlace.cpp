@@ -15,6 +15,7 @@
 #include <nvlist/platform/qt/QtKeys.h>
 #include <nvlist/platform/qt/QtTextBox.h>
 #include <nvlist/platform/qt/QtTimer.h>
+#include <nvlist/platform/qt/QtWindow.h>
 
 namespace norvane {
 namespace {
@@ -25,7 +26,6 @@ using SteadyClock = std::chrono::steady_clock;
 unsigned timesAsked = 0;
 SteadyClock::time_point lastDone = SteadyClock::now();
 int eventLoops = 0;
-std::int32_t lastHandle = 0;
 
 /// A handler may cause the event that calls it again; from here on it has to wait.
 constexpr int mostEventLoops = 16;
@@ -46,8 +46,7 @@ class ChildWidget final : public QWidget, public QtPlace {
 
 }  // namespace
 
-QtPlace::QtPlace(QWidget& widget, QtPlace* around)
-    : widget_(&widget), around_(around), handle_(++lastHandle) {
+QtPlace::QtPlace(QWidget& widget, QtPlace* around) : widget_(&widget), around_(around) {
   if (around_) around_->children_.push_back(this);
   widget_->setMouseTracking(true);
   widget_->setAttribute(Qt::WA_OpaquePaintEvent);
@@ -106,6 +105,8 @@ Boolean QtPlace::UserMode() { return around_ ? around_->UserMode() : Boolean(!is
 norvane::Font QtPlace::AmbientFont() { return widget_ ? fontFrom(widget_->font()) : nullptr; }
 
 std::string QtPlace::Name() { return widget_ ? widget_->objectName().toStdString() : ""; }
+
+std::int32_t QtPlace::hwnd() { return widget_ ? handleOf(*widget_) : 0; }
 
 /// Looks at the clock once in a while only: loops over a million items ask.
 bool QtPlace::EventsWaiting() {

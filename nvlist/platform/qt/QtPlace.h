@@ -50,8 +50,8 @@ class QtPlace : public Container {
   void enable(bool isEnabled) override;
   void SetCapture() override { hasCapture_ = true; }
   void ReleaseCapture() override { hasCapture_ = false; }
-  /// A number of the place's own, not of a window.
-  std::int32_t hwnd() override { return handle_; }
+  /// The widget's number (QtWindow.h); 0 once it is gone.
+  std::int32_t hwnd() override;
   void hookWheel(std::function<void(std::int32_t, std::int32_t)> procedure) override;
   void paintLater() override;
   std::unique_ptr<Container> addChild() override;
@@ -73,7 +73,6 @@ class QtPlace : public Container {
   QtSurface surface_;
   UserControl* control_ = nullptr;
   std::function<void(std::int32_t, std::int32_t)> wheelProcedure_;
-  const std::int32_t handle_;
   bool isPaintPending_ = false;
   bool hasCapture_ = false;
   bool isDoubleClick_ = false;
