@@ -13,10 +13,8 @@
 #include "Pages.h"
 
 using norvane::nvHScroll;
-using norvane::NvHScrollWidget;
 using norvane::NvScrollWidget;
 using norvane::nvVScroll;
-using norvane::NvVScrollWidget;
 
 namespace gallery {
 namespace {
