@@ -13,10 +13,8 @@
 #include "Pages.h"
 
 using norvane::nvHScroll;
-using norvane::NvHScrollWidget;
 using norvane::NvScrollWidget;
 using norvane::nvVScroll;
-using norvane::NvVScrollWidget;
 
 namespace gallery {
 namespace {
@@ -151,7 +149,6 @@ QWidget* horizontalSpecimens() {
 template <class Bar>
 std::pair<QWidget*, QLabel*> live(const Family& family, int max, const char* separator) {
   auto* widget = new NvScrollWidget<Bar>;
-  widget->setObjectName(family.name);
   widget->bar().Max(max);
   widget->bar().Value(max / 3);
   setStyle(widget->bar(), family);
@@ -181,6 +178,7 @@ QWidget* liveBars() {
   int column = 0;
   for (const Family& family : families) {
     const auto [bar, label] = live<nvVScroll>(family, 40, "\n");
+    bar->setObjectName(QString("VScroll %1").arg(family.name));
     label->setMinimumWidth(72);
     grid->addWidget(bar, 0, column++, 4, 1);
     grid->addWidget(label, 0, column++, 4, 1);
@@ -188,6 +186,7 @@ QWidget* liveBars() {
   int row = 0;
   const auto addRow = [&](const Family& family) {
     const auto [bar, label] = live<nvHScroll>(family, 150, "   ");
+    bar->setObjectName(QString("HScroll %1").arg(family.name));
     label->setMinimumWidth(210);
     grid->addWidget(bar, row, column);
     grid->addWidget(label, row++, column + 1);

@@ -8,6 +8,9 @@
 
 namespace gallery {
 
+struct Switch;
+struct Command;
+
 /// A row of buttons for what one does to a list: the switches of editing, moving and selecting, the
 /// wheel, the order of the items.
 class Tools : public QWidget {
@@ -21,9 +24,9 @@ class Tools : public QWidget {
   void show(const Subject& subject);
 
  private:
-  QWidget* addSwitch(const struct Switch& entry);
+  QWidget* addSwitch(const Switch& entry);
   QWidget* addWheel();
-  QWidget* addCommand(const struct Command& entry);
+  QWidget* addCommand(const Command& entry);
 
   Subject subject_;
   std::vector<std::function<void()>> refreshers_;

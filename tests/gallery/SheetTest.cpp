@@ -9,7 +9,6 @@
 #include <string>
 #include <vector>
 
-#include <examples/gallery/EventLog.h>
 #include <examples/gallery/Sheet.h>
 
 namespace gallery {
@@ -140,19 +139,6 @@ TEST_F(SheetTest, aHalfTypedTextSurvivesARefresh) {
   line->setModified(true);
   sheet.show({&widget, 1});
   EXPECT_EQ(line->text(), "Lin");
-}
-
-TEST_F(SheetTest, theLogWritesEventsAndFailures) {
-  EventLog log;
-  widget.list().addSink(log);
-  widget.list().ListIndex(7);
-  widget.list().ItemText("Graz");
-  widget.list().removeSink(log);
-  const QStringList lines = log.toPlainText().split('\n');
-  ASSERT_EQ(lines.size(), 2);
-  EXPECT_EQ(lines[0], "ErrorWrongIndex   Index = 7");
-  EXPECT_TRUE(lines[1].startsWith("Failure 13 in nvList.ItemText, line "))
-      << lines[1].toStdString();
 }
 
 }  // namespace
