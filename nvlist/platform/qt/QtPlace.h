@@ -72,6 +72,7 @@ class QtPlace : public Container {
   std::function<void(std::int32_t, std::int32_t)> wheelProcedure_;
   const std::int32_t handle_;
   bool isPaintPending_ = false;
+  bool isPainting_ = false;
   bool hasCapture_ = false;
   bool isDoubleClick_ = false;
 };
