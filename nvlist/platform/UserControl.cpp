@@ -30,18 +30,20 @@ void UserControl::Width(float value) { Move({Left(), Top(), value, Height()}); }
 void UserControl::Height(float value) { Move({Left(), Top(), Width(), value}); }
 
 void UserControl::Move(const Bounds& bounds) {
-  const Bounds before = bounds_;
-  bounds_ = {bounds.Left, bounds.Top, std::max(bounds.Width, 0.0F), std::max(bounds.Height, 0.0F)};
-  if (bounds_ == before) return;
-  container_.move(bounds_);
-  if (bounds_.Width != before.Width || bounds_.Height != before.Height) UserControl_Resize();
+  const Bounds wanted = {bounds.Left, bounds.Top, std::max(bounds.Width, 0.0F),
+                         std::max(bounds.Height, 0.0F)};
+  if (wanted == bounds_) return;
+  // A place that is refused leaves the control where it was.
+  container_.move(wanted);
+  const Bounds before = std::exchange(bounds_, wanted);
+  if (wanted.Width != before.Width || wanted.Height != before.Height) UserControl_Resize();
 }
 
 void UserControl::Visible(Boolean value) {
-  const bool wasVisible = static_cast<bool>(std::exchange(visible_, value));
-  if (static_cast<bool>(value) == wasVisible) return;
-  container_.show(!wasVisible);
-  if (!wasVisible) UserControl_Show();
+  const bool isTurning = static_cast<bool>(value) != static_cast<bool>(visible_);
+  if (isTurning) container_.show(static_cast<bool>(value));
+  visible_ = value;
+  if (isTurning && value) UserControl_Show();
 }
 
 }  // namespace norvane

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <nvlist/objects/Trap.h>
 #include <nvlist/platform/UserControl.h>
 
 namespace norvane {
@@ -15,7 +16,13 @@ class BorderPiece final : public UserControl {
     surface_.Cls();
   }
   void UserControl_Resize() override { surface_.Cls(); }
-  void UserControl_Paint() override { surface_.Cls(); }
+  /// In the name of the procedure of the list that has painted it.
+  void UserControl_Paint() override {
+    trapped(list, "DrawBorder", [&](Trap& on) { on.step([&] { surface_.Cls(); }); });
+  }
+
+ private:
+  static constexpr Module list{kinds::control, "nvList"};
 };
 
 }  // namespace norvane

@@ -6,10 +6,13 @@ namespace norvane {
 void nvList::DrawBorder() {
   trapped(here, "DrawBorder", [&](Trap& on) {
     for (state_.LoopIndex = 0; state_.LoopIndex < borderPieces; ++state_.LoopIndex) {
-      BorderPiece& piece = pBord[static_cast<std::size_t>(state_.LoopIndex)];
-      on.step([&] { piece.Visible(state_.BorderVisible); });
+      // Asked anew for each step: a platform that comes back in may move the loop.
+      const auto piece = [&]() -> BorderPiece& {
+        return pBord.at(static_cast<std::size_t>(state_.LoopIndex));
+      };
+      on.step([&] { piece().Visible(state_.BorderVisible); });
       if (const auto colour = borderColour(state_.ColorStyle, state_.BorderColor))
-        on.step([&] { piece.BackColor(*colour); });
+        on.step([&] { piece().BackColor(*colour); });
     }
     const auto width = [&] { return surface_.ScaleWidth(); };
     const auto height = [&] { return surface_.ScaleHeight(); };

@@ -41,7 +41,7 @@ void nvList::CheckItemWidth(std::int32_t Index) {
 void nvList::widenTo(ListItem& item) {
   if (item.textWidth == ListItem::notMeasured) {
     const float width = lblWidth.widthOf(item.Text);
-    if (width > static_cast<float>(state_.MaxItemWidth)) state_.MaxItemWidth = whole(width);
+    if (double{width} > state_.MaxItemWidth) state_.MaxItemWidth = whole(width);
     const bool fits = width >= 0 && width < ListItem::notMeasured && std::trunc(width) == width;
     if (fits) item.textWidth = static_cast<std::uint16_t>(width);
   } else if (item.textWidth > state_.MaxItemWidth) {
@@ -72,7 +72,7 @@ void nvList::CheckScroll() {
 
 void nvList::fitHorizontal(Trap& on) {
   const auto isWanted = [&] {
-    return surface_.ScaleWidth() < static_cast<float>(state_.MaxItemWidth) &&
+    return double{surface_.ScaleWidth()} < state_.MaxItemWidth &&
            (state_.ScrollBars == vbHorizontal || state_.ScrollBars == vbBoth);
   };
   if (!on.test(isWanted)) {

@@ -54,6 +54,7 @@ nvHScroll::nvHScroll(std::unique_ptr<Container> place, nvHScrollEvents& owner)
 
 template <class Field>
 void nvHScroll::assign(Trap& on, const char* name, Field ScrollState::*field, const Field& value) {
+  if (state_.*field != value) isPlaced_ = false;
   state_.*field = value;
   on.step([&] { container_.PropertyChanged(name); });
 }
@@ -67,7 +68,7 @@ template <class Field>
 void nvHScroll::assignAndRedraw(const char* name, Field ScrollState::*field, const Field& value) {
   trapped(here, name, [&](Trap& on) {
     assign(on, name, field, value);
-    on.step([&] { Redraw(); });
+    if (!isPlaced()) on.step([&] { Redraw(); });
   });
 }
 
@@ -81,7 +82,7 @@ void nvHScroll::assignRange(const char* name, std::int32_t ScrollState::*field, 
     }
     assign(on, name, field, value);
     on.step([&] { ÜberprüfeWidth(); });
-    on.step([&] { Redraw(); });
+    if (!isPlaced()) on.step([&] { Redraw(); });
   });
 }
 
@@ -213,6 +214,7 @@ void nvHScroll::UserControl_WriteProperties(PropertyBag& PropBag) {
 // ---- place ----
 
 void nvHScroll::layOut(Trap& on) {
+  isPlaced_ = false;
   on.step([&] { Height(VBtnLeft1_.Height()); });
   on.step([&] { VBtnRight1_.Left(surface_.ScaleWidth() - VBtnRight1_.Width()); });
   on.step([&] { HScrollBar1_.Top(1); });
@@ -239,7 +241,9 @@ void nvHScroll::ÜberprüfeWidth() {
   trapped(here, "ÜberprüfeWidth", [&](Trap& on) {
     state_.ThumbLength = static_cast<float>(double{surface_.ScaleWidth()} - state_.Max -
                                             VBtnLeft1_.Width() - VBtnRight1_.Width());
-    on.step([&] { HScrollBar1_.Width(std::max(state_.ThumbLength, scroll::shortestThumb)); });
+    const float length = std::max(state_.ThumbLength, scroll::shortestThumb);
+    if (HScrollBar1_.Width() != length) isPlaced_ = false;
+    on.step([&] { HScrollBar1_.Width(length); });
   });
 }
 
@@ -337,6 +341,7 @@ void nvHScroll::MoveScroll(ThumbAction Action, std::int16_t Button, float Positi
 void nvHScroll::drag(Trap& on, float Position) {
   const float Delta = static_cast<float>(state_.GrabOffset) - Position;
   const float Want = HScrollBar1_.Left() - Delta;
+  isPlaced_ = false;
   on.step([&] {
     const float last = VBtnRight1_.Left() - HScrollBar1_.Width();
     if (Delta <= 0)
@@ -418,6 +423,8 @@ void nvHScroll::placeThumb(Trap& on) {
     else
       HScrollBar1_.Left(static_cast<float>(
           VBtnLeft1_.Width() + checked::subtract(state_.Value, state_.Min) * state_.UnitPixels));
+    // A failure in the reckoning is told each time.
+    isPlaced_ = state_.UnitPixels != 0;
   });
 }
 

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include <nvlist/core/PropertyBag.h>
 #include <nvlist/objects/Trap.h>
@@ -84,7 +85,7 @@ class nvHScroll final : public UserControl,
 
   /// A free text of the owner. Default: "False".
   const std::string& Tag() const { return tag_; }
-  void Tag(const std::string& value) { tag_ = value; }
+  void Tag(std::string_view value) { tag_ = value; }
 
   void UserControl_InitProperties();
   /// Keys and defaults are those of UserControl_WriteProperties. Each value goes through its
@@ -125,6 +126,7 @@ class nvHScroll final : public UserControl,
   void drag(Trap& on, float Position);
 
   void Redraw();
+  bool isPlaced() const { return isPlaced_ && !state_.PageActive; }
   void layOut(Trap& on);
   void endReachedPress(Trap& on);
   void placeThumb(Trap& on);
@@ -136,6 +138,9 @@ class nvHScroll final : public UserControl,
   scroll::ScrollState state_;
   Colour backColor_ = 0;
   std::string tag_ = "False";
+  /// Whether the thumb stands where the values put it. A list that is being filled sets most of
+  /// them to what they are already.
+  bool isPlaced_ = false;
   HScrollBar HScrollBar1_;
   VBtnLeft VBtnLeft1_;
   VBtnRight VBtnRight1_;

@@ -38,6 +38,7 @@ nvVScroll::nvVScroll(std::unique_ptr<Container> place, nvVScrollEvents& owner)
 
 template <class Field>
 void nvVScroll::assign(Trap& on, const char* name, Field ScrollState::*field, const Field& value) {
+  if (state_.*field != value) isPlaced_ = false;
   state_.*field = value;
   on.step([&] { container_.PropertyChanged(name); });
 }
@@ -51,7 +52,7 @@ template <class Field>
 void nvVScroll::assignAndRedraw(const char* name, Field ScrollState::*field, const Field& value) {
   trapped(here, name, [&](Trap& on) {
     assign(on, name, field, value);
-    on.step([&] { Redraw(); });
+    if (!isPlaced()) on.step([&] { Redraw(); });
   });
 }
 
@@ -65,7 +66,7 @@ void nvVScroll::assignRange(const char* name, std::int32_t ScrollState::*field, 
     }
     assign(on, name, field, value);
     on.step([&] { ÜberprüfeHeight(); });
-    on.step([&] { Redraw(); });
+    if (!isPlaced()) on.step([&] { Redraw(); });
   });
 }
 
@@ -170,6 +171,7 @@ void nvVScroll::UserControl_WriteProperties(PropertyBag& PropBag) {
 // ---- place ----
 
 void nvVScroll::layOut(Trap& on) {
+  isPlaced_ = false;
   on.step([&] { Width(VBtnUp1_.Width()); });
   on.step([&] { VBtnDown1_.Top(surface_.ScaleHeight() - VBtnDown1_.Height()); });
   on.step([&] { VScrollBar1_.Left(1); });
@@ -196,7 +198,9 @@ void nvVScroll::ÜberprüfeHeight() {
   trapped(here, "ÜberprüfeHeight", [&](Trap& on) {
     state_.ThumbLength =
         static_cast<float>(double{Height()} - state_.Max - VBtnUp1_.Height() - VBtnDown1_.Height());
-    on.step([&] { VScrollBar1_.Height(std::max(state_.ThumbLength, scroll::shortestThumb)); });
+    const float length = std::max(state_.ThumbLength, scroll::shortestThumb);
+    if (VScrollBar1_.Height() != length) isPlaced_ = false;
+    on.step([&] { VScrollBar1_.Height(length); });
   });
 }
 
@@ -294,6 +298,7 @@ void nvVScroll::MoveScroll(ThumbAction Action, std::int16_t Button, float Positi
 void nvVScroll::drag(Trap& on, float Position) {
   const float Delta = static_cast<float>(state_.GrabOffset) - Position;
   const float Want = VScrollBar1_.Top() - Delta;
+  isPlaced_ = false;
   on.step([&] {
     const float last = VBtnDown1_.Top() - VScrollBar1_.Height();
     if (Delta <= 0)
@@ -371,6 +376,8 @@ void nvVScroll::placeThumb(Trap& on) {
     else
       VScrollBar1_.Top(static_cast<float>(
           VBtnUp1_.Height() + checked::subtract(state_.Value, state_.Min) * state_.UnitPixels));
+    // A failure in the reckoning is told each time.
+    isPlaced_ = state_.UnitPixels != 0;
   });
 }
 

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include <nvlist/core/PropertyBag.h>
 #include <nvlist/objects/Trap.h>
@@ -74,7 +75,7 @@ class nvVScroll final : public UserControl,
 
   /// A free text of the owner. Default: "False".
   const std::string& Tag() const { return tag_; }
-  void Tag(const std::string& value) { tag_ = value; }
+  void Tag(std::string_view value) { tag_ = value; }
 
   void UserControl_InitProperties();
   /// Keys and defaults are those of UserControl_WriteProperties. Each value goes through its
@@ -114,6 +115,7 @@ class nvVScroll final : public UserControl,
   void MoveScroll(scroll::ThumbAction Action, std::int16_t Button, float Position);
   void drag(Trap& on, float Position);
 
+  bool isPlaced() const { return isPlaced_ && !state_.PageActive; }
   void layOut(Trap& on);
   void endReachedPress(Trap& on);
   void placeThumb(Trap& on);
@@ -124,6 +126,9 @@ class nvVScroll final : public UserControl,
   nvVScrollEvents& owner_;
   scroll::ScrollState state_;
   std::string tag_ = "False";
+  /// Whether the thumb stands where the values put it. A list that is being filled sets most of
+  /// them to what they are already.
+  bool isPlaced_ = false;
   VScrollBar VScrollBar1_;
   VBtnUp VBtnUp1_;
   VBtnDown VBtnDown1_;

@@ -22,9 +22,11 @@ constexpr qsizetype pieceLength = 512;
 
 constexpr std::size_t maximumDecoded = 256;
 
-constexpr char16_t firstPrintable = 0x20;
-constexpr char16_t lastPrintable = 0x7E;
-constexpr std::size_t printableCount = lastPrintable - firstPrintable + 1;
+constexpr unsigned firstPrintable = 0x20;
+constexpr unsigned lastPrintable = 0x7E;
+constexpr unsigned printableCount = lastPrintable - firstPrintable + 1;
+/// Stands behind the last character of a text.
+constexpr unsigned textEnd = lastPrintable + 1;
 constexpr float neverAsked = -1e6F;
 
 int nearestPixel(float coordinate) {
@@ -50,6 +52,8 @@ void forEachLine(std::string_view text, Take&& take) {
 }
 
 int lineCount(std::string_view text) {
+  // Mostly the text is one letter, for the height of a row.
+  if (text.size() == 1 && text[0] > '\r') return 1;
   int count = 0;
   forEachLine(text, [&](std::string_view) { return ++count > 0; });
   return count;
@@ -74,9 +78,8 @@ qsizetype pieceEnd(QStringView text, qsizetype from) {
 
 double nextTabStop(double x, int tabStop) { return (std::floor(x / tabStop) + 1) * tabStop; }
 
-bool isPrintable(QChar character) {
-  return character.unicode() >= firstPrintable && character.unicode() <= lastPrintable;
-}
+unsigned codeOf(QChar character) { return character.unicode(); }
+unsigned codeOf(char character) { return static_cast<unsigned char>(character); }
 
 }  // namespace
 
@@ -345,12 +348,12 @@ QtCanvas::Face& QtCanvas::face() {
               8 * std::max(qRound(metrics.averageCharWidth()), 1),
               std::max(qRound(metrics.underlinePos()), 1),
               std::max(qRound(metrics.lineWidth()), 1),
-              std::vector<float>(printableCount * printableCount, neverAsked)};
+              std::vector<float>(printableCount * (printableCount + 1), neverAsked)};
   return *face;
 }
 
 double QtCanvas::Face::widthOf(QStringView text) {
-  if (std::all_of(text.begin(), text.end(), isPrintable)) return widthOfPrintable(text);
+  if (const auto width = widthOfPrintable(text)) return *width;
   double width = 0;
   for (qsizetype at = 0; at < text.size();) {
     const qsizetype end = std::max(pieceEnd(text, at), at + 1);
@@ -362,18 +365,33 @@ double QtCanvas::Face::widthOf(QStringView text) {
 
 /// Adds up pairs of characters. A list measures each text it is given, a million at times, and the
 /// full layout of one takes microseconds.
-double QtCanvas::Face::widthOfPrintable(QStringView text) {
-  if (text.isEmpty()) return 0;
-  double width = metrics.horizontalAdvance(text.back());
-  for (qsizetype at = 0; at + 1 < text.size(); ++at) {
-    const std::size_t row = text[at].unicode() - firstPrintable;
-    float& advance = advances[row * printableCount + (text[at + 1].unicode() - firstPrintable)];
-    if (advance <= neverAsked)
-      advance = static_cast<float>(metrics.horizontalAdvance(text.sliced(at, 2).toString()) -
-                                   metrics.horizontalAdvance(text[at + 1]));
-    width += advance;
+template <class Text>
+std::optional<double> QtCanvas::Face::widthOfPrintable(Text text) {
+  const auto isPrintable = [](unsigned code) { return code - firstPrintable < printableCount; };
+  const std::size_t length = static_cast<std::size_t>(text.size());
+  if (length == 0) return 0;
+  double width = 0;
+  unsigned character = codeOf(text.front());
+  for (std::size_t at = 1; isPrintable(character); ++at) {
+    if (at == length) return width + advance(character, textEnd);
+    const unsigned next = codeOf(text[static_cast<typename Text::size_type>(at)]);
+    if (!isPrintable(next)) break;
+    width += advance(character, next);
+    character = next;
   }
-  return width;
+  return {};
+}
+
+float QtCanvas::Face::advance(unsigned character, unsigned next) {
+  float& known =
+      advances[(character - firstPrintable) * (printableCount + 1) + (next - firstPrintable)];
+  if (known > neverAsked) return known;
+  const QChar pair[] = {QChar(character), QChar(next)};
+  const QStringView text(pair, 2);
+  known = next == textEnd ? static_cast<float>(metrics.horizontalAdvance(pair[0]))
+                          : static_cast<float>(metrics.horizontalAdvance(text.toString()) -
+                                               metrics.horizontalAdvance(pair[1]));
+  return known;
 }
 
 double QtCanvas::widthWithTabs(const QString& line) {
@@ -389,6 +407,8 @@ double QtCanvas::widthWithTabs(const QString& line) {
 }
 
 float QtCanvas::TextWidth(std::string_view text) {
+  if (const auto width = face().widthOfPrintable(text))
+    return static_cast<float>(std::nearbyint(*width));
   double widest = 0;
   forEachLine(text, [&](std::string_view line) {
     widest = std::max(widest, widthWithTabs(decoded(line)));

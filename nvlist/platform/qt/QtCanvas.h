@@ -88,14 +88,17 @@ class QtCanvas final : public Surface {
     int tabStop;
     int underlineTop;
     int underlineHeight;
-    /// What a printable ASCII character adds to a width in front of another one, kerning included;
-    /// below -1000 where that was never asked.
+    /// What a printable ASCII character adds to a width in front of another one, kerning included,
+    /// or at the end; below -1000 where that was never asked.
     std::vector<float> advances;
 
     double widthOf(QStringView text);
+    /// Nothing where a character is not printable ASCII.
+    template <class Text>
+    std::optional<double> widthOfPrintable(Text text);
 
    private:
-    double widthOfPrintable(QStringView text);
+    float advance(unsigned character, unsigned next);
   };
 
   struct ShownLine;

@@ -30,6 +30,9 @@ int eventLoops = 0;
 /// A handler may cause the event that calls it again; from here on it has to wait.
 constexpr int mostEventLoops = 16;
 
+/// In pixels; further than any screen, and no widget takes more.
+constexpr float farOut = 1 << 24;
+
 /// A control inside another one.
 class ChildWidget final : public QWidget, public QtPlace {
  public:
@@ -53,7 +56,7 @@ QtPlace::QtPlace(QWidget& widget, QtPlace* around) : widget_(&widget), around_(a
   surface_.setPalette(widget_->palette());
   surface_.resize(widget_->size(), widget_->devicePixelRatioF());
   surface_.onDrawn = [this] {
-    if (widget_) widget_->update();
+    if (widget_ && !isPainting_) widget_->update();
   };
 }
 
@@ -95,9 +98,10 @@ std::unique_ptr<Timer> QtPlace::addTimer(std::function<void()> tick) {
 }
 
 void QtPlace::PropertyChanged(std::string_view name) {
+  if (!onPropertyChanged) return;
   // A copy, as a handler may take itself away.
   const auto handler = onPropertyChanged;
-  if (handler) handler(name);
+  handler(name);
 }
 
 Boolean QtPlace::UserMode() { return around_ ? around_->UserMode() : Boolean(!isDesignMode); }
@@ -124,7 +128,10 @@ void QtPlace::DoEvents() {
 
 void QtPlace::move(const Bounds& bounds) {
   if (!widget_) return;
-  const auto rounded = [](float length) { return static_cast<int>(std::lrint(length)); };
+  // A thumb may be sent far off its track.
+  const auto rounded = [](float length) {
+    return static_cast<int>(std::lrint(std::clamp(length, -farOut, farOut)));
+  };
   widget_->setGeometry(rounded(bounds.Left), rounded(bounds.Top), rounded(bounds.Width),
                        rounded(bounds.Height));
   // A hidden widget is not told of its size.
@@ -164,7 +171,11 @@ void QtPlace::renewImage() {
 
 void QtPlace::paint() {
   if (!widget_) return;
-  if (std::exchange(isPaintPending_, false) && control_) control_->UserControl_Paint();
+  if (std::exchange(isPaintPending_, false) && control_) {
+    isPainting_ = true;
+    control_->UserControl_Paint();
+    isPainting_ = false;
+  }
   QPainter(widget_).drawImage(QPointF(0, 0), surface_.image());
   // Not every change of the ratio is told, and a control must not draw while its window is painted.
   if (surface_.devicePixelRatio() != widget_->devicePixelRatioF())
@@ -202,7 +213,8 @@ bool QtPlace::event(QEvent* event) {
 
 /// A handler of the host may end the widget: nothing is done behind the call of the control.
 bool QtPlace::mouseEvent(QEvent* event) {
-  if (!widget_->isEnabled()) return false;
+  // What a disabled control covers hears nothing either.
+  if (!widget_->isEnabled()) return around_ && around_->widget_->isEnabled();
   const auto* mouse = static_cast<const QMouseEvent*>(event);
   const std::int16_t button = buttonsOf(mouse->button());
   const std::int16_t shift = shiftOf(mouse->modifiers());
@@ -235,9 +247,11 @@ bool QtPlace::mouseEvent(QEvent* event) {
 
 /// A control that holds the capture hears of the pointer outside. No pointer is grabbed for it.
 void QtPlace::pointerLeft() {
-  if (!hasCapture_) return;
+  // While a button is down every move comes to the control that was pressed.
+  if (!hasCapture_ || QGuiApplication::mouseButtons() != Qt::NoButton) return;
   QPoint position = widget_->mapFromGlobal(QCursor::pos());
-  if (widget_->rect().contains(position)) position = QPoint(-1, -1);
+  // The control counts the pixels beside its far edges as its own, and no other move follows.
+  if (widget_->rect().adjusted(0, 0, 1, 1).contains(position)) position = QPoint(-1, -1);
   control_->UserControl_MouseMove(0, shiftOf(QGuiApplication::keyboardModifiers()),
                                   static_cast<float>(position.x()),
                                   static_cast<float>(position.y()));

@@ -74,6 +74,7 @@ class QtPlace : public Container {
   UserControl* control_ = nullptr;
   std::function<void(std::int32_t, std::int32_t)> wheelProcedure_;
   bool isPaintPending_ = false;
+  bool isPainting_ = false;
   bool hasCapture_ = false;
   bool isDoubleClick_ = false;
 };
