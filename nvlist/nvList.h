@@ -81,7 +81,7 @@ class nvList final : public UserControl,
   void Wheel1_WheelScroll(std::int16_t& Rotation, std::int16_t& Keys, float& X, float& Y) override;
 
   /// The handle of the control's window; 0 where the platform has none.
-  std::int32_t hwnd() { return container_.hwnd(); }
+  std::int32_t hwnd();
   /// Shows a box with the name and the version of the control.
   void About();
 
@@ -474,9 +474,9 @@ class nvList final : public UserControl,
   // input/
   std::int32_t rowAt(double y, std::int32_t origin, std::int32_t height);
   std::int32_t contentLeft() const;
-  void pressItem(Trap& on, std::int32_t hit, float x);
+  void pressItem(Trap& on, std::int32_t hit, double x);
   void selectRange(Trap& on);
-  void flipChecked(Trap& on);
+  bool flipChecked(Trap& on);
   void drag(Trap& on, float y, std::int32_t row, std::int32_t height);
   void tmrMouseAction_Timer();
   void completeMove(Trap& on);
@@ -484,7 +484,7 @@ class nvList final : public UserControl,
   void moveDown(Trap& on, std::int32_t visible);
   void focusChanged(const char* procedure, Boolean hasFocus);
   void Text1_KeyPress(std::int16_t& KeyAscii);
-  Bounds editPlace(std::int32_t row);
+  float editLeft(float before) const;
   void scrollBarTo(Trap& on, std::int32_t value);
   void wheelScrollDown(Trap& on, std::int16_t rotation);
   void wheelScrollUp(Trap& on);
@@ -543,7 +543,6 @@ class nvList final : public UserControl,
                                void (nvList::*let)(std::type_identity_t<Value>),
                                Variant defaultValue);
   static const std::vector<StoredProperty>& storedProperties();
-  norvane::Font ambientFont(Trap& on);
 
   // core/properties.cpp
   template <class Value>
@@ -633,6 +632,7 @@ class nvList final : public UserControl,
   static constexpr std::int32_t borderPieces = 4;
   std::array<BorderPiece, borderPieces> pBord;  ///< top, right, bottom, left
   MeasuringLabel lblWidth;
+  norvane::Font lblFont;  ///< the ambient font when the properties were read
   std::unique_ptr<TextBox> Text1;
   std::unique_ptr<Timer> tmrMouseAction;
   enum class AutoScroll { none, up, down } autoScroll_ = AutoScroll::none;

@@ -39,6 +39,12 @@ void nvList::UserControl_AmbientChanged(std::string_view PropertyName) {
   });
 }
 
+std::int32_t nvList::hwnd() {
+  std::int32_t handle = 0;
+  trapped(here, "hwnd", [&](Trap& on) { on.step([&] { handle = container_.hwnd(); }); });
+  return handle;
+}
+
 void nvList::About() {
   trapped(here, "About", [&](Trap& on) { on.step([] { showAboutBox(); }); });
 }

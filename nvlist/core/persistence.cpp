@@ -91,12 +91,6 @@ const std::vector<nvList::StoredProperty>& nvList::storedProperties() {
   return properties;
 }
 
-norvane::Font nvList::ambientFont(Trap& on) {
-  norvane::Font font;
-  on.ignoring([&] { font = container_.AmbientFont(); });
-  return font;
-}
-
 void nvList::UserControl_InitProperties() {
   trapped(here, "UserControl_InitProperties", [&](Trap& on) {
     const PropertyBag empty;
@@ -106,15 +100,20 @@ void nvList::UserControl_InitProperties() {
 
 void nvList::UserControl_ReadProperties(const PropertyBag& PropBag) {
   trapped(here, "UserControl_ReadProperties", [&](Trap& on) {
-    const Variant font{Ref<Object>(ambientFont(on))};
+    on.ignoring([&] { lblFont = container_.AmbientFont(); });
     state_.SuppressRedraw = true;
-    on.step([&] { Font(fontIn(PropBag.ReadProperty("Font", font))); });
+    on.step([&] { Font(fontIn(PropBag.ReadProperty("Font", Variant(Ref<Object>(lblFont))))); });
     for (const StoredProperty& property : storedProperties())
       on.step([&] {
         property.read(*this, PropBag.ReadProperty(property.name, property.defaultValue));
       });
     state_.SuppressRedraw = false;
     state_.ClickPending = true;
+    on.ignoring([&] {
+      if (!container_.UserMode()) return;
+      Wheel1.hWndCapture(container_.hwnd());
+      Wheel1.EnableWheel();
+    });
     on.step([&] { ItemsClear(); });
     on.step([&] { ListIndex(-1); });
     state_.SelectAnchor = -1;
@@ -125,8 +124,10 @@ void nvList::UserControl_ReadProperties(const PropertyBag& PropBag) {
 
 void nvList::UserControl_WriteProperties(PropertyBag& PropBag) {
   trapped(here, "UserControl_WriteProperties", [&](Trap& on) {
-    const Variant font{Ref<Object>(ambientFont(on))};
-    on.step([&] { PropBag.WriteProperty("Font", Variant(Ref<Object>(CloneFont(Font()))), font); });
+    on.step([&] {
+      PropBag.WriteProperty("Font", Variant(Ref<Object>(CloneFont(Font()))),
+                            Variant(Ref<Object>(lblFont)));
+    });
     for (const StoredProperty& property : storedProperties())
       on.step([&] {
         PropBag.WriteProperty(property.name, property.written(*this), property.defaultValue);

@@ -1,5 +1,7 @@
 #include <nvlist/input/Wheel.h>
 
+#include <utility>
+
 #include <nvlist/core/numbers.h>
 #include <nvlist/objects/Trap.h>
 
@@ -30,10 +32,16 @@ void Wheel::EnableWheel() {
 }
 
 void Wheel::DisableWheel() {
-  trapped(wheelControl, "DisableWheel", [&](Trap& on) {
-    if (window_ == 0 || !isHooked_) return;
-    isHooked_ = false;
-    on.step([&] { place_.hookWheel({}); });
+  if (window_ != 0) unhook("DisableWheel");
+}
+
+/// The hook must not outlive this, whatever the window is called by now.
+Wheel::~Wheel() { unhook("UserControl_Terminate"); }
+
+void Wheel::unhook(const char* procedure) {
+  trapped(wheelControl, procedure, [&](Trap& on) {
+    const bool wasHooked = std::exchange(isHooked_, false);
+    if (wasHooked) on.step([&] { place_.hookWheel({}); });
   });
 }
 

@@ -26,7 +26,7 @@ class Wheel {
   Wheel(Container& place, WheelEvents& owner) : place_(place), owner_(owner) {}
   Wheel(const Wheel&) = delete;
   Wheel& operator=(const Wheel&) = delete;
-  ~Wheel() { DisableWheel(); }
+  ~Wheel();
 
   /// The window; 0 none.
   std::int32_t hWndCapture() const { return window_; }
@@ -41,6 +41,8 @@ class Wheel {
   void WndProc(std::int32_t wParam, std::int32_t lParam);
 
  private:
+  void unhook(const char* procedure);
+
   Container& place_;
   WheelEvents& owner_;
   std::int32_t window_ = 0;

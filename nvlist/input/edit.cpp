@@ -15,17 +15,34 @@ void nvList::SetEdit(const Variant& Index) {
     if (!state_.AllowEdit) return;
     std::int32_t height = 0;
     on.step([&] { height = ItemHeight(); });
-    // The box stands where the mouse was pressed last, whatever the index says.
+    // The box stands where the mouse was pressed last, whatever the index says; above the first row
+    // where it never was.
     std::int32_t row = -1;
-    on.step([&] { row = rowAt(state_.MouseDownY.toNumber(), 0, height); });
+    on.step([&] {
+      const Variant& y = state_.MouseDownY;
+      row = rowAt(y.isEmpty() ? -1 : y.toNumber(), 0, height);
+    });
     std::int32_t index = 0;
     on.step([&] { index = Index.toInt32(); });
     if (on.test([&] { return !item(index).Enabled || !item(index).AllowEdit; })) return;
     state_.EditActive = true;
     on.step([&] { Text1->Font(state_.Font); });
     on.step([&] { Text1->ForeColor(state_.ForeColor); });
+    const auto move = [&](auto&& change) {
+      on.step([&] {
+        Bounds place = Text1->place();
+        change(place);
+        Text1->Move(place);
+      });
+    };
+    move([&](Bounds& place) { place.Height = surface_.TextHeight("A") + 1; });
     on.step([&] { Text1->Text(item(index).Text); });
-    on.step([&] { Text1->Move(editPlace(row)); });
+    move([&](Bounds& place) { place.Left = editLeft(place.Left); });
+    // In rows of the text's height, though the list's may be higher.
+    move([&](Bounds& place) {
+      place.Top = static_cast<float>(row) * surface_.TextHeight("A") + state_.IndentTop;
+    });
+    move([&](Bounds& place) { place.Width = surface_.ScaleWidth() - 2 - place.Left; });
     on.step([&] { Text1->Visible(true); });
     on.step([&] { Text1->SetFocus(); });
     on.step([&] {
@@ -35,20 +52,18 @@ void nvList::SetEdit(const Variant& Index) {
   });
 }
 
-/// In rows of the text's height, though the list's may be higher. With both pictures the box stays
-/// at the left where it was last.
-Bounds nvList::editPlace(std::int32_t row) {
-  const float textHeight = surface_.TextHeight("A");
-  Bounds place = Text1->place();
-  const float checkBoxWidth = art::checkBox(true, true)->width();
-  if (state_.Style == cDefault) place.Left = 1;
-  if (state_.Style == cCheckBoxes)
-    place.Left = checkBoxWidth + state_.DistPicText + state_.IndentLeft;
-  if (state_.Style == cIcons) place.Left = state_.IconW + state_.DistPicText + state_.IndentLeft;
-  place.Top = static_cast<float>(row) * textHeight + state_.IndentTop;
-  place.Width = surface_.ScaleWidth() - 2 - place.Left;
-  place.Height = textHeight + 1;
-  return place;
+/// With both pictures the box stays at the left where it was last, `before`.
+float nvList::editLeft(float before) const {
+  switch (state_.Style) {
+    case cDefault:
+      return 1;
+    case cCheckBoxes:
+      return art::checkBox(true, true)->width() + state_.DistPicText + state_.IndentLeft;
+    case cIcons:
+      return state_.IconW + state_.DistPicText + state_.IndentLeft;
+    default:
+      return before;
+  }
 }
 
 void nvList::Text1_KeyPress(std::int16_t& KeyAscii) {

@@ -80,16 +80,14 @@ void nvList::tmrMouseAction_Timer() {
 
 /// The current item lands before the marked row. Where none is marked it goes to the top.
 void nvList::completeMove(Trap& on) {
-  const auto isDown = [&] { return state_.HoverIndex > state_.ListIndex; };
-  if (isDown())
-    on.step([&] {
-      MoveItemDown(state_.ListIndex,
-                   checked::subtract(checked::subtract(state_.HoverIndex, state_.ListIndex), 1));
-    });
-  else
-    on.step([&] {
-      MoveItemUp(state_.ListIndex, checked::subtract(state_.ListIndex, state_.HoverIndex));
-    });
+  on.step([&] {
+    const std::int32_t current = state_.ListIndex;
+    const std::int32_t target = state_.HoverIndex;
+    if (target > current)
+      MoveItemDown(current, checked::subtract(checked::subtract(target, current), 1));
+    else
+      MoveItemUp(current, checked::subtract(current, target));
+  });
   state_.HoverIndex = -1;
 }
 

@@ -19,8 +19,10 @@ void nvList::UserControl_KeyDown(std::int16_t& KeyCode, std::int16_t Shift) {
     std::int32_t visible = 0;
     on.step([&] { visible = VisibleItems(); });
     if (ItemsCount() == 0 || state_.EditActive) return;
-    if (KeyCode == keyUp) moveUp(on, visible);
-    if (KeyCode == keyDown) moveDown(on, visible);
+    if (KeyCode == keyUp)
+      moveUp(on, visible);
+    else if (KeyCode == keyDown)
+      moveDown(on, visible);
   });
 }
 

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include <nvlist/core/numbers.h>
 #include <nvlist/nvList.h>
 #include <nvlist/render/art.h>
@@ -57,13 +59,13 @@ void nvList::UserControl_MouseDown(std::int16_t Button, std::int16_t Shift, floa
     state_.ClickPending = false;
     std::int32_t hit = -1;
     on.step([&] { hit = checked::add(VScroll1.Value(), row); });
-    if (state_.Items.holds(hit)) pressItem(on, hit, X - static_cast<float>(checkLeft));
+    if (state_.Items.holds(hit)) pressItem(on, hit, double{X} - checkLeft);
     on.step([&] { Redraw(); });
   });
 }
 
 /// A press on an item; `x` counts from the left of the check zone.
-void nvList::pressItem(Trap& on, std::int32_t hit, float x) {
+void nvList::pressItem(Trap& on, std::int32_t hit, double x) {
   if (on.test([&] { return !item(hit).Enabled; })) {
     on.step([&] { ListIndex(-1); });
     return;
@@ -104,18 +106,19 @@ void nvList::selectRange(Trap& on) {
       on.step([&] { state_.Selection.set(state_.Items, i, true); });
 }
 
-/// The check mark of the current item changes, unless the host refuses.
-void nvList::flipChecked(Trap& on) {
+/// The check mark of the current item changes, unless the host refuses: then it is false.
+bool nvList::flipChecked(Trap& on) {
   Boolean Cancel = false;
   on.step([&] {
     std::int32_t Item = state_.ListIndex;
     sinks_.raise([&](__nvList& sink) { sink.ItemCheck(Item, Cancel); });
   });
-  if (Cancel) return;
+  if (Cancel) return false;
   on.step([&] {
     ListItem& current = item(state_.ListIndex);
     current.Checked = ~current.Checked;
   });
+  return true;
 }
 
 void nvList::UserControl_MouseUp(std::int16_t Button, std::int16_t Shift, float X, float Y) {
@@ -145,10 +148,7 @@ bool nvList::UserControl_DblClick() {
         return state_.MouseDownY.toNumber() > checked::multiply(ItemHeight(), ItemsCount());
       };
       if (on.test(isBelowItems)) return;
-      if (state_.Style == cCheckBoxes) {
-        flipChecked(on);
-        on.step([&] { Redraw(); });
-      }
+      if (state_.Style == cCheckBoxes && flipChecked(on)) on.step([&] { Redraw(); });
       on.step([&] { SetEdit(state_.ListIndex); });
     }
     on.step([&] { sinks_.raise([](__nvList& sink) { sink.DblClick(); }); });

@@ -30,7 +30,7 @@ void nvList::Wheel1_WheelScroll(std::int16_t& Rotation, std::int16_t&, float&, f
     if (state_.WheelMoved) on.step([&] { raiseScroll(); });
     state_.SuppressRedraw = false;
     state_.IsRedrawing = false;
-    on.step([&] { Wheel1.hWndCapture(hwnd()); });
+    on.step([&] { Wheel1.hWndCapture(container_.hwnd()); });
     on.step([&] { Redraw(); });
     on.step([&] { container_.DoEvents(); });
   });

@@ -32,6 +32,12 @@ HeadlessContainer::~HeadlessContainer() {
   if (root_.captured_ == this) root_.captured_ = nullptr;
 }
 
+void HeadlessContainer::attach(UserControl* control) {
+  control_ = control;
+  // Its edit boxes went with it.
+  if (!control) textBoxes_.clear();
+}
+
 std::unique_ptr<Container> HeadlessContainer::addChild() {
   return std::unique_ptr<Container>(new HeadlessContainer(this));
 }
@@ -120,7 +126,7 @@ void HeadlessContainer::press(float x, float y, std::int16_t button, std::int16_
   HeadlessContainer* const target = root_.pressed_ ? root_.pressed_ : root_.hit(point);
   if (!target || !target->control_) return;
   root_.pressed_ = target;
-  root_.isDoubleClick_ = false;
+  if (button == 1) root_.isDoubleClick_ = false;
   const Point own = target->fromRoot(point);
   target->control_->UserControl_MouseDown(button, shift, own.x, own.y);
 }

@@ -62,7 +62,7 @@ class HeadlessContainer : public Container {
   /// The surface it made for itself; Failure 5 for a form that shows the program's.
   HeadlessSurface& ownSurface();
 
-  void attach(UserControl* control) override { control_ = control; }
+  void attach(UserControl* control) override;
   Surface& surface() override { return surface_; }
   void PropertyChanged(std::string_view property) override;
   Boolean UserMode() override { return root_.userMode; }

@@ -87,9 +87,7 @@ std::unique_ptr<Container> QtPlace::addChild() {
 
 std::unique_ptr<TextBox> QtPlace::addTextBox(std::function<void(std::int16_t&)> keyPress) {
   return std::make_unique<QtTextBox>(*widget_, std::move(keyPress), [this](QEvent::Type type) {
-    // The control itself keeps nothing; it is entered or left as a whole.
-    if (!control_ || isFocusInside()) return;
-    if (type == QEvent::FocusOut) control_->UserControl_ExitFocus();
+    if (control_) focusEvent(type, FocusOf::editBox);
   });
 }
 
@@ -184,6 +182,12 @@ void QtPlace::paint() {
 
 bool QtPlace::event(QEvent* event) {
   if (!widget_ || !control_) return false;
+  const QPointer<QWidget> guard(widget_);
+  const bool isTaken = hear(event);
+  return isTaken || !guard;
+}
+
+bool QtPlace::hear(QEvent* event) {
   switch (event->type()) {
     case QEvent::PaletteChange:
     case QEvent::ScreenChangeInternal:
@@ -191,7 +195,7 @@ bool QtPlace::event(QEvent* event) {
       return false;
     case QEvent::FocusIn:
     case QEvent::FocusOut:
-      focusEvent(event->type());
+      focusEvent(event->type(), FocusOf::control);
       return false;
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
@@ -220,6 +224,8 @@ bool QtPlace::mouseEvent(QEvent* event) {
   const std::int16_t shift = shiftOf(mouse->modifiers());
   const auto x = static_cast<float>(mouse->position().x());
   const auto y = static_cast<float>(mouse->position().y());
+  // Buttons that the control does not know are the form's.
+  if (button == 0 && event->type() != QEvent::MouseMove) return false;
   event->accept();
   if (event->type() == QEvent::MouseMove) {
     control_->UserControl_MouseMove(buttonsOf(mouse->buttons()), shift, x, y);
@@ -233,15 +239,15 @@ bool QtPlace::mouseEvent(QEvent* event) {
     if (guard && isClick && control_) control_->UserControl_Click();
     return true;
   }
-  isDoubleClick_ = false;
-  if (event->type() == QEvent::MouseButtonDblClick && mouse->button() == Qt::LeftButton) {
+  if (mouse->button() == Qt::LeftButton) {
     const QPointer<QWidget> guard(widget_);
-    const bool isHeard = control_->UserControl_DblClick();
+    const bool isHeard =
+        event->type() == QEvent::MouseButtonDblClick && control_->UserControl_DblClick();
     if (!guard) return true;
     isDoubleClick_ = isHeard;
     if (isHeard) return true;
   }
-  if (button != 0) control_->UserControl_MouseDown(button, shift, x, y);
+  control_->UserControl_MouseDown(button, shift, x, y);
   return true;
 }
 
@@ -259,8 +265,9 @@ void QtPlace::pointerLeft() {
 
 bool QtPlace::keyEvent(QEvent* event) {
   auto* key = static_cast<QKeyEvent*>(event);
-  // The keys that leave the control are the form's.
-  if (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab) return false;
+  // The keys that leave the control are the form's, and so are those that come by from an edit box.
+  const bool isFromEditBox = isFocusInside() && !widget_->hasFocus();
+  if (isFromEditBox || key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab) return false;
   std::int16_t code = keyCodeOf(*key);
   const std::int16_t shift = shiftOf(key->modifiers());
   if (event->type() == QEvent::KeyRelease) {
@@ -271,11 +278,11 @@ bool QtPlace::keyEvent(QEvent* event) {
   const bool isArrow = key->key() == Qt::Key_Up || key->key() == Qt::Key_Down;
   if (code != 0) {
     control_->UserControl_KeyDown(code, shift);
-    if (!guard || !control_ || code == 0) return true;
+    if (!guard || code == 0) return true;
   }
   std::int16_t character = characterOf(*key);
   if (character != 0) control_->UserControl_KeyPress(character);
-  return !guard || isArrow;
+  return isArrow;
 }
 
 bool QtPlace::wheelEvent(QEvent* event) {
@@ -298,15 +305,17 @@ bool QtPlace::isFocusInside() const {
   return widget_ && focus && (focus == widget_ || widget_->isAncestorOf(focus));
 }
 
-void QtPlace::focusEvent(QEvent::Type type) {
+/// The control is entered and left as a whole, with the edit boxes in it.
+void QtPlace::focusEvent(QEvent::Type type, FocusOf of) {
   const QPointer<QWidget> guard(widget_);
   if (type == QEvent::FocusIn) {
-    control_->UserControl_EnterFocus();
-    if (guard && control_) control_->UserControl_GotFocus();
+    if (!std::exchange(isEntered_, true)) control_->UserControl_EnterFocus();
+    if (guard && of == FocusOf::control) control_->UserControl_GotFocus();
     return;
   }
-  control_->UserControl_LostFocus();
-  if (guard && control_ && !isFocusInside()) control_->UserControl_ExitFocus();
+  if (of == FocusOf::control) control_->UserControl_LostFocus();
+  if (guard && !isFocusInside() && std::exchange(isEntered_, false))
+    control_->UserControl_ExitFocus();
 }
 
 }  // namespace norvane

@@ -26,7 +26,8 @@ class QtPlace : public Container {
   /// Told after each change of a property of the control, if set.
   std::function<void(std::string_view name)> onPropertyChanged;
 
-  /// What the widget was told and the control has to hear. True where it is the control's alone.
+  /// What the widget was told and the control has to hear. True where it is the control's alone,
+  /// and where a handler of the host has ended the widget: it must not be touched then.
   bool event(QEvent* event);
   void paint();
   /// The image takes the widget's size; what was drawn is lost where that is another one.
@@ -59,10 +60,12 @@ class QtPlace : public Container {
   std::unique_ptr<Timer> addTimer(std::function<void()> tick) override;
 
  private:
+  bool hear(QEvent* event);
   bool mouseEvent(QEvent* event);
   bool keyEvent(QEvent* event);
   bool wheelEvent(QEvent* event);
-  void focusEvent(QEvent::Type type);
+  enum class FocusOf { control, editBox };
+  void focusEvent(QEvent::Type type, FocusOf of);
   bool isFocusInside() const;
   void pointerLeft();
   void renewImage();
@@ -77,6 +80,7 @@ class QtPlace : public Container {
   bool isPainting_ = false;
   bool hasCapture_ = false;
   bool isDoubleClick_ = false;
+  bool isEntered_ = false;
 };
 
 }  // namespace norvane

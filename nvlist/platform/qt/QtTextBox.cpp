@@ -61,12 +61,13 @@ void QtTextBox::Visible(bool isVisible) {
   if (!edit_ || Visible() == isVisible) return;
   // Hiding the widget with the focus would hand it to whatever comes next.
   if (!isVisible && edit_->hasFocus()) edit_->parentWidget()->setFocus();
-  edit_->setVisible(isVisible);
-  if (isVisible) edit_->raise();
+  if (edit_) edit_->setVisible(isVisible);
+  if (edit_ && isVisible) edit_->raise();
 }
 
 void QtTextBox::SetFocus() {
-  if (!edit_ || !edit_->isVisible()) throw Failure::invalidCall();
+  if (!edit_) return;
+  if (!edit_->isVisible()) throw Failure::invalidCall();
   edit_->setFocus();
 }
 
@@ -90,7 +91,7 @@ bool QtTextBox::eventFilter(QObject* watched, QEvent* event) {
     std::int16_t character = characterOf(*static_cast<QKeyEvent*>(event));
     if (character != 0) {
       keyPress_(character);
-      if (character == 0) return true;
+      if (character == 0 || !edit_) return true;
     }
   }
   return QObject::eventFilter(watched, event);
