@@ -91,6 +91,7 @@ void fillDatabase(Stage& stage) {
   nvList& list = stage.addList("database");
   list.MinHeight(20);
   list.Recordset(norvane::makeRef<norvane::QtRecordset>(database->run(queries[0])));
+  list.ListIndex(0);
 
   QComboBox* box = queryBox();
   auto* button = new QToolButton;

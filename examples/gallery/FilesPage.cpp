@@ -23,9 +23,8 @@ struct Delimiter {
   const char* name;
   const char* text;
 };
-constexpr Delimiter delimiters[] = {{"at lines", "\n"},      {"at empty lines", "\n\n"},
-                                    {"at commas", ","},      {"at semicolons", ";"},
-                                    {"at tabulators", "\t"}, {"at blanks", " "}};
+constexpr Delimiter delimiters[] = {{"lines", "\n"},     {"empty lines", "\n\n"}, {"commas", ","},
+                                    {"semicolons", ";"}, {"tabulators", "\t"},    {"blanks", " "}};
 
 /// What the buttons of the page act on.
 struct Desk {
@@ -112,7 +111,7 @@ void fillItems(nvList& list) {
 QComboBox* delimiterBox() {
   auto* result = new QComboBox;
   result->setObjectName("delimiter");
-  result->setToolTip("Where the text is parted");
+  result->setToolTip("What parts the text that is imported");
   for (const auto& [name, text] : delimiters) result->addItem(name, QString(text));
   return result;
 }
@@ -139,8 +138,9 @@ void fillFiles(Stage& stage) {
   list.MinHeight(iconSize + 4);
   list.DistPicText(6);
   fillItems(list);
+  list.ListIndex(0);
 
-  const Desk desk{&stage, &list, new QCheckBox("with properties"), delimiterBox()};
+  const Desk desk{&stage, &list, new QCheckBox("Properties"), delimiterBox()};
   desk.keeps->setChecked(true);
   desk.keeps->setToolTip("Save and read colours, fonts, keys and pictures too, not texts alone");
   QHBoxLayout* row = stage.addRow();

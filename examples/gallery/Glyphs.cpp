@@ -85,12 +85,12 @@ void database(QPainter& on) {
   across.setColorAt(0, paper);
   across.setColorAt(1, QColor(0x8F, 0xB2, 0xE4));
   for (const double top : {9.5, 5.5, 1.5}) {
-    on.setPen(QPen(ink, 1));
+    on.setPen(QPen(edge, 1));
     on.setBrush(across);
     on.drawChord(QRectF(2.5, top + 1.5, 11, 4.5), 180 * 16, 180 * 16);
     on.fillRect(QRectF(2.5, top + 1.5, 11, 2.2), across);
-    stroke(on, ink, 1, {{2.5, top + 1.5}, {2.5, top + 3.7}});
-    stroke(on, ink, 1, {{13.5, top + 1.5}, {13.5, top + 3.7}});
+    stroke(on, edge, 1, {{2.5, top + 1.5}, {2.5, top + 3.7}});
+    stroke(on, edge, 1, {{13.5, top + 1.5}, {13.5, top + 3.7}});
     on.setBrush(across);
     on.drawEllipse(QRectF(2.5, top - 0.5, 11, 4));
   }

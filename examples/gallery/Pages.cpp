@@ -334,7 +334,7 @@ QGridLayout* Stage::grid() {
 QHBoxLayout* Stage::addRow() {
   auto* row = new QHBoxLayout;
   row->setSpacing(4);
-  grid()->addLayout(row, 0, 0, 1, 2);
+  grid()->addLayout(row, 0, 0, 1, grid()->columnCount());
   return row;
 }
 

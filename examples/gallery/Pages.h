@@ -26,7 +26,7 @@ class Stage : public QWidget {
   /// list, and none where it is empty.
   norvane::nvList& addList(const QString& name, const QString& caption = {});
 
-  /// A new row above the lists, for what the page has of its own.
+  /// A new row above the lists that there are by now, for what the page has of its own.
   QHBoxLayout* addRow();
 
   /// Shows a line in the place of lists.
