@@ -27,7 +27,7 @@ need() {
 }
 
 build_packages=(g++ cmake ninja-build)
-qt_packages=(qt6-base-dev qt6-qpa-plugins libgl-dev fonts-dejavu-core)
+qt_packages=(qt6-base-dev qt6-qpa-plugins libqt6sql6-sqlite libgl-dev fonts-dejavu-core)
 test_packages=(libgtest-dev)
 benchmark_packages=(libbenchmark-dev)
 fuzz_packages=(clang libclang-rt-dev)

@@ -10,6 +10,7 @@ namespace gallery {
 namespace {
 
 constexpr int mostLines = 5000;
+constexpr int progressInterval = 40;  // milliseconds
 constexpr auto mouseMove = "MouseMove";
 
 QString shown(const norvane::Variant& value) {
@@ -43,13 +44,30 @@ EventLog::EventLog() : failures_(std::make_shared<Failures>(*this)) {
   setReadOnly(true);
   setMaximumBlockCount(mostLines);
   setPlaceholderText("Events appear here, and what is set in the sheets.");
+  connect(&showingProgress_, &QTimer::timeout, this, [this] { showProgress(); });
   norvane::QtApplication::ensure();
   norvane::Application::inUse().registerErrorHandler(failures_);
 }
 
 EventLog::~EventLog() { norvane::Application::inUse().registerErrorHandler(nullptr); }
 
+void EventLog::progress(const char* name, const norvane::Variant& index) {
+  if (progress_ && progress_ != name) showProgress();
+  progress_ = name;
+  reached_ = index;
+  if (!showingProgress_.isActive()) showingProgress_.start(progressInterval);
+}
+
+void EventLog::showProgress() {
+  const char* name = std::exchange(progress_, nullptr);
+  if (!name) return;
+  showingProgress_.stop();
+  if (lastLine_.startsWith(name)) removeLastLine();
+  event(name, {{"Index", reached_}});
+}
+
 void EventLog::write(const QString& line) {
+  showProgress();
   const bool isRepeated = line == lastLine_ && !document()->isEmpty();
   times_ = isRepeated ? times_ + 1 : 1;
   if (isRepeated) removeLastLine();

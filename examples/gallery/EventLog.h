@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPlainTextEdit>
+#include <QTimer>
 #include <initializer_list>
 #include <memory>
 #include <utility>
@@ -39,8 +40,8 @@ class EventLog : public QPlainTextEdit, public norvane::__nvList {
   }
   void ErrorListInput() override { event("ErrorListInput"); }
   void ErrorListSave() override { event("ErrorListSave"); }
-  void ListSaving(norvane::Variant& Index) override { event("ListSaving", {{"Index", Index}}); }
-  void ListReading(norvane::Variant& Index) override { event("ListReading", {{"Index", Index}}); }
+  void ListSaving(norvane::Variant& Index) override { progress("ListSaving", Index); }
+  void ListReading(norvane::Variant& Index) override { progress("ListReading", Index); }
   void Scroll() override { event("Scroll"); }
   void KeyDown(std::int16_t& KeyCode, std::int16_t& Shift) override {
     event("KeyDown", {{"KeyCode", KeyCode}, {"Shift", Shift}});
@@ -77,10 +78,16 @@ class EventLog : public QPlainTextEdit, public norvane::__nvList {
   };
 
   void event(const char* name, std::initializer_list<Argument> arguments = {});
+  /// An event that comes once an item. The last one of several in a row is all that is kept.
+  void progress(const char* name, const norvane::Variant& index);
+  void showProgress();
   void removeLastLine();
 
   QString lastLine_;
-  int times_ = 0;  ///< how often it came in a row
+  int times_ = 0;                   ///< how often it came in a row
+  const char* progress_ = nullptr;  ///< name of an event that is still to be shown
+  norvane::Variant reached_;
+  QTimer showingProgress_;
   std::shared_ptr<Failures> failures_;
 };
 

@@ -12,6 +12,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <nvlist/platform/qt/QtWindow.h>
+
 #include "Settings.h"
 
 using norvane::nvList;
@@ -24,13 +26,8 @@ constexpr QSize initialSize(1000, 700);
 constexpr int chooserWidth = 150;
 constexpr int sheetWidth = 326;
 constexpr int captionHeight = 24;
-
-QToolButton* button(const QString& text) {
-  auto* result = new QToolButton;
-  result->setText(text);
-  result->setFixedHeight(captionHeight - 2);
-  return result;
-}
+constexpr int hintTime = 8000;  // milliseconds
+constexpr int hintWidth = 240;
 
 /// A part of the window below its caption, which may have buttons at its right.
 QWidget* panel(QLabel* caption, QWidget* content, const QList<QToolButton*>& buttons = {}) {
@@ -99,6 +96,7 @@ GalleryWindow::GalleryWindow(std::vector<Page> pages)
       itemCaption_(new QLabel),
       rows_(new QLabel) {
   layOut();
+  showHints();
   connectParts();
 }
 
@@ -133,8 +131,7 @@ void GalleryWindow::layOut() {
 }
 
 QWidget* GalleryWindow::pagePanel() {
-  QToolButton* again = button("Start over");
-  again->setToolTip("Fill the page anew, with the settings it starts from");
+  QToolButton* again = button("Start over", "Fill the page anew, with the settings it starts from");
   connect(again, &QToolButton::clicked, this, [this] { startOver(); });
   auto* content = new QWidget;
   auto* column = new QVBoxLayout(content);
@@ -146,20 +143,33 @@ QWidget* GalleryWindow::pagePanel() {
 }
 
 QWidget* GalleryWindow::sheetPanels() {
-  QToolButton* saving = button("Save...");
-  saving->setToolTip("Save these properties into a file");
+  QToolButton* saving = button("Save...", "Save these properties into a file");
   connect(saving, &QToolButton::clicked, this, [this] { save(); });
-  QToolButton* loading = button("Load...");
-  loading->setToolTip("Set these properties to what a file says");
+  QToolButton* loading = button("Load...", "Set these properties to what a file says");
   connect(loading, &QToolButton::clicked, this, [this] { load(); });
   return splitter(Qt::Vertical, panel(listCaption_, listSheet_, {saving, loading}),
                   panel(itemCaption_, itemSheet_), {400, 240}, 0);
 }
 
 QWidget* GalleryWindow::logPanel() {
-  QToolButton* clear = button("Clear");
+  QToolButton* clear = button("Clear", "Forget these events");
   connect(clear, &QToolButton::clicked, log_, [this] { log_->clear(); });
   return panel(new QLabel("Events"), log_, {clear});
+}
+
+QToolButton* GalleryWindow::button(const QString& text, const char* hint) {
+  auto* result = new QToolButton;
+  result->setText(text);
+  result->setFixedHeight(captionHeight - 2);
+  hints_.emplace_back(result, hint);
+  return result;
+}
+
+/// Through the library's own tool tips. The widgets stand in the window by now.
+void GalleryWindow::showHints() {
+  const norvane::Variant form = norvane::QtWindow::of(*this);
+  for (const auto& [widget, hint] : hints_)
+    tips_.Create(form, norvane::QtWindow::of(*widget), hint, hintTime, hintWidth);
 }
 
 void GalleryWindow::connectParts() {
@@ -175,6 +185,10 @@ void GalleryWindow::connectParts() {
   itemSheet_->onEdited = [this](const char* name, const QString& value) {
     log_->write(QString("%1(%2) = %3").arg(name).arg(itemSheet_->subject().item).arg(value));
     refreshSoon();
+  };
+  progress_.onTold = [this](const char* doing, std::int32_t item) {
+    const int count = subject_ ? subject_->list().state().Items.upperBound() + 1 : 0;
+    tell(QString("%1 item %2 of %3").arg(doing).arg(item).arg(count));
   };
   refreshing_.setSingleShot(true);
   connect(&refreshing_, &QTimer::timeout, this, [this] { refresh(); });
@@ -210,9 +224,14 @@ QPixmap GalleryWindow::picture() {
 
 Stage* GalleryWindow::makeStage(int index) {
   auto* stage = new Stage(*log_);
+  stage->onTold = [this](const QString& what) {
+    log_->write(what);
+    tell(what);
+  };
   pages_[index].fill(*stage);
   stage->ready();
   for (NvListWidget* widget : stage->lists()) {
+    widget->list().addSink(progress_);
     widget->installEventFilter(this);
     widget->onPropertyChanged = [this](std::string_view) { refreshSoon(); };
   }
@@ -248,6 +267,13 @@ void GalleryWindow::load() {
   } catch (const QString& message) {
     QMessageBox::warning(this, "Load", message);
   }
+}
+
+/// At once, as what it tells of leaves no time for events. The next refresh takes it away.
+void GalleryWindow::tell(const QString& what) {
+  rows_->setText(what);
+  rows_->repaint();
+  refreshSoon();
 }
 
 void GalleryWindow::setSubject(NvListWidget* widget) {

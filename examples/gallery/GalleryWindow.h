@@ -2,16 +2,21 @@
 
 #include <QMainWindow>
 #include <QTimer>
+#include <utility>
 #include <vector>
+
+#include <nvlist/objects/QI.h>
 
 #include "Chooser.h"
 #include "EventLog.h"
 #include "Pages.h"
+#include "Progress.h"
 #include "Sheet.h"
 #include "Tools.h"
 
 class QLabel;
 class QStackedWidget;
+class QToolButton;
 
 namespace gallery {
 
@@ -35,9 +40,13 @@ class GalleryWindow : public QMainWindow {
   void layOut();
   QWidget* pagePanel();
   QWidget* logPanel();
+  /// `hint` becomes its tool tip.
+  QToolButton* button(const QString& text, const char* hint);
+  void showHints();
   QWidget* sheetPanels();
   void connectParts();
   Stage* makeStage(int index);
+  void tell(const QString& what);
   void startOver();
   void save();
   void load();
@@ -49,6 +58,9 @@ class GalleryWindow : public QMainWindow {
   std::vector<Stage*> stages_;
   int shown_ = -1;
   norvane::NvListWidget* subject_ = nullptr;  ///< whose properties are shown
+  std::vector<std::pair<QWidget*, const char*>> hints_;
+  norvane::QI tips_;
+  Progress progress_;
   QTimer refreshing_;
 
   EventLog* log_;

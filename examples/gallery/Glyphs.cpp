@@ -80,6 +80,22 @@ void calendar(QPainter& on) {
                   row == 1 && column == 2 ? QColor(0xC8, 0x4B, 0x3C) : ink);
 }
 
+void database(QPainter& on) {
+  QLinearGradient across(2, 0, 14, 0);
+  across.setColorAt(0, paper);
+  across.setColorAt(1, QColor(0x8F, 0xB2, 0xE4));
+  for (const double top : {9.5, 5.5, 1.5}) {
+    on.setPen(QPen(edge, 1));
+    on.setBrush(across);
+    on.drawChord(QRectF(2.5, top + 1.5, 11, 4.5), 180 * 16, 180 * 16);
+    on.fillRect(QRectF(2.5, top + 1.5, 11, 2.2), across);
+    stroke(on, edge, 1, {{2.5, top + 1.5}, {2.5, top + 3.7}});
+    stroke(on, edge, 1, {{13.5, top + 1.5}, {13.5, top + 3.7}});
+    on.setBrush(across);
+    on.drawEllipse(QRectF(2.5, top - 0.5, 11, 4));
+  }
+}
+
 void palette(QPainter& on) {
   box(on, {1, 1, 7, 7}, QColor(0x24, 0x50, 0x94), QColor(0x31, 0x6A, 0xC5));
   box(on, {8, 1, 7, 7}, QColor(0x86, 0x88, 0x90), QColor(0xB2, 0xB4, 0xBF));

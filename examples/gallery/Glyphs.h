@@ -16,6 +16,7 @@ QImage drawn(const Glyph& glyph, int size);
 
 // Pages.
 void calendar(QPainter& on);
+void database(QPainter& on);
 void palette(QPainter& on);
 void scrollBar(QPainter& on);
 void ticks(QPainter& on);

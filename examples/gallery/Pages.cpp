@@ -1,6 +1,7 @@
 #include "Pages.h"
 
 #include <QGuiApplication>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -299,6 +300,10 @@ std::vector<Page> allPages(const SampleText& text) {
        fillColours},
       {"bars", "Scroll bars", "The scroll bars alone: all their looks, and below some to use",
        scrollBar, fillBars},
+      {"files", "List files", "ListSave, ListInput, ListInput2: lists in files, texts as lists",
+       openFolder, fillFiles},
+      {"database", "Database", "Recordset: the first field of an SQL query", database,
+       fillDatabase},
   };
 }
 
@@ -311,19 +316,32 @@ nvList& Stage::addList(const QString& name, const QString& caption) {
   column->setSpacing(4);
   if (!caption.isEmpty()) column->addWidget(new QLabel(caption));
   column->addWidget(widget, 1);
-  auto* grid = static_cast<QGridLayout*>(layout());
-  if (!grid) {
-    grid = new QGridLayout(this);
-    grid->setContentsMargins(0, 0, 0, 0);
-  }
   const int place = static_cast<int>(lists_.size());
-  grid->addLayout(column, place / 2, place % 2);
+  grid()->addLayout(column, 1 + place / 2, place % 2);
   lists_.push_back(widget);
 
   nvList& list = widget->list();
   list.AutoRedraw(false);
   list.addSink(sink_);
   return list;
+}
+
+QGridLayout* Stage::grid() {
+  if (!layout()) (new QGridLayout(this))->setContentsMargins(0, 0, 0, 0);
+  return static_cast<QGridLayout*>(layout());
+}
+
+QHBoxLayout* Stage::addRow() {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(4);
+  grid()->addLayout(row, 0, 0, 1, grid()->columnCount());
+  return row;
+}
+
+void Stage::say(const QString& line) {
+  auto* label = new QLabel(line);
+  label->setWordWrap(true);
+  grid()->addWidget(label, 0, 0, Qt::AlignTop);
 }
 
 void Stage::ready() {

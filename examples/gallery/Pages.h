@@ -12,6 +12,7 @@
 #include "Glyphs.h"
 
 class QGridLayout;
+class QHBoxLayout;
 
 namespace gallery {
 
@@ -25,12 +26,26 @@ class Stage : public QWidget {
   /// list, and none where it is empty.
   norvane::nvList& addList(const QString& name, const QString& caption = {});
 
+  /// A new row above the lists that there are by now, for what the page has of its own.
+  QHBoxLayout* addRow();
+
+  /// Shows a line in the place of lists.
+  void say(const QString& line);
+
+  /// Told of work that takes its time, just before it begins.
+  std::function<void(const QString& what)> onTold;
+  void tell(const QString& what) {
+    if (onTold) onTold(what);
+  }
+
   /// Ends the filling: the lists are painted, from the top.
   void ready();
 
   const std::vector<norvane::NvListWidget*>& lists() const { return lists_; }
 
  private:
+  QGridLayout* grid();
+
   norvane::__nvList& sink_;
   std::vector<norvane::NvListWidget*> lists_;
 };
@@ -57,5 +72,11 @@ norvane::Colour hostColour(QRgb rgb);
 
 /// The page of the scroll bars, which has no list.
 void fillBars(Stage& stage);
+
+/// The page of list files and text files.
+void fillFiles(Stage& stage);
+
+/// The page of a database, which says so where none can be read.
+void fillDatabase(Stage& stage);
 
 }  // namespace gallery

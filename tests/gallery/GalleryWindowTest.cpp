@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDeadlineTimer>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
@@ -163,6 +164,23 @@ TEST_F(GalleryWindowTest, startingOverFillsThePageAnew) {
   EXPECT_EQ(after.ItemsCount(), 3);
   EXPECT_FALSE(after.GridLines());
   EXPECT_FALSE(field<QCheckBox>("GridLines")->isChecked());
+}
+
+TEST_F(GalleryWindowTest, aRestingMouseBringsTheHintOfAButton) {
+  const QWidget* again = nullptr;
+  for (auto* button : window.findChildren<QToolButton*>())
+    if (button->text() == "Start over") again = button;
+  ASSERT_TRUE(again);
+  QCursor::setPos(again->mapToGlobal(again->rect().center()));
+  QString hint;
+  const QDeadlineTimer patience(5000);
+  while (hint.isEmpty() && !patience.hasExpired()) {
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    for (QWidget* widget : QApplication::topLevelWidgets())
+      if (widget->windowType() == Qt::ToolTip && widget->isVisible())
+        hint = widget->accessibleName();
+  }
+  EXPECT_TRUE(hint.startsWith("Fill the page anew")) << qPrintable(hint);
 }
 
 }  // namespace

@@ -1,0 +1,154 @@
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QToolButton>
+
+#include <nvlist/platform/qt/QtPicture.h>
+
+#include "ListFiles.h"
+#include "Pages.h"
+
+using norvane::nvList;
+
+namespace gallery {
+namespace {
+
+constexpr int iconSize = 24;
+constexpr int many = 100000;
+constexpr auto kindOfFile = "List files (*.nvl);;All files (*)";
+
+struct Delimiter {
+  const char* name;
+  const char* text;
+};
+constexpr Delimiter delimiters[] = {{"lines", "\n"},     {"empty lines", "\n\n"}, {"commas", ","},
+                                    {"semicolons", ";"}, {"tabulators", "\t"},    {"blanks", " "}};
+
+/// What the buttons of the page act on.
+struct Desk {
+  Stage* stage;
+  nvList* list;
+  QCheckBox* keeps;
+  QComboBox* parted;
+
+  Properties properties() const { return keeps->isChecked() ? Properties::kept : Properties::left; }
+};
+
+struct Action {
+  const char* name;
+  const char* hint;
+  void (*run)(const Desk&);
+};
+
+void open(const Desk& desk) {
+  const QString path = QFileDialog::getOpenFileName(desk.stage, "Open a list", {}, kindOfFile);
+  if (path.isEmpty()) return;
+  desk.stage->tell("Opening " + path);
+  openListFile(*desk.list, path, desk.properties());
+}
+
+void save(const Desk& desk) {
+  const QString path =
+      QFileDialog::getSaveFileName(desk.stage, "Save the list", "list.nvl", kindOfFile);
+  if (path.isEmpty()) return;
+  desk.stage->tell("Saving " + path);
+  saveListFile(*desk.list, path, desk.properties());
+}
+
+void import(const Desk& desk) {
+  const QString path = QFileDialog::getOpenFileName(desk.stage, "Import a text file");
+  if (path.isEmpty()) return;
+  desk.stage->tell("Importing " + path);
+  importText(*desk.list, path, desk.parted->currentData().toString());
+}
+
+void addMany(const Desk& desk) {
+  nvList& list = *desk.list;
+  desk.stage->tell(QString("Adding %1 items").arg(many));
+  list.AutoRedraw(false);
+  for (int i = 0; i < many; ++i) list.ItemsAdd("Item " + std::to_string(list.ItemsCount()));
+  list.AutoRedraw(true);
+}
+
+constexpr Action fileActions[] = {
+    {"Open...", "Show a list file instead of these items", open},
+    {"Save...", "Save the items into a list file", save},
+};
+constexpr Action textActions[] = {
+    {"Import...", "Add an item for each piece of a text file", import},
+    {"+ 100 000", "Add items, so that saving takes its time", addMany},
+};
+
+void fillItems(nvList& list) {
+  struct Entry {
+    const char* text;
+    Glyph glyph;
+    bool isPacked;
+  };
+  const Entry entries[] = {{"Tickets for the ferry", document, true},
+                           {"Letter to the harbour master", letter, true},
+                           {"Pictures of the house", photo, false},
+                           {"What it may cost", spreadsheet, true},
+                           {"Songs for the way", music, false},
+                           {"Alarm clock", clock, true},
+                           {"Calendar", calendar, false},
+                           {"Pencils", pencil, false},
+                           {"Paints", palette, false},
+                           {"Cups, three of them", cup, true}};
+  for (const auto& [text, glyph, isPacked] : entries) {
+    const norvane::Picture icon = norvane::QtPicture::fromImage(drawn(glyph, iconSize));
+    // A list file brings the picture of selected items back, as the one of all.
+    list.ItemsAdd({.aText = text,
+                   .aIcon = icon,
+                   .aIconSelected = icon,
+                   .aChecked = isPacked,
+                   .aAllowEdit = true});
+  }
+}
+
+QComboBox* delimiterBox() {
+  auto* result = new QComboBox;
+  result->setObjectName("delimiter");
+  result->setToolTip("What parts the text that is imported");
+  for (const auto& [name, text] : delimiters) result->addItem(name, QString(text));
+  return result;
+}
+
+template <std::size_t count>
+void addButtons(QHBoxLayout* row, const Action (&actions)[count], const Desk& desk) {
+  for (const Action& action : actions) {
+    auto* button = new QToolButton;
+    button->setText(action.name);
+    button->setToolTip(action.hint);
+    QObject::connect(button, &QToolButton::clicked, desk.stage,
+                     [desk, run = action.run] { run(desk); });
+    row->addWidget(button);
+  }
+}
+
+}  // namespace
+
+void fillFiles(Stage& stage) {
+  nvList& list = stage.addList("files");
+  list.Style(norvane::cCheckBoxesIcons);
+  list.IconW(iconSize);
+  list.IconH(iconSize);
+  list.MinHeight(iconSize + 4);
+  list.DistPicText(6);
+  fillItems(list);
+  list.ListIndex(0);
+
+  const Desk desk{&stage, &list, new QCheckBox("Properties"), delimiterBox()};
+  desk.keeps->setChecked(true);
+  desk.keeps->setToolTip("Save and read colours, fonts, keys and pictures too, not texts alone");
+  QHBoxLayout* row = stage.addRow();
+  addButtons(row, fileActions, desk);
+  row->addWidget(desk.keeps);
+  row->addStretch(1);
+  addButtons(row, textActions, desk);
+  row->insertWidget(row->count() - 1, desk.parted);
+}
+
+}  // namespace gallery

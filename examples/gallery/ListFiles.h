@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+#include <nvlist/nvList.h>
+
+namespace gallery {
+
+enum class Properties { left, kept };
+
+/// Saves the list with its pictures, or the texts of its items alone.
+void saveListFile(norvane::nvList& list, const QString& path, Properties properties);
+
+/// Shows what a list file holds, from the top and without a current item.
+void openListFile(norvane::nvList& list, const QString& path, Properties properties);
+
+/// Adds an item for each piece of a text file.
+void importText(norvane::nvList& list, const QString& path, const QString& delimiter);
+
+}  // namespace gallery

@@ -1,0 +1,103 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QTemporaryDir>
+#include <QToolButton>
+
+#include <examples/gallery/GalleryWindow.h>
+#include <examples/gallery/ListFiles.h>
+
+namespace gallery {
+namespace {
+
+/// A window on one of its pages, and a folder for files.
+class FilesTest : public testing::Test {
+ protected:
+  void showPage(const char* name) {
+    std::vector<Page> pages = allPages({"A text", {"one"}});
+    int index = 0;
+    while (pages.at(index).name != std::string_view(name)) ++index;
+    window = std::make_unique<GalleryWindow>(std::move(pages));
+    window->showPage(index);
+    log = window->findChild<EventLog*>();
+  }
+  norvane::nvList& list(const char* name) {
+    return window->findChild<norvane::NvListWidget*>(name)->list();
+  }
+  QString logged() {
+    QCoreApplication::processEvents();
+    return log->toPlainText();
+  }
+
+  QTemporaryDir folder;
+  QString path = folder.filePath("a list.nvl");
+  std::unique_ptr<GalleryWindow> window;
+  EventLog* log = nullptr;
+};
+
+TEST_F(FilesTest, aListComesBackFromItsFileAndTheProgressIsShown) {
+  showPage("files");
+  norvane::nvList& files = list("files");
+  const int count = files.ItemsCount();
+  files.ItemBold(1, true);
+  saveListFile(files, path, Properties::kept);
+  bool isProgressShown = false;
+  for (const QLabel* label : window->findChildren<QLabel*>())
+    isProgressShown |= label->text().startsWith("Saving item ");
+  EXPECT_TRUE(isProgressShown);
+  log->write("saved");
+  EXPECT_TRUE(logged().contains(QString("ListSaving   Index = %1\nsaved").arg(count - 1)));
+  EXPECT_EQ(logged().count("ListSaving"), 1);
+
+  files.ItemsClear();
+  openListFile(files, path, Properties::kept);
+  ASSERT_EQ(files.ItemsCount(), count);
+  EXPECT_TRUE(files.ItemBold(1));
+  EXPECT_TRUE(files.ItemIcon(0));
+
+  openListFile(files, folder.filePath("missing"), Properties::kept);
+  EXPECT_TRUE(logged().contains("ErrorListInput"));
+  EXPECT_EQ(files.ItemsCount(), count);
+}
+
+TEST_F(FilesTest, aTextIsPartedAndTheListGoesOnPainting) {
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("a;b;c");
+  file.close();
+  showPage("files");
+  norvane::nvList& files = list("files");
+  files.ItemsClear();
+  importText(files, path, ";");
+  EXPECT_EQ(files.ItemsCount(), 3);
+  EXPECT_EQ(files.ItemText(2), "c");
+  EXPECT_TRUE(files.AutoRedraw());
+  EXPECT_TRUE(files.AutoCheckScroll());
+}
+
+TEST_F(FilesTest, aQueryFillsTheListAndABadOneIsTold) {
+  showPage("database");
+  auto* query = window->findChild<QComboBox*>("query");
+  if (!query) GTEST_SKIP() << "no database here";
+  norvane::nvList& rows = list("database");
+  EXPECT_EQ(rows.ItemsCount(), 200);
+  const auto fillFrom = [&](const char* statement) {
+    query->setCurrentText(statement);
+    for (auto* button : window->findChildren<QToolButton*>())
+      if (button->text() == "Fill") button->click();
+    return rows.ItemsCount();
+  };
+  EXPECT_EQ(fillFrom("SELECT name FROM places WHERE country LIKE 'Congo, The %'"), 26);
+  EXPECT_EQ(fillFrom("DROP TABLE places"), 26);
+  EXPECT_EQ(fillFrom("SELECT name FROM nowhere"), 26);
+  EXPECT_TRUE(logged().contains("Automation error: no such table: nowhere"))
+      << qPrintable(logged());
+  EXPECT_EQ(fillFrom("SELECT 'a' UNION ALL SELECT NULL UNION ALL SELECT 'b'"), 1);
+  EXPECT_TRUE(rows.AutoRedraw());
+}
+
+}  // namespace
+}  // namespace gallery

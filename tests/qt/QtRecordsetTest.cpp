@@ -1,0 +1,158 @@
+#include <gtest/gtest.h>
+
+#include <QSqlDatabase>
+#include <QSqlError>
+
+#include <nvlist/platform/qt/NvListWidget.h>
+#include <nvlist/platform/qt/QtApplication.h>
+#include <nvlist/platform/qt/QtRecordset.h>
+
+namespace norvane {
+namespace {
+
+enum class Direction { both, forwardOnly };
+
+class Reports final : public ErrorHandler {
+ public:
+  std::string text;
+
+  void RaiseError(const std::string&, const ApplicationFacts&, std::int32_t Number,
+                  const std::string& Description, const std::string&, std::int32_t,
+                  const std::string&, const std::string&) override {
+    text += std::to_string(Number) + " " + Description + ";";
+  }
+};
+
+/// A list beside a database in memory, in which four places stand, one of them without a name.
+class QtRecordsetTest : public testing::Test {
+ protected:
+  QtRecordsetTest() {
+    application.registerErrorHandler(reports);
+    database.setDatabaseName(":memory:");
+    EXPECT_TRUE(database.open()) << database.lastError().text().toStdString();
+    run("CREATE TABLE places (name TEXT, people INTEGER, area REAL, seal BLOB)");
+    run("INSERT INTO places VALUES"
+        " ('Bergen', 291940, 464.71, x'C3A6'), ('Tromsø', 78745, 2521.342857, NULL),"
+        " ('', 0, 1e20, NULL), ('Ålesund', 5000000000, -0.5, NULL)");
+  }
+  ~QtRecordsetTest() override {
+    database = {};
+    QSqlDatabase::removeDatabase(QSqlDatabase::defaultConnection);
+  }
+
+  QSqlQuery run(const QString& statement, Direction direction = Direction::both) {
+    QSqlQuery query(database);
+    query.setForwardOnly(direction == Direction::forwardOnly);
+    query.exec(statement);
+    return query;
+  }
+  Ref<QtRecordset> rows(const QString& statement, Direction direction = Direction::both) {
+    return makeRef<QtRecordset>(run(statement, direction));
+  }
+
+  /// The texts of the items after a fill, and what was reported.
+  std::string filled(const Ref<Object>& source) {
+    list.AutoRedraw(true);
+    list.AutoCheckScroll(true);
+    list.ItemsClear();
+    list.ItemsAdd("old");
+    list.Recordset(source);
+    std::string result;
+    for (std::int32_t i = 0; i < list.ItemsCount(); ++i) result += list.ItemText(i) + "|";
+    return result + std::exchange(reports->text, {});
+  }
+
+  static std::int32_t failureOf(const std::function<void()>& call) {
+    try {
+      call();
+    } catch (const Failure& failure) {
+      return failure.number();
+    }
+    return 0;
+  }
+
+  QtApplication application;
+  std::shared_ptr<Reports> reports = std::make_shared<Reports>();
+  QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE");
+  NvListWidget widget;
+  nvList& list = widget.list();
+};
+
+TEST_F(QtRecordsetTest, fillsAListWithTheFirstField) {
+  EXPECT_EQ(filled(rows("SELECT name, people FROM places")), "Bergen|Tromsø||Ålesund|");
+  EXPECT_EQ(filled(rows("SELECT people FROM places")), "291940|78745|0|5000000000|");
+  EXPECT_EQ(filled(rows("SELECT area FROM places")), "464.71|2521.342857|1E+20|-0.5|");
+  EXPECT_EQ(filled(rows("SELECT name FROM places WHERE people < 0")), "old|");
+  const auto source = rows("SELECT name FROM places LIMIT 2");
+  EXPECT_EQ(filled(source), "Bergen|Tromsø|");
+  EXPECT_EQ(filled(source), "Bergen|Tromsø|") << "a second time";
+}
+
+TEST_F(QtRecordsetTest, aNullOrARefusalEndsTheFillWithTheTextOfTheDriver) {
+  EXPECT_EQ(filled(rows("SELECT seal FROM places")), "æ|94 Invalid use of Null;");
+  EXPECT_FALSE(list.AutoRedraw());
+  const std::string missing = filled(rows("SELECT name FROM cities"));
+  EXPECT_EQ(missing.substr(0, 28), "old|440 Automation error: no") << missing;
+  EXPECT_NE(missing.find("no such table: cities"), std::string::npos) << missing;
+  EXPECT_EQ(filled(rows("DELETE FROM places WHERE people < 0")),
+            "old|440 Automation error: The query has no rows;");
+  EXPECT_EQ(filled(makeRef<QtRecordset>(QSqlQuery(database))),
+            "old|440 Automation error: The query has no rows;");
+
+  // The second row cannot be computed, which is found out while the rows are counted or walked.
+  const QString broken = "SELECT abs(-9223372036854775807 - (people < 100000)) FROM places";
+  const std::string counted = filled(rows(broken));
+  EXPECT_NE(counted.find("old|440 Automation error: integer overflow"), std::string::npos)
+      << counted;
+  const auto walked = rows(broken, Direction::forwardOnly);
+  EXPECT_EQ(walked->Value(0)->toText(), "9223372036854775807");
+  EXPECT_EQ(failureOf([&] { walked->MoveNext(); }), 440);
+  EXPECT_TRUE(walked->Eof());
+}
+
+TEST_F(QtRecordsetTest, countsWhereItCanWithoutLosingItsPlace) {
+  const QString statement = "SELECT name FROM places";
+  const auto unmoved = rows(statement);
+  EXPECT_EQ(unmoved->RecordCount(), 4);
+  EXPECT_EQ(unmoved->Value(0)->toText(), "Bergen");
+
+  const auto moved = rows(statement);
+  moved->MoveNext();
+  EXPECT_EQ(moved->RecordCount(), 4);
+  EXPECT_EQ(moved->Value(0)->toText(), "Tromsø");
+
+  const auto atEnd = rows("SELECT name FROM places LIMIT 1");
+  atEnd->MoveNext();
+  EXPECT_EQ(atEnd->RecordCount(), 1);
+  EXPECT_TRUE(atEnd->Eof());
+  atEnd->MoveFirst();
+  EXPECT_FALSE(atEnd->Eof());
+
+  const auto empty = rows("SELECT name FROM places WHERE people < 0");
+  EXPECT_EQ(empty->RecordCount(), 0);
+  EXPECT_TRUE(empty->Eof());
+}
+
+TEST_F(QtRecordsetTest, aForwardOnlyQueryGoesOnceThroughRowsItHasNotCounted) {
+  const auto source = rows("SELECT name FROM places", Direction::forwardOnly);
+  EXPECT_EQ(source->RecordCount(), -1);
+  EXPECT_EQ(filled(source), "old|");
+  std::string names;
+  for (source->MoveFirst(); !source->Eof(); source->MoveNext())
+    names += source->Value(0)->toText() + "|";
+  EXPECT_EQ(names, "Bergen|Tromsø||Ålesund|");
+  EXPECT_EQ(failureOf([&] { source->MoveFirst(); }), 440);
+}
+
+TEST_F(QtRecordsetTest, refusesFieldsAndRowsThatAreNotThere) {
+  const auto source = rows("SELECT name, people FROM places LIMIT 1");
+  EXPECT_EQ(source->Value(1)->type(), Variant::Type::Int32);
+  EXPECT_EQ(failureOf([&] { source->Value(2); }), 9);
+  EXPECT_EQ(failureOf([&] { source->Value(-1); }), 9);
+  source->MoveNext();
+  EXPECT_EQ(failureOf([&] { source->Value(0); }), 3021);
+  EXPECT_EQ(failureOf([&] { source->MoveNext(); }), 3021);
+}
+
+}  // namespace
+}  // namespace norvane
