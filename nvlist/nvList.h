@@ -188,6 +188,8 @@ class nvList final : public UserControl,
   /// Registers a host for the events; it has to live until it is removed, or as long as the list.
   void addSink(__nvList& sink) { sinks_.add(sink); }
   void removeSink(__nvList& sink) { sinks_.remove(sink); }
+  /// For a platform whose part of the list ends in the middle of an event: no host hears more.
+  void removeAllSinks() { sinks_.removeAll(); }
 
   // ---- the current item and the selection: core/selection.cpp ----
 

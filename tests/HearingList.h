@@ -3,45 +3,168 @@
 #include "Lists.h"
 
 #include <functional>
+#include <optional>
 #include <utility>
+
+#include <nvlist/core/numbers.h>
 
 namespace norvane {
 
-/// A list of ten rows that writes down what it tells its host.
+/// A list of ten rows of 13 pixels that writes down what it tells its host. The arguments of events
+/// that the list does not read back are spoilt each time.
 class HearingListTest : public ListTest, public __nvList {
  protected:
   HearingListTest() {
     headless.resize(200, 133);
     list.addSink(*this);
     headless.container().onPropertyChanged = [this](std::string_view name) {
-      told += (told.empty() ? "" : " ") + std::string(name);
+      hear(std::string(name));
       onPropertyChanged();
     };
+    heard();
   }
 
+  void Click() override { hear("Click"); }
+  void DblClick() override { hear("DblClick"); }
+  void ItemCheck(std::int32_t& Item, Boolean& Cancel) override {
+    hear("ItemCheck(" + std::to_string(std::exchange(Item, 77)) + ")");
+    if (cancel) Cancel = cancel;
+  }
+  void MouseDown(std::int16_t& Button, std::int16_t& Shift, float& X, float& Y) override {
+    hearMouse("MouseDown", Button, Shift, X, Y);
+    Button = newButton.value_or(Button);
+  }
+  void MouseMove(Variant& TextUnderMouse, std::int32_t& IndexUnderMouse, std::int16_t& Button,
+                 std::int16_t& Shift, float& X, float& Y) override {
+    const std::string row = std::to_string(std::exchange(IndexUnderMouse, 77));
+    hearMouse("MouseMove(" + row + " " + std::exchange(TextUnderMouse, 77).toText() + ")", Button,
+              Shift, X, Y);
+  }
+  void MouseUp(std::int16_t& Button, std::int16_t& Shift, float& X, float& Y) override {
+    hearMouse("MouseUp", Button, Shift, X, Y);
+  }
+  void Scroll() override { hear("Scroll"); }
+  void KeyDown(std::int16_t& KeyCode, std::int16_t& Shift) override {
+    hear("KeyDown(" + std::to_string(KeyCode) + " " + std::to_string(std::exchange(Shift, 7)) +
+         ")");
+    KeyCode = newKeyCode.value_or(KeyCode);
+  }
+  void KeyPress(std::int16_t& KeyAscii) override {
+    hear("KeyPress(" + std::to_string(std::exchange(KeyAscii, 77)) + ")");
+  }
+  void KeyUp(std::int16_t& KeyCode, std::int16_t& Shift) override {
+    hear("KeyUp(" + std::to_string(KeyCode) + " " + std::to_string(Shift) + ")");
+  }
   void ErrorWrongIndex(Variant& Index) override {
+    hearRepaints();
     told += "(" + Index.toText() + ")";
     onWrongIndex(Index);
   }
 
-  /// Since the last call: the properties marked, refused indexes in brackets, a * for each repaint.
+  /// What came since the last call, in its order: events, properties marked, refused indexes in
+  /// brackets, a * for each repaint.
   std::string heard() {
-    const int repaints = headless.surface().frames() - frames;
-    frames += repaints;
-    return std::exchange(told, {}) + std::string(static_cast<std::size_t>(repaints), '*');
+    hearRepaints();
+    return std::exchange(told, {});
   }
 
-  /// Empties the list and adds items with the texts 0, 1, ...
+  /// Empties the list and adds items with the texts 0, 1, ..., none of them current.
   void fill(int count) {
     list.AutoRedraw(false);
     list.ItemsClear();
-    for (int i = 0; i < count; ++i) list.ItemsAdd(i);
+    for (int i = 0; i < count; ++i) {
+      list.AutoRedraw(i == count - 1);
+      list.ItemsAdd(i);
+    }
     list.AutoRedraw(true);
     heard();
   }
+  void disable(std::initializer_list<int> indexes) {
+    for (const int index : indexes) list.ItemEnabled(index, false);
+    heard();
+  }
+
+  /// The texts of the items with a mark.
+  std::string marked(Boolean ListItem::*mark) {
+    std::string result;
+    for (int i = 0; i < list.ItemsCount(); ++i)
+      if (item(i).*mark) result += (result.empty() ? "" : " ") + item(i).Text;
+    return result;
+  }
+  std::string selected() { return marked(&ListItem::Selected); }
+  /// "current: selected", and what is out of the ordinary: the item on top, what is checked.
+  std::string now() {
+    std::string result = std::to_string(list.ListIndex()) + ": " + selected();
+    if (list.TopIndex() > 0) result += ", top " + std::to_string(list.TopIndex());
+    const std::string checked = marked(&ListItem::Checked);
+    return checked.empty() ? result : result + ", checked " + checked;
+  }
+  /// What came, and how it stands.
+  std::string outcome() {
+    const std::string events = heard();
+    return events + " | " + now();
+  }
+
+  // ---- the hand: rows are those of the window, positions outside of the check zone ----
+
+  static constexpr float besideZone = 50;
+  static constexpr float inZone = 8;
+  static constexpr float rowAt(int row) { return 10 + 13.0F * static_cast<float>(row); }
+  void press(int row, std::int16_t shift = 0, float x = besideZone) {
+    headless.container().press(x, rowAt(row), 1, shift);
+  }
+  void drag(int row, std::int16_t buttons = 1) {
+    headless.container().moveTo(besideZone, rowAt(row), buttons);
+  }
+  void release(int row) { headless.container().release(besideZone, rowAt(row)); }
+  void click(int row, std::int16_t shift = 0, float x = besideZone) {
+    press(row, shift, x);
+    release(row);
+  }
+  void doubleClick(int row) {
+    click(row);
+    headless.container().doubleClick(besideZone, rowAt(row));
+    release(row);
+  }
+  std::int16_t key(std::int16_t code, std::int16_t shift = 0) {
+    list.UserControl_KeyDown(code, shift);
+    return code;
+  }
+  static constexpr std::int16_t up = 38;
+  static constexpr std::int16_t down = 40;
+  void wait(int milliseconds) {
+    headless.container().clock().advance(std::chrono::milliseconds(milliseconds));
+  }
+  HeadlessTextBox& box() { return *headless.container().textBoxes().at(0); }
+
+  // ---- the host ----
 
   std::function<void()> onPropertyChanged = [] {};
   std::function<void(Variant&)> onWrongIndex = [](Variant&) {};
+  std::function<void(const std::string& event)> onEvent = [](const std::string&) {};
+  std::optional<std::int16_t> newButton;   ///< what a handler makes of the button
+  std::optional<std::int16_t> newKeyCode;  ///< and of the key
+  Boolean cancel;
+  std::string arguments;  ///< of the last event of the mouse
+
+ private:
+  void hearRepaints() {
+    const int repaints =
+        headless.surface().frames() - std::exchange(frames, headless.surface().frames());
+    told += std::string(static_cast<std::size_t>(repaints), '*');
+  }
+  void hear(const std::string& event) {
+    hearRepaints();
+    told += (told.empty() ? "" : " ") + event;
+    onEvent(event);
+  }
+  void hearMouse(const std::string& event, std::int16_t Button, std::int16_t& Shift, float& X,
+                 float& Y) {
+    arguments = std::to_string(Button) + " " + std::to_string(std::exchange(Shift, 7)) + " " +
+                textOf(std::exchange(X, 1e6F)) + " " + textOf(std::exchange(Y, 1e6F));
+    hear(event);
+  }
+
   std::string told;
   int frames = 0;
 };

@@ -32,4 +32,9 @@ void EventSinks::remove(__nvList& sink) {
   if (depth_ == 0) std::erase(sinks_, nullptr);
 }
 
+void EventSinks::removeAll() {
+  std::ranges::fill(sinks_, nullptr);
+  if (depth_ == 0) sinks_.clear();
+}
+
 }  // namespace norvane

@@ -71,6 +71,7 @@ class EventSinks {
   void add(__nvList& sink);
   /// Removing one that is not there changes nothing.
   void remove(__nvList& sink);
+  void removeAll();
 
   template <class Event>
   void raise(Event&& event) {

@@ -148,7 +148,7 @@ TEST_F(ItemProperties, AnIndexIsRoundedAndAValueConverted) {
   EXPECT_EQ(setBadly(), "");
   EXPECT_EQ(reports(), "13 ItemForeColorDis, 6 ItemBackColorDis");
   silent();
-  EXPECT_EQ(setBadly(), "ItemForeColorDis ItemBackColorDis**");
+  EXPECT_EQ(setBadly(), "ItemForeColorDis* ItemBackColorDis*");
 }
 
 TEST_F(ItemProperties, TextIsThatOfTheCurrentItemAndSelectsByText) {

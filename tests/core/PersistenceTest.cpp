@@ -113,11 +113,44 @@ TEST_F(Persistence, ColorStyleComesBeforeTheScrollBarsOwn) {
   EXPECT_EQ(list.ScrollColorStyle(), cXPScrollSilver);
 }
 
-TEST_F(Persistence, AFormWithoutAFontIsServed) {
+TEST_F(Persistence, AFormWithoutAmbientValuesIsServed) {
   headless.container().ambientFont = nullptr;
   list.UserControl_InitProperties();
   EXPECT_FALSE(list.Font());
   EXPECT_EQ(reports(), "");
+
+  struct Bare : HeadlessContainer {
+    Boolean UserMode() override { throw Failure::invalidCall(); }
+    norvane::Font AmbientFont() override { throw Failure::invalidCall(); }
+  } bare;
+  nvList own(bare);
+  own.UserControl_InitProperties();
+  EXPECT_FALSE(bare.turnWheel(120));
+  for (int i = 0; i < 40; ++i) own.ItemsAdd(i);
+  bare.press(50, 50), bare.moveTo(50, 101, 1);
+  bare.clock().advance(std::chrono::milliseconds(3));
+  EXPECT_EQ(own.TopIndex(), 3);
+  // Only the repaints ask for it in earnest.
+  std::string all = reports();
+  for (std::size_t at; (at = all.find("5 IsDesignMode")) != std::string::npos;) all.erase(at, 14);
+  EXPECT_EQ(all.find_first_not_of(", "), std::string::npos) << all;
+}
+
+TEST_F(Persistence, ReadingForgetsTheHandAndTheFormsLaterFont) {
+  list.AllowItemMoving(true);
+  list.ItemsAdd("a"), list.ItemsAdd("b");
+  headless.container().press(50, 10), headless.container().moveTo(50, 20, 1);
+  EXPECT_EQ(list.state().SelectAnchor, 0);
+  EXPECT_EQ(list.state().HoverIndex, 1);
+  list.UserControl_ReadProperties(PropertyBag());
+  EXPECT_EQ(list.state().SelectAnchor, -1);
+  EXPECT_EQ(list.state().HoverIndex, -1);
+  auto font = makeRef<FontObject>();
+  font->Size = 20;
+  headless.container().ambientFont = font;
+  PropertyBag bag;
+  list.UserControl_WriteProperties(bag);
+  EXPECT_EQ(propertyText(bag), "");
 }
 
 TEST(PropertyText, TellsTheLineThatCannotBeRead) {

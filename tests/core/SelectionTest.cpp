@@ -7,14 +7,6 @@ namespace {
 
 class Selection : public HearingListTest {
  protected:
-  /// The texts of the selected items.
-  std::string selected() {
-    std::string result;
-    for (int i = 0; i < list.ItemsCount(); ++i)
-      if (item(i).Selected) result += (result.empty() ? "" : " ") + item(i).Text;
-    return result;
-  }
-
   void select(std::initializer_list<int> indexes) {
     for (const int index : indexes) list.ItemSelected(index, true);
   }
@@ -43,7 +35,7 @@ TEST_F(Selection, AHandlerOfARefusalMayDoWhatItLikes) {
     list.ListIndex(2);
     onWrongIndex = std::move(handler);
     list.ListIndex(9);
-    return std::to_string(list.ListIndex()) + ": " + selected();
+    return now();
   };
   EXPECT_EQ(refuse([&](Variant&) { list.ListIndex(4); }), "4: 4");
   EXPECT_EQ(refuse([&](Variant& Index) {
@@ -203,7 +195,7 @@ TEST_F(Selection, RemovingTheSelectedLeavesTheOthersAndGoesToTheTop) {
   heard();
   list.ItemsSelectedRemove();
   EXPECT_EQ(headless.container().waiting(), 1U);
-  EXPECT_EQ(heard(), "TopIndex****");
+  EXPECT_EQ(heard(), "** TopIndex**");
   EXPECT_EQ(list.TopIndex(), 0);
 }
 

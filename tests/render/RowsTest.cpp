@@ -410,6 +410,87 @@ TEST_F(Rows, WhateverTheSurfaceThrowsIsReportedOnce) {
       reports();
     }
   }
+TEST_F(Rows, BarsTakeTheirWidthAndAScrollItsDistance) {
+  list.ScrollBars(vbBoth);
+  list.AutoRedraw(false);
+  list.ItemsAdd({.aText = "ab", .aAlignment = cRight});
+  list.ItemsAdd({.aText = "ab", .aAlignment = cCenter});
+  add({"a|right=b", std::string(40, 'w'), "", "", "", ""});
+  list.AutoRedraw(true);
+  list.CheckScroll();
+  HeadlessContainer& bar = *headless.container().children()[1];
+  for (int i = 0; i < 10; ++i) {
+    bar.press(bar.bounds().Width - 5, 8);
+    bar.release(bar.bounds().Width - 5, 8);
+  }
+  // 284 pixels wide with the padding, and as many more as the vertical bar takes.
+  ASSERT_EQ(list.verticalBar().Width(), 17);
+  ASSERT_EQ(list.horizontalBar().Value(), 10);
+  ASSERT_EQ(list.horizontalBar().Max(), 101);
+  const std::string all = seen();
+  const auto texts = [&](const std::string& text) { return all.find(text) != std::string::npos; };
+  EXPECT_TRUE(texts("\"ab\" (257, 3)-(301, 100) 64"));   // 301 - 17 - 10 - 14 - 3
+  EXPECT_TRUE(texts("\"ab\" (125, 16)-(301, 100) 64"));  // (301 - 17 - 14) / 2 - 10
+  EXPECT_TRUE(texts("\"a\" (-7, 29)-(284, 100) 64"));
+  EXPECT_TRUE(texts("\"b\" (-7, 29)-(281, 100) 2"));
+}
+
+TEST_F(Rows, PropertiesReadAnewInTheMiddleOfARowEndTheRepaint) {
+  /// Lets a reading of the properties fail at its first key in one of the calls.
+  class Hostile : public HeadlessSurface {
+   public:
+    using HeadlessSurface::HeadlessSurface;
+    void Line(LineMode mode, float x1, float y1, float x2, float y2, Colour colour) override {
+      HeadlessSurface::Line(mode, x1, y1, x2, y2, colour);
+      readIn("Line");
+    }
+    void DrawFocusRect(std::uintptr_t hDC, const Rectangle& rectangle) override {
+      HeadlessSurface::DrawFocusRect(hDC, rectangle);
+      readIn("DrawFocusRect");
+    }
+    void ForeColor(Colour colour) override {
+      HeadlessSurface::ForeColor(colour);
+      readIn("ForeColor");
+    }
+    void DrawTextA(std::uintptr_t hDC, std::string_view text, std::int32_t length,
+                   const Rectangle& rectangle, TextFormat format) override {
+      HeadlessSurface::DrawTextA(hDC, text, length, rectangle, format);
+      readIn("DrawTextA");
+    }
+    void readIn(std::string_view call) {
+      if (call == hostileCall) list->UserControl_ReadProperties(propertiesOf("Font = 7"));
+    }
+    std::string_view hostileCall;
+    nvList* list = nullptr;
+  } surface(200, 100);
+  HeadlessContainer container(surface);
+  nvList own(container);
+  surface.list = &own;
+  const auto lastCalls = [&](std::string_view hostileCall, bool isSelected) {
+    surface.hostileCall = {};
+    own.UserControl_InitProperties();
+    own.Style(cCheckBoxes);
+    own.ShowFocusRect(true);
+    own.UserControl_GotFocus();
+    for (const char* text : {"a", "b"}) own.ItemsAdd(text);
+    own.ItemSelected(0, isSelected);
+    surface.hostileCall = hostileCall;
+    own.Redraw();
+    EXPECT_FALSE(own.state().IsRedrawing);
+    const std::string image = surface.image().text();
+    return image.substr(image.rfind("Line"));
+  };
+  const std::string background = "Line 38 (0, 3)-(200, 16) #FFFFFF\n";
+  EXPECT_EQ(lastCalls("Line", false), background + "CurrentY 3\nCurrentY 3\nCurrentX 18\n");
+  EXPECT_EQ(lastCalls("DrawFocusRect", true),
+            "Line 38 (18, 3)-(200, 16) #316AC5\nDrawFocusRect (18, 3)-(200, 16)\n");
+  EXPECT_EQ(lastCalls("ForeColor", false),
+            background +
+                "CurrentY 3\nCurrentY 3\nCurrentX 18\n"
+                "PaintPicture 13x13 \"check box\" at (3, 3)\nForeColor #000000\n");
+  const std::string afterText = lastCalls("DrawTextA", false);
+  EXPECT_EQ(afterText.substr(afterText.find("DrawTextA")),
+            "DrawTextA \"a\" (18, 3)-(200, 100) 64\nCurrentY 16\nCurrentX 18\n");
 }
 
 }  // namespace

@@ -29,6 +29,7 @@ class BarTest : public ListTest, protected nvVScrollEvents, protected nvHScrollE
   static constexpr bool isVertical = std::is_same_v<Bar, nvVScroll>;
 
   BarTest() {
+    headless.resize(200, 200);
     bar.UserControl_InitProperties();
     length(200);
     bar.Visible(true);

@@ -110,6 +110,13 @@ HeadlessContainer* HeadlessContainer::hit(Point point) {
   return isEnabled_ ? this : nullptr;
 }
 
+HeadlessContainer* HeadlessContainer::hitOnForm(Point point) {
+  const Surface& form = root_.surface_;
+  const bool isInside =
+      point.x >= 0 && point.y >= 0 && point.x < form.ScaleWidth() && point.y < form.ScaleHeight();
+  return isInside ? root_.hit(point) : nullptr;
+}
+
 HeadlessContainer::Point HeadlessContainer::onRoot(Point point) const {
   for (const HeadlessContainer* place = this; place->parent_; place = place->parent_)
     point = {point.x + place->bounds_.Left, point.y + place->bounds_.Top};
@@ -123,7 +130,7 @@ HeadlessContainer::Point HeadlessContainer::fromRoot(Point point) const {
 
 void HeadlessContainer::press(float x, float y, std::int16_t button, std::int16_t shift) {
   const Point point = onRoot({x, y});
-  HeadlessContainer* const target = root_.pressed_ ? root_.pressed_ : root_.hit(point);
+  HeadlessContainer* const target = root_.pressed_ ? root_.pressed_ : hitOnForm(point);
   if (!target || !target->control_) return;
   root_.pressed_ = target;
   if (button == 1) root_.isDoubleClick_ = false;
@@ -133,7 +140,7 @@ void HeadlessContainer::press(float x, float y, std::int16_t button, std::int16_
 
 void HeadlessContainer::doubleClick(float x, float y, std::int16_t button, std::int16_t shift) {
   const Point point = onRoot({x, y});
-  HeadlessContainer* const target = root_.hit(point);
+  HeadlessContainer* const target = hitOnForm(point);
   if (!target || !target->control_) return;
   root_.pressed_ = target;
   root_.isDoubleClick_ = button == 1 && target->control_->UserControl_DblClick();
@@ -151,7 +158,7 @@ void HeadlessContainer::moveTo(float x, float y, std::int16_t buttons, std::int1
     tell(root_.pressed_);
     return;
   }
-  HeadlessContainer* const under = root_.hit(point);
+  HeadlessContainer* const under = hitOnForm(point);
   if (root_.captured_ != under) tell(root_.captured_);
   tell(under);
 }
@@ -161,7 +168,7 @@ void HeadlessContainer::release(float x, float y, std::int16_t button, std::int1
   if (!target || !target->control_) return;
   const Point point = onRoot({x, y});
   const Point own = target->fromRoot(point);
-  const bool isClick = button == 1 && !root_.isDoubleClick_ && root_.hit(point) == target;
+  const bool isClick = button == 1 && !root_.isDoubleClick_ && hitOnForm(point) == target;
   target->control_->UserControl_MouseUp(button, shift, own.x, own.y);
   // The handler may have ended the control.
   const bool isStillThere = root_.pressed_ == target;

@@ -94,6 +94,8 @@ class HeadlessContainer : public Container {
   void paintPending();
   /// The foremost control at a point of this place that hears the mouse.
   HeadlessContainer* hit(Point point);
+  /// The same for a point of the form; nullptr outside of it.
+  HeadlessContainer* hitOnForm(Point point);
   Point onRoot(Point point) const;
   Point fromRoot(Point point) const;
 

@@ -28,6 +28,8 @@ NvListWidget::NvListWidget(QWidget* parent)
 
 NvListWidget::~NvListWidget() {
   core_->place.onPropertyChanged = nullptr;
+  // A host may end with its window, and the list has yet to finish what it is doing.
+  core_->list.removeAllSinks();
   core_->place.detach();
   QtPlace::endLater(std::move(core_));
 }
