@@ -132,6 +132,7 @@ TEST_F(QtSurfaceTest, measuresWholePixelsAndEveryKindOfLineBreak) {
   EXPECT_EQ(height, std::nearbyint(height));
   EXPECT_EQ(surface.TextHeight("a\r\nb\nc\rd"), 4 * height);
   EXPECT_EQ(surface.TextHeight("a\n"), 2 * height);
+  EXPECT_EQ(surface.TextHeight("\n"), 2 * height);
   EXPECT_EQ(surface.TextWidth(""), 0);
   EXPECT_EQ(surface.TextWidth("i\rwide line\r\nn"), surface.TextWidth("wide line"));
 
@@ -149,8 +150,8 @@ TEST_F(QtSurfaceTest, measuresAsTheLayoutOfQtDoes) {
   font.Name = "DejaVu Sans";
   font.Size = 9;
   const QFontMetricsF metrics(toQFont(font), &image);
-  for (const char* text :
-       {"AVATAR To Wave", "office affluent fish", "Item 12345", " ", "{~}", "Grüße, Łódź", "日本"})
+  for (const char* text : {"AVATAR To Wave", "office affluent fish", "Item 12345", " ", "{~}",
+                           "a\x7F", "Grüße, Łódź", "日本"})
     EXPECT_NEAR(surface.TextWidth(text), metrics.horizontalAdvance(QString(text)), 1) << text;
 }
 

@@ -410,6 +410,8 @@ TEST_F(Rows, WhateverTheSurfaceThrowsIsReportedOnce) {
       reports();
     }
   }
+}
+
 TEST_F(Rows, BarsTakeTheirWidthAndAScrollItsDistance) {
   list.ScrollBars(vbBoth);
   list.AutoRedraw(false);
