@@ -80,5 +80,6 @@ void addSearchBenchmarks();
 void addSortBenchmarks();
 void addDuplicatesBenchmarks();
 void addPaintBenchmarks();
+void addScrollBenchmarks();
 void addMemoryBenchmarks();
 void addListFileBenchmarks();

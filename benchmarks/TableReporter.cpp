@@ -24,7 +24,9 @@ constexpr Aim aims[] = {
     {"Sort/", subject::listWidget, 0.1},        {"Sort/", subject::floor, 1.0},
     {"Redraw/", subject::listWidget, 0.5},      {"ItemsRemoveDouble", subject::floor, 6.0},
     {"Memory/", subject::listWidget, 0.8},      {"Frame ", subject::listWidget, 0.5},
-    {"ListSave", subject::dataStream, 0.5},     {"ListInput", subject::dataStream, 0.25},
+    {"ScrollRow/", subject::floor, 1.5},        {"DragThumb/", subject::floor, 1.5},
+    {"CheckItemWidth/", subject::floor, 1.3},   {"ListSave", subject::dataStream, 0.5},
+    {"ListInput", subject::dataStream, 0.25},
 };
 
 bool isMemory(std::string_view work) { return work.starts_with("Memory/"); }

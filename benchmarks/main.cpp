@@ -17,6 +17,7 @@ int main(int argc, char** argv) {
   addSortBenchmarks();
   addDuplicatesBenchmarks();
   addPaintBenchmarks();
+  addScrollBenchmarks();
   addMemoryBenchmarks();
   addListFileBenchmarks();
 

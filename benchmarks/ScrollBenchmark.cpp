@@ -1,0 +1,130 @@
+#include <QApplication>
+#include <QFontMetricsF>
+#include <QMouseEvent>
+#include <algorithm>
+#include <memory>
+#include <string>
+
+#include "Measure.h"
+#include "Subjects.h"
+
+namespace {
+
+QWidget& childOf(const QWidget& widget, int index) {
+  return *widget.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly).at(index);
+}
+
+void send(QWidget& widget, QEvent::Type type, QPointF point) {
+  const bool isDown = type != QEvent::MouseButtonRelease;
+  const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+  QMouseEvent event(type, point, widget.mapToGlobal(point), button,
+                    isDown ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+  QApplication::sendEvent(&widget, &event);
+}
+
+/// A full list on the screen, with its vertical bar and the parts of that.
+struct ScrolledList {
+  explicit ScrolledList(int count) : widget(makeNvList(false)) {
+    fill(widget->list(), count);
+    widget->list().AutoRedraw(true);
+    widget->show();
+    QApplication::processEvents();
+  }
+
+  std::unique_ptr<norvane::NvListWidget> widget;
+  QWidget& bar = childOf(*widget, 0);
+  QWidget& thumb = childOf(bar, 0);
+  QWidget& upButton = childOf(bar, 1);
+  QWidget& downButton = childOf(bar, 2);
+};
+
+/// One repaint of the list and one of the track, seen on the screen.
+void repaintOnce(ScrolledList& list) {
+  list.widget->list().Redraw();
+  list.bar.update();
+  QApplication::processEvents();
+}
+
+void addScrollByOneRow(int count) {
+  const std::string work = "ScrollRow/" + std::to_string(count);
+  const auto prepare = [count] { return std::make_unique<ScrolledList>(count); };
+  addShared(work, subject::nvList, false, prepare, [](auto& list) {
+    // There and back again would be two; the buttons take turns.
+    static bool isDown = false;
+    QWidget& button = (isDown = !isDown) ? list->downButton : list->upButton;
+    send(button, QEvent::MouseButtonPress, {8, 8});
+    send(button, QEvent::MouseButtonRelease, {8, 8});
+    QApplication::processEvents();
+  });
+  addShared(work, subject::floor, false, prepare, [](auto& list) { repaintOnce(*list); });
+}
+
+void addDrag(int count) {
+  const std::string work = "DragThumb/" + std::to_string(count);
+  const auto prepare = [count] { return std::make_unique<ScrolledList>(count); };
+  // End to end and back, a pixel at a time, each with a repaint on the screen.
+  constexpr int length = 240;
+  addShared(work, subject::nvList, false, prepare, [](auto& list) {
+    const auto to = [&](int y) {
+      send(list->thumb, QEvent::MouseMove, list->thumb.mapFrom(&list->bar, QPoint(8, y)));
+    };
+    send(list->thumb, QEvent::MouseButtonPress, {8, 3});
+    for (int i = 0; i < length; ++i) to(20 + i);
+    for (int i = length; i > 0; --i) to(20 + i);
+    send(list->thumb, QEvent::MouseButtonRelease, {8, 3});
+  });
+  addShared(work, subject::floor, false, prepare, [](auto& list) {
+    for (int i = 0; i < 2 * length; ++i) repaintOnce(*list);
+  });
+}
+
+/// The first fit of a list that was filled without one.
+void addMeasuring(int count) {
+  const std::string work = "CheckItemWidth/" + std::to_string(count);
+  addFresh(
+      work, subject::nvList, count,
+      [count] {
+        auto widget = makeNvList(false);
+        widget->list().AutoCheckScroll(false);
+        fill(widget->list(), count);
+        return widget;
+      },
+      [](auto& widget) { widget->list().AutoCheckScroll(true); });
+  addFresh(
+      work, subject::floor, count, [count] { return &qtTexts(count); },
+      [](const std::vector<QString>* all) {
+        const QFontMetricsF metrics{QFont()};
+        double widest = 0;
+        for (const QString& text : *all) widest = std::max(widest, metrics.horizontalAdvance(text));
+        benchmark::DoNotOptimize(widest);
+      });
+}
+
+/// One item out of many that were measured, with the fit that follows.
+void addRemoveMeasured(int count) {
+  const std::string work = "RemoveMeasured/" + std::to_string(count);
+  addFresh(
+      work, subject::nvList, count, [count] { return std::make_unique<ScrolledList>(count); },
+      [](auto& list) { list->widget->list().ItemsRemove(0); });
+  addFresh(
+      work, subject::listWidget, count,
+      [count] {
+        auto widget = makeListWidget(true);
+        fill(*widget, count);
+        QApplication::processEvents();
+        return widget;
+      },
+      [](auto& widget) {
+        delete widget->takeItem(0);
+        benchmark::DoNotOptimize(widget->sizeHintForColumn(0));
+      });
+}
+
+}  // namespace
+
+void addScrollBenchmarks() {
+  addScrollByOneRow(1'000'000);
+  addDrag(1'000'000);
+  addMeasuring(1'000'000);
+  addRemoveMeasured(100'000);
+}
