@@ -9,22 +9,22 @@
 
 namespace norvane {
 
-ListItem& ItemStore::touch(std::int32_t index) {
-  Ref<ListItem>& reference = slot(index);
+Ref<ListItem>& ItemStore::reference(std::int32_t index) const {
+  if (!holds(index)) throw Failure::subscriptOutOfRange();
+  Ref<ListItem>& reference = slots_[static_cast<std::size_t>(index)];
+  if (!reference) makeItem(reference, index);
+  return reference;
+}
+
+void ItemStore::makeItem(Ref<ListItem>& reference, std::int32_t index) const {
+  if (source_) reference = source_->make(index);
   if (!reference) reference = makeRef<ListItem>();
-  return *reference;
 }
 
-Ref<ListItem>& ItemStore::slot(std::int32_t index) {
-  if (!holds(index)) throw Failure::subscriptOutOfRange();
-  return slots_[static_cast<std::size_t>(index)];
-}
-
-const ListItem& ItemStore::at(std::int32_t index) const {
-  static const ListItem blank;
-  if (!holds(index)) throw Failure::subscriptOutOfRange();
-  const Ref<ListItem>& reference = slots_[static_cast<std::size_t>(index)];
-  return reference ? *reference : blank;
+void ItemStore::makeAllItems() {
+  if (!source_) return;
+  forEach([](const ListItem&) {});
+  source_.reset();
 }
 
 void ItemStore::forgetTextWidths() {
@@ -41,16 +41,19 @@ void ItemStore::grow() {
 // last: an item's objects may run host code as they are destroyed.
 
 void ItemStore::shrink() {
+  makeAllItems();
   const Ref<ListItem> last = std::move(slots_.back());
   slots_.pop_back();
 }
 
-void ItemStore::recreate(std::size_t count) {
+void ItemStore::recreate(std::size_t count, std::shared_ptr<ItemSource> source) {
   std::deque<Ref<ListItem>> old(count);
   slots_.swap(old);
+  source_.swap(source);
 }
 
 void ItemStore::moveLastTo(std::int32_t index) {
+  makeAllItems();
   slot(index);
   if (index == upperBound()) return;
   slots_.emplace(slots_.begin() + index);
@@ -59,12 +62,14 @@ void ItemStore::moveLastTo(std::int32_t index) {
 }
 
 void ItemStore::moveDownOnto(std::int32_t index) {
+  makeAllItems();
   const Ref<ListItem> removed = slot(index);
   slots_.push_back(Ref(slots_.back()));
   slots_.erase(slots_.begin() + index);
 }
 
 void ItemStore::moveOnto(std::int32_t from, std::int32_t to) {
+  makeAllItems();
   slot(from);
   Ref<ListItem> carried = slot(to);
   const auto exchange = [&](Ref<ListItem>& reference) { reference.swap(carried); };
@@ -76,6 +81,7 @@ void ItemStore::moveOnto(std::int32_t from, std::int32_t to) {
 }
 
 void ItemStore::reorder(std::span<const std::int32_t> order) {
+  makeAllItems();
   std::vector<Ref<ListItem>> old(slots_.size());
   std::ranges::move(slots_, old.begin());
   auto slot = slots_.begin();

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <deque>
+#include <memory>
 #include <span>
 #include <utility>
 
@@ -10,8 +11,18 @@
 
 namespace norvane {
 
+/// Where the items of untouched slots come from, such as a list file that has been read.
+class ItemSource {
+ public:
+  virtual ~ItemSource() = default;
+  /// Makes the item of a slot; empty where the source has none for it. Asked once a slot at most,
+  /// unless it throws.
+  virtual Ref<ListItem> make(std::int32_t index) = 0;
+};
+
 /// The array of the list: references to items from 0 to upperBound(). There is always at least one
-/// slot. A slot may be empty; it gets a blank item the first time it is touched.
+/// slot. A slot may be empty; the first time it is touched, it gets an item from the source, or a
+/// blank one. So a list of a million items that were loaded but never looked at costs little.
 ///
 /// The slots stand in a deque, so that adding and removing at either end costs nothing more than
 /// the slot itself, and in the middle moves the shorter side only.
@@ -24,21 +35,20 @@ class ItemStore {
 
   bool holds(std::int32_t index) const { return index >= 0 && index <= upperBound(); }
 
-  /// The item in a slot, to look at; a blank one for an empty slot. Throws Failure 9 outside the
-  /// bounds. Lives until the list changes.
-  const ListItem& at(std::int32_t index) const;
-  /// The item in a slot, made if the slot is empty. Throws Failure 9 outside the bounds.
-  ListItem& touch(std::int32_t index);
+  // These make the item of a slot that has none yet, and throw Failure 9 outside the bounds.
 
-  /// The reference in a slot, to be read or replaced. Throws Failure 9 outside the bounds.
-  Ref<ListItem>& slot(std::int32_t index);
+  /// The item in a slot, to look at. Lives until the list changes.
+  const ListItem& at(std::int32_t index) const { return *reference(index); }
+  ListItem& touch(std::int32_t index) { return *reference(index); }
+  /// The reference in a slot, to be read or replaced.
+  Ref<ListItem>& slot(std::int32_t index) { return reference(index); }
 
   /// The first index, from 0, whose item fits, or upperBound() + 1. Nothing but `fits` runs in it.
   template <class Fits>
   std::int32_t find(Fits&& fits) {
     std::int32_t index = 0;
     for (Ref<ListItem>& reference : slots_) {
-      if (!reference) reference = makeRef<ListItem>();
+      if (!reference) makeItem(reference, index);
       if (fits(std::as_const(*reference))) break;
       ++index;
     }
@@ -64,8 +74,8 @@ class ItemStore {
   /// A single empty slot again; all references are dropped.
   void reset() { recreate(1); }
 
-  /// So many empty slots, at least one; all references are dropped.
-  void recreate(std::size_t count);
+  /// So many empty slots, at least one, and who makes their items; all references are dropped.
+  void recreate(std::size_t count, std::shared_ptr<ItemSource> source = nullptr);
 
   /// Moves the reference in the last slot to `index` and those behind it up by one.
   void moveLastTo(std::int32_t index);
@@ -79,7 +89,14 @@ class ItemStore {
   void reorder(std::span<const std::int32_t> order);
 
  private:
-  std::deque<Ref<ListItem>> slots_ = std::deque<Ref<ListItem>>(1);
+  Ref<ListItem>& reference(std::int32_t index) const;
+  void makeItem(Ref<ListItem>& reference, std::int32_t index) const;
+  void makeAllItems();
+
+  /// That some are still empty shows nowhere outside.
+  mutable std::deque<Ref<ListItem>> slots_ = std::deque<Ref<ListItem>>(1);
+  /// Knows the slots by their first places: all items are made before any reference moves.
+  std::shared_ptr<ItemSource> source_;
 };
 
 }  // namespace norvane

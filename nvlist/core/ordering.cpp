@@ -74,7 +74,6 @@ void nvList::moveItem(double from, double count, int direction) {
   };
   ItemStore& items = state_.Items;
   const double passes = std::max(0.0, std::floor(count));
-  items.touch(place(0));
   const Ref<ListItem> held = items.slot(place(0));
   if (from == std::floor(from)) {
     items.moveOnto(place(0), place(passes));

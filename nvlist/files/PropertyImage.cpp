@@ -1,4 +1,4 @@
-#include <nvlist/files/FileReader.h>
+#include <nvlist/files/ByteReader.h>
 #include <nvlist/files/PropertyImage.h>
 #include <nvlist/files/windows1252.h>
 #include <nvlist/platform/Application.h>
@@ -117,15 +117,17 @@ Variant PropertyImage::ReadProperty(std::string_view name, const Variant& defaul
 
 Variant readTaggedBytes(const std::string& path) {
   const auto file = Application::inUse().openFile(path, FileMode::read);
-  FileReader reader(*file);
+  const std::vector<char> head = readBytes(*file, 12);
+  ByteReader reader({head.data(), head.size()});
   const auto tag = reader.number<std::int16_t>();
   const auto dimensions = reader.number<std::int16_t>();
   const auto count = reader.number<std::int32_t>();
   const auto lowerBound = reader.number<std::int32_t>();
   if (tag != arrayOfBytes || dimensions != 1 || lowerBound != 0) throw Failure::invalidFormat();
-  Variant bytes = reader.bytes(count);
+  if (static_cast<std::uint32_t>(count) > file->size()) throw Failure::pastEndOfFile();
+  const std::vector<char> bytes = readBytes(*file, static_cast<std::size_t>(count));
   file->close();
-  return bytes;
+  return ByteReader({bytes.data(), bytes.size()}).bytes(count);
 }
 
 }  // namespace norvane

@@ -1,52 +1,103 @@
 #include <nvlist/core/numbers.h>
-#include <nvlist/files/FileReader.h>
+#include <nvlist/files/ByteReader.h>
 #include <nvlist/files/fileExists.h>
 #include <nvlist/files/inputLimits.h>
 #include <nvlist/files/windows1252.h>
 #include <nvlist/nvList.h>
 #include <nvlist/platform/Application.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace norvane {
+namespace {
+
+constexpr std::size_t headerSize = 7;
+/// Bytes of the fields that all versions have, in front of the flags of the font.
+constexpr int uniformPart = 40;
+constexpr int colourSize = 6;
+
+bool isHexDigit(char c) {
+  const char letter = static_cast<char>(c | 0x20);
+  return (c >= '0' && c <= '9') || (letter >= 'a' && letter <= 'f');
+}
+
+/// Whether the colours can be read without a failure, written as ListSave writes them.
+bool hasPlainColours(std::string_view uniform) {
+  const auto isNumber = [&](std::size_t at) {
+    return std::ranges::all_of(uniform.substr(at, colourSize), isHexDigit);
+  };
+  const auto isColour = [&](std::size_t at) {
+    return isNumber(at) || uniform.substr(at, colourSize) == "   def";
+  };
+  constexpr std::size_t back = 1, backDis = 7, backSelect = 13;
+  constexpr std::size_t fore = 21, foreDis = 27, foreSelect = 33;
+  return isColour(back) && isNumber(backDis) && isColour(backSelect) && isColour(fore) &&
+         isNumber(foreDis) && isColour(foreSelect);
+}
+
+}  // namespace
 
 /// A binary list file on its way into the list. docs/list-files.md has the layout.
-class nvList::ListFile {
+///
+/// Its first records stay in memory as they are, up to one in which something could fail, or with a
+/// picture: an item is made of each when somebody wants it. The rest is read at once, so that every
+/// failure comes while the file is read.
+class nvList::ListFile final : public ItemSource {
  public:
-  ListFile(nvList& list, File& file, Boolean wantsProperties)
-      : list_(list),
-        file_(file),
-        wantsProperties_(static_cast<std::uint8_t>(wantsProperties.number()) != 0) {}
+  ListFile(nvList& list, Boolean wantsProperties)
+      : list_(list), wantsProperties_(static_cast<std::uint8_t>(wantsProperties.number()) != 0) {}
 
+  void readHeader(File& file);
   /// Whether the file is one of an empty list.
   bool isEmpty() const { return last_ == -1; }
-  void readHeader();
-  void readItems();
+  /// Brings the rest of the file into memory if its header can be true. The number of items.
+  std::size_t load(File& file);
+  void readRecords();
+
+  Ref<ListItem> make(std::int32_t index) override;
 
  private:
-  static constexpr int uniformPart = 40;  ///< bytes of the fields before the flags of the font
-  static constexpr int colourSize = 6;
-
   std::uint64_t smallestRecord() const;
-  std::string text(std::int64_t size) { return windows1252::textOf(file_.bytes(size)); }
-  std::string itemText();
-  void readProperties(ListItem& item);
-  void readFlagsAndKeys(ListItem& item);
-  void readIcons(ListItem& item);
-  Picture readIcon();
+  ByteReader recordsFrom(std::size_t start) const {
+    return ByteReader({records_.data() + start, records_.size() - start});
+  }
+
+  bool passPlainRecord(ByteReader& from, bool& isSelected) const;
+  void oneMade();
+
+  void readItem(ByteReader& from, ListItem& item) const;
+  std::string itemText(ByteReader& from) const;
+  void readProperties(ByteReader& from, ListItem& item) const;
+  void readFlagsAndKeys(ByteReader& from, ListItem& item) const;
+  void readIcons(ByteReader& from, ListItem& item) const;
+  Picture readIcon(ByteReader& from) const;
 
   nvList& list_;
-  FileReader file_;
   const bool wantsProperties_;
   std::int32_t last_ = -1;
   bool hasProperties_ = false;
   std::int16_t version_ = 0;
+
+  std::vector<char> records_;
+  std::vector<std::uint64_t> starts_;  ///< of the records that wait to become items
+  std::size_t unmade_ = 1;             ///< how many of them still do, and the reading itself
 };
 
-void nvList::ListFile::readHeader() {
-  last_ = file_.number<std::int32_t>();
-  hasProperties_ = file_.number<std::uint8_t>() != 0;
-  version_ = file_.number<std::int16_t>();
+void nvList::ListFile::readHeader(File& file) {
+  const std::vector<char> head = readBytes(file, headerSize);
+  ByteReader header({head.data(), head.size()});
+  last_ = header.number<std::int32_t>();
+  hasProperties_ = header.number<std::uint8_t>() != 0;
+  version_ = header.number<std::int16_t>();
+}
+
+std::size_t nvList::ListFile::load(File& file) {
+  const std::uint64_t size = std::max<std::uint64_t>(file.size(), headerSize) - headerSize;
+  const std::size_t count = believedCount(std::int64_t{last_} + 1, size, smallestRecord());
+  starts_.reserve(count);
+  records_ = readBytes(file, static_cast<std::size_t>(size));
+  return count;
 }
 
 /// Bytes that an item takes at least.
@@ -58,34 +109,91 @@ std::uint64_t nvList::ListFile::smallestRecord() const {
   return text + uniformPart + flagsAndKeys + markers;
 }
 
-void nvList::ListFile::readItems() {
+void nvList::ListFile::readRecords() {
   ItemStore& items = list_.state_.Items;
   std::int32_t& index = list_.state_.LoopIndex;
-  items.recreate(believedCount(std::int64_t{last_} + 1, file_.left(), smallestRecord()));
+  ByteReader from = recordsFrom(0);
+  bool isPlain = true;
   for (index = 0; index <= last_; index = checked::add(index, 1)) {
-    auto item = makeRef<ListItem>();
-    item->Text = itemText();
-    if (hasProperties_)
-      readProperties(*item);
-    else
-      setDefaults(*item);
-    const Boolean isSelected = item->Selected;
-    items.slot(index) = std::move(item);
+    const std::size_t start = records_.size() - from.left();
+    bool isSelected = false;
+    isPlain = isPlain && passPlainRecord(from, isSelected);
+    if (isPlain) {
+      starts_.push_back(start);
+      ++unmade_;
+    } else {
+      ListItem& item = items.touch(index);
+      readItem(from, item);
+      isSelected = static_cast<bool>(item.Selected);
+    }
     if (isSelected) list_.state_.Selection.set(items, index, true);
   }
+  oneMade();
 }
 
-std::string nvList::ListFile::itemText() {
-  if (version_ >= 271) return text(file_.number<std::int32_t>());
+/// Whether nothing can fail in the next record, which is passed then.
+bool nvList::ListFile::passPlainRecord(ByteReader& from, bool& isSelected) const {
+  ByteReader record = from;
+  const auto passText = [&](bool isRead) {
+    if (record.left() < sizeof(std::int32_t)) return false;
+    const auto size = record.number<std::int32_t>();
+    return !isRead || record.pass(size);
+  };
+  if (version_ < 271 || !passText(true)) return false;
+  if (hasProperties_) {
+    if (record.left() < uniformPart) return false;
+    const std::string_view uniform = record.bytes(uniformPart);
+    if (wantsProperties_ && !hasPlainColours(uniform)) return false;
+    if (version_ >= 273) {
+      if (record.left() < 4) return false;
+      isSelected = record.bytes(4)[3] != 0 && wantsProperties_;
+      if (!passText(wantsProperties_) || !passText(wantsProperties_)) return false;
+    }
+    if (record.left() < 2) return false;
+    const std::string_view markers = record.bytes(2);
+    if (markers[0] == 1 || markers[1] == 1) return false;
+  }
+  from = record;
+  return true;
+}
+
+Ref<ListItem> nvList::ListFile::make(std::int32_t index) {
+  const auto record = static_cast<std::size_t>(index);
+  if (record >= starts_.size()) return nullptr;
+  auto item = makeRef<ListItem>();
+  ByteReader from = recordsFrom(static_cast<std::size_t>(starts_[record]));
+  readItem(from, *item);
+  oneMade();
+  return item;
+}
+
+/// The file goes with the last item that is made of it.
+void nvList::ListFile::oneMade() {
+  if (--unmade_ > 0) return;
+  records_ = {};
+  starts_ = {};
+}
+
+void nvList::ListFile::readItem(ByteReader& from, ListItem& item) const {
+  setText(item, itemText(from));
+  if (hasProperties_)
+    readProperties(from, item);
+  else
+    setDefaults(item);
+}
+
+std::string nvList::ListFile::itemText(ByteReader& from) const {
   if (version_ < 270) return {};
+  if (version_ >= 271) return windows1252::textOf(from.bytes(from.number<std::int32_t>()));
   constexpr int unusedPart = 11;
   constexpr int lengthDigits = 5;
-  file_.bytes(unusedPart);
-  return text(Variant(file_.bytes(lengthDigits)).toInt32());
+  from.bytes(unusedPart);
+  const std::int32_t size = Variant(from.bytes(lengthDigits)).toInt32();
+  return windows1252::textOf(from.bytes(size));
 }
 
-void nvList::ListFile::readProperties(ListItem& item) {
-  const char* next = file_.bytes(uniformPart).data();
+void nvList::ListFile::readProperties(ByteReader& from, ListItem& item) const {
+  const char* next = from.bytes(uniformPart).data();
   const auto byte = [&] { return static_cast<unsigned char>(*next++); };
   const auto colour = [&] {
     const std::string_view text(std::exchange(next, next + colourSize), colourSize);
@@ -105,12 +213,12 @@ void nvList::ListFile::readProperties(ListItem& item) {
     item.ForeColorSelect = colour();
     item.Alignment = static_cast<cItemAlignment>(byte());
   }
-  if (version_ >= 273) readFlagsAndKeys(item);
-  readIcons(item);
+  if (version_ >= 273) readFlagsAndKeys(from, item);
+  readIcons(from, item);
 }
 
-void nvList::ListFile::readFlagsAndKeys(ListItem& item) {
-  const std::string_view flags = file_.bytes(4);
+void nvList::ListFile::readFlagsAndKeys(ByteReader& from, ListItem& item) const {
+  const std::string_view flags = from.bytes(4);
   if (wantsProperties_) {
     item.Bold = flags[0] != 0;
     item.Italic = flags[1] != 0;
@@ -118,21 +226,22 @@ void nvList::ListFile::readFlagsAndKeys(ListItem& item) {
     item.Selected = flags[3] != 0;
   }
   // The texts are left in the file where nobody wants them: what follows is then read amiss.
-  const auto keySize = file_.number<std::int32_t>();
+  const auto text = [&](std::int32_t size) { return windows1252::textOf(from.bytes(size)); };
+  const auto keySize = from.number<std::int32_t>();
   if (wantsProperties_) item.Key = text(keySize);
-  const auto tagSize = file_.number<std::int32_t>();
+  const auto tagSize = from.number<std::int32_t>();
   item.Tag = wantsProperties_ ? text(tagSize) : std::string();
 }
 
 /// The second picture takes the place of the first one, or its absence does: so it has always been.
-void nvList::ListFile::readIcons(ListItem& item) {
-  item.Icon = readIcon();
-  item.Icon = readIcon();
+void nvList::ListFile::readIcons(ByteReader& from, ListItem& item) const {
+  item.Icon = readIcon(from);
+  item.Icon = readIcon(from);
 }
 
-Picture nvList::ListFile::readIcon() {
-  if (file_.number<std::uint8_t>() != 1) return nullptr;
-  const std::string_view picture = file_.bytes(file_.number<std::int32_t>());
+Picture nvList::ListFile::readIcon(ByteReader& from) const {
+  if (from.number<std::uint8_t>() != 1) return nullptr;
+  const std::string_view picture = from.bytes(from.number<std::int32_t>());
   return wantsProperties_ ? list_.GetStringPicture(picture) : nullptr;
 }
 
@@ -151,11 +260,12 @@ void nvList::ListInput(const std::string& Filename, Boolean ReadItemPropertiesIf
 
 void nvList::inputItems(const std::string& Filename, Boolean ReadItemPropertiesIfExists) {
   const auto file = Application::inUse().openFile(Filename, FileMode::read);
-  ListFile reader(*this, *file, ReadItemPropertiesIfExists);
-  reader.readHeader();
+  const auto reader = std::make_shared<ListFile>(*this, ReadItemPropertiesIfExists);
+  reader->readHeader(*file);
   state_.ItemsDimensioned = false;
-  if (reader.isEmpty()) return;
-  reader.readItems();
+  if (reader->isEmpty()) return;
+  state_.Items.recreate(reader->load(*file), reader);
+  reader->readRecords();
   file->close();
   state_.ItemsDimensioned = true;
   Redraw();

@@ -24,11 +24,6 @@ void UserControl::UserControl_KeyPress(std::int16_t&) {}
 void UserControl::UserControl_KeyUp(std::int16_t, std::int16_t) {}
 void UserControl::UserControl_AmbientChanged(std::string_view) {}
 
-void UserControl::Left(float value) { Move({value, Top(), Width(), Height()}); }
-void UserControl::Top(float value) { Move({Left(), value, Width(), Height()}); }
-void UserControl::Width(float value) { Move({Left(), Top(), value, Height()}); }
-void UserControl::Height(float value) { Move({Left(), Top(), Width(), value}); }
-
 void UserControl::Move(const Bounds& bounds) {
   const Bounds wanted = {bounds.Left, bounds.Top, std::max(bounds.Width, 0.0F),
                          std::max(bounds.Height, 0.0F)};

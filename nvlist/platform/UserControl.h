@@ -59,14 +59,22 @@ class UserControl {
   // ---- the place, in pixels of the control around it ----
 
   float Left() const { return bounds_.Left; }
-  void Left(float value);
+  void Left(float value) {
+    if (value != bounds_.Left) Move({value, Top(), Width(), Height()});
+  }
   float Top() const { return bounds_.Top; }
-  void Top(float value);
+  void Top(float value) {
+    if (value != bounds_.Top) Move({Left(), value, Width(), Height()});
+  }
   /// A size below 0 counts as 0. Another size runs UserControl_Resize.
   float Width() const { return bounds_.Width; }
-  void Width(float value);
+  void Width(float value) {
+    if (value != bounds_.Width) Move({Left(), Top(), value, Height()});
+  }
   float Height() const { return bounds_.Height; }
-  void Height(float value);
+  void Height(float value) {
+    if (value != bounds_.Height) Move({Left(), Top(), Width(), value});
+  }
   void Move(const Bounds& bounds);
   /// Default: true. Turning visible runs UserControl_Show.
   Boolean Visible() const { return visible_; }

@@ -144,9 +144,9 @@ TEST_F(ImageInput, CountsTheItemsOfImagesOnly) {
     const std::string notFound = isSilent ? "[input! ]" : "[input! 57 FileExists]";
     const std::string missed = isSilent ? "[input! input! ]" : "[input! input! 57 FileExists]";
     EXPECT_EQ(eachFailing([&] { list.ListInput("file"); }),
-              notFound + missed + "[input! ][input! ][input! ][input! ]");
+              notFound + missed + "[input! ][input! ][input! ][input! ][input! ]");
     eachFailing([&] { counts += std::to_string(list.ListFileItemsCount("file")) + " "; });
-    EXPECT_EQ(counts, "-1 0 0 0 0 2 ");
+    EXPECT_EQ(counts, "-1 0 0 0 0 0 2 ");
   }
 }
 

@@ -262,6 +262,37 @@ TEST_F(ListInput, BringsBackWhatWasSaved) {
   }
 }
 
+/// Items are made of the file when they are looked at; whatever is done before must not show it.
+TEST_F(ListInput, ChangesItemsThatNobodyHasSeenLikeOthers) {
+  const std::function<void()> changes[] = {
+      [&] { list.ItemsAdd("last"); },
+      [&] { list.ItemsAdd("first", 0); },
+      [&] { list.ItemsRemove(Variant(0)); },
+      [&] { list.ItemsRemove(Variant(29)); },
+      [&] { list.Sort(cDescending); },
+      [&] { list.MoveItemUp(20, 15); },
+      [&] { list.ListIndex(3); },
+      [&] { list.ItemText(7, "other"); },
+      [&] { list.ItemsSelectedRemove(); },
+      [&] { list.AutoRedraw(true); },
+      [&] { save(); },
+  };
+  std::string records;
+  for (int i = 0; i < 30; ++i)
+    records += text(std::to_string(i * 37 % 30)) + fields() + zeros(3) + byte(i == 12) +
+               text(std::to_string(i)) + text("") + noIcons;
+  for (const auto& change : changes) {
+    std::string results[2];
+    for (const bool isSeen : {false, true}) {
+      input(header(29, true) + records);
+      if (isSeen) texts();
+      change();
+      for (int i = 0; i < list.ItemsCount(); ++i) results[isSeen] += told(item(i)) + "\n";
+    }
+    EXPECT_EQ(results[false], results[true]);
+  }
+}
+
 TEST_F(ListInput, EndsInTheEventWhereverAFileFails) {
   for (const bool isSilent : {false, true}) {
     if (isSilent) silent();
@@ -271,11 +302,12 @@ TEST_F(ListInput, EndsInTheEventWhereverAFileFails) {
     const std::string unread = isSilent ? "[]" : "[57 TextRead]";
     // Deleting, opening, writing, closing.
     EXPECT_EQ(eachFailing([&] { save(); }), "[save! ][save! ][0 1 save! ][0 1 save! ]");
-    // Looking for it twice, at the older form, and reading it: opening, size, bytes, closing.
+    // Looking for it twice, at the older form, and reading it: opening, header, size, the rest,
+    // closing.
     save();
     events();
     EXPECT_EQ(eachFailing([&] { list.ListInput("file", true); }),
-              notFound + notFound + "[][][][input! ][input! ][input! ][input! ]");
+              notFound + notFound + "[][][input! ][input! ][input! ][input! ][input! ]");
     memory.files["text"] = "a,b";
     EXPECT_EQ(eachFailing([&] { list.ListInput2("text", ","); }),
               notFound + unread + unread + unread + unread);
