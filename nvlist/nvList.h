@@ -421,7 +421,8 @@ class nvList final : public UserControl,
   // ---- list files: files/listSave.cpp, files/listInput.cpp, files/imageInput.cpp ----
   //
   // Names of files are UTF-8. docs/list-files.md tells what a list file holds and what is lost in
-  // it. None of these reports a failure: the events ErrorListSave and ErrorListInput tell of it.
+  // it. That a file failed is not reported: the events ErrorListSave and ErrorListInput tell of it,
+  // also under SilentError. Reported are single colours and pictures that are none.
 
   /// Saves all items in a file, which is deleted first where it is there. With `SaveItemProperties`
   /// everything of an item is saved, pictures too, which makes the file big; otherwise its text

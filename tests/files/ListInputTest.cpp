@@ -98,6 +98,11 @@ TEST_F(ListInput, GivesDefaultsWithoutTheArgument) {
   EXPECT_EQ(texts(), "a a");
   EXPECT_EQ(fileOf(item(0).Icon), "none");
   // Keys and tags that nobody wants are left in the file, for what follows them.
+  const std::string readAsTagAndIcons = zeros(6), readAsText = zeros(6);
+  input(header(1, true) + text("a") + fields() + flagsAndKeys(readAsTagAndIcons, "").substr(0, 14) +
+            readAsText + zeros(52),
+        false);
+  EXPECT_EQ(events() + told(item(0)) + texts(), ordinary("a") + "a ");
   const std::string pictureOfNoLength = "\1\xFF\xFF\xFF\xFF";
   input(header(0, true) + record("four" + pictureOfNoLength, ""), false);
   input(header(0, true) + record("", pictureOfNoLength), false);
@@ -120,8 +125,9 @@ TEST_F(ListInput, ReadsTheSecondPictureAsIcon) {
 
 TEST_F(ListInput, GoesOnBehindAColourThatIsNone) {
   const auto colour = [&](const std::string& six) {
-    input(header(0, true) + text("a") + fields(six) + flagsAndKeys("", "") + noIcons);
-    return item(0).BackColor.toText() + " " + item(0).ForeColor.toText() + " " + events();
+    input(header(0, true) + text("a") + fields(six) + zeros(12) + noIcons);
+    const std::string reported = events();
+    return item(0).BackColor.toText() + " " + item(0).ForeColor.toText() + " " + reported;
   };
   EXPECT_EQ(colour("4080FF"), "16744512 13 ");
   EXPECT_EQ(colour("ff8040"), "4227327 13 ");
@@ -136,7 +142,7 @@ TEST_F(ListInput, GoesOnBehindAColourThatIsNone) {
   for (const char* two : {"   def000000", "000000   def"}) {
     const std::string six = "000000", wrong(two);
     expectRefused(header(0, true) + text("a") + "\1" + six + wrong.substr(0, 6) + six + zeros(2) +
-                      six + wrong.substr(6) + six + "\1" + flagsAndKeys("", "") + noIcons,
+                      six + wrong.substr(6) + six + "\1" + zeros(12) + noIcons,
                   two);
   }
 }
@@ -150,17 +156,20 @@ TEST_F(ListInput, TouchesNothingButTheItems) {
   EXPECT_EQ(list.ItemsCount(), 0);
   EXPECT_EQ(item(1).Text, "b");
   EXPECT_EQ(headless.picture(), before);
-  const std::string record = text("new") + fields() + flagsAndKeys("", "") + noIcons;
-  input(header(1, true) + record + record);
+  const std::string record = text("new") + fields() + flagsAndKeys("", "");
+  input(header(1, true) + record + noIcons + record + noIcons);
   EXPECT_NE(headless.picture().find("new"), std::string::npos);
   EXPECT_EQ(list.ListIndex(), 2);
   EXPECT_EQ(events(), "");
   // A mark that was read goes like any other, also where one is known of.
-  for (int i = 0; i < 2; ++i) {
-    input(header(1, true) + record + record);
-    list.ItemEnabled(1, true);
-    list.ListIndex(1);
-    EXPECT_FALSE(item(0).Selected);
+  for (const std::string& icons : {noIcons, "\1" + text("picture") + byte(0)}) {
+    for (const int knownBefore : {-1, 1}) {
+      list.ListIndex(knownBefore);
+      input(header(1, true) + record + icons + record + icons);
+      list.ItemEnabled(1, true);
+      list.ListIndex(1);
+      EXPECT_FALSE(item(0).Selected);
+    }
   }
 }
 
@@ -268,7 +277,7 @@ TEST_F(ListInput, ChangesItemsThatNobodyHasSeenLikeOthers) {
       [&] { list.ItemsAdd("last"); },
       [&] { list.ItemsAdd("first", 0); },
       [&] { list.ItemsRemove(Variant(0)); },
-      [&] { list.ItemsRemove(Variant(29)); },
+      [&] { list.ItemsRemove(Variant(29)), list.ItemsAdd("other"); },
       [&] { list.Sort(cDescending); },
       [&] { list.MoveItemUp(20, 15); },
       [&] { list.ListIndex(3); },
@@ -277,15 +286,20 @@ TEST_F(ListInput, ChangesItemsThatNobodyHasSeenLikeOthers) {
       [&] { list.AutoRedraw(true); },
       [&] { save(); },
   };
-  std::string records;
-  for (int i = 0; i < 30; ++i)
+  std::string records, expected;
+  for (int i = 0; i < 30; ++i) {
+    expected += std::to_string(i * 37 % 30) + " ";
     records += text(std::to_string(i * 37 % 30)) + fields() + zeros(3) + byte(i == 12) +
-               text(std::to_string(i)) + text("") + noIcons;
+               text(std::to_string(i)) + text("") + (i == 15 ? "\1" + text("picture") : "") +
+               noIcons.substr(i == 15);
+  }
   for (const auto& change : changes) {
     std::string results[2];
     for (const bool isSeen : {false, true}) {
       input(header(29, true) + records);
-      if (isSeen) texts();
+      if (isSeen) {
+        EXPECT_EQ(texts() + " ", expected);
+      }
       change();
       for (int i = 0; i < list.ItemsCount(); ++i) results[isSeen] += told(item(i)) + "\n";
     }
