@@ -50,7 +50,7 @@ void addImage(int count) {
       work, subject::listWidget, false, [count] { return shownListWidget(count); },
       [](auto& widget) {
         static QImage image(400, 300, QImage::Format_RGB32);
-        widget->viewport()->render(&image);
+        widget->render(&image);
       });
   addShared(
       work, subject::floor, false, [] { return QImage(400, 300, QImage::Format_RGB32); },
@@ -114,7 +114,7 @@ void addFrame() {
       },
       [](auto& widget) {
         static QImage image(400, 300, QImage::Format_RGB32);
-        widget->viewport()->render(&image);
+        widget->render(&image);
       });
   static QImage box(13, 13, QImage::Format_RGB32);
   box.fill(Qt::gray);

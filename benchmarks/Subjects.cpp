@@ -57,8 +57,6 @@ std::unique_ptr<QListWidget> makeListWidget(bool isShown) {
   auto widget = std::make_unique<QListWidget>();
   widget->setUniformItemSizes(true);
   widget->setFrameShape(QFrame::NoFrame);
-  widget->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  widget->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   widget->setUpdatesEnabled(isShown);
   place(*widget, isShown);
   return widget;
