@@ -185,6 +185,8 @@ TEST_F(ToolTipTest, ControlsWithoutAWindowTakeNoTips) {
   tips.ToolText(Variant(makeRef<Object>()), "text");
   EXPECT_EQ(reports(), "438 AddTool, 438 AddTool, 424 RemoveTool, 438 ToolText, 438 ToolText");
   EXPECT_EQ(tips.ToolCount(), 0);
+  EXPECT_FALSE(tips.AddTool(Variant(makeRef<ControlWindow>(1, nullptr)), "text"));
+  EXPECT_EQ(reports(), "91 AddTool");
   silent();
   EXPECT_FALSE(tips.AddTool(windowless, "text"));
   EXPECT_EQ(tips.ToolCount(), 0);
