@@ -67,6 +67,20 @@ TEST(QtAdaptersTest, FailWithoutTheirWidgets) {
   EXPECT_FALSE(window.isForm());
 }
 
+TEST(QtAdaptersTest, GiveNoNumberTwice) {
+  alignas(QWidget) std::byte place[sizeof(QWidget)];
+  auto* widget = new (place) QWidget;
+  const std::int32_t first = handleOf(*widget);
+  EXPECT_EQ(handleOf(*widget), first);
+  // From then on nobody hears that it goes.
+  widget->disconnect();
+  widget->~QWidget();
+  widget = new (place) QWidget;
+  EXPECT_NE(handleOf(*widget), first);
+  EXPECT_EQ(widgetOf(handleOf(*widget)), widget);
+  widget->~QWidget();
+}
+
 TEST(QtMouseTest, TellsButtonsThatAreDownOrWerePressed) {
   QtApplication application;
   SpEv helper;
