@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QPushButton>
 #include <QTest>
 #include <memory>
 
@@ -132,6 +133,25 @@ TEST_F(QtToolTipTest, GoesWithAPress) {
   EXPECT_EQ(shown(), "nothing");
   QTest::qWait(100);
   EXPECT_EQ(shown(), "nothing");
+
+  // The button takes the press for itself.
+  auto* button = new QPushButton(two);
+  button->show();
+  tips.AddTool(QtWindow::of(*two), "two");
+  moveTo(*button);
+  ASSERT_TRUE(waitForTip());
+  QTest::mouseClick(button, Qt::LeftButton);
+  EXPECT_EQ(shown(), "nothing");
+}
+
+TEST_F(QtToolTipTest, AControlUnderTheMouseGetsATip) {
+  tips.Create(QtWindow::of(*form));
+  tips.DelayTime(0, 20);
+  moveTo(*one);
+  tips.AddTool(QtWindow::of(*two), "two");
+  tips.AddTool(QtWindow::of(*one), "one");
+  ASSERT_TRUE(waitForTip());
+  EXPECT_EQ(shown(), "one");
 }
 
 TEST_F(QtToolTipTest, BreaksLinesAtItsWidth) {
