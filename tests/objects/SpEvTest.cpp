@@ -149,6 +149,12 @@ TEST_F(SpEvTest, AddsALineAsARow) {
   helper.ListRead(box, path("a"));
   EXPECT_EQ(rows->texts, std::vector<std::string>{"last"});
 
+  // A line end that two blocks share is one.
+  const std::string longLine(65535, 'l');
+  put("a", longLine + "\r\nx");
+  helper.ListRead(box, path("a"));
+  EXPECT_EQ(rows->texts, (std::vector<std::string>{"last", longLine, "x"}));
+
   rows->texts = {"Zoë", std::string("a\0b", 3), std::string(20000, 'l')};
   helper.ListSave(box, path("b"));
   helper.ListRead(box, path("b"));
@@ -244,6 +250,14 @@ TEST_F(SpEvTest, AFailingFileOperationEndsTheHelperUnlessSilent) {
   // A row that could not be read is the one before it once more.
   EXPECT_EQ(failEachIn(readRows), "; ; one one ; one two ; one two ; one two ; ");
   EXPECT_EQ(failEachIn(saveRows), "one\r\ntwo ;  ; x\r\n ; x\r\n ; ");
+}
+
+TEST_F(SpEvTest, AFileThatIsShorterThanItSaysIsNotRead) {
+  MemoryFiles memory(application);
+  memory.files = {{"a", "text"}};
+  memory.missing = 1;
+  EXPECT_EQ(helper.TextRead("a"), "");
+  EXPECT_EQ(reports(), "62 TextRead");
 }
 
 TEST_F(SpEvTest, TellsTheThemeByItsColourScheme) {
