@@ -55,6 +55,9 @@ TEST(QtAdaptersTest, FailWithoutTheirWidgets) {
   EXPECT_EQ(control.Container()->hwnd(), handleOf(*form));
   EXPECT_EQ(failureOf([&] { window.Container(); }), 438);
 
+  QWidget dialog(form.get(), Qt::Dialog);
+  EXPECT_EQ(failureOf([&] { QtWindow(dialog).Container(); }), 438);
+
   const std::int32_t gone = handleOf(*list);
   EXPECT_EQ(widgetOf(gone), list);
   delete list;
@@ -63,6 +66,7 @@ TEST(QtAdaptersTest, FailWithoutTheirWidgets) {
   EXPECT_EQ(failureOf([&] { box.ListCount(); }), 91);
   EXPECT_EQ(failureOf([&] { control.hwnd(); }), 91);
   EXPECT_TRUE(window.isForm());
+  dialog.setParent(nullptr);
   form.reset();
   EXPECT_FALSE(window.isForm());
 }
@@ -102,6 +106,8 @@ TEST(QtMouseTest, TellsButtonsThatAreDownOrWerePressed) {
   QTest::mouseClick(window, Qt::LeftButton);
   EXPECT_EQ(pressed(), 1);
   EXPECT_EQ(pressed(), 0);
+  QTest::mouseDClick(window, Qt::LeftButton);
+  EXPECT_EQ(pressed(), 1);
 }
 
 /// A system whose only sound player writes down what it is told, and plays for a long time.

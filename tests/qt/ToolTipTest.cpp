@@ -78,6 +78,13 @@ TEST_F(QtToolTipTest, ShowsATextWhileTheMouseRests) {
   EXPECT_EQ(QApplication::activeWindow(), form.get());
   tips.ToolText(QtWindow::of(*one), "another");
   EXPECT_EQ(shown(), "another");
+  tips.ToolText(QtWindow::of(*one), "");
+  EXPECT_EQ(shown(), "nothing");
+  tips.ToolText(QtWindow::of(*one), "back");
+  moveAway();
+  moveTo(*one);
+  ASSERT_TRUE(waitForTip());
+  EXPECT_EQ(shown(), "back");
   moveAway();
   EXPECT_EQ(shown(), "nothing");
 
@@ -152,6 +159,21 @@ TEST_F(QtToolTipTest, AControlUnderTheMouseGetsATip) {
   tips.AddTool(QtWindow::of(*one), "one");
   ASSERT_TRUE(waitForTip());
   EXPECT_EQ(shown(), "one");
+}
+
+TEST_F(QtToolTipTest, StaysOnItsScreen) {
+  const QRect screen = form->screen()->availableGeometry();
+  form->move(screen.right() - 200, screen.bottom() - 50);
+  QCoreApplication::processEvents();
+  tips.Create(QtWindow::of(*form));
+  tips.DelayTime(0, 20);
+  tips.AddTool(QtWindow::of(*two), "a text that is longer than the rest of the screen");
+  moveTo(*two);
+  ASSERT_TRUE(waitForTip());
+  EXPECT_TRUE(screen.contains(tip()->geometry()));
+  EXPECT_FALSE(tip()->geometry().contains(QCursor::pos()));
+  form->hide();
+  EXPECT_EQ(shown(), "nothing");
 }
 
 TEST_F(QtToolTipTest, BreaksLinesAtItsWidth) {

@@ -34,7 +34,8 @@ Colour colourOf(const QColor& colour) {
 class QtTipWindow::Tip final : public QWidget {
  public:
   Tip(QWidget& form, TipStore& store)
-      : QWidget(&form, Qt::ToolTip | Qt::WindowTransparentForInput), store_(store) {
+      : QWidget(&form, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowTransparentForInput),
+        store_(store) {
     setAttribute(Qt::WA_ShowWithoutActivating);
     setFont(QToolTip::font());
   }
