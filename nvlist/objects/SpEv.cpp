@@ -1,7 +1,6 @@
 #include <nvlist/objects/SpEv.h>
 
 #include <nvlist/core/numbers.h>
-#include <nvlist/core/text.h>
 #include <nvlist/objects/TextFile.h>
 #include <nvlist/objects/Trap.h>
 #include <nvlist/objects/lateBound.h>
@@ -13,17 +12,10 @@ namespace {
 
 constexpr Module here{kinds::classModule, "SpEv"};
 
-constexpr bool isHighSurrogate(char16_t unit) { return unit >> 10 == 0xD800 >> 10; }
-constexpr bool isLowSurrogate(char16_t unit) { return unit >> 10 == 0xDC00 >> 10; }
-
-std::string utf8Of(std::u16string_view text) {
+/// The names that count are ASCII, and so no other character may become a part of one.
+std::string narrowed(std::u16string_view text) {
   std::string result;
-  for (std::size_t at = 0; at < text.size(); ++at) {
-    char32_t character = text[at];
-    if (isHighSurrogate(text[at]) && at + 1 < text.size() && isLowSurrogate(text[at + 1]))
-      character = 0x10000U + ((character & 0x3FFU) << 10 | (text[++at] & 0x3FFU));
-    appendUtf8(result, character);
-  }
+  for (const char16_t unit : text) result += unit < 0x80 ? static_cast<char>(unit) : '?';
   return result;
 }
 
@@ -87,8 +79,8 @@ void SpEv::ListRead(const Variant& List, const std::string& Filename) {
   trapped(here, "ListRead", [&](Trap& on) {
     TextFile file;
     on.step([&] { file.openForInput(Filename); });
+    std::string line;
     while (!on.test([&] { return file.isAtEnd(); })) {
-      std::string line;
       on.step([&] { line = file.readLine(); });
       on.step([&] { lateBound<ListBox>(List)->AddItem(line); });
     }
@@ -118,7 +110,7 @@ std::string SpEv::ConvUnicode(std::u16string_view text) {
   std::string result;
   trapped(here, "ConvUnicode", [&](Trap& on) {
     on.step([&] {
-      const std::string narrow = utf8Of(text);
+      const std::string narrow = narrowed(text);
       const std::size_t end = narrow.find('\0');
       if (end == std::string::npos) throw Failure::invalidCall();
       result = narrow.substr(0, end);

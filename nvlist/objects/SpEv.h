@@ -49,7 +49,7 @@ class SpEv {
 
  private:
   static Boolean IsWinXP();
-  /// The text up to its first zero character as UTF-8. Without one that is a failure.
+  /// The text up to its first zero character, one byte a character. Without one that is a failure.
   static std::string ConvUnicode(std::u16string_view text);
 };
 

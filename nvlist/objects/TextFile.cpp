@@ -69,6 +69,8 @@ std::string TextFile::read(std::uint64_t count) {
 int TextFile::peek() {
   if (at_ == block_.size()) {
     block_.resize(blockSize);
+    // Nothing of the block counts where the read fails.
+    at_ = blockSize;
     block_.resize(file().read(block_.data(), blockSize));
     at_ = 0;
   }

@@ -31,6 +31,12 @@ std::int32_t* sideOf(Rectangle& sides, std::int32_t side) {
   }
 }
 
+Ref<HostWindow> containerOf(const Variant& control) {
+  Ref<HostWindow> container = lateBound<HostWindow>(control)->Container();
+  if (!container) throw Failure::objectNotSet();
+  return container;
+}
+
 bool isForm(const Variant& object) {
   const auto* window = dynamic_cast<const HostWindow*>(object.object().get());
   return window && window->isForm();
@@ -76,9 +82,8 @@ Boolean nvToolTip::AddTool(const Variant& control, const std::string& text) {
     if (!IsWindow()) return;
     TipTool tool;
     if (on.test([&] { return GetToolInfo(lateBound<HostWindow>(control)->hwnd(), tool); })) return;
-    tool = {};
     tool.flags = TipTool::isWindow | TipTool::hearsMouse;
-    on.step([&] { tool.owner = lateBound<HostWindow>(control)->Container()->hwnd(); });
+    on.step([&] { tool.owner = containerOf(control)->hwnd(); });
     on.step([&] { tool.id = lateBound<HostWindow>(control)->hwnd(); });
     on.step([&] { tool.text = text; });
     keepLength(text);

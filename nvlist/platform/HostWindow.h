@@ -17,7 +17,7 @@ class HostWindow : public Object {
   virtual bool isForm() const { return false; }
   /// Its handle, by which the platform knows it.
   virtual std::int32_t hwnd() { throw Failure::noSuchMember(); }
-  /// What it stands in; never empty.
+  /// What it stands in. An empty one is Failure 91 for who needs it.
   virtual Ref<HostWindow> Container() { throw Failure::noSuchMember(); }
 };
 

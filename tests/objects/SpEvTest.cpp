@@ -9,6 +9,7 @@
 #include <nvlist/platform/ListBox.h>
 
 #include "../Lists.h"
+#include "../files/MemoryFiles.h"
 
 namespace norvane {
 namespace {
@@ -148,6 +149,12 @@ TEST_F(SpEvTest, AddsALineAsARow) {
   helper.ListRead(box, path("a"));
   EXPECT_EQ(rows->texts, std::vector<std::string>{"last"});
 
+  // A line end that two blocks share is one.
+  const std::string longLine(65535, 'l');
+  put("a", longLine + "\r\nx");
+  helper.ListRead(box, path("a"));
+  EXPECT_EQ(rows->texts, (std::vector<std::string>{"last", longLine, "x"}));
+
   rows->texts = {"Zoë", std::string("a\0b", 3), std::string(20000, 'l')};
   helper.ListSave(box, path("b"));
   helper.ListRead(box, path("b"));
@@ -201,6 +208,56 @@ TEST_F(SpEvTest, AFailingRowEndsTheSavingUnlessSilent) {
   silent();
   helper.ListSave(box, path("a"));
   EXPECT_EQ(bytes("a"), "a\r\nc\r\n");
+}
+
+/// One file operation after the other fails.
+TEST_F(SpEvTest, AFailingFileOperationEndsTheHelperUnlessSilent) {
+  std::string trace;
+  const auto failEachIn = [&](const std::function<std::string(MemoryFiles&)>& run) {
+    trace.clear();
+    for (int failing = 1;; ++failing) {
+      MemoryFiles memory(application);
+      memory.files = {{"a", "one\r\ntwo"}};
+      memory.failing = failing;
+      rows->texts.clear();
+      const std::string result = run(memory);
+      EXPECT_EQ(memory.open, 0);
+      trace += result + reports() + "; ";
+      if (memory.operations < failing) return trace;
+    }
+  };
+  const auto readText = [&](MemoryFiles&) { return helper.TextRead("a") + " "; };
+  const auto readRows = [&](MemoryFiles&) {
+    helper.ListRead(box, "a");
+    std::string result;
+    for (const std::string& row : rows->texts) result += row.substr(0, 9) + " ";
+    return result;
+  };
+  const auto saveRows = [&](MemoryFiles& memory) {
+    rows->texts = {"x"};
+    helper.ListSave(box, "a");
+    return memory.files["a"] + " ";
+  };
+  EXPECT_EQ(failEachIn(readText),
+            " 57 TextRead;  57 TextRead;  57 TextRead; one\r\ntwo 57 TextRead; one\r\ntwo ; ");
+  EXPECT_EQ(failEachIn(readRows),
+            "57 ListRead; 57 ListRead; one 57 ListRead; one two 57 ListRead; "
+            "one two 57 ListRead; one two ; ");
+  EXPECT_EQ(failEachIn(saveRows),
+            "one\r\ntwo 57 ListSave;  57 ListSave; x\r\n 57 ListSave; x\r\n ; ");
+  silent();
+  EXPECT_EQ(failEachIn(readText), " ;  ;  ; one\r\ntwo ; one\r\ntwo ; ");
+  // A row that could not be read is the one before it once more.
+  EXPECT_EQ(failEachIn(readRows), "; ; one one ; one two ; one two ; one two ; ");
+  EXPECT_EQ(failEachIn(saveRows), "one\r\ntwo ;  ; x\r\n ; x\r\n ; ");
+}
+
+TEST_F(SpEvTest, AFileThatIsShorterThanItSaysIsNotRead) {
+  MemoryFiles memory(application);
+  memory.files = {{"a", "text"}};
+  memory.missing = 1;
+  EXPECT_EQ(helper.TextRead("a"), "");
+  EXPECT_EQ(reports(), "62 TextRead");
 }
 
 TEST_F(SpEvTest, TellsTheThemeByItsColourScheme) {

@@ -99,6 +99,15 @@ TEST_F(ToolTipTest, AddsAToolOnce) {
   EXPECT_EQ(window()->tools()[0].id, 2);
 }
 
+TEST_F(ToolTipTest, CountsToolsIn16Bits) {
+  tips.Create(form);
+  for (int id = 100; id < 100 + 32767; ++id) window()->addTool({.owner = 7, .id = id});
+  EXPECT_EQ(tips.ToolCount(), 32767);
+  EXPECT_TRUE(tips.AddTool(one, "one too many"));
+  EXPECT_EQ(tips.ToolCount(), 0);
+  EXPECT_EQ(reports(), "6 ToolCount");
+}
+
 TEST_F(ToolTipTest, ReadsTextsBackWhole) {
   tips.Create(form);
   tips.AddTool(one, "short");
@@ -185,6 +194,8 @@ TEST_F(ToolTipTest, ControlsWithoutAWindowTakeNoTips) {
   tips.ToolText(Variant(makeRef<Object>()), "text");
   EXPECT_EQ(reports(), "438 AddTool, 438 AddTool, 424 RemoveTool, 438 ToolText, 438 ToolText");
   EXPECT_EQ(tips.ToolCount(), 0);
+  EXPECT_FALSE(tips.AddTool(Variant(makeRef<ControlWindow>(1, nullptr)), "text"));
+  EXPECT_EQ(reports(), "91 AddTool");
   silent();
   EXPECT_FALSE(tips.AddTool(windowless, "text"));
   EXPECT_EQ(tips.ToolCount(), 0);

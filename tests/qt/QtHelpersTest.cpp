@@ -55,6 +55,9 @@ TEST(QtAdaptersTest, FailWithoutTheirWidgets) {
   EXPECT_EQ(control.Container()->hwnd(), handleOf(*form));
   EXPECT_EQ(failureOf([&] { window.Container(); }), 438);
 
+  QWidget dialog(form.get(), Qt::Dialog);
+  EXPECT_EQ(failureOf([&] { QtWindow(dialog).Container(); }), 438);
+
   const std::int32_t gone = handleOf(*list);
   EXPECT_EQ(widgetOf(gone), list);
   delete list;
@@ -63,20 +66,36 @@ TEST(QtAdaptersTest, FailWithoutTheirWidgets) {
   EXPECT_EQ(failureOf([&] { box.ListCount(); }), 91);
   EXPECT_EQ(failureOf([&] { control.hwnd(); }), 91);
   EXPECT_TRUE(window.isForm());
+  dialog.setParent(nullptr);
   form.reset();
   EXPECT_FALSE(window.isForm());
+}
+
+TEST(QtAdaptersTest, GiveNoNumberTwice) {
+  alignas(QWidget) std::byte place[sizeof(QWidget)];
+  auto* widget = new (place) QWidget;
+  const std::int32_t first = handleOf(*widget);
+  EXPECT_EQ(handleOf(*widget), first);
+  // From then on nobody hears that it goes.
+  widget->disconnect();
+  widget->~QWidget();
+  widget = new (place) QWidget;
+  EXPECT_NE(handleOf(*widget), first);
+  EXPECT_EQ(widgetOf(handleOf(*widget)), widget);
+  widget->~QWidget();
 }
 
 TEST(QtMouseTest, TellsButtonsThatAreDownOrWerePressed) {
   QtApplication application;
   SpEv helper;
   const auto pressed = [&] { return static_cast<int>(helper.MouseButtonPressed()); };
-  EXPECT_EQ(pressed(), 0);
-
   QWidget widget;
   widget.show();
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&widget));
   QWindow* window = widget.windowHandle();
+  // Other tests may have left it down.
+  QTest::mouseRelease(window, Qt::LeftButton);
+  EXPECT_EQ(pressed(), 0);
   QTest::mousePress(window, Qt::MiddleButton);
   EXPECT_EQ(pressed(), 4);
   EXPECT_EQ(pressed(), 4);
@@ -88,6 +107,8 @@ TEST(QtMouseTest, TellsButtonsThatAreDownOrWerePressed) {
   QTest::mouseClick(window, Qt::LeftButton);
   EXPECT_EQ(pressed(), 1);
   EXPECT_EQ(pressed(), 0);
+  QTest::mouseDClick(window, Qt::LeftButton);
+  EXPECT_EQ(pressed(), 1);
 }
 
 /// A system whose only sound player writes down what it is told, and plays for a long time.

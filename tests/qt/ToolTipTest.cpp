@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QPushButton>
 #include <QTest>
 #include <memory>
 
@@ -77,6 +78,13 @@ TEST_F(QtToolTipTest, ShowsATextWhileTheMouseRests) {
   EXPECT_EQ(QApplication::activeWindow(), form.get());
   tips.ToolText(QtWindow::of(*one), "another");
   EXPECT_EQ(shown(), "another");
+  tips.ToolText(QtWindow::of(*one), "");
+  EXPECT_EQ(shown(), "nothing");
+  tips.ToolText(QtWindow::of(*one), "back");
+  moveAway();
+  moveTo(*one);
+  ASSERT_TRUE(waitForTip());
+  EXPECT_EQ(shown(), "back");
   moveAway();
   EXPECT_EQ(shown(), "nothing");
 
@@ -131,6 +139,40 @@ TEST_F(QtToolTipTest, GoesWithAPress) {
   QTest::mouseClick(one, Qt::LeftButton);
   EXPECT_EQ(shown(), "nothing");
   QTest::qWait(100);
+  EXPECT_EQ(shown(), "nothing");
+
+  // The button takes the press for itself.
+  auto* button = new QPushButton(two);
+  button->show();
+  tips.AddTool(QtWindow::of(*two), "two");
+  moveTo(*button);
+  ASSERT_TRUE(waitForTip());
+  QTest::mouseClick(button, Qt::LeftButton);
+  EXPECT_EQ(shown(), "nothing");
+}
+
+TEST_F(QtToolTipTest, AControlUnderTheMouseGetsATip) {
+  tips.Create(QtWindow::of(*form));
+  tips.DelayTime(0, 20);
+  moveTo(*one);
+  tips.AddTool(QtWindow::of(*two), "two");
+  tips.AddTool(QtWindow::of(*one), "one");
+  ASSERT_TRUE(waitForTip());
+  EXPECT_EQ(shown(), "one");
+}
+
+TEST_F(QtToolTipTest, StaysOnItsScreen) {
+  const QRect screen = form->screen()->availableGeometry();
+  form->move(screen.right() - 200, screen.bottom() - 50);
+  QCoreApplication::processEvents();
+  tips.Create(QtWindow::of(*form));
+  tips.DelayTime(0, 20);
+  tips.AddTool(QtWindow::of(*two), "a text that is longer than the rest of the screen");
+  moveTo(*two);
+  ASSERT_TRUE(waitForTip());
+  EXPECT_TRUE(screen.contains(tip()->geometry()));
+  EXPECT_EQ(tip()->geometry().bottom() + 1, QCursor::pos().y());
+  form->hide();
   EXPECT_EQ(shown(), "nothing");
 }
 

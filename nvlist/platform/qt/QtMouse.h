@@ -26,11 +26,11 @@ class QtMouse final : public QObject {
   }
 
  protected:
-  /// Windows alone are looked at: widgets may get the same press one after the other.
+  /// Windows alone are looked at: widgets may get the same press one after the other. They hear the
+  /// second press of a double click as a press too.
   bool eventFilter(QObject* watched, QEvent* event) override {
-    const bool isPress =
-        event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
-    if (isPress && watched->isWindowType()) pressed_ |= static_cast<QMouseEvent*>(event)->button();
+    if (event->type() == QEvent::MouseButtonPress && watched->isWindowType())
+      pressed_ |= static_cast<QMouseEvent*>(event)->button();
     return false;
   }
 

@@ -1,5 +1,6 @@
 #include <nvlist/platform/qt/QtTipWindow.h>
 
+#include <QCoreApplication>
 #include <QCursor>
 #include <QEvent>
 #include <QGuiApplication>
@@ -33,7 +34,8 @@ Colour colourOf(const QColor& colour) {
 class QtTipWindow::Tip final : public QWidget {
  public:
   Tip(QWidget& form, TipStore& store)
-      : QWidget(&form, Qt::ToolTip | Qt::WindowTransparentForInput), store_(store) {
+      : QWidget(&form, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowTransparentForInput),
+        store_(store) {
     setAttribute(Qt::WA_ShowWithoutActivating);
     setFont(QToolTip::font());
   }
@@ -83,6 +85,8 @@ QtTipWindow::QtTipWindow(QWidget& form) : TipStore(newHandle(), handleOf(form)),
   TipStore::textColour(colourOf(QToolTip::palette().color(QPalette::ToolTipText)));
   timer_.setSingleShot(true);
   timer_.callOnTimeout(this, [this] { timeOver(); });
+  // All widgets are heard: a press on a tool may go to a widget inside it.
+  QCoreApplication::instance()->installEventFilter(this);
 }
 
 QtTipWindow::~QtTipWindow() { delete tip_; }
@@ -90,16 +94,15 @@ QtTipWindow::~QtTipWindow() { delete tip_; }
 // ---- what it is told ----
 
 bool QtTipWindow::addTool(const TipTool& tool) {
-  if (QWidget* widget = widgetOf(tool.id)) widget->installEventFilter(this);
-  return TipStore::addTool(tool);
+  const bool isAdded = TipStore::addTool(tool);
+  if (QWidget* widget = widgetOf(tool.id); widget && widget->underMouse()) enter(*widget);
+  return isAdded;
 }
 
 void QtTipWindow::deleteTool(const TipTool& tool) {
   TipStore::deleteTool(tool);
   QWidget* widget = widgetOf(tool.id);
-  if (!widget || isTool(*widget)) return;
-  widget->removeEventFilter(this);
-  leave(*widget);
+  if (widget && !isTool(*widget)) leave(*widget);
 }
 
 void QtTipWindow::updateText(const TipTool& tool) {
@@ -131,17 +134,18 @@ void QtTipWindow::maxTipWidth(std::int32_t pixels) {
 // ---- what the mouse does ----
 
 bool QtTipWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (!watched->isWidgetType()) return false;
   auto& widget = static_cast<QWidget&>(*watched);
   switch (event->type()) {
     case QEvent::Enter:
-      enter(widget);
+      if (isTool(widget)) enter(widget);
       break;
     case QEvent::Leave:
     case QEvent::Hide:
       leave(widget);
       break;
     case QEvent::MouseButtonPress:
-      hide();
+      if (tool_ && (tool_ == &widget || tool_->isAncestorOf(&widget))) hide();
       break;
     default:
       break;

@@ -23,7 +23,8 @@ std::int32_t newHandle() { return ++handles().last; }
 
 std::int32_t handleOf(QWidget& widget) {
   const auto found = handles().ofWidgets.constFind(&widget);
-  if (found != handles().ofWidgets.cend()) return *found;
+  // A widget whose connections were cut may have gone unheard, and its place is another's now.
+  if (found != handles().ofWidgets.cend() && widgetOf(*found) == &widget) return *found;
   const std::int32_t handle = newHandle();
   handles().ofWidgets.insert(&widget, handle);
   handles().widgets.insert(handle, &widget);
