@@ -1,5 +1,5 @@
 // Reads random files in every way in which a list reads files. What could be read must come back
-// from the file it is then saved to.
+// from the file it is then saved to, and items that nobody has looked at yet must move like others.
 
 #include <algorithm>
 #include <cstdint>
@@ -44,6 +44,33 @@ void requireSame(const ListItem& a, const ListItem& b) {
   require(sameColour(a.ForeColorDis, b.ForeColorDis) && sameColour(a.BackColorDis, b.BackColorDis));
 }
 
+void requireSameItems(nvList& a, nvList& b) {
+  require(a.ItemsCount() == b.ItemsCount());
+  for (std::int32_t i = 0; i < a.ItemsCount(); ++i)
+    requireSame(a.state().Items.at(i), b.state().Items.at(i));
+}
+
+void change(nvList& list, int way) {
+  switch (way >> 3 & 7) {
+    case 0:
+      return list.ItemsAdd("added", 0);
+    case 1:
+      return list.ItemsRemove(Variant(list.ItemsCount() / 2));
+    case 2:
+      return list.Sort(cAscending);
+    case 3:
+      return list.MoveItemUp(list.ItemsCount() - 1, 2);
+    case 4:
+      return list.ItemText(list.ItemsCount() / 2, "other");
+    case 5:
+      return list.ListIndex(list.ItemsCount() - 1);
+    case 6:
+      return list.ItemsSelectedRemove();
+    default:
+      return list.CheckScroll();
+  }
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -64,6 +91,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     list.ListInput("in", (way & 4) != 0);
   require(files.open == 0 && host.failures <= 1);
 
+  HeadlessList unseen(50, 50);
+  if (!(way & 2)) {
+    unseen.list().ListInput("in", (way & 4) != 0);
+    requireSameItems(list, unseen.list());
+    unseen.list().ListInput("in", (way & 4) != 0);
+    change(unseen.list(), way);
+  }
+
   const bool couldRead = host.failures == 0;
   list.ListSave("out", true);
   if (couldRead) require(host.failures == 0);
@@ -71,11 +106,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (couldRead && !(way & 2)) {
     again.list().addSink(host);
     again.list().ListInput("out", true);
-    require(host.failures == 0 && again.list().ItemsCount() == list.ItemsCount());
-    for (std::int32_t i = 0; i < list.ItemsCount(); ++i)
-      requireSame(list.state().Items.at(i), again.list().state().Items.at(i));
+    require(host.failures == 0);
+    requireSameItems(list, again.list());
+  }
+  if (!(way & 2)) {
+    change(list, way);
+    requireSameItems(list, unseen.list());
   }
   require(files.open == 0);
-  require(files.largestRead <= std::max(files.files["in"].size(), files.files["out"].size()));
+  constexpr std::size_t head = 12;
+  require(files.largestRead <=
+          std::max(head, files.files["in"].size() + files.files["out"].size()));
   return 0;
 }
