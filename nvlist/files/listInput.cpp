@@ -170,8 +170,8 @@ Ref<ListItem> nvList::ListFile::make(std::int32_t index) {
 /// The file goes with the last item that is made of it.
 void nvList::ListFile::oneMade() {
   if (--unmade_ > 0) return;
-  records_ = {};
-  starts_ = {};
+  records_ = std::vector<char>();
+  starts_ = std::vector<std::uint64_t>();
 }
 
 void nvList::ListFile::readItem(ByteReader& from, ListItem& item) const {
