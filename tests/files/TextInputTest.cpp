@@ -116,17 +116,20 @@ TEST_F(Disk, HoldsTheList) {
 
 TEST_F(Disk, RefusesWhatIsNoFile) {
   list.ItemsAdd("a");
-  for (const std::string& path : {at("folder"), at("none/file"), std::string()})
+  std::ofstream(at("file")) << "kept";
+  for (const std::string& path :
+       {at("folder"), at("none/file"), std::string(), at("file") + '\0' + "s"})
     list.ListSave(path);
   for (const std::string& path : {at("folder"), at("fold*")}) list.ListInput(path);
-  EXPECT_EQ(failures, 5);
+  EXPECT_EQ(failures, 6);
+  EXPECT_TRUE(std::filesystem::exists(at("file")));
   EXPECT_TRUE(std::filesystem::is_directory(at("folder")));
   // A device is neither deleted nor read without end.
   if (std::filesystem::exists("/dev/full")) {
     std::filesystem::create_symlink("/dev/full", at("device"));
     list.ListSave(at("device"));
     list.ListInput(at("device"));
-    EXPECT_EQ(failures, 7);
+    EXPECT_EQ(failures, 8);
     EXPECT_TRUE(std::filesystem::is_symlink(at("device")));
   }
   EXPECT_EQ(reports(), "");
