@@ -67,9 +67,21 @@ TEST_F(ImageInput, LetsTheHostInBetweenTheItems) {
   input(image(full));
   EXPECT_EQ(yields, 2);
   EXPECT_NE(headless.picture().find("\u00c4"), std::string::npos);
-  onProgress = [](Variant& Index) { Index = 1; };
-  input(image(full));
-  EXPECT_EQ(texts(), "\u00c4 ");
+  for (const int last : {1, 2147483647}) {
+    onProgress = [&](Variant& Index) { Index = last; };
+    input(image(full));
+    EXPECT_EQ(texts(), "\u00c4 ");
+  }
+  // An item that is read again keeps what the file has nothing to say of.
+  onProgress = [&](Variant& Index) {
+    onProgress = nullptr;
+    list.ItemBold(0, true);
+    list.ItemAllowEdit(0, true);
+    Index = -1;
+  };
+  input(image(full), false);
+  EXPECT_EQ(told(0), "\u00c4" + ordinary);
+  EXPECT_TRUE(item(0).Bold);
   // The handler loads another image into the store that is being read.
   onProgress = [&](Variant&) {
     onProgress = nullptr;
@@ -77,7 +89,7 @@ TEST_F(ImageInput, LetsTheHostInBetweenTheItems) {
   };
   input(image(full));
   EXPECT_EQ(texts(), "inner");
-  EXPECT_EQ(events(), "0 1 0 0 0 ");
+  EXPECT_EQ(events(), "0 1 0 0 0 0 1 0 0 ");
 }
 
 TEST_F(ImageInput, RaisesTheEventOnTheWay) {
@@ -102,6 +114,8 @@ TEST_F(ImageInput, RaisesTheEventOnTheWay) {
     EXPECT_EQ(events(), expected);
     EXPECT_EQ(list.ItemsCount(), count);
   }
+  // Of the item that failed there is what stood before the failure.
+  EXPECT_EQ(told(1), "b 001 0 16777215 0 12937777 0 0  none none");
 }
 
 TEST_F(ImageInput, IsNotTakenFromAnyOtherFile) {
