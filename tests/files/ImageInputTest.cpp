@@ -61,7 +61,11 @@ TEST_F(ImageInput, ReadsEveryProperty) {
 
 TEST_F(ImageInput, LetsTheHostInBetweenTheItems) {
   int yields = 0;
-  for (int i = 0; i < 2; ++i) headless.container().post([&] { ++yields; });
+  for (int i = 0; i < 2; ++i)
+    headless.container().post([&] {
+      // By then the loop stands at the next item.
+      EXPECT_EQ(list.state().LoopIndex, ++yields);
+    });
   headless.surface().Cls();
   onProgress = [&](Variant& Index) { EXPECT_EQ(yields, Index.toInt32()); };
   input(image(full));
@@ -77,6 +81,10 @@ TEST_F(ImageInput, LetsTheHostInBetweenTheItems) {
     onProgress = nullptr;
     list.ItemBold(0, true);
     list.ItemAllowEdit(0, true);
+    list.ItemChecked(0, true);
+    list.ItemAlignment(0, cRight);
+    list.ItemIcon(0, makeRef<BytePicture>("icon"));
+    list.ItemIconSelected(0, makeRef<BytePicture>("selected"));
     Index = -1;
   };
   input(image(full), false);

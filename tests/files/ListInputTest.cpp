@@ -97,6 +97,9 @@ TEST_F(ListInput, GivesDefaultsWithoutTheArgument) {
   EXPECT_EQ(told(item(0)), ordinary("a"));
   EXPECT_EQ(texts(), "a a");
   EXPECT_EQ(fileOf(item(0).Icon), "none");
+  // Of a truth value the low byte counts.
+  list.ListInput("file", Boolean::ofNumber(0x100));
+  EXPECT_EQ(told(item(0)) + events(), ordinary("a"));
   // Keys and tags that nobody wants are left in the file, for what follows them.
   const std::string pictureOfNoLength = "\1\xFF\xFF\xFF\xFF";
   input(header(0, true) + record("four" + pictureOfNoLength, ""), false);
@@ -192,6 +195,19 @@ TEST_F(ListInput, RefusesAFileCutAnywhere) {
     input(whole + "and more");
     EXPECT_EQ(texts() + events(), "first second");
   }
+}
+
+TEST_F(ListInput, IsEmptyWhereTheFileCannotBeClosed) {
+  add({"a", "b"});
+  save();
+  memory.operations = 0;
+  list.ListInput("file");
+  EXPECT_EQ(list.ItemsCount(), 2);
+  memory.failing = std::exchange(memory.operations, 0);
+  events();
+  list.ListInput("file");
+  EXPECT_EQ(events(), "input! ");
+  EXPECT_EQ(list.ItemsCount(), 0);
 }
 
 TEST_F(ListInput, BelievesNoLength) {

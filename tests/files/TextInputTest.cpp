@@ -33,24 +33,28 @@ TEST_F(TextInput, SplitsAtTheDelimiter) {
   const Variant none = Ref<Object>(makeRef<Object>());
   EXPECT_EQ(pieces("a", none), "13 ListInput2");
   silent();
+  headless.surface().Cls();
+  const std::string before = headless.picture();
   EXPECT_EQ(pieces("a", none), "input! ");
+  EXPECT_EQ(headless.picture(), before);
 }
 
 TEST_F(TextInput, AddsToTheListAndLeavesBothFlagsOff) {
   add({"old"});
   list.AutoRedraw(true);
   headless.surface().Cls();
-  memory.files["text"] = "a,b";
+  memory.files["text"] = "a,b,c,d,e,f,g,h,i,j";
   list.ListInput2("text", ",");
-  EXPECT_EQ(texts(), "old a b");
+  EXPECT_EQ(texts(), "old a b c d e f g h i j");
   EXPECT_FALSE(list.AutoRedraw());
   EXPECT_FALSE(list.AutoCheckScroll());
   EXPECT_NE(headless.picture().find("old"), std::string::npos);
+  EXPECT_GT(list.verticalBar().Max(), 0);
   list.ListInput2("missing", ",");
   EXPECT_EQ(events(), "input! ");
   memory.nextAnswers = {true};
   list.ListInput2("missing", ",");
-  EXPECT_EQ(texts() + events(), "old a b 53 TextRead");
+  EXPECT_EQ(texts() + events(), "old a b c d e f g h i j 53 TextRead");
 }
 
 TEST(Windows1252, BringsEveryByteBack) {
