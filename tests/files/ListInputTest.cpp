@@ -210,6 +210,26 @@ TEST_F(ListInput, IsEmptyWhereTheFileCannotBeClosed) {
   EXPECT_EQ(list.ItemsCount(), 0);
 }
 
+TEST_F(ListInput, OutlivesAHostThatClearsTheListInAReport) {
+  struct Clearing final : ErrorHandler {
+    explicit Clearing(nvList& cleared) : list(cleared) {}
+    nvList& list;
+    void RaiseError(const std::string&, const ApplicationFacts&, std::int32_t, const std::string&,
+                    const std::string&, std::int32_t, const std::string&,
+                    const std::string&) override {
+      list.ItemsClear();
+    }
+  };
+  memory.registerErrorHandler(std::make_shared<Clearing>(list));
+  const std::string record = text("a") + fields("no hex") + flagsAndKeys("k", "t") + noIcons;
+  expectRefused(header(1, true) + record + record, "colour");
+  add({"first"});
+  list.ItemIcon(0, makeRef<BytePicture>("broken"));
+  add({"second"});
+  save();
+  EXPECT_EQ(events(), "0 save! ");
+}
+
 TEST_F(ListInput, BelievesNoLength) {
   const std::string some(64, '0'), record = text("a") + fields();
   largestAllocation = 0;
