@@ -613,6 +613,8 @@ class nvList final : public UserControl,
   void raise(Trap& on, void (__nvList::*event)());
   /// Tells of an item by its position, and takes the position back.
   void raiseAtLoopIndex(void (__nvList::*event)(Variant& Index));
+  /// The position never overflows: a host that sets it far behind the last item ends the loop.
+  void toNextItem();
   /// Runs a body that has a trap of its own: whatever fails in it ends it and raises the event,
   /// also under SilentError. Whether nothing failed.
   template <class Body>

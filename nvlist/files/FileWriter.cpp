@@ -5,6 +5,22 @@
 
 namespace norvane {
 
+FileWriter::~FileWriter() {
+  try {
+    if (!buffer_.empty()) flush();
+  } catch (...) {
+    // Whoever has to know of it flushes himself.
+  }
+}
+
+void FileWriter::flush() {
+  std::string block;
+  block.swap(buffer_);
+  file_.write(block.data(), block.size());
+  block.clear();
+  buffer_.swap(block);
+}
+
 void FileWriter::text(std::string_view text) {
   const std::size_t start = buffer_.size();
   number(std::int32_t{0});

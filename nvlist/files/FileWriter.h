@@ -11,10 +11,14 @@
 
 namespace norvane {
 
-/// Writes a file from front to back, in big blocks.
+/// Writes a file from front to back, in big blocks. Destroying it hands over what is left, so that
+/// a file that is given up holds all that was written before; what fails then is lost.
 class FileWriter {
  public:
   explicit FileWriter(File& file) : file_(file) {}
+  FileWriter(const FileWriter&) = delete;
+  FileWriter& operator=(const FileWriter&) = delete;
+  ~FileWriter();
 
   void bytes(std::string_view bytes) { buffer_ += bytes; }
 
@@ -33,11 +37,8 @@ class FileWriter {
   void writeBlock() {
     if (buffer_.size() >= blockSize) flush();
   }
-  /// Hands over all.
-  void flush() {
-    file_.write(buffer_.data(), buffer_.size());
-    buffer_.clear();
-  }
+  /// Hands over all. What a file does not take is not handed over a second time.
+  void flush();
 
  private:
   static constexpr std::size_t blockSize = 256 * 1024;

@@ -1,6 +1,22 @@
 #include <nvlist/nvList.h>
 
+#include <algorithm>
+#include <limits>
+
+#include <nvlist/core/numbers.h>
+
 namespace norvane {
+namespace {
+
+using Limits = std::numeric_limits<std::int32_t>;
+
+/// A position that a host has set. Beyond 32 bits there is no item, as there is none at the limits.
+std::int32_t positionOf(const Variant& index) {
+  return checked::nearest<std::int32_t>(
+      std::clamp<double>(index.toNumber(), Limits::min(), Limits::max()));
+}
+
+}  // namespace
 
 void nvList::raise(Trap& on, void (__nvList::*event)()) {
   on.step([&] { sinks_.raise([&](__nvList& sink) { (sink.*event)(); }); });
@@ -12,7 +28,11 @@ void nvList::raiseAtLoopIndex(void (__nvList::*event)(Variant& Index)) {
   sinks_.raise([&](__nvList& sink) { (sink.*event)(index); });
   // Where the host leaves the argument alone, another loop that it ran may have moved this one.
   const bool isUntouched = index.type() == told.type() && index.toInt32() == told.toInt32();
-  if (!isUntouched) state_.LoopIndex = index.toInt32();
+  if (!isUntouched) state_.LoopIndex = positionOf(index);
+}
+
+void nvList::toNextItem() {
+  if (state_.LoopIndex < Limits::max()) ++state_.LoopIndex;
 }
 
 }  // namespace norvane

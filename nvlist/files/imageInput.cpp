@@ -1,4 +1,3 @@
-#include <nvlist/core/numbers.h>
 #include <nvlist/files/PropertyImage.h>
 #include <nvlist/files/fileExists.h>
 #include <nvlist/files/inputLimits.h>
@@ -69,7 +68,7 @@ void nvList::inputImage(Boolean ReadItemPropertiesIfExists) {
   while (state_.LoopIndex <= state_.Items.upperBound()) {
     inputImageItem(image, readsProperties);
     raiseAtLoopIndex(&__nvList::ListReading);
-    state_.LoopIndex = checked::add(state_.LoopIndex, 1);
+    toNextItem();
     yield();
   }
   state_.ItemsDimensioned = true;
@@ -78,10 +77,12 @@ void nvList::inputImage(Boolean ReadItemPropertiesIfExists) {
 
 void nvList::inputImageItem(const PropertyImage& image, bool readsProperties) {
   ItemInImage stored(image, state_.LoopIndex);
-  auto item = makeRef<ListItem>();
-  setDefaults(*item);
-  item->Text = stored("Text", "").toText();
-  if (readsProperties) {
+  // Dropping what stands in it may let the host remove the item.
+  const Ref<ListItem> item(&this->item(state_.LoopIndex));
+  setText(*item, stored("Text", "").toText());
+  if (!readsProperties) {
+    setDefaults(*item);
+  } else {
     item->AllowEdit = stored("AllowEdit", false).toBoolean();
     item->BackColor = stored("BackColor", colours::white);
     item->BackColorDis = stored("BackColorDis", 0).toInt32();
@@ -95,7 +96,6 @@ void nvList::inputImageItem(const PropertyImage& image, bool readsProperties) {
     item->IconSelected = stored.picture("IconSelected");
     item->Alignment = static_cast<cItemAlignment>(stored("Alignment", std::int16_t{0}).toInt32());
   }
-  state_.Items.slot(state_.LoopIndex) = std::move(item);
 }
 
 std::int32_t nvList::ListFileItemsCount(const Variant& Filename) {

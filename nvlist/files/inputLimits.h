@@ -22,16 +22,21 @@ inline std::size_t believedCount(std::int64_t claimed, std::uint64_t left, std::
   return static_cast<std::size_t>(count);
 }
 
-/// What a blank item has where a file has nothing to say of it.
+/// What an item has where a file has nothing to say of it.
 inline void setDefaults(ListItem& item) {
   static const Variant mark = defaultMark;
+  item.AllowEdit = false;
   item.BackColor = mark;
   item.BackColorDis = colours::light3D;
   item.BackColorSelect = mark;
+  item.Checked = false;
   item.Enabled = true;
   item.ForeColor = mark;
   item.ForeColorDis = colours::greyText;
   item.ForeColorSelect = mark;
+  item.Alignment = cLeft;
+  item.Icon = nullptr;
+  item.IconSelected = nullptr;
 }
 
 }  // namespace norvane

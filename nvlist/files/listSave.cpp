@@ -1,4 +1,3 @@
-#include <nvlist/core/numbers.h>
 #include <nvlist/files/FileWriter.h>
 #include <nvlist/nvList.h>
 #include <nvlist/platform/Application.h>
@@ -35,8 +34,7 @@ void nvList::saveItems(const std::string& Filename, Boolean SaveItemProperties) 
   writer.number(last);
   writer.number(hasProperties);
   writer.number(Variant(aktuelleSpeicherVersion()).toInt16());
-  for (state_.LoopIndex = 0; state_.LoopIndex <= last;
-       state_.LoopIndex = checked::add(state_.LoopIndex, 1)) {
+  for (state_.LoopIndex = 0; state_.LoopIndex <= last; toNextItem()) {
     ListItem& saved = item(state_.LoopIndex);
     writer.text(saved.Text);
     if (hasProperties) saveProperties(writer, saved);

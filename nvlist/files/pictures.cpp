@@ -10,7 +10,9 @@ std::string nvList::GetPictureString(const Picture& picture, std::int32_t& lengt
   std::string result;
   trapped(here, "GetPictureString", [&](Trap& on) {
     on.step([&] {
-      const std::vector<std::byte> file = picture->fileBytes();
+      // Making its file may let the host drop it.
+      const Picture held = picture;
+      const std::vector<std::byte> file = held->fileBytes();
       if (file.empty()) throw Failure::invalidPicture();
       std::string bytes(reinterpret_cast<const char*>(file.data()), file.size());
       length = checked::narrow<std::int32_t>(static_cast<std::int64_t>(file.size()));

@@ -140,7 +140,7 @@ bool holdsAny(const std::string& path) {
 }
 
 void remove(const std::string& path) {
-  const fs::path place = pathOf(path);
+  const fs::path place = checkedPathOf(path);
   std::error_code error;
   if (!fs::is_regular_file(place, error)) return;
   fs::remove(place, error);

@@ -14,7 +14,7 @@ namespace norvane::disk {
 bool holdsAny(const std::string& path);
 
 /// Deletes a file; one that is not there, a folder and a device stay as they are. Throws Failure 75
-/// where a file cannot be deleted.
+/// where a file cannot be deleted, 52 for a name with a zero character.
 void remove(const std::string& path);
 
 /// A file to be written is made new, in the place of an old one. Throws Failure 53 for a file to be

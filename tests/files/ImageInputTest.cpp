@@ -61,15 +61,35 @@ TEST_F(ImageInput, ReadsEveryProperty) {
 
 TEST_F(ImageInput, LetsTheHostInBetweenTheItems) {
   int yields = 0;
-  for (int i = 0; i < 2; ++i) headless.container().post([&] { ++yields; });
+  for (int i = 0; i < 2; ++i)
+    headless.container().post([&] {
+      // By then the loop stands at the next item.
+      EXPECT_EQ(list.state().LoopIndex, ++yields);
+    });
   headless.surface().Cls();
   onProgress = [&](Variant& Index) { EXPECT_EQ(yields, Index.toInt32()); };
   input(image(full));
   EXPECT_EQ(yields, 2);
   EXPECT_NE(headless.picture().find("\u00c4"), std::string::npos);
-  onProgress = [](Variant& Index) { Index = 1; };
-  input(image(full));
-  EXPECT_EQ(texts(), "\u00c4 ");
+  for (const int last : {1, 2147483647}) {
+    onProgress = [&](Variant& Index) { Index = last; };
+    input(image(full));
+    EXPECT_EQ(texts(), "\u00c4 ");
+  }
+  // An item that is read again keeps what the file has nothing to say of.
+  onProgress = [&](Variant& Index) {
+    onProgress = nullptr;
+    list.ItemBold(0, true);
+    list.ItemAllowEdit(0, true);
+    list.ItemChecked(0, true);
+    list.ItemAlignment(0, cRight);
+    list.ItemIcon(0, makeRef<BytePicture>("icon"));
+    list.ItemIconSelected(0, makeRef<BytePicture>("selected"));
+    Index = -1;
+  };
+  input(image(full), false);
+  EXPECT_EQ(told(0), "\u00c4" + ordinary);
+  EXPECT_TRUE(item(0).Bold);
   // The handler loads another image into the store that is being read.
   onProgress = [&](Variant&) {
     onProgress = nullptr;
@@ -77,7 +97,7 @@ TEST_F(ImageInput, LetsTheHostInBetweenTheItems) {
   };
   input(image(full));
   EXPECT_EQ(texts(), "inner");
-  EXPECT_EQ(events(), "0 1 0 0 0 ");
+  EXPECT_EQ(events(), "0 1 0 0 0 0 1 0 0 ");
 }
 
 TEST_F(ImageInput, RaisesTheEventOnTheWay) {
@@ -102,6 +122,8 @@ TEST_F(ImageInput, RaisesTheEventOnTheWay) {
     EXPECT_EQ(events(), expected);
     EXPECT_EQ(list.ItemsCount(), count);
   }
+  // Of the item that failed there is what stood before the failure.
+  EXPECT_EQ(told(1), "b 001 0 16777215 0 12937777 0 0  none none");
 }
 
 TEST_F(ImageInput, IsNotTakenFromAnyOtherFile) {

@@ -97,6 +97,9 @@ TEST_F(ListInput, GivesDefaultsWithoutTheArgument) {
   EXPECT_EQ(told(item(0)), ordinary("a"));
   EXPECT_EQ(texts(), "a a");
   EXPECT_EQ(fileOf(item(0).Icon), "none");
+  // Of a truth value the low byte counts.
+  list.ListInput("file", Boolean::ofNumber(0x100));
+  EXPECT_EQ(told(item(0)) + events(), ordinary("a"));
   // Keys and tags that nobody wants are left in the file, for what follows them.
   const std::string readAsTagAndIcons = zeros(6), readAsText = zeros(6);
   input(header(1, true) + text("a") + fields() + flagsAndKeys(readAsTagAndIcons, "").substr(0, 14) +
@@ -201,6 +204,39 @@ TEST_F(ListInput, RefusesAFileCutAnywhere) {
     input(whole + "and more");
     EXPECT_EQ(texts() + events(), "first second");
   }
+}
+
+TEST_F(ListInput, IsEmptyWhereTheFileCannotBeClosed) {
+  add({"a", "b"});
+  save();
+  memory.operations = 0;
+  list.ListInput("file");
+  EXPECT_EQ(list.ItemsCount(), 2);
+  memory.failing = std::exchange(memory.operations, 0);
+  events();
+  list.ListInput("file");
+  EXPECT_EQ(events(), "input! ");
+  EXPECT_EQ(list.ItemsCount(), 0);
+}
+
+TEST_F(ListInput, OutlivesAHostThatClearsTheListInAReport) {
+  struct Clearing final : ErrorHandler {
+    explicit Clearing(nvList& cleared) : list(cleared) {}
+    nvList& list;
+    void RaiseError(const std::string&, const ApplicationFacts&, std::int32_t, const std::string&,
+                    const std::string&, std::int32_t, const std::string&,
+                    const std::string&) override {
+      list.ItemsClear();
+    }
+  };
+  memory.registerErrorHandler(std::make_shared<Clearing>(list));
+  const std::string record = text("a") + fields("no hex") + flagsAndKeys("k", "t") + noIcons;
+  expectRefused(header(1, true) + record + record, "colour");
+  add({"first"});
+  list.ItemIcon(0, makeRef<BytePicture>("broken"));
+  add({"second"});
+  save();
+  EXPECT_EQ(events(), "0 save! ");
 }
 
 TEST_F(ListInput, BelievesNoLength) {

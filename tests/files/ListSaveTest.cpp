@@ -85,7 +85,9 @@ TEST_F(ListSave, GoesOnBehindAPictureWithoutBytes) {
 TEST_F(ListSave, EndsAtAnItemThatCannotBeWritten) {
   list.ItemsAdd({.aText = "a"});
   list.ItemsAdd({.aText = "b", .aTag = Ref<Object>(makeRef<Object>())});
-  save();
+  // What was written before stays.
+  EXPECT_EQ(save(), header(1, 0xFF) + text("a") + ordinary + text("b") +
+                        ordinary.substr(0, ordinary.size() - 6));
   EXPECT_EQ(events(), "0 save! ");
   EXPECT_EQ(save(false), header(1, 0) + text("a") + text("b"));
 }
@@ -101,7 +103,9 @@ TEST_F(ListSave, GoesOnFromWhereTheHostPutsIt) {
     std::string heard;
   } cases[] = {{[](Variant& Index) { Index = "x"; }, "0 save! "},
                {[](Variant& Index) { Index = -2; }, "0 save! "},
-               {[](Variant& Index) { Index = 2147483647; }, "0 save! "},
+               {[](Variant& Index) { Index = -1e10F; }, "0 save! "},
+               {[](Variant& Index) { Index = 2147483647; }, "0 "},
+               {[](Variant& Index) { Index = 1e10F; }, "0 "},
                {[](Variant&) { throw 1; }, "0 save! "},
                // The position is the one by which all loops of the list go.
                {[this](Variant&) { list.ItemsCheckCount(); }, "0 "},

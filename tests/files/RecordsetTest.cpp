@@ -78,6 +78,10 @@ TEST_F(RecordsetBinding, ReplacesTheItemsByTheFirstFields) {
   EXPECT_TRUE(list.AutoCheckScroll());
   EXPECT_NE(headless.picture().find("\"a\""), std::string::npos);
   EXPECT_TRUE(isDefaultMark(item(0).BackColor));
+  // Bars are fitted whatever AutoCheckScroll says.
+  list.AutoCheckScroll(false);
+  list.Recordset(rows(Values(30, "a")));
+  EXPECT_GT(list.verticalBar().Max(), 0);
 }
 
 TEST_F(RecordsetBinding, NeedsACountOfRows) {

@@ -34,23 +34,29 @@ TEST_F(TextInput, SplitsAtTheDelimiter) {
   EXPECT_EQ(pieces("a", none), "13 ListInput2");
   silent();
   EXPECT_EQ(pieces("a", none), "input! ");
+  // Such an end paints nothing.
+  add({"old"});
+  headless.surface().Cls();
+  list.ListInput2("text", none);
+  EXPECT_EQ(headless.picture().find("old"), std::string::npos);
 }
 
 TEST_F(TextInput, AddsToTheListAndLeavesBothFlagsOff) {
   add({"old"});
   list.AutoRedraw(true);
   headless.surface().Cls();
-  memory.files["text"] = "a,b";
+  memory.files["text"] = "a,b,c,d,e,f,g,h,i,j";
   list.ListInput2("text", ",");
-  EXPECT_EQ(texts(), "old a b");
+  EXPECT_EQ(texts(), "old a b c d e f g h i j");
   EXPECT_FALSE(list.AutoRedraw());
   EXPECT_FALSE(list.AutoCheckScroll());
   EXPECT_NE(headless.picture().find("old"), std::string::npos);
+  EXPECT_GT(list.verticalBar().Max(), 0);
   list.ListInput2("missing", ",");
   EXPECT_EQ(events(), "input! ");
   memory.nextAnswers = {true};
   list.ListInput2("missing", ",");
-  EXPECT_EQ(texts() + events(), "old a b 53 TextRead");
+  EXPECT_EQ(texts() + events(), "old a b c d e f g h i j 53 TextRead");
 }
 
 TEST(Windows1252, BringsEveryByteBack) {
@@ -116,17 +122,20 @@ TEST_F(Disk, HoldsTheList) {
 
 TEST_F(Disk, RefusesWhatIsNoFile) {
   list.ItemsAdd("a");
-  for (const std::string& path : {at("folder"), at("none/file"), std::string()})
+  std::ofstream(at("file")) << "kept";
+  for (const std::string& path :
+       {at("folder"), at("none/file"), std::string(), at("file") + '\0' + "s"})
     list.ListSave(path);
   for (const std::string& path : {at("folder"), at("fold*")}) list.ListInput(path);
-  EXPECT_EQ(failures, 5);
+  EXPECT_EQ(failures, 6);
+  EXPECT_TRUE(std::filesystem::exists(at("file")));
   EXPECT_TRUE(std::filesystem::is_directory(at("folder")));
   // A device is neither deleted nor read without end.
   if (std::filesystem::exists("/dev/full")) {
     std::filesystem::create_symlink("/dev/full", at("device"));
     list.ListSave(at("device"));
     list.ListInput(at("device"));
-    EXPECT_EQ(failures, 7);
+    EXPECT_EQ(failures, 8);
     EXPECT_TRUE(std::filesystem::is_symlink(at("device")));
   }
   EXPECT_EQ(reports(), "");

@@ -60,17 +60,13 @@ std::int32_t QtRecordset::RecordCount() {
   return *count_;
 }
 
-/// The current row stays the current one.
+/// The current row stays the current one; that there is none is kept in isAtEnd_.
 std::int32_t QtRecordset::countRows() {
   if (query_.isForwardOnly()) return unknownCount;
   const int current = query_.at();
-  const bool wasAtEnd = isAtEnd_.value_or(false);
   const std::int32_t count = query_.last() ? query_.at() + 1 : 0;
   failWhereRefused();
-  if (wasAtEnd)
-    query_.next();
-  else
-    query_.seek(current);
+  query_.seek(current);
   return count;
 }
 
