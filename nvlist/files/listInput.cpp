@@ -94,9 +94,11 @@ void nvList::ListFile::readHeader(File& file) {
 
 std::size_t nvList::ListFile::load(File& file) {
   const std::uint64_t size = std::max<std::uint64_t>(file.size(), headerSize) - headerSize;
-  const std::size_t count = believedCount(std::int64_t{last_} + 1, size, smallestRecord());
+  const std::uint64_t smallest = smallestRecord();
+  const std::size_t count = believedCount(std::int64_t{last_} + 1, size, smallest);
   starts_.reserve(count);
-  records_ = readBytes(file, static_cast<std::size_t>(size));
+  // Big files that begin with zeros, such as images of disks, say that their items take no bytes.
+  if (smallest > 0) records_ = readBytes(file, static_cast<std::size_t>(size));
   return count;
 }
 
@@ -122,9 +124,10 @@ void nvList::ListFile::readRecords() {
       starts_.push_back(start);
       ++unmade_;
     } else {
-      ListItem& item = items.touch(index);
-      readItem(from, item);
-      isSelected = static_cast<bool>(item.Selected);
+      // A report in the middle of it may let the host remove the item.
+      const Ref<ListItem> item = items.slot(index);
+      readItem(from, *item);
+      isSelected = static_cast<bool>(item->Selected);
     }
     if (isSelected) list_.state_.Selection.set(items, index, true);
   }
