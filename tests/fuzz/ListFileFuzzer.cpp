@@ -37,7 +37,7 @@ void requireSame(const ListItem& a, const ListItem& b) {
   require(a.Text == b.Text && a.Key == b.Key.view() && a.Tag.toText() == b.Tag.toText());
   require(a.Checked == b.Checked && a.AllowEdit == b.AllowEdit && a.Enabled == b.Enabled);
   require(a.Selected == b.Selected && a.Bold == b.Bold && a.Italic == b.Italic);
-  require(a.Underline == b.Underline && a.Alignment % 256 == b.Alignment % 256);
+  require(a.Underline == b.Underline && (a.Alignment & 0xFF) == (b.Alignment & 0xFF));
   require(sameColour(a.ForeColor, b.ForeColor) && sameColour(a.BackColor, b.BackColor));
   require(sameColour(a.ForeColorSelect, b.ForeColorSelect));
   require(sameColour(a.BackColorSelect, b.BackColorSelect));
