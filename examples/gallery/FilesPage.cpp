@@ -88,7 +88,10 @@ void addMany(const Desk& desk) {
 
 constexpr Action fileActions[] = {
     {"Open...", "Show a list file instead of these items", open},
-    {"Save...", "Save the items into a list file", save},
+    {"Save...",
+     "Save the items into a list file.\nThe reading of an older one can be watched: its kind is "
+     "among those of the dialog.",
+     save},
 };
 constexpr Action textActions[] = {
     {"Import...", "Add an item for each piece of a text file", import},
