@@ -104,7 +104,14 @@ void fillDatabase(Stage& stage) {
     fillFrom(list, source->run(box->currentText()));
   };
   QObject::connect(button, &QToolButton::clicked, &stage, fill);
-  QObject::connect(box, &QComboBox::activated, &stage, fill);
+  QObject::connect(box, &QComboBox::activated, &stage, [fill, line = box->lineEdit()] {
+    line->setCursorPosition(0);
+    fill();
+  });
+  // The box itself tells of Return on its own queries only.
+  QObject::connect(box->lineEdit(), &QLineEdit::returnPressed, &stage, [fill, box] {
+    if (box->findText(box->currentText()) < 0) fill();
+  });
   // Ends behind the list, which holds a query.
   database.release()->setParent(&stage);
 }

@@ -4,8 +4,8 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QToolButton>
-
-#include <nvlist/platform/qt/QtPicture.h>
+#include <memory>
+#include <utility>
 
 #include "ListFiles.h"
 #include "Pages.h"
@@ -16,8 +16,10 @@ namespace gallery {
 namespace {
 
 constexpr int iconSize = 24;
-constexpr int many = 100000;
-constexpr auto kindOfFile = "List files (*.nvl);;All files (*)";
+constexpr int many = 1000000;
+constexpr auto listKind = "List files (*.nvl)";
+constexpr auto anyKind = "All files (*)";
+constexpr auto olderKind = "Older list files, which are read item by item (*.nvl)";
 
 struct Delimiter {
   const char* name;
@@ -32,6 +34,8 @@ struct Desk {
   nvList* list;
   QCheckBox* keeps;
   QComboBox* parted;
+  /// An action is under way; it may let others in, and last longer than the page.
+  std::shared_ptr<bool> isBusy = std::make_shared<bool>(false);
 
   Properties properties() const { return keeps->isChecked() ? Properties::kept : Properties::left; }
 };
@@ -43,18 +47,28 @@ struct Action {
 };
 
 void open(const Desk& desk) {
-  const QString path = QFileDialog::getOpenFileName(desk.stage, "Open a list", {}, kindOfFile);
+  const QString kinds = QString("%1;;%2").arg(listKind, anyKind);
+  const QString path = QFileDialog::getOpenFileName(desk.stage, "Open a list", {}, kinds);
   if (path.isEmpty()) return;
-  desk.stage->tell("Opening " + path);
+  // Older files alone tell it before they are read.
+  const std::int32_t count = desk.list->ListFileItemsCount(path.toStdString());
+  desk.stage->tell(count > 0 ? QString("Opening %1: %2 items").arg(path).arg(count)
+                             : "Opening " + path);
+  // Their items come one by one, and those to come would be seen.
+  if (count > 0) desk.list->ItemsClear();
   openListFile(*desk.list, path, desk.properties());
 }
 
 void save(const Desk& desk) {
+  const QString kinds = QString("%1;;%2;;%3").arg(listKind, olderKind, anyKind);
+  QString kind;
   const QString path =
-      QFileDialog::getSaveFileName(desk.stage, "Save the list", "list.nvl", kindOfFile);
+      QFileDialog::getSaveFileName(desk.stage, "Save the list", "list.nvl", kinds, &kind);
   if (path.isEmpty()) return;
   desk.stage->tell("Saving " + path);
-  saveListFile(*desk.list, path, desk.properties());
+  if (kind != olderKind) return saveListFile(*desk.list, path, desk.properties());
+  const QString problem = saveOlderFile(*desk.list, path, desk.properties());
+  if (!problem.isEmpty()) desk.stage->tell(problem);
 }
 
 void import(const Desk& desk) {
@@ -74,11 +88,14 @@ void addMany(const Desk& desk) {
 
 constexpr Action fileActions[] = {
     {"Open...", "Show a list file instead of these items", open},
-    {"Save...", "Save the items into a list file", save},
+    {"Save...",
+     "Save the items into a list file.\nThe reading of an older one can be watched: its kind is "
+     "among those of the dialog.",
+     save},
 };
 constexpr Action textActions[] = {
     {"Import...", "Add an item for each piece of a text file", import},
-    {"+ 100 000", "Add items, so that saving takes its time", addMany},
+    {"+ 1 million", "Add items, so that saving and reading older files take their time", addMany},
 };
 
 void fillItems(nvList& list) {
@@ -98,11 +115,11 @@ void fillItems(nvList& list) {
                            {"Paints", palette, false},
                            {"Cups, three of them", cup, true}};
   for (const auto& [text, glyph, isPacked] : entries) {
-    const norvane::Picture icon = norvane::QtPicture::fromImage(drawn(glyph, iconSize));
+    const norvane::Picture picture = icon(glyph, iconSize);
     // A list file brings the picture of selected items back, as the one of all.
     list.ItemsAdd({.aText = text,
-                   .aIcon = icon,
-                   .aIconSelected = icon,
+                   .aIcon = picture,
+                   .aIconSelected = picture,
                    .aChecked = isPacked,
                    .aAllowEdit = true});
   }
@@ -122,8 +139,11 @@ void addButtons(QHBoxLayout* row, const Action (&actions)[count], const Desk& de
     auto* button = new QToolButton;
     button->setText(action.name);
     button->setToolTip(action.hint);
-    QObject::connect(button, &QToolButton::clicked, desk.stage,
-                     [desk, run = action.run] { run(desk); });
+    QObject::connect(button, &QToolButton::clicked, desk.stage, [desk, run = action.run] {
+      if (std::exchange(*desk.isBusy, true)) return;
+      run(desk);
+      *desk.isBusy = false;
+    });
     row->addWidget(button);
   }
 }

@@ -26,7 +26,8 @@ constexpr QSize initialSize(1000, 700);
 constexpr int chooserWidth = 150;
 constexpr int sheetWidth = 326;
 constexpr int captionHeight = 24;
-constexpr int hintTime = 8000;  // milliseconds
+constexpr int hintTime = 8000;   // milliseconds
+constexpr int timeToRead = 400;  // milliseconds
 constexpr int hintWidth = 240;
 
 /// A part of the window below its caption, which may have buttons at its right.
@@ -192,6 +193,8 @@ void GalleryWindow::connectParts() {
   };
   refreshing_.setSingleShot(true);
   connect(&refreshing_, &QTimer::timeout, this, [this] { refresh(); });
+  telling_.setSingleShot(true);
+  connect(&telling_, &QTimer::timeout, this, [this] { showRows(); });
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
     auto* widget = dynamic_cast<NvListWidget*>(now);
     if (widget && widget != chooser_) setSubject(widget);
@@ -269,10 +272,12 @@ void GalleryWindow::load() {
   }
 }
 
-/// At once, as what it tells of leaves no time for events. The next refresh takes it away.
+/// At once, as what it tells of may leave no time for events. Where it does, the line stays for
+/// a while all the same.
 void GalleryWindow::tell(const QString& what) {
   rows_->setText(what);
   rows_->repaint();
+  telling_.start(timeToRead);
   refreshSoon();
 }
 
@@ -297,11 +302,14 @@ void GalleryWindow::refresh() {
   listSheet_->show(list);
   itemSheet_->show(item);
   tools_->show(list);
-  rows_->clear();
+  if (!telling_.isActive()) showRows();
   if (!subject_) return;
   listCaption_->setText("Properties of " + subject_->objectName());
   itemCaption_->setText(captionOf(item));
-  rows_->setText(rowsShown(list.list()));
+}
+
+void GalleryWindow::showRows() {
+  rows_->setText(subject_ ? rowsShown(subject_->list()) : QString());
 }
 
 }  // namespace gallery

@@ -53,6 +53,7 @@ class GalleryWindow : public QMainWindow {
   void setSubject(norvane::NvListWidget* widget);
   void refreshSoon();
   void refresh();
+  void showRows();
 
   const std::vector<Page> pages_;
   std::vector<Stage*> stages_;
@@ -62,6 +63,7 @@ class GalleryWindow : public QMainWindow {
   norvane::QI tips_;
   Progress progress_;
   QTimer refreshing_;
+  QTimer telling_;  ///< runs while what was told stands in the place of the rows
 
   EventLog* log_;
   Chooser* chooser_;

@@ -17,11 +17,6 @@ using norvane::Picture;
 namespace gallery {
 namespace {
 
-/// An icon for a place of `size`: on a dense screen with the pixels that it has there.
-Picture icon(const Glyph& glyph, int size = 16) {
-  return norvane::QtPicture::fromImage(drawn(glyph, qRound(size * qApp->devicePixelRatio())));
-}
-
 /// Rows of their own height: where MinHeight says another one, the edit box stands off its row.
 void setFontSize(nvList& list, float points) {
   const norvane::Font font = norvane::CloneFont(list.Font());
@@ -305,6 +300,10 @@ std::vector<Page> allPages(const SampleText& text) {
       {"database", "Database", "Recordset: the first field of an SQL query", database,
        fillDatabase},
   };
+}
+
+Picture icon(const Glyph& glyph, int size) {
+  return norvane::QtPicture::fromImage(drawn(glyph, qRound(size * qApp->devicePixelRatio())));
 }
 
 Colour hostColour(QRgb rgb) { return qRed(rgb) | qGreen(rgb) << 8 | qBlue(rgb) << 16; }

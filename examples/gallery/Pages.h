@@ -67,6 +67,9 @@ struct Page {
 
 std::vector<Page> allPages(const SampleText& text);
 
+/// An icon for a place of `size`: on a dense screen with the pixels that it has there.
+norvane::Picture icon(const Glyph& glyph, int size = 16);
+
 /// A colour as the lists have it.
 norvane::Colour hostColour(QRgb rgb);
 

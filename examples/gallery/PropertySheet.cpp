@@ -47,11 +47,19 @@ MakeEditor<norvane::cScrollColorStyle> scrollColorStyle() {
                                              {"cXPScrollOlive", norvane::cXPScrollOlive}});
 }
 
-MakeEditor<norvane::ScrollBarConstants> scrollBars() {
-  return choice<norvane::ScrollBarConstants>({{"vbSBNone", norvane::vbSBNone},
-                                              {"vbHorizontal", norvane::vbHorizontal},
-                                              {"vbVertical", norvane::vbVertical},
-                                              {"vbBoth", norvane::vbBoth}});
+/// The list follows a new choice when its bars are fitted the next time, which is left to the host.
+Property scrollBars() {
+  const auto make = choice<norvane::ScrollBarConstants>({{"vbSBNone", norvane::vbSBNone},
+                                                         {"vbHorizontal", norvane::vbHorizontal},
+                                                         {"vbVertical", norvane::vbVertical},
+                                                         {"vbBoth", norvane::vbBoth}});
+  return property<norvane::ScrollBarConstants>(
+      "ScrollBars", make, [](const Subject& on) { return on.list().ScrollBars(); },
+      [](const Subject& on, norvane::ScrollBarConstants value) {
+        on.list().ScrollBars(value);
+        on.list().CheckScroll();
+        if (on.list().AutoRedraw()) on.list().Redraw();
+      });
 }
 
 MakeEditor<norvane::cWheelFunction> wheelFunction() {
@@ -112,7 +120,7 @@ const std::vector<PropertyGroup>& propertiesOfTheList() {
         row("AllowItemMoving", flag(), &nvList::AllowItemMoving, &nvList::AllowItemMoving),
         row("HoverSelect", flag(), &nvList::HoverSelect, &nvList::HoverSelect),
         row("ClickOnIndexChange", flag(), &nvList::ClickOnIndexChange, &nvList::ClickOnIndexChange),
-        row("ScrollBars", scrollBars(), &nvList::ScrollBars, &nvList::ScrollBars),
+        scrollBars(),
         row("WheelFunction", wheelFunction(), &nvList::WheelFunction, &nvList::WheelFunction),
         row("WheelScrollLines", number(), &nvList::WheelScrollLines, &nvList::WheelScrollLines),
         row("AutoRedraw", flag(), &nvList::AutoRedraw, &nvList::AutoRedraw),

@@ -22,7 +22,6 @@ Sheet::Sheet(const std::vector<PropertyGroup>& groups) {
 
   setWidget(page);
   setWidgetResizable(true);
-  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
 }
 

@@ -50,6 +50,13 @@ void sort(nvList& list, norvane::cSortMode mode) {
 }
 
 bool hasItems(nvList& list) { return list.ItemsCount() > 0; }
+/// A list that has lost its items keeps its ListIndex.
+bool isUpPossible(nvList& list) {
+  return list.ListIndex() > 0 && list.ListIndex() < list.ItemsCount();
+}
+bool isDownPossible(nvList& list) {
+  return list.ListIndex() >= 0 && list.ListIndex() < list.ItemsCount() - 1;
+}
 QString moving(const char* name, nvList& list) {
   return QString("%1 %2, 1").arg(name).arg(list.ListIndex());
 }
@@ -59,11 +66,10 @@ const Command commands[] = {
      [](nvList& list) { sort(list, norvane::cAscending); }},
     {"Z-A", "Sort descending", hasItems, [](nvList&) { return QString("Sort cDescending"); },
      [](nvList& list) { sort(list, norvane::cDescending); }},
-    {"\u25B2", "Move the current item up", [](nvList& list) { return list.ListIndex() > 0; },
+    {"\u25B2", "Move the current item up", isUpPossible,
      [](nvList& list) { return moving("MoveItemUp", list); },
      [](nvList& list) { list.MoveItemUp(list.ListIndex(), 1); }},
-    {"\u25BC", "Move the current item down",
-     [](nvList& list) { return list.ListIndex() >= 0 && list.ListIndex() < list.ItemsCount() - 1; },
+    {"\u25BC", "Move the current item down", isDownPossible,
      [](nvList& list) { return moving("MoveItemDown", list); },
      [](nvList& list) { list.MoveItemDown(list.ListIndex(), 1); }},
 };

@@ -3,7 +3,9 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFile>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QTemporaryDir>
 #include <QToolButton>
 
@@ -27,6 +29,11 @@ class FilesTest : public testing::Test {
   norvane::nvList& list(const char* name) {
     return window->findChild<norvane::NvListWidget*>(name)->list();
   }
+  bool isShown(const QString& beginning) {
+    for (const QLabel* label : window->findChildren<QLabel*>())
+      if (label->text().startsWith(beginning)) return true;
+    return false;
+  }
   QString logged() {
     QCoreApplication::processEvents();
     return log->toPlainText();
@@ -44,10 +51,7 @@ TEST_F(FilesTest, aListComesBackFromItsFileAndTheProgressIsShown) {
   const int count = files.ItemsCount();
   files.ItemBold(1, true);
   saveListFile(files, path, Properties::kept);
-  bool isProgressShown = false;
-  for (const QLabel* label : window->findChildren<QLabel*>())
-    isProgressShown |= label->text().startsWith("Saving item ");
-  EXPECT_TRUE(isProgressShown);
+  EXPECT_TRUE(isShown("Saving item "));
   log->write("saved");
   EXPECT_TRUE(logged().contains(QString("ListSaving   Index = %1\nsaved").arg(count - 1)));
   EXPECT_EQ(logged().count("ListSaving"), 1);
@@ -61,6 +65,65 @@ TEST_F(FilesTest, aListComesBackFromItsFileAndTheProgressIsShown) {
   openListFile(files, folder.filePath("missing"), Properties::kept);
   EXPECT_TRUE(logged().contains("ErrorListInput"));
   EXPECT_EQ(files.ItemsCount(), count);
+}
+
+TEST_F(FilesTest, theSelectedItemOfAFileIsTheCurrentOne) {
+  showPage("files");
+  norvane::nvList& files = list("files");
+  files.ListIndex(3);
+  saveListFile(files, path, Properties::kept);
+  files.ListIndex(7);
+  openListFile(files, path, Properties::kept);
+  EXPECT_EQ(files.ListIndex(), 3);
+  files.ListIndex(7);
+  EXPECT_EQ(files.ItemsSelectCount(), 1);
+
+  files.ItemSelected(2, true);
+  files.MultiSelect(true);
+  saveListFile(files, path, Properties::kept);
+  openListFile(files, path, Properties::kept);
+  EXPECT_EQ(files.ItemsSelectCount(), 2);
+  EXPECT_EQ(files.ListIndex(), -1);
+  EXPECT_FALSE(logged().contains("Error")) << qPrintable(logged());
+
+  // A file that breaks off leaves the list without items, and the tools nothing to do.
+  files.ListIndex(7);
+  ASSERT_TRUE(QFile::resize(path, 100));
+  openListFile(files, path, Properties::kept);
+  EXPECT_EQ(files.ItemsCount(), 0);
+  EXPECT_TRUE(logged().endsWith("ErrorListInput"));
+  for (const char* tool : {"A-Z", "\u25B2", "\u25BC"})
+    EXPECT_FALSE(window->findChild<QToolButton*>(tool)->isEnabled()) << tool;
+}
+
+TEST_F(FilesTest, anOlderFileBringsTheSameItemsAndItsReadingIsShown) {
+  showPage("files");
+  norvane::nvList& files = list("files");
+  const int count = files.ItemsCount();
+  files.ItemText(1, "\u00c4 \u20ac");
+  files.ItemEnabled(2, false);
+  files.ItemBackColor(3, 0x123456);
+  files.ItemAlignment(3, norvane::cRight);
+  const std::int32_t disabled = files.ItemBackColorDis(2).toInt32();
+  EXPECT_EQ(saveOlderFile(files, path, Properties::kept), "");
+  EXPECT_EQ(files.ListFileItemsCount(path.toStdString()), count);
+
+  files.ItemsClear();
+  openListFile(files, path, Properties::kept);
+  EXPECT_TRUE(isShown(QString("Reading item 0 of %1").arg(count)));
+  ASSERT_EQ(files.ItemsCount(), count);
+  EXPECT_EQ(files.ItemText(1), "\u00c4 \u20ac");
+  EXPECT_TRUE(files.ItemChecked(0));
+  EXPECT_FALSE(files.ItemEnabled(2));
+  EXPECT_EQ(files.ItemBackColorDis(2).toInt32(), disabled);
+  EXPECT_EQ(files.ItemBackColor(3), 0x123456);
+  EXPECT_EQ(files.ItemAlignment(3), norvane::cRight);
+  EXPECT_TRUE(files.ItemIcon(0) && files.ItemIconSelected(0));
+
+  openListFile(files, path, Properties::left);
+  EXPECT_FALSE(files.ItemChecked(0));
+  EXPECT_FALSE(files.ItemIcon(0));
+  EXPECT_NE(saveOlderFile(files, folder.path(), Properties::left), "");
 }
 
 TEST_F(FilesTest, aTextIsPartedAndTheListGoesOnPainting) {
@@ -91,8 +154,12 @@ TEST_F(FilesTest, aQueryFillsTheListAndABadOneIsTold) {
     return rows.ItemsCount();
   };
   EXPECT_EQ(fillFrom("SELECT name FROM places WHERE country LIKE 'Congo, The %'"), 26);
-  EXPECT_EQ(fillFrom("DROP TABLE places"), 26);
-  EXPECT_EQ(fillFrom("SELECT name FROM nowhere"), 26);
+  query->setCurrentText("SELECT name FROM places LIMIT 7");
+  QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r");
+  QApplication::sendEvent(query->lineEdit(), &enter);
+  EXPECT_EQ(rows.ItemsCount(), 7);
+  EXPECT_EQ(fillFrom("DROP TABLE places"), 7);
+  EXPECT_EQ(fillFrom("SELECT name FROM nowhere"), 7);
   EXPECT_TRUE(logged().contains("Automation error: no such table: nowhere"))
       << qPrintable(logged());
   EXPECT_EQ(fillFrom("SELECT 'a' UNION ALL SELECT NULL UNION ALL SELECT 'b'"), 1);

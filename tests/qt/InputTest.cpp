@@ -15,6 +15,7 @@
 
 #include <nvlist/core/numbers.h>
 #include <nvlist/platform/headless/HeadlessApplication.h>
+#include <nvlist/platform/qt/QtColour.h>
 #include <nvlist/platform/qt/QtKeys.h>
 
 namespace norvane {
@@ -251,6 +252,23 @@ TEST_F(Input, TheFocusIsOfTheWholeList) {
   after.setFocus();
   EXPECT_FALSE(hasFocus());
   EXPECT_TRUE(edit().isVisible());
+}
+
+TEST_F(Input, WhatIsEditedCanBeReadOnADesktopOfAnyColours) {
+  list->list().AllowEdit(true);
+  const auto background = [&](Qt::GlobalColor desktop, Colour text) {
+    QPalette palette = form.palette();
+    palette.setColor(QPalette::Base, desktop);
+    form.setPalette(palette);
+    list->list().ForeColor(text);
+    list->list().SetEdit(2);
+    EXPECT_EQ(edit().palette().color(QPalette::Text), QColor(rgbOf(text, palette)));
+    return edit().palette().color(QPalette::Base);
+  };
+  EXPECT_EQ(background(Qt::yellow, 0), QColor(Qt::yellow));
+  EXPECT_EQ(background(Qt::black, 0), QColor(Qt::white));
+  EXPECT_EQ(background(Qt::white, 0xFFFFFF), QColor(Qt::black));
+  EXPECT_EQ(background(Qt::darkBlue, 0xFFFFFF), QColor(Qt::darkBlue));
 }
 
 TEST_F(Input, AWheelIsHeardInItsMessages) {

@@ -16,11 +16,11 @@ namespace {
 /// A widget on a screen whose ratio the test changes.
 class ScreenedWidget : public NvListWidget {
  public:
-  int ratio = 1;
+  qreal ratio = 1;
 
  protected:
   int metric(PaintDeviceMetric metric) const override {
-    if (metric == PdmDevicePixelRatio) return ratio;
+    if (metric == PdmDevicePixelRatio) return qRound(ratio);
     if (metric == PdmDevicePixelRatioScaled)
       return static_cast<int>(ratio * devicePixelRatioFScale());
     return NvListWidget::metric(metric);
@@ -83,6 +83,16 @@ TEST_F(NvListWidgetTest, followsTheScreenAndThePalette) {
   QCoreApplication::processEvents();
   EXPECT_EQ(shown().size(), QSize(400, 300));
   EXPECT_EQ(shown().pixel(201, 281), qRgb(1, 2, 3));
+}
+
+/// Where an edge lies inside a pixel, nothing of the widget may be there.
+TEST_F(NvListWidgetTest, isPaintedOverWhatIsBehindWhereItsPixelsAreBroken) {
+  for (const qreal ratio : {1.25, 2.0, 1.0}) {
+    widget.ratio = ratio;
+    widget.repaint();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(widget.testAttribute(Qt::WA_OpaquePaintEvent), ratio != 1.25) << ratio;
+  }
 }
 
 TEST_F(NvListWidgetTest, startsWithTheFontOfTheWidgetAndTellsChanges) {

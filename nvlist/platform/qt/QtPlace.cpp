@@ -52,9 +52,8 @@ class ChildWidget final : public QWidget, public QtPlace {
 QtPlace::QtPlace(QWidget& widget, QtPlace* around) : widget_(&widget), around_(around) {
   if (around_) around_->children_.push_back(this);
   widget_->setMouseTracking(true);
-  widget_->setAttribute(Qt::WA_OpaquePaintEvent);
   surface_.setPalette(widget_->palette());
-  surface_.resize(widget_->size(), widget_->devicePixelRatioF());
+  newImage();
   surface_.onDrawn = [this] {
     if (widget_ && !isPainting_) widget_->update();
   };
@@ -154,15 +153,22 @@ void QtPlace::paintLater() {
 }
 
 void QtPlace::resize() {
-  if (widget_->size() != surface_.size())
-    surface_.resize(widget_->size(), widget_->devicePixelRatioF());
+  if (widget_->size() != surface_.size()) newImage();
+}
+
+void QtPlace::newImage() {
+  const qreal ratio = widget_->devicePixelRatioF();
+  surface_.resize(widget_->size(), ratio);
+  // With a broken ratio the edges of a widget lie inside pixels, which the image may not reach:
+  // what is behind the widget has to be painted there.
+  widget_->setAttribute(Qt::WA_OpaquePaintEvent, ratio == std::floor(ratio));
 }
 
 /// The look of the screen or of the program has changed; what was drawn before is of no use.
 void QtPlace::renewImage() {
   if (!widget_) return;
   surface_.setPalette(widget_->palette());
-  surface_.resize(widget_->size(), widget_->devicePixelRatioF());
+  newImage();
   isPaintPending_ = false;
   if (control_) control_->UserControl_Paint();
 }

@@ -68,6 +68,7 @@ class QtPlace : public Container {
   void focusEvent(QEvent::Type type, FocusOf of);
   bool isFocusInside() const;
   void pointerLeft();
+  void newImage();
   void renewImage();
 
   QWidget* widget_;

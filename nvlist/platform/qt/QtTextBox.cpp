@@ -1,7 +1,9 @@
 #include <nvlist/platform/qt/QtTextBox.h>
 
 #include <QKeyEvent>
+#include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
 #include <nvlist/objects/Failure.h>
 #include <nvlist/platform/qt/QtColour.h>
@@ -9,6 +11,13 @@
 #include <nvlist/platform/qt/QtKeys.h>
 
 namespace norvane {
+namespace {
+
+bool isLegible(const QColor& text, const QColor& background) {
+  return std::abs(qGray(text.rgb()) - qGray(background.rgb())) >= 64;
+}
+
+}  // namespace
 
 QtTextBox::QtTextBox(QWidget& parent, std::function<void(std::int16_t&)> keyPress,
                      std::function<void(QEvent::Type)> focusChanged)
@@ -34,11 +43,17 @@ void QtTextBox::Font(const norvane::Font& font) {
   if (edit_ && font) edit_->setFont(toQFont(*font));
 }
 
+/// The background is that of the desktop's edits, which the list's colours know nothing of: a dark
+/// one would swallow dark letters.
 void QtTextBox::ForeColor(Colour colour) {
   if (!edit_) return;
-  QPalette palette = edit_->palette();
-  palette.setColor(QPalette::Text, QColor(rgbOf(colour, palette)));
-  edit_->setPalette(palette);
+  const QPalette desktop = edit_->parentWidget()->palette();
+  const QColor text(rgbOf(colour, desktop));
+  QPalette own;
+  own.setColor(QPalette::Text, text);
+  if (!isLegible(text, desktop.color(QPalette::Base)))
+    own.setColor(QPalette::Base, qGray(text.rgb()) < 128 ? Qt::white : Qt::black);
+  edit_->setPalette(own);
 }
 
 std::string QtTextBox::Text() const { return edit_ ? edit_->text().toStdString() : std::string(); }
