@@ -19,7 +19,7 @@ constexpr int iconSize = 24;
 constexpr int many = 1000000;
 constexpr auto listKind = "List files (*.nvl)";
 constexpr auto anyKind = "All files (*)";
-constexpr auto olderKind = "Older list files, which are read item by item (*.nvl)";
+constexpr auto olderKind = "Older list files: texts alone, read item by item (*.nvl)";
 
 struct Delimiter {
   const char* name;
@@ -67,7 +67,7 @@ void save(const Desk& desk) {
   if (path.isEmpty()) return;
   desk.stage->tell("Saving " + path);
   if (kind != olderKind) return saveListFile(*desk.list, path, desk.properties());
-  const QString problem = saveOlderFile(*desk.list, path, desk.properties());
+  const QString problem = saveOlderFile(*desk.list, path);
   if (!problem.isEmpty()) desk.stage->tell(problem);
 }
 

@@ -11,9 +11,9 @@ enum class Properties { left, kept };
 /// Saves the list with its pictures, or the texts of its items alone.
 void saveListFile(norvane::nvList& list, const QString& path, Properties properties);
 
-/// Saves the list in the older form, which lists read and do not write. Returns why it could not;
-/// empty where it could.
-QString saveOlderFile(norvane::nvList& list, const QString& path, Properties properties);
+/// Saves the texts in the older form, which lists read item by item and do not write. Returns why
+/// it could not; empty where it could.
+QString saveOlderFile(const norvane::nvList& list, const QString& path);
 
 /// Shows what a list file holds, from the top and with the items current that it has selected.
 void openListFile(norvane::nvList& list, const QString& path, Properties properties);
