@@ -153,6 +153,14 @@ TEST_F(Persistence, ReadingForgetsTheHandAndTheFormsLaterFont) {
   EXPECT_EQ(propertyText(bag), "");
 }
 
+TEST(PropertyText, KeepsEveryColour) {
+  for (const Colour colour : {systemColour(0), systemColour(1), -1, 65535, 65536, 0x7FFFFFFF}) {
+    PropertyBag bag;
+    bag.WriteProperty("c", colour, Variant());
+    EXPECT_EQ(propertiesOf(propertyText(bag)).ReadProperty("c", "").toInt32(), colour);
+  }
+}
+
 TEST(PropertyText, TellsTheLineThatCannotBeRead) {
   const auto failure = [](std::string_view text) {
     try {
