@@ -42,8 +42,9 @@ void nvList::ItemsAdd(NewItem values) {
       state_.InsertIndex = 0;
     }
 
-    ListItem* added = nullptr;
-    on.step([&] { added = &item(items.upperBound()); });
+    // Held, as dropping what stood in a field may let the host remove the item.
+    Ref<ListItem> added;
+    on.step([&] { added = items.slot(items.upperBound()); });
     if (added) writeFields(on, *added, values);
 
     if (state_.AutoRedraw.isTrue()) {

@@ -179,6 +179,27 @@ TEST_F(Items, HandlersInAYieldMayDoWhatTheyLike) {
   EXPECT_EQ(texts(), "b c d e f");
 }
 
+TEST_F(Items, AHostMayComeBackAsItsObjectsGo) {
+  struct Leaving : Object {
+    explicit Leaving(std::function<void()> last) : atEnd(std::move(last)) {}
+    ~Leaving() override { atEnd(); }
+    std::function<void()> atEnd;
+  };
+  const auto tag = [](std::function<void()> atEnd) {
+    return Variant(Ref<Object>(makeRef<Leaving>(std::move(atEnd))));
+  };
+  list.ItemTag(
+      0, tag([&] { list.ItemsAdd({.aText = "inner", .aTag = tag([&] { list.ItemsClear(); })}); }));
+  list.ItemsAdd({.aText = "outer", .aKey = "a key of some length"});
+  EXPECT_EQ(list.ItemsCount(), 0);
+
+  add({"a", "b"});
+  list.ItemTag(0, tag([&] { list.ItemsClear(); }));
+  list.ItemTag(0, 1);
+  EXPECT_EQ(list.ItemsCount(), 0);
+  EXPECT_EQ(reports(), "");
+}
+
 TEST_F(Items, ARepaintInAYieldMovesTheSharedPosition) {
   add({"a", "b", "c", "d"});
   headless.container().post([&] { list.Redraw(); });
