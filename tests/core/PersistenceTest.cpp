@@ -118,6 +118,9 @@ TEST_F(Persistence, AFormWithoutAmbientValuesIsServed) {
   list.UserControl_InitProperties();
   EXPECT_FALSE(list.Font());
   EXPECT_EQ(reports(), "");
+  PropertyBag bag;
+  list.UserControl_WriteProperties(bag);
+  EXPECT_TRUE(bag.properties().empty());
 
   struct Bare : HeadlessContainer {
     Boolean UserMode() override { throw Failure::invalidCall(); }
