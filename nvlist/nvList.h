@@ -98,7 +98,9 @@ class nvList final : public UserControl,
   /// Adds one item. `aIndex` is where it goes: -1, anything negative and anything from the number
   /// of items up mean the end; a text counts as the number it reads as, and one that reads as none
   /// is a failure, which leaves a blank item at the end (under SilentError the item itself). The
-  /// first item goes to 0 whatever `aIndex`.
+  /// first item goes to 0 whatever `aIndex`. Of a fraction the items behind it make room, and then
+  /// it is rounded: 0.5 puts the new item in the place of item 0, which is lost, and item 1 stands
+  /// twice.
   ///
   /// With AutoRedraw on the selection is dropped and ListIndex becomes -1; with AutoRedraw off both
   /// stay, even where an insert moves the items under them. The list is painted only while it holds
@@ -156,7 +158,8 @@ class nvList final : public UserControl,
 
   /// The first item whose text matches the pattern, or -1: ? is one character, * any run, # one
   /// digit, [abc] or [a-c] one of a set, [!abc] none of it. A pattern without these matches the
-  /// whole text only. A malformed pattern is a failure, which gives -1.
+  /// whole text only. A pattern that is malformed in either comparison is a failure, which gives -1
+  /// (under SilentError it matches nothing where that is the one asked for).
   std::int32_t IsInList(std::string_view sText, cFindCompare oCompare = cFindBinary);
 
   // ---- ordering: core/ordering.cpp ----
@@ -502,6 +505,7 @@ class nvList final : public UserControl,
   /// The item at an index; throws Failure 9 outside the bounds. Slot 0 of an empty list is in them.
   ListItem& item(std::int32_t index) { return state_.Items.touch(index); }
   void writeFields(Trap& on, ListItem& item, NewItem& values);
+  void moveLastTo(double index);
   void moveDownOnto(Trap& on, std::int32_t index);
   std::int32_t countItems(const char* procedure, Boolean ListItem::*mark);
   void updateAfterChange(Trap& on);
@@ -573,7 +577,7 @@ class nvList final : public UserControl,
 
   // render/scrollfit.cpp
   void CheckItemWidth();
-  void CheckItemWidth(std::int32_t Index);
+  void CheckItemWidth(const Variant& Index);
   void widenTo(ListItem& item);
   void addPadding(Trap& on);
   void fitHorizontal(Trap& on);

@@ -6,12 +6,14 @@ namespace norvane {
 namespace {
 
 bool isSame(const Variant& a, const Variant& b) {
-  if (const Ref<Object> object = a.object()) {
+  constexpr auto object = Variant::Type::Object;
+  if (a.type() == object || b.type() == object) {
+    const Ref<Object> one = a.object();
     const Ref<Object> other = b.object();
-    return other && object->isSame(*other);
+    return one && other ? one->isSame(*other) : a.type() == b.type() && one == other;
   }
   if (a.isText() || b.isText()) return a.isText() && b.isText() && a.text() == b.text();
-  return b.type() != Variant::Type::Object && a.toNumber() == b.toNumber();
+  return a.toNumber() == b.toNumber();
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include <nvlist/core/numbers.h>
 #include <nvlist/nvList.h>
 
+#include <cmath>
 #include <utility>
 
 namespace norvane {
@@ -41,8 +42,9 @@ void nvList::ItemsAdd(NewItem values) {
       state_.InsertIndex = 0;
     }
 
-    ListItem* added = nullptr;
-    on.step([&] { added = &item(items.upperBound()); });
+    // Held, as dropping what stood in a field may let the host remove the item.
+    Ref<ListItem> added;
+    on.step([&] { added = items.slot(items.upperBound()); });
     if (added) writeFields(on, *added, values);
 
     if (state_.AutoRedraw.isTrue()) {
@@ -52,16 +54,12 @@ void nvList::ItemsAdd(NewItem values) {
     }
 
     if (insert) {
-      on.step([&] {
-        const std::int32_t index = values.aIndex.toInt32();
-        items.moveLastTo(index);
-        state_.LoopIndex = index;
-      });
+      on.step([&] { moveLastTo(values.aIndex.toNumber()); });
       state_.InsertIndex = values.aIndex;
     }
     on.step([&] { state_.NewIndex = state_.InsertIndex.toInt32(); });
 
-    if (state_.AutoRedraw) on.step([&] { CheckItemWidth(state_.InsertIndex.toInt32()); });
+    if (state_.AutoRedraw) on.step([&] { CheckItemWidth(state_.InsertIndex); });
 
     // A row count plus a height: more rows than can be in view, and cheap to tell. Past it an added
     // item costs no repaint.
@@ -99,6 +97,21 @@ void nvList::writeFields(Trap& on, ListItem& item, NewItem& values) {
   on.step([&] {
     item.Key = values.aKey.isText() ? CompactText(values.aKey.text()) : values.aKey.toText();
   });
+}
+
+/// Moves the references from the next whole number on up by one, slot by slot, and stores the last
+/// item at the index. A fraction that is rounded down stores it over an item that made no room.
+void nvList::moveLastTo(double index) {
+  ItemStore& items = state_.Items;
+  const auto first = checked::nearest<std::int32_t>(std::ceil(index));
+  if (first == index) {
+    items.moveLastTo(first);
+  } else {
+    const Ref<ListItem> last = items.slot(items.upperBound());
+    items.moveOnto(items.upperBound(), first);
+    items.slot(checked::nearest<std::int32_t>(index)) = last;
+  }
+  state_.LoopIndex = first;
 }
 
 void nvList::ItemsRemove(Variant& Index) {

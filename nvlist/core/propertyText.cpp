@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
+#include <limits>
 #include <optional>
 
 #include <nvlist/core/Font.h>
@@ -127,7 +129,9 @@ std::optional<Variant> valueOf(std::string_view text) {
     if (const auto font = fontOf(trimmed(text.substr(fontWord.size())))) return font;
   const auto number = numberOf(text);
   if (!number) return Variant(text);
-  const bool isWhole = std::abs(*number) < 0x7FFFFFFF && std::trunc(*number) == *number;
+  constexpr double least = std::numeric_limits<std::int32_t>::min();
+  constexpr double greatest = std::numeric_limits<std::int32_t>::max();
+  const bool isWhole = *number >= least && *number <= greatest && std::trunc(*number) == *number;
   return isWhole ? Variant(static_cast<std::int32_t>(*number)) : Variant(*number);
 }
 

@@ -29,12 +29,15 @@ std::int32_t nvList::IsInList(std::string_view sText, cFindCompare oCompare) {
   trapped(here, "IsInList", [&](Trap& on) {
     if (!state_.ItemsDimensioned) return;
     state_.LoopIndex = 0;
-    std::optional<LikePattern> pattern;
-    on.step([&] { pattern.emplace(sText, oCompare == cFindText); });
-    const bool canMatch = pattern && (oCompare == cFindBinary || oCompare == cFindText);
+    // Both comparisons are made, whichever counts.
+    std::optional<LikePattern> binary, text;
+    on.step([&] { binary.emplace(sText, false); });
+    on.step([&] { text.emplace(sText, true); });
     on.step([&] {
-      found =
-          firstItem([&](const ListItem& item) { return canMatch && pattern->matches(item.Text); });
+      found = firstItem([&](const ListItem& item) {
+        return (oCompare == cFindBinary && binary && binary->matches(item.Text)) ||
+               (oCompare == cFindText && text && text->matches(item.Text));
+      });
     });
   });
   return found;

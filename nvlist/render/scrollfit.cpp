@@ -30,10 +30,10 @@ void nvList::CheckItemWidth() {
 
 /// Measures one item. The padding comes on top of a width that has some already, until all are
 /// measured again.
-void nvList::CheckItemWidth(std::int32_t Index) {
+void nvList::CheckItemWidth(const Variant& Index) {
   trapped(here, "CheckItemWidth", [&](Trap& on) {
     if (!state_.ItemsDimensioned) return;
-    on.step([&] { widenTo(item(Index)); });
+    on.step([&] { widenTo(item(Index.toInt32())); });
     addPadding(on);
   });
 }

@@ -54,7 +54,8 @@ TEST_F(Items, AnIndexSaysWhereAnItemGoes) {
   const Case cases[] = {{-1, "a b c x", 3},        {3, "a b c x", 3},   {99, "a b c x", 3},
                         {-7, "a b c x", 3},        {2, "a b x c", 2},   {0, "x a b c", 0},
                         {Variant(), "x a b c", 0}, {"1", "a x b c", 1}, {1.5, "a b x c", 2},
-                        {true, "a b c x", 3},      {2.5, "a b x c", 2}};
+                        {true, "a b c x", 3},      {1.4, "a x c c", 1}, {"0.5", "x b b c", 0},
+                        {2.5, "a b x x", 2}};
   for (const Case& c : cases) {
     list.ItemsClear();
     list.ItemsAdd("a", 99);
@@ -76,8 +77,10 @@ TEST_F(Items, AnIndexThatIsNoNumberLeavesTheItemAtTheEnd) {
   EXPECT_EQ(list.NewIndex(), 1);
 
   silent();
+  const std::int32_t width = list.state().MaxItemWidth;
   list.ItemsAdd("y", "front");
   EXPECT_EQ(texts(), "a b  y");
+  EXPECT_EQ(list.state().MaxItemWidth, width + 4);
   EXPECT_EQ(list.NewIndex(), 1);
   EXPECT_EQ(reports(), "");
 }
@@ -176,6 +179,27 @@ TEST_F(Items, HandlersInAYieldMayDoWhatTheyLike) {
   EXPECT_EQ(texts(), "b c d e f");
 }
 
+TEST_F(Items, AHostMayComeBackAsItsObjectsGo) {
+  struct Leaving : Object {
+    explicit Leaving(std::function<void()> last) : atEnd(std::move(last)) {}
+    ~Leaving() override { atEnd(); }
+    std::function<void()> atEnd;
+  };
+  const auto tag = [](std::function<void()> atEnd) {
+    return Variant(Ref<Object>(makeRef<Leaving>(std::move(atEnd))));
+  };
+  list.ItemTag(
+      0, tag([&] { list.ItemsAdd({.aText = "inner", .aTag = tag([&] { list.ItemsClear(); })}); }));
+  list.ItemsAdd({.aText = "outer", .aKey = "a key of some length"});
+  EXPECT_EQ(list.ItemsCount(), 0);
+
+  add({"a", "b"});
+  list.ItemTag(0, tag([&] { list.ItemsClear(); }));
+  list.ItemTag(0, 1);
+  EXPECT_EQ(list.ItemsCount(), 0);
+  EXPECT_EQ(reports(), "");
+}
+
 TEST_F(Items, ARepaintInAYieldMovesTheSharedPosition) {
   add({"a", "b", "c", "d"});
   headless.container().post([&] { list.Redraw(); });
@@ -266,8 +290,14 @@ TEST_F(Items, FindsByKeyAndByPattern) {
   EXPECT_EQ(list.IsInList("[z-a]"), -1);
   EXPECT_EQ(list.IsInList("[a", static_cast<cFindCompare>(2)), -1);
   EXPECT_EQ(reports(), "93 IsInList, 93 IsInList");
+  // Well-formed in one comparison alone.
+  EXPECT_EQ(list.IsInList("[Z-a]bc"), -1);
+  EXPECT_EQ(list.IsInList("[a-Z]bc", cFindText), -1);
+  EXPECT_EQ(reports(), "93 IsInList, 93 IsInList");
   silent();
   EXPECT_EQ(list.IsInList("[a"), -1);
+  EXPECT_EQ(list.IsInList("[Z-a]bc"), 0);
+  EXPECT_EQ(list.IsInList("[Z-a]bc", cFindText), -1);
 }
 
 TEST_F(Items, TextsOfAnyKindAreKept) {

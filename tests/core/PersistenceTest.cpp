@@ -118,6 +118,9 @@ TEST_F(Persistence, AFormWithoutAmbientValuesIsServed) {
   list.UserControl_InitProperties();
   EXPECT_FALSE(list.Font());
   EXPECT_EQ(reports(), "");
+  PropertyBag bag;
+  list.UserControl_WriteProperties(bag);
+  EXPECT_TRUE(bag.properties().empty());
 
   struct Bare : HeadlessContainer {
     Boolean UserMode() override { throw Failure::invalidCall(); }
@@ -151,6 +154,14 @@ TEST_F(Persistence, ReadingForgetsTheHandAndTheFormsLaterFont) {
   PropertyBag bag;
   list.UserControl_WriteProperties(bag);
   EXPECT_EQ(propertyText(bag), "");
+}
+
+TEST(PropertyText, KeepsEveryColour) {
+  for (const Colour colour : {systemColour(0), systemColour(1), -1, 65535, 65536, 0x7FFFFFFF}) {
+    PropertyBag bag;
+    bag.WriteProperty("c", colour, Variant());
+    EXPECT_EQ(propertiesOf(propertyText(bag)).ReadProperty("c", "").toInt32(), colour);
+  }
 }
 
 TEST(PropertyText, TellsTheLineThatCannotBeRead) {

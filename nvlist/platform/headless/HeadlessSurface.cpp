@@ -49,7 +49,11 @@ void HeadlessSurface::replay(Surface& onto) const {
 
 void HeadlessSurface::forget() {
   settingsOfImage_ = settings_;
-  image_.calls.clear();
+  // Aside, as a picture that goes may let the host draw. The room is used again.
+  std::vector<SurfaceCall> old;
+  old.swap(image_.calls);
+  old.clear();
+  if (image_.calls.empty()) image_.calls.swap(old);
 }
 
 void HeadlessSurface::Cls() {
