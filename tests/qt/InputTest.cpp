@@ -224,6 +224,8 @@ TEST_F(Input, TheKeysHaveTheirCodes) {
                {Qt::Key_Question, Qt::ShiftModifier, 191}, {Qt::Key_MediaPlay, {}, 0}};
   for (const auto& c : codes)
     EXPECT_EQ(keyCodeOf(QKeyEvent(QEvent::KeyPress, c.key, c.modifiers)), c.code) << c.key;
+  EXPECT_EQ(characterOf(QKeyEvent(QEvent::KeyPress, Qt::Key_Delete, {}, "\x7f")), 0);
+  EXPECT_EQ(characterOf(QKeyEvent(QEvent::KeyPress, Qt::Key_Backspace, {}, "\b")), 8);
   QTest::keyClick(list, Qt::Key_Tab);
   EXPECT_TRUE(after.hasFocus());
   QTest::keyClick(&after, Qt::Key_Backtab);
@@ -267,6 +269,9 @@ TEST_F(Input, AWheelIsHeardInItsMessages) {
   EXPECT_EQ(list->list().TopIndex(), 27);
   ASSERT_NE(list->childAt(190, 60), nullptr);
   turn(120, {}, {190, 60});
+  EXPECT_EQ(list->list().TopIndex(), 26);
+  list->setEnabled(false);
+  turn(120);
   EXPECT_EQ(list->list().TopIndex(), 26);
 }
 
