@@ -162,6 +162,12 @@ TEST_F(Drag, PastTheBottomItScrollsToTheEndAndOn) {
   dragPast(below, 20);
   EXPECT_EQ(after(1), "21, 30");
   EXPECT_EQ(after(2), "23, 32");
+  // The release of another button in the middle of it stops it as long as the pointer rests.
+  dragPast(below, 10);
+  form.press(besideZone, below, 2), form.release(besideZone, below, 2);
+  EXPECT_EQ(ticks(5), 0U);
+  form.moveTo(besideZone, 300, 1);
+  EXPECT_EQ(ticks(5), 5U);
   // A bottom that rows leave free belongs to the edge.
   release(0);
   list.AllowItemMoving(false);

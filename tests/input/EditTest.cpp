@@ -43,6 +43,7 @@ TEST_F(Edit, ThePressOfTheCurrentRowOpensTheBox) {
   EXPECT_EQ(editing(), "2 (1, 29) 197x14");
   click(3);
   EXPECT_EQ(editing(), "closed");
+  EXPECT_FALSE(box().hasFocus);
   doubleClick(4);
   EXPECT_EQ(editing(), "4 (1, 55) 197x14");
   auto font = makeRef<FontObject>();

@@ -59,6 +59,7 @@ class Input : public testing::Test, public __nvList {
   void Scroll() override { hear("Scroll"); }
   void KeyDown(std::int16_t& KeyCode, std::int16_t& Shift) override {
     hear("KeyDown(" + textOf(KeyCode) + " " + textOf(Shift) + ")");
+    if (swallowsKeys) KeyCode = 0;
   }
   void KeyPress(std::int16_t& KeyAscii) override { hear("KeyPress(" + textOf(KeyAscii) + ")"); }
   void KeyUp(std::int16_t& KeyCode, std::int16_t&) override {
@@ -123,6 +124,7 @@ class Input : public testing::Test, public __nvList {
   QLineEdit before, after;
   QPointer<NvListWidget> list;
   std::string told;
+  bool swallowsKeys = false;
   std::string endsIn = "none";  ///< the event in which the host ends the widget
 };
 
@@ -225,6 +227,13 @@ TEST_F(Input, TheKeysHaveTheirCodes) {
                {Qt::Key_Question, Qt::ShiftModifier, 191}, {Qt::Key_MediaPlay, {}, 0}};
   for (const auto& c : codes)
     EXPECT_EQ(keyCodeOf(QKeyEvent(QEvent::KeyPress, c.key, c.modifiers)), c.code) << c.key;
+  QKeyEvent repeat(QEvent::KeyRelease, Qt::Key_A, {}, "a", true);
+  QApplication::sendEvent(list, &repeat);
+  swallowsKeys = true;
+  QTest::keyPress(list, 'a');
+  EXPECT_EQ(heard(), "KeyDown(65 0)");
+  EXPECT_EQ(characterOf(QKeyEvent(QEvent::KeyPress, Qt::Key_Delete, {}, "\x7f")), 0);
+  EXPECT_EQ(characterOf(QKeyEvent(QEvent::KeyPress, Qt::Key_Backspace, {}, "\b")), 8);
   QTest::keyClick(list, Qt::Key_Tab);
   EXPECT_TRUE(after.hasFocus());
   QTest::keyClick(&after, Qt::Key_Backtab);
@@ -285,6 +294,9 @@ TEST_F(Input, AWheelIsHeardInItsMessages) {
   EXPECT_EQ(list->list().TopIndex(), 27);
   ASSERT_NE(list->childAt(190, 60), nullptr);
   turn(120, {}, {190, 60});
+  EXPECT_EQ(list->list().TopIndex(), 26);
+  list->setEnabled(false);
+  turn(120);
   EXPECT_EQ(list->list().TopIndex(), 26);
 }
 

@@ -133,6 +133,7 @@ void HeadlessContainer::press(float x, float y, std::int16_t button, std::int16_
   HeadlessContainer* const target = root_.pressed_ ? root_.pressed_ : hitOnForm(point);
   if (!target || !target->control_) return;
   root_.pressed_ = target;
+  root_.buttonsDown_ |= button;
   if (button == 1) root_.isDoubleClick_ = false;
   const Point own = target->fromRoot(point);
   target->control_->UserControl_MouseDown(button, shift, own.x, own.y);
@@ -143,6 +144,7 @@ void HeadlessContainer::doubleClick(float x, float y, std::int16_t button, std::
   HeadlessContainer* const target = hitOnForm(point);
   if (!target || !target->control_) return;
   root_.pressed_ = target;
+  root_.buttonsDown_ |= button;
   root_.isDoubleClick_ = button == 1 && target->control_->UserControl_DblClick();
   if (!root_.isDoubleClick_) press(x, y, button, shift);
 }
@@ -165,6 +167,7 @@ void HeadlessContainer::moveTo(float x, float y, std::int16_t buttons, std::int1
 
 void HeadlessContainer::release(float x, float y, std::int16_t button, std::int16_t shift) {
   HeadlessContainer* const target = root_.pressed_;
+  root_.buttonsDown_ &= ~button;
   if (!target || !target->control_) return;
   const Point point = onRoot({x, y});
   const Point own = target->fromRoot(point);
@@ -172,7 +175,7 @@ void HeadlessContainer::release(float x, float y, std::int16_t button, std::int1
   target->control_->UserControl_MouseUp(button, shift, own.x, own.y);
   // The handler may have ended the control.
   const bool isStillThere = root_.pressed_ == target;
-  root_.pressed_ = nullptr;
+  if (root_.buttonsDown_ == 0) root_.pressed_ = nullptr;
   if (isStillThere && isClick) target->control_->UserControl_Click();
 }
 

@@ -40,8 +40,8 @@ class HeadlessContainer : public Container {
   HeadlessClock& clock() { return root_.clock_; }
 
   // The mouse, at a position on this place's surface. It reaches the foremost visible control
-  // under it, whose UserControl_MouseDown says what the arguments mean. Between a press and the
-  // release everything reaches the control that was pressed.
+  // under it, whose UserControl_MouseDown says what the arguments mean. While a button is down
+  // everything reaches the control that was pressed.
   void press(float x, float y, std::int16_t button = 1, std::int16_t shift = 0);
   void moveTo(float x, float y, std::int16_t buttons = 0, std::int16_t shift = 0);
   void release(float x, float y, std::int16_t button = 1, std::int16_t shift = 0);
@@ -115,6 +115,7 @@ class HeadlessContainer : public Container {
   std::deque<std::function<void()>> queue_;
   HeadlessClock clock_;
   HeadlessContainer* pressed_ = nullptr;
+  int buttonsDown_ = 0;
   bool isDoubleClick_ = false;
   std::int32_t lastHandle_ = 0;
 

@@ -10,6 +10,11 @@ bool HeadlessTextBox::typeCharacter(std::int16_t KeyAscii) {
   return KeyAscii != 0;
 }
 
+void HeadlessTextBox::Visible(bool isVisible) {
+  isVisible_ = isVisible;
+  if (!isVisible) hasFocus = false;
+}
+
 void HeadlessTextBox::SetFocus() {
   if (refusesFocus) throw Failure::invalidCall();
   hasFocus = true;

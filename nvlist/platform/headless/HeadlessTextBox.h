@@ -34,7 +34,7 @@ class HeadlessTextBox final : public TextBox {
   Bounds place() const override { return place_; }
   void Move(const Bounds& bounds) override { place_ = bounds; }
   bool Visible() const override { return isVisible_; }
-  void Visible(bool isVisible) override { isVisible_ = isVisible; }
+  void Visible(bool isVisible) override;
   void SetFocus() override;
   void select(std::int32_t start, std::int32_t length) override;
 

@@ -74,7 +74,8 @@ std::int16_t keyCodeOf(const QKeyEvent& event) {
 
 std::int16_t characterOf(const QKeyEvent& event) {
   const QString text = event.text();
-  if (text.size() != 1) return 0;
+  // Qt has a character for Delete, which is none.
+  if (text.size() != 1 || event.key() == Qt::Key_Delete) return 0;
   const char16_t character = text[0].unicode();
   return character <= std::numeric_limits<std::int16_t>::max()
              ? static_cast<std::int16_t>(character)

@@ -294,7 +294,7 @@ bool QtPlace::keyEvent(QEvent* event) {
 bool QtPlace::wheelEvent(QEvent* event) {
   const auto* wheel = static_cast<const QWheelEvent*>(event);
   const int turn = std::clamp(wheel->angleDelta().y(), -32768, 32767);
-  if (!wheelProcedure_ || turn == 0) return false;
+  if (!wheelProcedure_ || !widget_->isEnabled() || turn == 0) return false;
   const QPoint position = wheel->globalPosition().toPoint();
   const auto packed = [](int high, int low) { return high * 0x10000 + (low & 0xFFFF); };
   event->accept();

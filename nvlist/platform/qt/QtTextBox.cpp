@@ -77,7 +77,6 @@ void QtTextBox::Visible(bool isVisible) {
   // Hiding the widget with the focus would hand it to whatever comes next.
   if (!isVisible && edit_->hasFocus()) edit_->parentWidget()->setFocus();
   if (edit_) edit_->setVisible(isVisible);
-  if (edit_ && isVisible) edit_->raise();
 }
 
 void QtTextBox::SetFocus() {

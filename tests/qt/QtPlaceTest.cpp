@@ -1,0 +1,77 @@
+#include <nvlist/platform/qt/QtPlace.h>
+
+#include <gtest/gtest.h>
+
+#include <QLineEdit>
+#include <QTest>
+#include <QWheelEvent>
+#include <functional>
+
+#include <nvlist/objects/Failure.h>
+#include <nvlist/platform/UserControl.h>
+#include <nvlist/platform/qt/QtTextBox.h>
+#include <nvlist/platform/qt/QtTimer.h>
+
+namespace norvane {
+namespace {
+
+TEST(QtPlaceTest, PacksAMessageOfTheWheel) {
+  struct Control : UserControl {
+    explicit Control(Container& place) : UserControl(place) {}
+  };
+  QWidget widget;
+  QtPlace place(widget, nullptr);
+  Control control(place);
+  std::uint32_t first = 0;
+  std::uint32_t second = 0;
+  place.hookWheel([&](std::int32_t wParam, std::int32_t lParam) {
+    first = static_cast<std::uint32_t>(wParam);
+    second = static_cast<std::uint32_t>(lParam);
+  });
+  const auto turn = [&](int delta) {
+    QWheelEvent event({1, 2}, {258, -2}, {}, {0, delta}, Qt::MiddleButton | Qt::RightButton,
+                      Qt::ControlModifier, Qt::NoScrollPhase, false);
+    return place.event(&event);
+  };
+  EXPECT_TRUE(turn(-120));
+  EXPECT_EQ(first, 0xFF88001A);  // 2 right, 8 Ctrl, 16 middle
+  EXPECT_EQ(second, 0xFFFE0102);
+  EXPECT_TRUE(turn(100000));
+  EXPECT_EQ(first, 0x7FFF001A);
+  place.hookWheel({});
+  EXPECT_FALSE(turn(-120));
+}
+
+TEST(QtTextBoxTest, CountsCharactersAndTakesTheFocusOnlyWhereItShows) {
+  QWidget form;
+  QtTextBox box(
+      form, [](std::int16_t&) {}, [](QEvent::Type) {});
+  const QLineEdit& edit = *form.findChild<QLineEdit*>();
+  EXPECT_FALSE(edit.hasFrame());
+  box.Text("a\U0001F600b\U0001F600");
+  const auto selected = [&](std::int32_t start, std::int32_t length) {
+    box.select(start, length);
+    return edit.selectedText().toStdString();
+  };
+  EXPECT_EQ(selected(1, 2), "\U0001F600b");
+  EXPECT_EQ(selected(2, INT32_MAX), "b\U0001F600");
+  box.Visible(true);
+  EXPECT_TRUE(box.Visible());
+  EXPECT_THROW(box.SetFocus(), Failure);
+}
+
+TEST(QtTimerTest, BeginsItsIntervalAnewWhenThatIsSet) {
+  int ticks = 0;
+  const auto hasTicked = [&] { return std::exchange(ticks, 0) > 0; };
+  QtTimer timer([&] { ++ticks; });
+  timer.Enabled(true);
+  timer.Interval(1000000);
+  timer.Interval(100);
+  // Turning on what is on leaves it running.
+  EXPECT_TRUE(QTest::qWaitFor([&] { return timer.Enabled(true), hasTicked(); }));
+  timer.Interval(0);
+  EXPECT_FALSE(QTest::qWaitFor(hasTicked, 150));
+}
+
+}  // namespace
+}  // namespace norvane
