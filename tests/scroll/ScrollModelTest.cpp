@@ -304,6 +304,12 @@ TYPED_TEST(ScrollModel, ADisabledBarHasNoThumbAndHearsNoMouse) {
   EXPECT_EQ(this->shown(this->farButton), 1);
 }
 
+TYPED_TEST(ScrollModel, ShowsTheAboutBox) {
+  this->bar.About();
+  ASSERT_EQ(this->application.boxes.size(), 1U);
+  EXPECT_EQ(this->application.boxes[0].title, "About nvList");
+}
+
 TYPED_TEST(ScrollModel, KeepsItsPropertiesInAStore) {
   PropertyBag bag;
   this->bar.UserControl_WriteProperties(bag);
