@@ -53,7 +53,8 @@ class Container {
   virtual void move(const Bounds& bounds) = 0;
   /// Shows or hides it. A new place shows.
   virtual void show(bool isVisible) = 0;
-  /// Whether the control and those in it hear the mouse. A new place does.
+  /// Whether the control and those in it hear the mouse. A new place does. The end of a press is
+  /// heard all the same: a button that is held repeats until then.
   virtual void enable(bool isEnabled) = 0;
 
   /// From now on the control hears moves also where the pointer is outside of it, until

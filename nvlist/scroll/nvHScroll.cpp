@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <nvlist/core/numbers.h>
+#include <nvlist/objects/about.h>
 #include <nvlist/platform/Application.h>
 #include <nvlist/render/gradient.h>
 
@@ -141,6 +142,10 @@ void nvHScroll::BackColor(Colour value) {
     on.step([&] { container_.PropertyChanged("BackColor"); });
     on.step([&] { Redraw(); });
   });
+}
+
+void nvHScroll::About() {
+  trapped(here, "About", [&](Trap& on) { on.step([] { showAboutBox(); }); });
 }
 
 void nvHScroll::SetNewProperty(const PropertyBag& Bag) {

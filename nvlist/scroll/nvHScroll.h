@@ -74,6 +74,8 @@ class nvHScroll final : public UserControl,
   /// False: a white track without a thumb, and no mouse. Default: true.
   Boolean Enabled() const { return state_.Enabled; }
   void Enabled(Boolean value);
+  /// Shows a box with the name and the version of the library.
+  void About();
 
   /// Takes the colours of the custom style: ScrollBackColor for the track; ScrollBar, ScrollBarDown
   /// and ScrollBarHover for the thumb; ScrollArrows, ScrollArrowsDown, ScrollArrowsHover,

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <nvlist/core/numbers.h>
+#include <nvlist/objects/about.h>
 #include <nvlist/platform/Application.h>
 #include <nvlist/render/gradient.h>
 
@@ -117,6 +118,10 @@ void nvVScroll::Enabled(Boolean value) {
     on.step([&] { container_.PropertyChanged("Enabled"); });
     on.step([&] { Redraw(); });
   });
+}
+
+void nvVScroll::About() {
+  trapped(here, "About", [&](Trap& on) { on.step([] { showAboutBox(); }); });
 }
 
 void nvVScroll::UserControl_InitProperties() {

@@ -72,6 +72,8 @@ class nvVScroll final : public UserControl,
   /// False: a white track without a thumb, and no mouse. Default: true.
   Boolean Enabled() const { return state_.Enabled; }
   void Enabled(Boolean value);
+  /// Shows a box with the name and the version of the library.
+  void About();
 
   /// A free text of the owner. Default: "False".
   const std::string& Tag() const { return tag_; }

@@ -4,9 +4,12 @@
 
 #include <QApplication>
 #include <QBoxLayout>
+#include <QDialog>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QTest>
 #include <QTimer>
+#include <QWindow>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -94,6 +97,60 @@ TYPED_TEST(NvScrollWidgetTest, theThumbFitsEachNewLength) {
   EXPECT_EQ(lengthOfThumb(), 300 - 34 - 100);
   this->length(150);
   EXPECT_EQ(lengthOfThumb(), 150 - 34 - 100);
+}
+
+TYPED_TEST(NvScrollWidgetTest, theThumbStandsByItsValueAtEachNewLength) {
+  this->widget->bar().Value(100);
+  for (const int length : {300, 150}) {
+    this->length(length);
+    const QRect thumb = this->widget->childAt(this->at(length - 18))->geometry();
+    EXPECT_EQ(TestFixture::isVertical ? thumb.bottom() : thumb.right(), length - 18);
+  }
+}
+
+TYPED_TEST(NvScrollWidgetTest, aPressEndsAlsoWhereAHandlerTakesTheMouseAway) {
+  const std::function<void()> deeds[] = {[this] { this->widget->bar().Enabled(false); },
+                                         [] {
+                                           QDialog dialog;
+                                           dialog.setModal(true);
+                                           dialog.show();
+                                           QTest::qWait(5);
+                                         },
+                                         [this] { this->form.hide(); }};
+  // The far button and the track.
+  for (const int place : {195, 130})
+    for (const auto& deed : deeds) {
+      this->widget->bar().Value(0);
+      this->widget->onChange = [&] {
+        this->tell("Change");
+        deed();
+      };
+      QWindow* const window = this->form.windowHandle();
+      const auto release = [&] {
+        QTest::mouseRelease(window, Qt::LeftButton, {}, this->at(place));
+      };
+      QTest::mousePress(window, Qt::LeftButton, {}, this->at(place));
+      // A hidden window may never hear of it.
+      const bool isHidden = !this->form.isVisible();
+      if (!isHidden) release();
+      EXPECT_EQ(this->heard(), "Change 1");
+      QTest::qWait(700);
+      EXPECT_EQ(this->heard(), "");
+      this->widget->bar().Enabled(true);
+      this->form.show();
+      if (isHidden) release();
+    }
+  // The thumb is not left hanging where the mouse has had it.
+  this->widget->onChange = nullptr;
+  this->widget->onScroll = deeds[1];
+  QWindow* const window = this->form.windowHandle();
+  QTest::mousePress(window, Qt::LeftButton, {}, this->at(50));
+  QTest::mouseMove(window, this->at(60));
+  QTest::mouseRelease(window, Qt::LeftButton, {}, this->at(60));
+  QTest::qWait(10);
+  this->widget->bar().Value(0);
+  const QPoint thumb = this->widget->childAt(this->at(20))->pos();
+  EXPECT_EQ(TestFixture::isVertical ? thumb.y() : thumb.x(), 17);
 }
 
 TYPED_TEST(NvScrollWidgetTest, mayEndInAHandlerOfItsOwn) {

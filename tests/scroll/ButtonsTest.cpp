@@ -102,9 +102,14 @@ TYPED_TEST(Buttons, AreAsLargeAsTheirPictures) {
 }
 
 struct Counter final : VBtnUpEvents, VBtnLeftEvents {
-  void VBtnUp1_ValueUp() override { ++count; }
-  void VBtnLeft1_ValueUp() override { ++count; }
+  void VBtnUp1_ValueUp() override { step(); }
+  void VBtnLeft1_ValueUp() override { step(); }
+  void step() {
+    ++count;
+    onStep();
+  }
   int count = 0;
+  std::function<void()> onStep = [] {};
 };
 
 template <class Button>
@@ -115,6 +120,18 @@ class AloneTest : public ListTest {
   Button button{form.addChild(), counter};
   HeadlessContainer& place = *form.children()[0];
 };
+
+using BothAlone = testing::Types<VBtnUp, VBtnLeft>;
+TYPED_TEST_SUITE(AloneTest, BothAlone);
+
+TYPED_TEST(AloneTest, TheDelayBeginsWhenTheFirstStepIsDone) {
+  this->button.UserControl_MouseMove(0, 0, 1, 1);
+  this->counter.onStep = [&] {
+    if (this->counter.count == 1) this->form.clock().advance(std::chrono::milliseconds(2000));
+  };
+  this->button.UserControl_MouseDown(1, 0, 1, 1);
+  EXPECT_EQ(this->counter.count, 1);
+}
 
 using VerticalAlone = AloneTest<VBtnUp>;
 using HorizontalAlone = AloneTest<VBtnLeft>;

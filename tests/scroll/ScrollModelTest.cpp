@@ -1,5 +1,6 @@
 #include "Bars.h"
 
+#include <cmath>
 #include <limits>
 #include <random>
 
@@ -30,6 +31,24 @@ TYPED_TEST(ScrollModel, TheThumbIsShorterByAPixelForEachUnitOfTheMaximum) {
   this->showAnew();
   EXPECT_EQ(this->thumbLength(), 166);
   EXPECT_EQ(this->reports(), "");
+}
+
+/// A platform of whole pixels.
+struct Rounding : HeadlessContainer {
+  void move(const Bounds& bounds) override {
+    HeadlessContainer::move(
+        {bounds.Left, bounds.Top, std::round(bounds.Width), std::round(bounds.Height)});
+  }
+};
+
+TYPED_TEST(ScrollModel, TheVerticalThumbGoesByTheLengthGivenAndTheOtherByTheOneTaken) {
+  auto own = std::make_unique<Rounding>();
+  const Rounding& place = *own;
+  TypeParam bar(std::move(own), *this);
+  bar.UserControl_InitProperties();
+  this->isVertical ? bar.Height(200.25F) : bar.Width(200.25F);
+  bar.Visible(true);
+  EXPECT_EQ(this->lengthOf(place.children()[0]->bounds()), this->isVertical ? 66.25F : 66);
 }
 
 TYPED_TEST(ScrollModel, TheThumbStandsByTheValueAndAtTheEndsExactly) {
@@ -111,6 +130,15 @@ TYPED_TEST(ScrollModel, ADragRoundsHalvesToEvenAndStopsAtTheButtons) {
   EXPECT_EQ(this->heard(), "Scroll 53, Change 53");
   this->moveTo(90, 8, 0);
   EXPECT_EQ(this->thumbAt(), 23);
+
+  // From beyond the far end any move brings it back, from before the near end only one that way.
+  for (const std::int32_t value : {102, 49}) {
+    this->bar.Value(value);
+    const float before = this->thumbAt();
+    this->drag(0);
+    EXPECT_EQ(this->thumbAt(), value == 102 ? 117 : before);
+    this->release();
+  }
 }
 
 TYPED_TEST(ScrollModel, WithoutActiveScrollingTheValueWaitsForTheRelease) {
@@ -216,6 +244,10 @@ TYPED_TEST(ScrollModel, ARangeBeyondTheNumbersIsReportedAndKept) {
   EXPECT_EQ(this->reports(), "6 GetIMX");
   EXPECT_EQ(this->bar.Min(), -2);
   for (int i = 0; i < 2; ++i) {
+    this->bar.Value(-2);
+    EXPECT_EQ(this->reports(), "6 GetIMX");
+  }
+  for (int i = 0; i < 2; ++i) {
     this->bar.Value(highest - 1);
     EXPECT_EQ(this->reports(), "6 GetIMX, 6 Redraw");
   }
@@ -258,10 +290,14 @@ TYPED_TEST(ScrollModel, TheTrackStepsUntilTheThumbReachesThePress) {
   this->release();
   this->wait(1000);
   EXPECT_EQ(this->heardAt(), this->isVertical ? "0 600" : "0 350 450 550 650");
-  // Beside the thumb a press does nothing.
-  this->press(this->thumbAt(), 0);
-  this->wait(1000);
+  // Beside the thumb a press does nothing, nor does one right at its end.
+  for (const auto& [along, across] : {std::pair(0.0F, 0.0F), {this->thumbLength(), 8.0F}}) {
+    this->press(this->thumbAt() + along, across);
+    this->wait(1000);
+    this->release();
+  }
   EXPECT_EQ(this->heardAt(), "");
+  EXPECT_EQ(this->bar.state().PageDirection, 0);
 }
 
 TYPED_TEST(ScrollModel, AStepBeyondThePressGoesBack) {
@@ -302,6 +338,12 @@ TYPED_TEST(ScrollModel, ADisabledBarHasNoThumbAndHearsNoMouse) {
   this->bar.Enabled(true);
   EXPECT_TRUE(this->thumb.isShown());
   EXPECT_EQ(this->shown(this->farButton), 1);
+}
+
+TYPED_TEST(ScrollModel, ShowsTheAboutBox) {
+  this->bar.About();
+  ASSERT_EQ(this->application.boxes.size(), 1U);
+  EXPECT_EQ(this->application.boxes[0].title, "About nvList");
 }
 
 TYPED_TEST(ScrollModel, KeepsItsPropertiesInAStore) {

@@ -85,8 +85,9 @@ QSize NvScrollWidget<Bar>::minimumSizeHint() const {
 template <class Bar>
 void NvScrollWidget<Bar>::resizeEvent(QResizeEvent*) {
   bar().Move({0, 0, static_cast<float>(width()), static_cast<float>(height())});
-  // Where the thumb takes its length from the new one.
+  // Where the thumb takes its length from the new one, and then its place.
   bar().UserControl_Show();
+  bar().Value(bar().Value());
 }
 
 template class NvScrollWidget<nvVScroll>;

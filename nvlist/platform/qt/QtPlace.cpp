@@ -47,6 +47,26 @@ class ChildWidget final : public QWidget, public QtPlace {
   void paintEvent(QPaintEvent*) override { paint(); }
 };
 
+/// Tells when a window that is being pressed will not hear of the release: it has gone, or a modal
+/// dialog stands in front of it.
+class HoldWatch final : public QObject {
+ public:
+  HoldWatch(QWidget& window, std::function<void()> onLost) : onLost_(std::move(onLost)) {
+    window.installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    // Not at once: this may be in the middle of the press.
+    if (event->type() == QEvent::WindowBlocked || event->type() == QEvent::Hide)
+      QTimer::singleShot(0, this, onLost_);
+    return false;
+  }
+
+ private:
+  const std::function<void()> onLost_;
+};
+
 }  // namespace
 
 QtPlace::QtPlace(QWidget& widget, QtPlace* around) : widget_(&widget), around_(around) {
@@ -223,10 +243,11 @@ bool QtPlace::hear(QEvent* event) {
 
 /// A handler of the host may end the widget: nothing is done behind the call of the control.
 bool QtPlace::mouseEvent(QEvent* event) {
-  // What a disabled control covers hears nothing either.
-  if (!widget_->isEnabled()) return around_ && around_->widget_->isEnabled();
   const auto* mouse = static_cast<const QMouseEvent*>(event);
   const std::int16_t button = buttonsOf(mouse->button());
+  const bool isLettingGo = event->type() == QEvent::MouseButtonRelease && (held_ & button) != 0;
+  // What a disabled control covers hears nothing either.
+  if (!widget_->isEnabled() && !isLettingGo) return around_ && around_->widget_->isEnabled();
   const std::int16_t shift = shiftOf(mouse->modifiers());
   const auto x = static_cast<float>(mouse->position().x());
   const auto y = static_cast<float>(mouse->position().y());
@@ -241,6 +262,7 @@ bool QtPlace::mouseEvent(QEvent* event) {
     const QPointer<QWidget> guard(widget_);
     const bool isClick = mouse->button() == Qt::LeftButton && !isDoubleClick_ &&
                          widget_->rect().contains(mouse->position().toPoint());
+    letGo(button);
     control_->UserControl_MouseUp(button, shift, x, y);
     if (guard && isClick && control_) control_->UserControl_Click();
     return true;
@@ -253,8 +275,29 @@ bool QtPlace::mouseEvent(QEvent* event) {
     isDoubleClick_ = isHeard;
     if (isHeard) return true;
   }
+  hold(button);
   control_->UserControl_MouseDown(button, shift, x, y);
   return true;
+}
+
+/// A part of a bar acts for as long as it is held, so it must hear of the end of every press.
+void QtPlace::hold(std::int16_t button) {
+  if (!around_) return;
+  held_ = static_cast<std::int16_t>(held_ | button);
+  holdWatch_ = std::make_unique<HoldWatch>(*widget_->window(), [this] { releaseLost(); });
+}
+
+void QtPlace::letGo(std::int16_t button) {
+  held_ = static_cast<std::int16_t>(held_ & ~button);
+  if (held_ == 0) holdWatch_.reset();
+}
+
+void QtPlace::releaseLost() {
+  for (const std::int16_t button : {1, 2, 4}) {
+    if ((held_ & button) == 0) continue;
+    letGo(button);
+    if (control_) control_->UserControl_MouseUp(button, 0, -1, -1);
+  }
 }
 
 /// A control that holds the capture hears of the pointer outside. No pointer is grabbed for it.

@@ -69,6 +69,9 @@ class QtPlace : public Container {
   bool isFocusInside() const;
   void pointerLeft();
   void newImage();
+  void hold(std::int16_t button);
+  void letGo(std::int16_t button);
+  void releaseLost();
   void renewImage();
 
   QWidget* widget_;
@@ -82,6 +85,9 @@ class QtPlace : public Container {
   bool hasCapture_ = false;
   bool isDoubleClick_ = false;
   bool isEntered_ = false;
+  /// The buttons that a control inside another one is held with, and what watches over that.
+  std::int16_t held_ = 0;
+  std::unique_ptr<QObject> holdWatch_;
 };
 
 }  // namespace norvane
