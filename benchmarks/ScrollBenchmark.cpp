@@ -26,6 +26,7 @@ void send(QWidget& widget, QEvent::Type type, QPointF point) {
 struct ScrolledList {
   explicit ScrolledList(int count) : widget(makeNvList(false)) {
     fill(widget->list(), count);
+    widget->list().AutoCheckScroll(true);
     widget->list().AutoRedraw(true);
     widget->show();
     QApplication::processEvents();
@@ -85,7 +86,6 @@ void addMeasuring(int count) {
       work, subject::nvList, count,
       [count] {
         auto widget = makeNvList(false);
-        widget->list().AutoCheckScroll(false);
         fill(widget->list(), count);
         return widget;
       },

@@ -49,6 +49,7 @@ const std::vector<std::string>& keys(int count) {
 std::unique_ptr<norvane::NvListWidget> makeNvList(bool isShown) {
   auto widget = std::make_unique<norvane::NvListWidget>();
   widget->list().AutoRedraw(isShown);
+  if (!isShown) widget->list().AutoCheckScroll(false);
   place(*widget, isShown);
   return widget;
 }
@@ -65,11 +66,13 @@ std::unique_ptr<QListWidget> makeListWidget(bool isShown) {
 std::unique_ptr<norvane::HeadlessList> makeHeadlessList() {
   auto list = std::make_unique<norvane::HeadlessList>(400.0F, 300.0F);
   list->list().AutoRedraw(false);
+  list->list().AutoCheckScroll(false);
   return list;
 }
 
 void fill(norvane::nvList& list, int count) {
   for (const std::string& text : texts(count)) list.ItemsAdd(text);
+  if (!list.AutoCheckScroll()) list.CheckScroll();
 }
 
 void fill(QListWidget& list, int count) {

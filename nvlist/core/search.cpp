@@ -33,11 +33,11 @@ std::int32_t nvList::IsInList(std::string_view sText, cFindCompare oCompare) {
     std::optional<LikePattern> binary, text;
     on.step([&] { binary.emplace(sText, false); });
     on.step([&] { text.emplace(sText, true); });
+    const auto& pattern = oCompare == cFindText ? text : binary;
+    const bool canMatch = pattern && (oCompare == cFindBinary || oCompare == cFindText);
     on.step([&] {
-      found = firstItem([&](const ListItem& item) {
-        return (oCompare == cFindBinary && binary && binary->matches(item.Text)) ||
-               (oCompare == cFindText && text && text->matches(item.Text));
-      });
+      found =
+          firstItem([&](const ListItem& item) { return canMatch && pattern->matches(item.Text); });
     });
   });
   return found;
