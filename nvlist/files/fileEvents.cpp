@@ -23,6 +23,8 @@ void nvList::raise(Trap& on, void (__nvList::*event)()) {
 }
 
 void nvList::raiseAtLoopIndex(void (__nvList::*event)(Variant& Index)) {
+  // Once an item, of which there may be a million.
+  if (sinks_.isEmpty()) return;
   Variant index = state_.LoopIndex;
   const Variant told = index;
   sinks_.raise([&](__nvList& sink) { (sink.*event)(index); });

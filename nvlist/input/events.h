@@ -72,6 +72,7 @@ class EventSinks {
   /// Removing one that is not there changes nothing.
   void remove(__nvList& sink);
   void removeAll();
+  bool isEmpty() const { return sinks_.empty(); }
 
   template <class Event>
   void raise(Event&& event) {
