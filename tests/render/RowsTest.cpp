@@ -195,6 +195,8 @@ TEST_F(Rows, ARowIsMeasuredWithTheFontOfTheRowAbove) {
   list.ItemItalic(1, true);
   list.ItemBold(1, true);
   list.Redraw();
+  EXPECT_NE(headless.picture().find("FontBold on\nFontItalic off\nFontUnderline on\n"),
+            std::string::npos);
   EXPECT_NE(headless.picture().find("FontBold on\nFontItalic on\nFontUnderline off\n"),
             std::string::npos);
   // The first row is measured with what the last one of the repaint before has left.
