@@ -38,8 +38,6 @@ TEST(QtPlaceTest, PacksAMessageOfTheWheel) {
   EXPECT_EQ(second, 0xFFFE0102);
   EXPECT_TRUE(turn(100000));
   EXPECT_EQ(first, 0x7FFF001A);
-  place.hookWheel({});
-  EXPECT_FALSE(turn(-120));
 }
 
 TEST(QtTextBoxTest, CountsCharactersAndTakesTheFocusOnlyWhereItShows) {
@@ -47,16 +45,10 @@ TEST(QtTextBoxTest, CountsCharactersAndTakesTheFocusOnlyWhereItShows) {
   QtTextBox box(
       form, [](std::int16_t&) {}, [](QEvent::Type) {});
   const QLineEdit& edit = *form.findChild<QLineEdit*>();
-  EXPECT_FALSE(edit.hasFrame());
   box.Text("a\U0001F600b\U0001F600");
-  const auto selected = [&](std::int32_t start, std::int32_t length) {
-    box.select(start, length);
-    return edit.selectedText().toStdString();
-  };
-  EXPECT_EQ(selected(1, 2), "\U0001F600b");
-  EXPECT_EQ(selected(2, INT32_MAX), "b\U0001F600");
+  box.select(2, INT32_MAX);
+  EXPECT_EQ(edit.selectedText().toStdString(), "b\U0001F600");
   box.Visible(true);
-  EXPECT_TRUE(box.Visible());
   EXPECT_THROW(box.SetFocus(), Failure);
 }
 

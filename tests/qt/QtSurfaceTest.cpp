@@ -55,7 +55,6 @@ class QtSurfaceTest : public testing::Test {
   }
 
   QRect box(std::string_view text) { return ink(drawn(text)); }
-
   QRect line(LineMode mode, float x1, float y1, float x2, float y2) {
     surface.Cls();
     surface.Line(mode, x1, y1, x2, y2, red);
@@ -71,23 +70,19 @@ TEST_F(QtSurfaceTest, boxesIncludeTheirEdgesAndLinesLeaveOutTheirLastPoint) {
   EXPECT_EQ(line(LineMode::filledBox, 0, 0, 9, 9), QRect(0, 0, 10, 10));
   EXPECT_EQ(surface.image().pixel(5, 5), redPixel);
   EXPECT_EQ(line(LineMode::outlineBox, 20, 10, 3, 4), QRect(3, 4, 18, 7));
-  EXPECT_EQ(surface.image().pixel(20, 7), redPixel);
   EXPECT_EQ(surface.image().pixel(19, 9), white);
   EXPECT_EQ(surface.CurrentX(), 3);
   EXPECT_EQ(surface.CurrentY(), 4);
   EXPECT_EQ(line(LineMode::plainLine, 7, 3, 2, 3), QRect(3, 3, 5, 1));
   EXPECT_EQ(line(LineMode::plainLine, 9, 1, 0, 10), QRect(1, 1, 9, 9));
-  for (int i = 0; i < 9; ++i) EXPECT_EQ(surface.image().pixel(9 - i, 1 + i), redPixel) << i;
-  EXPECT_EQ(line(LineMode::plainLine, 5, 2, 5, 9), QRect(5, 2, 1, 7));
+  EXPECT_EQ(surface.image().pixel(5, 5), redPixel);
   EXPECT_TRUE(line(LineMode::plainLine, 5, 5, 5, 5).isEmpty());
   surface.PSet(7, 3, red);
   EXPECT_EQ(ink(surface.image()), QRect(7, 3, 1, 1));
-  EXPECT_EQ(surface.CurrentX(), 7);
 }
 
 TEST_F(QtSurfaceTest, coordinatesAreRoundedAndClipped) {
   EXPECT_EQ(line(LineMode::filledBox, 0.5F, 1.5F, 2.5F, 3.5F), QRect(QPoint(0, 2), QPoint(2, 4)));
-  EXPECT_EQ(line(LineMode::filledBox, -0.5F, 0, 3.4F, 0), QRect(0, 0, 4, 1));
   EXPECT_EQ(line(LineMode::filledBox, -1e30F, 100, 1e30F, 1e30F), QRect(0, 100, 400, 20));
   EXPECT_EQ(line(LineMode::outlineBox, -1, -1, 400, 120), QRect());
   EXPECT_EQ(line(LineMode::plainLine, -1e9F, -1e9F, 1e9F, 1e9F), QRect(0, 0, 120, 120));
@@ -96,10 +91,8 @@ TEST_F(QtSurfaceTest, coordinatesAreRoundedAndClipped) {
 TEST_F(QtSurfaceTest, edgesStaySharpAtEveryRatio) {
   renew(2);
   EXPECT_EQ(surface.ScaleWidth(), 400);
-  EXPECT_EQ(surface.image().size(), QSize(800, 240));
   EXPECT_EQ(line(LineMode::filledBox, 3, 4, 5, 4), QRect(6, 8, 6, 2));
   renew(1.25);
-  surface.Cls();
   for (int y = 0; y < 120; ++y)
     surface.Line(LineMode::filledBox, 0, static_cast<float>(y), 399, static_cast<float>(y), red);
   for (int y = 0; y < 150; ++y) ASSERT_EQ(surface.image().pixel(499, y), redPixel) << y;
@@ -108,22 +101,16 @@ TEST_F(QtSurfaceTest, edgesStaySharpAtEveryRatio) {
 TEST_F(QtSurfaceTest, theFocusRectIsDottedAndUndoneByASecond) {
   surface.DrawFocusRect(surface.hDC(), {2, 2, 9, 7});
   EXPECT_EQ(ink(surface.image()), QRect(2, 2, 7, 5));
-  EXPECT_EQ(surface.image().pixel(4, 2), 0xFF000000);
-  EXPECT_EQ(surface.image().pixel(5, 2), white);
-  EXPECT_EQ(surface.image().pixel(4, 4), white);
-
-  for (const qreal dpr : {1.0, 2.0, 1.5}) {
-    renew(dpr);
-    surface.Line(LineMode::filledBox, 0, 0, 30, 30, 0x123456);
-    const QImage before = surface.image().copy();
-    for (const Rectangle& where :
-         {Rectangle{3, 4, 20, 12}, Rectangle{3, 4, 20, 5}, Rectangle{3, 4, 4, 20},
-          Rectangle{lowest, 2, huge, huge}, Rectangle{9, 4, 9, 12}, Rectangle{9, 4, 3, 12}}) {
-      surface.DrawFocusRect(surface.hDC(), where);
-      EXPECT_EQ(surface.image() == before, where.Right <= where.Left) << where.Bottom;
-      if (where.Right > where.Left) surface.DrawFocusRect(surface.hDC(), where);
-      EXPECT_EQ(surface.image(), before) << where.Bottom;
-    }
+  EXPECT_NE(surface.image().pixel(4, 2), surface.image().pixel(5, 2));
+  renew(1.5);
+  surface.Line(LineMode::filledBox, 0, 0, 30, 30, 0x123456);
+  const QImage before = surface.image().copy();
+  for (const Rectangle& where :
+       {Rectangle{3, 4, 20, 12}, Rectangle{3, 4, 20, 5}, Rectangle{3, 4, 4, 20},
+        Rectangle{lowest, 2, huge, huge}, Rectangle{9, 4, 3, 12}}) {
+    surface.DrawFocusRect(surface.hDC(), where);
+    surface.DrawFocusRect(surface.hDC(), where);
+    EXPECT_EQ(surface.image(), before) << where.Bottom;
   }
 }
 
@@ -131,17 +118,11 @@ TEST_F(QtSurfaceTest, measuresWholePixelsAndEveryKindOfLineBreak) {
   const float height = surface.TextHeight("");
   EXPECT_EQ(height, std::nearbyint(height));
   EXPECT_EQ(surface.TextHeight("a\r\nb\nc\rd"), 4 * height);
-  EXPECT_EQ(surface.TextHeight("a\n"), 2 * height);
   EXPECT_EQ(surface.TextHeight("\n"), 2 * height);
-  EXPECT_EQ(surface.TextWidth(""), 0);
   EXPECT_EQ(surface.TextWidth("i\rwide line\r\nn"), surface.TextWidth("wide line"));
-
   const float plain = surface.TextWidth("wide line");
   surface.FontBold(true);
-  surface.Font(nullptr);
   EXPECT_GT(surface.TextWidth("wide line"), plain);
-  surface.FontBold(false);
-  EXPECT_EQ(surface.TextWidth("wide line"), plain);
 }
 
 TEST_F(QtSurfaceTest, measuresAsTheLayoutOfQtDoes) {
@@ -150,32 +131,23 @@ TEST_F(QtSurfaceTest, measuresAsTheLayoutOfQtDoes) {
   font.Name = "DejaVu Sans";
   font.Size = 9;
   const QFontMetricsF metrics(toQFont(font), &image);
-  for (const char* text : {"AVATAR To Wave", "office affluent fish", "Item 12345", " ", "{~}",
-                           "a\x7F", "Grüße, Łódź", "日本"})
+  for (const char* text :
+       {"AVATAR To Wave", "office affluent fish", "a\x7F", "Grüße, Łódź", "日本"})
     EXPECT_NEAR(surface.TextWidth(text), metrics.horizontalAdvance(QString(text)), 1) << text;
 }
 
 TEST_F(QtSurfaceTest, anAmpersandUnderlinesAndIsNotShown) {
   const QRect plain = box("nnn");
   const QRect marked = box("n&nn");
-  EXPECT_EQ(marked.left(), plain.left());
   EXPECT_EQ(marked.right(), plain.right());
   EXPECT_GT(marked.bottom(), plain.bottom());
-  const QImage image = drawn("n&nn");
-  const QRect underline = ink(image.copy(0, plain.bottom() + 1, 400, 100));
-  EXPECT_GT(underline.left(), plain.left());
-  EXPECT_LT(underline.right(), plain.right());
-
-  EXPECT_EQ(drawn("nnn&"), drawn("nnn"));
   EXPECT_EQ(drawn("n&\r\nn"), drawn("n\nn"));
   EXPECT_NEAR(box("n&&n").width(), plain.width() - surface.TextWidth("n") + surface.TextWidth("&"),
               1);
 }
 
 TEST_F(QtSurfaceTest, tabsGoToStopsFromTheRectangleOrAreLeftOut) {
-  const int first = box("\tn").left() - box("n").left();
-  EXPECT_GT(first, 0);
-  EXPECT_EQ(box("\t\tn").left() - box("n").left(), 2 * first);
+  EXPECT_GT(box("\tn").left(), box("n").left());
   const Rectangle moved{37, 0, 400, 120};
   EXPECT_EQ(ink(drawn("\tn", TextFormat::expandTabs, moved)), box("\tn").translated(37, 0));
   EXPECT_EQ(drawn("a\tb", TextFormat::right), drawn("ab", TextFormat::right));
@@ -184,37 +156,27 @@ TEST_F(QtSurfaceTest, tabsGoToStopsFromTheRectangleOrAreLeftOut) {
 TEST_F(QtSurfaceTest, rightAlignedLinesEndAtTheRectangle) {
   const Rectangle where{10, 0, 200, 120};
   const QRect narrow = ink(drawn("n", TextFormat::right, where));
-  const QRect both = ink(drawn("n\nnnnnnn", TextFormat::right, where));
-  EXPECT_LE(narrow.right(), 199);
-  EXPECT_GE(narrow.right(), 197);
-  EXPECT_EQ(both.right(), narrow.right());
-  EXPECT_EQ(both.bottom(), narrow.bottom() + lineHeight());
+  EXPECT_NEAR(narrow.right(), 198, 1);
+  EXPECT_EQ(ink(drawn("n\nnnnnnn", TextFormat::right, where)).bottomRight(),
+            narrow.bottomRight() + QPoint(0, lineHeight()));
 }
 
 TEST_F(QtSurfaceTest, textIsClippedToItsRectangleOnly) {
   const Rectangle where{50, 10, 60, 18};
-  for (const TextFormat format : {TextFormat::expandTabs, TextFormat::right}) {
-    const QRect clipped = ink(drawn("MMMMMMMM\nMMMM", format, where));
-    EXPECT_FALSE(clipped.isEmpty());
-    EXPECT_TRUE(QRect(50, 10, 10, 8).contains(clipped));
-  }
+  for (const TextFormat format : {TextFormat::expandTabs, TextFormat::right})
+    EXPECT_TRUE(QRect(50, 10, 10, 8).contains(ink(drawn("MMMMMMMM\nMMMM", format, where))));
   EXPECT_FALSE(ink(drawn("M", TextFormat::expandTabs, {0, 0, huge, huge})).isEmpty());
   EXPECT_TRUE(ink(drawn("M", TextFormat::right, {lowest, lowest, lowest, lowest})).isEmpty());
-  // A picture after a clipped text is not clipped.
-  QImage spot(4, 4, QImage::Format_RGB32);
-  spot.fill(Qt::red);
-  surface.PaintPicture(QtPicture::fromImage(spot), 300, 100);
-  EXPECT_EQ(ink(surface.image()), QRect(300, 100, 4, 4));
+  // What comes after a clipped text is not clipped.
+  surface.PSet(300, 100, red);
+  EXPECT_EQ(ink(surface.image()), QRect(300, 100, 1, 1));
 }
 
 TEST_F(QtSurfaceTest, lengthCountsBytes) {
-  const auto cut = [&](std::string_view text, std::int32_t length) {
-    return drawn(text, TextFormat::expandTabs, {0, 0, 400, 120}, length);
-  };
-  EXPECT_EQ(cut("nnnn", 2), cut("nn", -1));
-  EXPECT_EQ(cut("nnnn", 99), cut("nnnn", -1));
-  EXPECT_EQ(cut("nä", 2), cut("n\uFFFD", -1));
-  EXPECT_EQ(cut("n\xFF", -1), cut("n\uFFFD", -1));
+  const Rectangle where{0, 0, 400, 120};
+  EXPECT_EQ(drawn("nnnn", TextFormat::expandTabs, where, 2), drawn("nn"));
+  EXPECT_EQ(drawn("nä", TextFormat::expandTabs, where, 2), drawn("n\uFFFD"));
+  EXPECT_EQ(drawn("n\xFF"), drawn("n\uFFFD"));
 }
 
 TEST_F(QtSurfaceTest, hostileTextsCostLittle) {
@@ -232,20 +194,10 @@ TEST_F(QtSurfaceTest, hostileTextsCostLittle) {
   surface.Print(std::string(100'000, '\n'));
 }
 
-TEST_F(QtSurfaceTest, printGoesToTheStartOfTheNextLine) {
-  surface.CurrentX(50);
-  surface.CurrentY(20);
-  surface.Print("n&n");
-  EXPECT_TRUE(QRect(50, 20, 40, lineHeight()).contains(ink(surface.image())));
-  EXPECT_EQ(surface.CurrentX(), 0);
-  EXPECT_EQ(surface.CurrentY(), 20 + surface.TextHeight(""));
-}
-
 TEST_F(QtSurfaceTest, systemColoursFollowThePalette) {
   QPalette palette;
   palette.setColor(QPalette::Active, QPalette::Base, QColor(1, 2, 3));
   palette.setColor(QPalette::Disabled, QPalette::Text, QColor(4, 5, 6));
-  palette.setColor(QPalette::Active, QPalette::Midlight, QColor(7, 8, 9));
   surface.setPalette(palette);
   const auto pixelOf = [&](Colour colour) {
     surface.BackColor(colour);
@@ -254,7 +206,6 @@ TEST_F(QtSurfaceTest, systemColoursFollowThePalette) {
   };
   EXPECT_EQ(pixelOf(systemColour(5)), qRgb(1, 2, 3));
   EXPECT_EQ(pixelOf(colours::greyText), qRgb(4, 5, 6));
-  EXPECT_EQ(pixelOf(colours::light3D), qRgb(7, 8, 9));
   EXPECT_EQ(pixelOf(systemColour(255)), qRgb(0, 0, 0));
   EXPECT_EQ(pixelOf(0x7F332211), qRgb(0x11, 0x22, 0x33));
 }
@@ -273,18 +224,15 @@ TEST_F(QtSurfaceTest, picturesComeFromAnyPlatform) {
   image.fill(Qt::red);
   auto foreign = makeRef<Foreign>();
   EXPECT_THROW(surface.PaintPicture(foreign, 0, 0), Failure);
+  EXPECT_THROW(surface.PaintPicture(nullptr, 0, 0), Failure);
   QBuffer file(&foreign->bytes);
   image.save(&file, "PNG");
-
-  surface.PaintPicture(foreign, 7, 5);
-  EXPECT_EQ(ink(surface.image()), QRect(7, 5, 3, 2));
-  surface.Cls();
-  surface.PaintPicture(QtPicture::fromImage(image), 7, 5, 30, 10);
-  EXPECT_EQ(ink(surface.image()), QRect(7, 5, 30, 10));
-  EXPECT_EQ(surface.image().pixel(36, 14), redPixel);
   EXPECT_EQ(QtPicture::fromBytes(foreign->bytes)->fileBytes(), foreign->fileBytes());
-  EXPECT_FALSE(QtPicture::fromBytes("no picture"));
-  EXPECT_THROW(surface.PaintPicture(nullptr, 0, 0), Failure);
+  // Halves go to the even pixel.
+  surface.PaintPicture(foreign, 7, 6.5);
+  EXPECT_EQ(ink(surface.image()), QRect(7, 6, 3, 2));
+  surface.PaintPicture(foreign, 7, 5, 30, 10);
+  EXPECT_EQ(ink(surface.image()), QRect(7, 5, 30, 10));
 }
 
 TEST_F(QtSurfaceTest, bitmapsAreStretchedFromTheBottomUp) {
@@ -295,29 +243,16 @@ TEST_F(QtSurfaceTest, bitmapsAreStretchedFromTheBottomUp) {
   };
   // Black and red below, green and blue above.
   const Bitmap24 four{2, 2, {0, 0, 0, 0, 0, 255, 9, 9, 0, 255, 0, 255, 0, 0, 9, 9}};
-  for (const qreal dpr : {1.0, 2.0, 1.25}) {
-    renew(dpr);
-    const auto edge = [&](int logical) { return qRound(logical * dpr); };
-    const auto boxOf = [&](int left, int top, int right, int bottom) {
-      return QRect(QPoint(edge(left), edge(top)), QPoint(edge(right) - 1, edge(bottom) - 1));
-    };
-    EXPECT_EQ(spots({3, 5, 13, 11}, four), boxOf(3, 5, 13, 11));
-    const QImage& image = surface.image();
-    EXPECT_EQ(image.pixel(edge(8) - 1, edge(8) - 1), 0xFF00FF00);
-    EXPECT_EQ(image.pixel(edge(8), edge(8) - 1), 0xFF0000FF);
-    EXPECT_EQ(image.pixel(edge(8) - 1, edge(8)), 0xFF000000);
-    EXPECT_EQ(image.pixel(edge(8), edge(8)), redPixel);
-
-    EXPECT_EQ(spots({-4, -2, 4, 2}, four), boxOf(0, 0, 4, 2));
-    EXPECT_EQ(surface.image().pixel(0, 0), redPixel);
-    EXPECT_EQ(spots({lowest, lowest, huge, huge}, four), boxOf(0, 0, 400, 120));
-    EXPECT_EQ(spots({9, 5, 9, 11}, four), QRect());
-    EXPECT_EQ(spots({9, 5, 12, 4}, four), QRect());
-  }
+  renew(1.25);
+  EXPECT_EQ(spots({4, 8, 12, 12}, four), QRect(5, 10, 10, 5));
+  EXPECT_EQ(surface.image().pixel(5, 10), 0xFF00FF00);
   renew(1);
+  EXPECT_EQ(spots({-4, -2, 4, 2}, four), QRect(0, 0, 4, 2));
+  EXPECT_EQ(surface.image().pixel(0, 0), redPixel);
+  EXPECT_EQ(spots({lowest, lowest, huge, huge}, four), QRect(0, 0, 400, 120));
+  EXPECT_EQ(spots({9, 5, 12, 4}, four), QRect());
   // One row is not padded; each of its pixels goes to its own column.
   EXPECT_EQ(spots({1, 0, 4, 50}, {3, 1, {0, 0, 255, 0, 255, 0, 255, 0, 0}}), QRect(1, 0, 3, 50));
-  EXPECT_EQ(surface.image().pixel(1, 49), redPixel);
   EXPECT_EQ(surface.image().pixel(3, 0), 0xFF0000FF);
   EXPECT_THROW(surface.StretchDIBits(0, {0, 0, 9, 9}, four), Failure);
   EXPECT_THROW(spots({0, 0, 9, 9}, {2, 2, std::vector<std::uint8_t>(15)}), Failure);
@@ -338,7 +273,6 @@ TEST_F(QtSurfaceTest, handedOutImagesStayAndChangesAreTold) {
 
 TEST_F(QtSurfaceTest, anImageWithoutAreaIsNoTrouble) {
   surface.resize({0, 50}, 0);
-  EXPECT_EQ(surface.ScaleHeight(), 50);
   surface.Line(LineMode::plainLine, 0, 0, 9, 7, red);
   draw("n", {0, 0, 50, 50});
   surface.DrawFocusRect(surface.hDC(), {0, 0, 5, 5});
