@@ -154,6 +154,10 @@ TYPED_TEST(ScrollModel, ARangeBeyondTheNumbersIsReportedAndKept) {
   this->bar.Min(-2);
   EXPECT_EQ(this->reports(), "6 GetIMX");
   for (int i = 0; i < 2; ++i) {
+    this->bar.Value(-2);
+    EXPECT_EQ(this->reports(), "6 GetIMX");
+  }
+  for (int i = 0; i < 2; ++i) {
     this->bar.Value(highest - 1);
     EXPECT_EQ(this->reports(), "6 GetIMX, 6 Redraw");
   }
