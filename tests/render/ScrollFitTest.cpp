@@ -104,8 +104,10 @@ TEST_F(ScrollFit, AWidthIsKeptUntilTheTextOrTheFontChanges) {
   scanAnew();
   EXPECT_EQ(contentWidth(), 7 * 9 + 4);
   list.Font(list.Font());
-  scanAnew();
-  EXPECT_EQ(contentWidth(), 144 + 4);  // 143.5
+  for (int i = 0; i < 2; ++i) {
+    scanAnew();
+    EXPECT_EQ(contentWidth(), 144 + 4);  // 143.5
+  }
 }
 
 TEST_F(ScrollFit, TheChoiceOfBarsAndTheirRanges) {
@@ -174,6 +176,10 @@ TEST_F(ScrollFit, AShrinkingRangeGoesBackToTheStart) {
   for (int i = 0; i < 4; ++i) list.ItemsRemove(1);
   EXPECT_EQ(range(vertical()), "on 10 at 14");
   EXPECT_EQ(list.TopIndex(), 14);
+  // A bar that goes forgets where it stood.
+  click(1, 2, 5);
+  fill(7);
+  EXPECT_EQ(range(vertical()) + ", " + range(horizontal()), "off 0 at 0, off 0 at 0");
 }
 
 TEST_F(ScrollFit, TheListFollowsButtonsTrackAndThumb) {
