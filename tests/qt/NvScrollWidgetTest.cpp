@@ -5,7 +5,6 @@
 #include <QApplication>
 #include <QBoxLayout>
 #include <QDialog>
-#include <QMouseEvent>
 #include <QPointer>
 #include <QTest>
 #include <QTimer>
@@ -50,25 +49,14 @@ class NvScrollWidgetTest : public testing::Test {
   }
 
   QPoint at(int along) { return isVertical ? QPoint(8, along) : QPoint(along, 8); }
-  void send(QEvent::Type type, int along, Qt::MouseButtons buttons) {
-    const QPoint global = form.mapToGlobal(at(along));
-    const QPoint local = held->mapFromGlobal(global);
-    const bool isMove = type == QEvent::MouseMove;
-    QMouseEvent event(type, local, global, isMove ? Qt::NoButton : Qt::LeftButton, buttons,
-                      Qt::NoModifier);
-    QApplication::sendEvent(held, &event);
+  void press(int along) { QTest::mousePress(form.windowHandle(), Qt::LeftButton, {}, at(along)); }
+  void moveTo(int along) { QTest::mouseMove(form.windowHandle(), at(along)); }
+  void release(int along) {
+    QTest::mouseRelease(form.windowHandle(), Qt::LeftButton, {}, at(along));
   }
-  void press(int along) {
-    held = widget->childAt(at(along));
-    send(QEvent::MouseMove, along, Qt::NoButton);
-    send(QEvent::MouseButtonPress, along, Qt::LeftButton);
-  }
-  void moveTo(int along) { send(QEvent::MouseMove, along, Qt::LeftButton); }
-  void release(int along) { send(QEvent::MouseButtonRelease, along, Qt::NoButton); }
 
   QWidget form;
   QPointer<Widget> widget{new Widget};
-  QPointer<QWidget> held;
   std::string told;
 };
 
@@ -76,27 +64,14 @@ using BothWidgets = testing::Types<NvVScrollWidget, NvHScrollWidget>;
 TYPED_TEST_SUITE(NvScrollWidgetTest, BothWidgets);
 
 TYPED_TEST(NvScrollWidgetTest, isSteppedDraggedAndTells) {
-  EXPECT_EQ(this->widget->size(), this->form.size());
   this->press(195);
   this->release(195);
   EXPECT_EQ(this->heard(), "Change 1");
   this->press(50);
   this->moveTo(60);
-  this->moveTo(500);
-  this->release(500);
+  this->moveTo(199);
+  this->release(199);
   EXPECT_EQ(this->heard(), "Scroll 11, Scroll 100, Change 100");
-}
-
-TYPED_TEST(NvScrollWidgetTest, theThumbFitsEachNewLength) {
-  const auto lengthOfThumb = [this] {
-    QWidget* thumb = this->widget->childAt(this->at(20));
-    return TestFixture::isVertical ? thumb->height() : thumb->width();
-  };
-  EXPECT_EQ(lengthOfThumb(), 200 - 34 - 100);
-  this->length(300);
-  EXPECT_EQ(lengthOfThumb(), 300 - 34 - 100);
-  this->length(150);
-  EXPECT_EQ(lengthOfThumb(), 150 - 34 - 100);
 }
 
 TYPED_TEST(NvScrollWidgetTest, theThumbStandsByItsValueAtEachNewLength) {
@@ -105,17 +80,18 @@ TYPED_TEST(NvScrollWidgetTest, theThumbStandsByItsValueAtEachNewLength) {
     this->length(length);
     const QRect thumb = this->widget->childAt(this->at(length - 18))->geometry();
     EXPECT_EQ(TestFixture::isVertical ? thumb.bottom() : thumb.right(), length - 18);
+    EXPECT_EQ(TestFixture::isVertical ? thumb.height() : thumb.width(), length - 34 - 100);
   }
 }
 
 TYPED_TEST(NvScrollWidgetTest, aPressEndsAlsoWhereAHandlerTakesTheMouseAway) {
-  const std::function<void()> deeds[] = {[this] { this->widget->bar().Enabled(false); },
-                                         [] {
-                                           QDialog dialog;
-                                           dialog.setModal(true);
-                                           dialog.show();
-                                           QTest::qWait(5);
-                                         },
+  const auto openDialog = [] {
+    QDialog dialog;
+    dialog.setModal(true);
+    dialog.show();
+    QTest::qWait(5);
+  };
+  const std::function<void()> deeds[] = {openDialog, [this] { this->widget->bar().Enabled(false); },
                                          [this] { this->form.hide(); }};
   // The far button and the track.
   for (const int place : {195, 130})
@@ -125,28 +101,23 @@ TYPED_TEST(NvScrollWidgetTest, aPressEndsAlsoWhereAHandlerTakesTheMouseAway) {
         this->tell("Change");
         deed();
       };
-      QWindow* const window = this->form.windowHandle();
-      const auto release = [&] {
-        QTest::mouseRelease(window, Qt::LeftButton, {}, this->at(place));
-      };
-      QTest::mousePress(window, Qt::LeftButton, {}, this->at(place));
+      this->press(place);
       // A hidden window may never hear of it.
       const bool isHidden = !this->form.isVisible();
-      if (!isHidden) release();
+      if (!isHidden) this->release(place);
       EXPECT_EQ(this->heard(), "Change 1");
       QTest::qWait(700);
       EXPECT_EQ(this->heard(), "");
       this->widget->bar().Enabled(true);
       this->form.show();
-      if (isHidden) release();
+      if (isHidden) this->release(place);
     }
   // The thumb is not left hanging where the mouse has had it.
   this->widget->onChange = nullptr;
-  this->widget->onScroll = deeds[1];
-  QWindow* const window = this->form.windowHandle();
-  QTest::mousePress(window, Qt::LeftButton, {}, this->at(50));
-  QTest::mouseMove(window, this->at(60));
-  QTest::mouseRelease(window, Qt::LeftButton, {}, this->at(60));
+  this->widget->onScroll = openDialog;
+  this->press(50);
+  this->moveTo(60);
+  this->release(60);
   QTest::qWait(10);
   this->widget->bar().Value(0);
   const QPoint thumb = this->widget->childAt(this->at(20))->pos();
@@ -158,6 +129,7 @@ TYPED_TEST(NvScrollWidgetTest, mayEndInAHandlerOfItsOwn) {
   this->press(50);
   this->moveTo(60);
   EXPECT_FALSE(this->widget);
+  this->release(60);
   QTimer::singleShot(20, qApp, &QCoreApplication::quit);
   QCoreApplication::exec();
 }

@@ -3,6 +3,7 @@
 #include "../Lists.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 #include <nvlist/scroll/nvHScroll.h>
@@ -43,6 +44,7 @@ class BarTest : public ListTest, protected nvVScrollEvents, protected nvHScrollE
   void tell(const std::string& event) {
     told += (told.empty() ? "" : ", ") + event + " " + std::to_string(bar.Value());
     times += (times.empty() ? "" : " ") + std::to_string((clock().now() - start).count());
+    std::exchange(onEvent, [] {})();
   }
 
   /// The events since the last call, each with the value of its time.
@@ -84,6 +86,10 @@ class BarTest : public ListTest, protected nvVScrollEvents, protected nvHScrollE
   void release(float along = 0, float across = 8) {
     isVertical ? place.release(across, along) : place.release(along, across);
   }
+  void click(float along) {
+    press(along);
+    release();
+  }
   /// Takes the thumb three pixels from its near end and moves it.
   void drag(float by) {
     press(thumbAt() + 3);
@@ -114,6 +120,8 @@ class BarTest : public ListTest, protected nvVScrollEvents, protected nvHScrollE
   HeadlessContainer& nearButton = *place.children()[1];
   HeadlessContainer& farButton = *place.children()[2];
 
+  /// Runs with the next event only.
+  std::function<void()> onEvent = [] {};
   std::string told;
   std::string times;
   HeadlessClock::Time start;
