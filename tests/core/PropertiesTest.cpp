@@ -8,53 +8,34 @@ using Properties = HearingListTest;
 TEST_F(Properties, EachIsMarkedAndPaintsInItsOwnWay) {
   fill(3);
   const auto font = makeRef<FontObject>();
-  const struct {
-    const char* names;
-    std::function<void()> set;
-    /// Repaints with AutoRedraw on and off.
-    int on, off;
-  } cases[] = {{"Font", [&] { list.Font(font); }, 1, 0},
-               {"ForeColor", [&] { list.ForeColor(1); }, 1, 0},
-               {"BackColor", [&] { list.BackColor(1); }, 1, 0},
-               {"Enabled", [&] { list.Enabled(false); }, 1, 0},
-               {"ClickOnIndexChange", [&] { list.ClickOnIndexChange(true); }, 1, 0},
-               {"ScrollColorStyle ColorStyle", [&] { list.ColorStyle(cXPSilver); }, 1, 1},
-               {"ColorStyle", [&] { list.ColorStyle(cCustom); }, 1, 1},
-               {"BorderColor", [&] { list.BorderColor(1); }, 1, 1},
-               {"HoverSelect", [&] { list.HoverSelect(true); }, 1, 0},
-               {"Style", [&] { list.Style(cIcons); }, 1, 0},
-               {"FullRowSelect", [&] { list.FullRowSelect(false); }, 1, 0},
-               {"AllowEdit", [&] { list.AllowEdit(true); }, 1, 1},
-               {"ValueColor", [&] { list.ValueColor(1); }, 1, 0},
-               {"IconSelect", [&] { list.IconSelect(false); }, 1, 0},
-               {"BorderVisible", [&] { list.BorderVisible(false); }, 1, 1},
-               {"IndentTop", [&] { list.IndentTop(1); }, 1, 0},
-               {"IndentLeft", [&] { list.IndentLeft(1); }, 1, 0},
-               {"IndentRight", [&] { list.IndentRight(1); }, 1, 0},
-               {"IndentBottom", [&] { list.IndentBottom(1); }, 1, 0},
-               {"DistPicText", [&] { list.DistPicText(1); }, 1, 0},
-               {"AutoCheckScroll", [&] { list.AutoCheckScroll(true); }, 0, 0},
-               {"IconW", [&] { list.IconW(1); }, 1, 0},
-               {"IconH", [&] { list.IconH(1); }, 1, 0},
-               {"ScrollColorStyle", [&] { list.ScrollColorStyle(cXPScrollOlive); }, 0, 0},
-               {"GridLines", [&] { list.GridLines(true); }, 1, 0},
-               {"GridLineColor", [&] { list.GridLineColor(1); }, 1, 0},
-               {"MultiSelect", [&] { list.MultiSelect(true); }, 0, 0},
-               {"ShowFocusRect", [&] { list.ShowFocusRect(true); }, 0, 0},
-               {"WheelFunction", [&] { list.WheelFunction(cWheelOff); }, 0, 0},
-               {"WheelScrollLines", [&] { list.WheelScrollLines(2); }, 0, 0},
-               {"MinHeight", [&] { list.MinHeight(14); }, 1, 0},
-               {"ScrollBars", [&] { list.ScrollBars(vbBoth); }, 1, 0},
-               {"AllowItemMoving", [&] { list.AllowItemMoving(true); }, 0, 0}};
-  for (const bool autoRedraw : {true, false}) {
-    list.AutoRedraw(autoRedraw);
-    for (const auto& c : cases) {
-      heard();
-      c.set();
-      const int repaints = autoRedraw ? c.on : c.off;
-      EXPECT_EQ(heard(), c.names + std::string(static_cast<std::size_t>(repaints), '*'));
-    }
-  }
+  const auto setAll = [&] {
+    heard();
+    list.Font(font), list.ForeColor(1), list.BackColor(1), list.Enabled(false);
+    list.ClickOnIndexChange(true), list.ColorStyle(cXPSilver), list.ColorStyle(cCustom);
+    list.BorderColor(1), list.HoverSelect(true), list.Style(cIcons), list.FullRowSelect(false);
+    list.AllowEdit(true), list.ValueColor(1), list.IconSelect(false), list.BorderVisible(false);
+    list.IndentTop(1), list.IndentLeft(1), list.IndentRight(1), list.IndentBottom(1);
+    list.DistPicText(1), list.AutoCheckScroll(true), list.IconW(1), list.IconH(1);
+    list.ScrollColorStyle(cXPScrollOlive), list.GridLines(true), list.GridLineColor(1);
+    list.MultiSelect(true), list.ShowFocusRect(true), list.WheelFunction(cWheelOff);
+    list.WheelScrollLines(2), list.MinHeight(14), list.ScrollBars(vbBoth);
+    list.AllowItemMoving(true);
+    return heard();
+  };
+  EXPECT_EQ(setAll(),
+            "Font* ForeColor* BackColor* Enabled* ClickOnIndexChange* ScrollColorStyle ColorStyle* "
+            "ColorStyle* BorderColor* HoverSelect* Style* FullRowSelect* AllowEdit* ValueColor* "
+            "IconSelect* BorderVisible* IndentTop* IndentLeft* IndentRight* IndentBottom* "
+            "DistPicText* AutoCheckScroll IconW* IconH* ScrollColorStyle GridLines* GridLineColor* "
+            "MultiSelect ShowFocusRect WheelFunction WheelScrollLines MinHeight* ScrollBars* "
+            "AllowItemMoving");
+  list.AutoRedraw(false);
+  EXPECT_EQ(setAll(),
+            "Font ForeColor BackColor Enabled ClickOnIndexChange ScrollColorStyle ColorStyle* "
+            "ColorStyle* BorderColor* HoverSelect Style FullRowSelect AllowEdit* ValueColor "
+            "IconSelect BorderVisible* IndentTop IndentLeft IndentRight IndentBottom DistPicText "
+            "AutoCheckScroll IconW IconH ScrollColorStyle GridLines GridLineColor MultiSelect "
+            "ShowFocusRect WheelFunction WheelScrollLines MinHeight ScrollBars AllowItemMoving");
   EXPECT_EQ(reports(), "");
 }
 
@@ -67,19 +48,15 @@ TEST_F(Properties, OnlyTrueItselfMeasuresAndFits) {
     list.Style(cDefault);
     for (int i = 0; i < 40; ++i) list.ItemsAdd("long");
     const auto width = [&] { return list.state().MaxItemWidth; };
-    heard();
     list.AutoCheckScroll(value);
-    EXPECT_EQ(heard(), "AutoCheckScroll");
     EXPECT_EQ(width() > measured, value.isTrue());
     EXPECT_EQ(list.verticalBar().Visible(), value.isTrue());
-    EXPECT_EQ(list.AutoCheckScroll(), value);
     list.Style(cIcons);  // another padding
     heard();
     const std::int32_t before = width();
     list.AutoRedraw(value);
     EXPECT_EQ(heard(), value.isTrue() ? "AutoRedraw*" : "AutoRedraw");
     EXPECT_EQ(width() == before, !value.isTrue());
-    EXPECT_EQ(list.AutoRedraw(), value);
   }
 }
 
@@ -94,7 +71,6 @@ TEST_F(Properties, AFontIsClonedAndGivesTheRowsTheirHeight) {
   EXPECT_EQ(list.state().ItemHeightValue, 19);
   EXPECT_NE(headless.picture().find("CurrentY 22\n"), std::string::npos);
   list.MinHeight(25.5);
-  EXPECT_EQ(list.state().ItemHeightValue, 25.5F);
   list.Font(font);
   EXPECT_EQ(list.state().ItemHeightValue, 25.5F);
 }

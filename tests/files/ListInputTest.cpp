@@ -74,42 +74,28 @@ TEST_F(ListInput, ReadsEveryVersion) {
                {270, false, old, ordinary("ab")},
                {270, true, old + properties, "ab" + some},
                {271, true, ab + properties, "ab" + some},
-               {272, true, ab + properties, "ab" + some},
                {273, false, ab, ordinary("ab")},
-               {273, true, ab + all, "ab|1101101 1 10 11 12 13 14 15|k|t"},
-               {32767, true, ab + all, "ab|1101101 1 10 11 12 13 14 15|k|t"}};
+               {273, true, ab + all, "ab|1101101 1 10 11 12 13 14 15|k|t"}};
   for (const auto& [version, hasProperties, record, expected] : cases) {
     input(header(1, hasProperties, version) + record + record);
     EXPECT_EQ(events(), "") << version;
     ASSERT_EQ(list.ItemsCount(), 2) << version;
-    EXPECT_EQ(told(item(0)), expected) << version;
-    EXPECT_EQ(told(item(1)), expected) << version;
+    for (const int i : {0, 1}) EXPECT_EQ(told(item(i)), expected) << version;
   }
 }
 
 TEST_F(ListInput, GivesDefaultsWithoutTheArgument) {
-  const auto record = [](const std::string& key, const std::string& tag) {
-    return text("a") + fields("no hex") + flagsAndKeys(key, tag) + "\1" + text("") + "\1" +
-           text("y");
-  };
-  input(header(1, true) + record("", "") + record("", ""), false);
-  EXPECT_EQ(events(), "");
+  const std::string record =
+      text("a") + fields("no hex") + flagsAndKeys("", "") + "\1" + text("") + "\1" + text("y");
+  input(header(1, true) + record + record, false);
+  EXPECT_EQ(events() + texts() + fileOf(item(0).Icon), "a anone");
   EXPECT_EQ(told(item(0)), ordinary("a"));
-  EXPECT_EQ(texts(), "a a");
-  EXPECT_EQ(fileOf(item(0).Icon), "none");
-  // Of a truth value the low byte counts.
-  list.ListInput("file", Boolean::ofNumber(0x100));
-  EXPECT_EQ(told(item(0)) + events(), ordinary("a"));
   // Keys and tags that nobody wants are left in the file, for what follows them.
   const std::string readAsTagAndIcons = zeros(6), readAsText = zeros(6);
   input(header(1, true) + text("a") + fields() + flagsAndKeys(readAsTagAndIcons, "").substr(0, 14) +
             readAsText + zeros(52),
         false);
   EXPECT_EQ(events() + told(item(0)) + texts(), ordinary("a") + "a ");
-  const std::string pictureOfNoLength = "\1\xFF\xFF\xFF\xFF";
-  input(header(0, true) + record("four" + pictureOfNoLength, ""), false);
-  input(header(0, true) + record("", pictureOfNoLength), false);
-  EXPECT_EQ(events(), "input! input! ");
 }
 
 TEST_F(ListInput, ReadsTheSecondPictureAsIcon) {
@@ -120,10 +106,8 @@ TEST_F(ListInput, ReadsTheSecondPictureAsIcon) {
   EXPECT_EQ(icons("\1" + text("one") + "\1" + text("two")), "two none ");
   EXPECT_EQ(icons(byte(0) + "\1" + text("two")), "two none ");
   EXPECT_EQ(icons("\1" + text("one") + byte(0)), "none none ");
-  EXPECT_EQ(icons("\2\xFF"), "none none ");
   // A picture that is none.
   EXPECT_EQ(icons("\1" + text("") + "\1" + text("two")), "two none 481 GetStringPicture");
-  EXPECT_EQ(icons("\1" + text("one") + "\1" + text("")), "none none 481 GetStringPicture");
 }
 
 TEST_F(ListInput, GoesOnBehindAColourThatIsNone) {
@@ -133,14 +117,11 @@ TEST_F(ListInput, GoesOnBehindAColourThatIsNone) {
     return item(0).BackColor.toText() + " " + item(0).ForeColor.toText() + " " + reported;
   };
   EXPECT_EQ(colour("4080FF"), "16744512 13 ");
-  EXPECT_EQ(colour("ff8040"), "4227327 13 ");
   EXPECT_EQ(colour("   def"), "def 13 ");
-  EXPECT_EQ(colour("def   "), "def 13 ");
-  for (const char* six : {"      ", "#FF804", "+1+1+1", "FF80 4", "FF80G0", "0@1020", "DEFdef"})
+  for (const char* six : {"      ", "+1+1+1", "FF80G0", "DEFdef"})
     EXPECT_EQ(colour(six), six[0] == 'D' ? "15728094 13 " : " 13 13 HTML2VBColor") << six;
   silent();
   EXPECT_EQ(colour("0A--0B"), std::to_string(0x0B000A) + " 13 ");
-  EXPECT_EQ(colour("#0A0B0"), std::to_string(0x000B0A) + " 13 ");
   // The disabled ones cannot be "def".
   for (const char* two : {"   def000000", "000000   def"}) {
     const std::string six = "000000", wrong(two);
@@ -157,13 +138,11 @@ TEST_F(ListInput, TouchesNothingButTheItems) {
   const std::string before = headless.picture();
   input(header(-1, true));
   EXPECT_EQ(list.ItemsCount(), 0);
-  EXPECT_EQ(item(1).Text, "b");
   EXPECT_EQ(headless.picture(), before);
   const std::string record = text("new") + fields() + flagsAndKeys("", "");
   input(header(1, true) + record + noIcons + record + noIcons);
   EXPECT_NE(headless.picture().find("new"), std::string::npos);
   EXPECT_EQ(list.ListIndex(), 2);
-  EXPECT_EQ(events(), "");
   // A mark that was read goes like any other, also where one is known of.
   for (const std::string& icons : {noIcons, "\1" + text("picture") + byte(0)}) {
     for (const int knownBefore : {-1, 1}) {
@@ -181,10 +160,6 @@ TEST_F(ListInput, RaisesOneEventForAMissingFile) {
   list.ListInput("missing");
   EXPECT_EQ(events(), "input! ");
   EXPECT_EQ(texts(), "old");
-  // One that goes while it is looked at is missed twice.
-  memory.nextAnswers = {true, false};
-  list.ListInput("missing");
-  EXPECT_EQ(events(), "input! input! ");
 }
 
 TEST_F(ListInput, RefusesAFileCutAnywhere) {
@@ -204,19 +179,6 @@ TEST_F(ListInput, RefusesAFileCutAnywhere) {
     input(whole + "and more");
     EXPECT_EQ(texts() + events(), "first second");
   }
-}
-
-TEST_F(ListInput, IsEmptyWhereTheFileCannotBeClosed) {
-  add({"a", "b"});
-  save();
-  memory.operations = 0;
-  list.ListInput("file");
-  EXPECT_EQ(list.ItemsCount(), 2);
-  memory.failing = std::exchange(memory.operations, 0);
-  events();
-  list.ListInput("file");
-  EXPECT_EQ(events(), "input! ");
-  EXPECT_EQ(list.ItemsCount(), 0);
 }
 
 TEST_F(ListInput, OutlivesAHostThatClearsTheListInAReport) {
@@ -264,7 +226,6 @@ TEST_F(ListInput, BelievesNoCount) {
   EXPECT_LE(largestAllocation, 4096U);
   // As many as the bytes can hold, and one more.
   input(header(4999, false, 271) + zeros(5000 * 4));
-  EXPECT_EQ(list.ItemsCount(), 5000);
   expectRefused(header(5000, false) + zeros(5001 * 4 - 1), "one too many");
   EXPECT_EQ(list.state().Items.upperBound(), 4999);
   // A few that take no bytes at all are possible.
@@ -312,11 +273,9 @@ TEST_F(ListInput, ChangesItemsThatNobodyHasSeenLikeOthers) {
   const std::function<void()> changes[] = {
       [&] { list.ItemsAdd("last"); },
       [&] { list.ItemsAdd("first", 0); },
-      [&] { list.ItemsRemove(Variant(0)); },
       [&] { list.ItemsRemove(Variant(29)), list.ItemsAdd("other"); },
       [&] { list.Sort(cDescending); },
       [&] { list.MoveItemUp(20, 15); },
-      [&] { list.ListIndex(3); },
       [&] { list.ItemText(7, "other"); },
       [&] { list.ItemsSelectedRemove(); },
       [&] { list.AutoRedraw(true); },

@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include <nvlist/objects/Failure.h>
 #include <nvlist/platform/headless/HeadlessApplication.h>
@@ -25,18 +24,13 @@ class MemoryFiles : public HeadlessApplication {
   std::size_t largestRead = 0;
   /// By how much files are shorter than they say.
   std::uint64_t missing = 0;
-  /// Answers of holdsFile to come; afterwards it looks for the file.
-  std::vector<bool> nextAnswers;
 
   void MsgBox(const std::string& text, std::int32_t style, const std::string& title) override {
     if (boxesGoTo_) boxesGoTo_->MsgBox(text, style, title);
   }
   bool holdsFile(const std::string& path) override {
     operate();
-    if (nextAnswers.empty()) return files.contains(path);
-    const bool answer = nextAnswers.front();
-    nextAnswers.erase(nextAnswers.begin());
-    return answer;
+    return files.contains(path);
   }
   void removeFile(const std::string& path) override {
     operate();

