@@ -33,11 +33,12 @@ std::int32_t nvList::IsInList(std::string_view sText, cFindCompare oCompare) {
     std::optional<LikePattern> binary, text;
     on.step([&] { binary.emplace(sText, false); });
     on.step([&] { text.emplace(sText, true); });
-    const auto& pattern = oCompare == cFindText ? text : binary;
-    const bool canMatch = pattern && (oCompare == cFindBinary || oCompare == cFindText);
+    const auto& counted = oCompare == cFindText ? text : binary;
+    const bool canMatch = counted && (oCompare == cFindBinary || oCompare == cFindText);
+    const LikePattern* const pattern = canMatch ? &*counted : nullptr;
     on.step([&] {
-      found =
-          firstItem([&](const ListItem& item) { return canMatch && pattern->matches(item.Text); });
+      found = firstItem(
+          [pattern](const ListItem& item) { return pattern && pattern->matches(item.Text); });
     });
   });
   return found;
