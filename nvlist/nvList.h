@@ -10,7 +10,6 @@
 
 #include <nvlist/core/ListState.h>
 #include <nvlist/core/NewItem.h>
-#include <nvlist/core/PropertyBag.h>
 #include <nvlist/input/Wheel.h>
 #include <nvlist/input/events.h>
 #include <nvlist/objects/Trap.h>
@@ -20,6 +19,7 @@
 #include <nvlist/render/colours.h>
 #include <nvlist/scroll/nvHScroll.h>
 #include <nvlist/scroll/nvVScroll.h>
+#include <nvlist/values/PropertyBag.h>
 
 namespace norvane {
 

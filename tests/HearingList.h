@@ -6,7 +6,7 @@
 #include <optional>
 #include <utility>
 
-#include <nvlist/core/numbers.h>
+#include <nvlist/values/numbers.h>
 
 namespace norvane {
 

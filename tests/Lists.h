@@ -6,9 +6,9 @@
 #include <vector>
 
 #include <nvlist/objects/Error.h>
-#include <nvlist/objects/Failure.h>
 #include <nvlist/platform/headless/HeadlessApplication.h>
 #include <nvlist/platform/headless/HeadlessList.h>
+#include <nvlist/values/Failure.h>
 
 namespace norvane {
 

@@ -6,11 +6,11 @@
 #include <string>
 #include <vector>
 
-#include <nvlist/core/Boolean.h>
-#include <nvlist/core/Colour.h>
-#include <nvlist/core/Font.h>
-#include <nvlist/core/Picture.h>
-#include <nvlist/core/Variant.h>
+#include <nvlist/values/Boolean.h>
+#include <nvlist/values/Colour.h>
+#include <nvlist/values/Font.h>
+#include <nvlist/values/Picture.h>
+#include <nvlist/values/Variant.h>
 
 namespace gallery {
 

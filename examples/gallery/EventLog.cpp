@@ -63,7 +63,7 @@ void EventLog::showProgress() {
   if (!name) return;
   showingProgress_.stop();
   if (lastLine_.startsWith(name)) removeLastLine();
-  event(name, {{"Index", reached_}});
+  logEvent(name, {{"Index", reached_}});
 }
 
 void EventLog::write(const QString& line) {
@@ -85,36 +85,36 @@ void EventLog::removeLastLine() {
 void EventLog::MouseMove(norvane::Variant& TextUnderMouse, std::int32_t& IndexUnderMouse,
                          std::int16_t& Button, std::int16_t& Shift, float& X, float& Y) {
   if (lastLine_.startsWith(mouseMove)) removeLastLine();
-  event(mouseMove, {{"TextUnderMouse", TextUnderMouse},
-                    {"IndexUnderMouse", IndexUnderMouse},
-                    {"Button", Button},
-                    {"Shift", Shift},
-                    {"X", X},
-                    {"Y", Y}});
+  logEvent(mouseMove, {{"TextUnderMouse", TextUnderMouse},
+                       {"IndexUnderMouse", IndexUnderMouse},
+                       {"Button", Button},
+                       {"Shift", Shift},
+                       {"X", X},
+                       {"Y", Y}});
 }
 
 void EventLog::OLEDragDrop(DataObject& Data, std::int32_t& Effect, std::int16_t& Button,
                            std::int16_t& Shift, float& X, float& Y) {
-  event("OLEDragDrop", {{"Data", Data},
-                        {"Effect", Effect},
-                        {"Button", Button},
-                        {"Shift", Shift},
-                        {"X", X},
-                        {"Y", Y}});
+  logEvent("OLEDragDrop", {{"Data", Data},
+                           {"Effect", Effect},
+                           {"Button", Button},
+                           {"Shift", Shift},
+                           {"X", X},
+                           {"Y", Y}});
 }
 
 void EventLog::OLEDragOver(DataObject& Data, std::int32_t& Effect, std::int16_t& Button,
                            std::int16_t& Shift, float& X, float& Y, std::int16_t& State) {
-  event("OLEDragOver", {{"Data", Data},
-                        {"Effect", Effect},
-                        {"Button", Button},
-                        {"Shift", Shift},
-                        {"X", X},
-                        {"Y", Y},
-                        {"State", State}});
+  logEvent("OLEDragOver", {{"Data", Data},
+                           {"Effect", Effect},
+                           {"Button", Button},
+                           {"Shift", Shift},
+                           {"X", X},
+                           {"Y", Y},
+                           {"State", State}});
 }
 
-void EventLog::event(const char* name, std::initializer_list<Argument> arguments) {
+void EventLog::logEvent(const char* name, std::initializer_list<Argument> arguments) {
   QStringList texts;
   for (const Argument& argument : arguments)
     texts << QString("%1 = %2").arg(argument.name, shown(argument.value));

@@ -24,50 +24,50 @@ class EventLog : public QPlainTextEdit, public norvane::__nvList {
 
   // The events of the list, all of them.
 
-  void Click() override { event("Click"); }
-  void DblClick() override { event("DblClick"); }
+  void Click() override { logEvent("Click"); }
+  void DblClick() override { logEvent("DblClick"); }
   void ItemCheck(std::int32_t& Item, norvane::Boolean& Cancel) override {
-    event("ItemCheck", {{"Item", Item}, {"Cancel", Cancel}});
+    logEvent("ItemCheck", {{"Item", Item}, {"Cancel", Cancel}});
   }
   void MouseUp(std::int16_t& Button, std::int16_t& Shift, float& X, float& Y) override {
-    event("MouseUp", {{"Button", Button}, {"Shift", Shift}, {"X", X}, {"Y", Y}});
+    logEvent("MouseUp", {{"Button", Button}, {"Shift", Shift}, {"X", X}, {"Y", Y}});
   }
   /// The last one of several in a row is all that is kept.
   void MouseMove(norvane::Variant& TextUnderMouse, std::int32_t& IndexUnderMouse,
                  std::int16_t& Button, std::int16_t& Shift, float& X, float& Y) override;
   void MouseDown(std::int16_t& Button, std::int16_t& Shift, float& X, float& Y) override {
-    event("MouseDown", {{"Button", Button}, {"Shift", Shift}, {"X", X}, {"Y", Y}});
+    logEvent("MouseDown", {{"Button", Button}, {"Shift", Shift}, {"X", X}, {"Y", Y}});
   }
-  void ErrorListInput() override { event("ErrorListInput"); }
-  void ErrorListSave() override { event("ErrorListSave"); }
+  void ErrorListInput() override { logEvent("ErrorListInput"); }
+  void ErrorListSave() override { logEvent("ErrorListSave"); }
   void ListSaving(norvane::Variant& Index) override { progress("ListSaving", Index); }
   void ListReading(norvane::Variant& Index) override { progress("ListReading", Index); }
-  void Scroll() override { event("Scroll"); }
+  void Scroll() override { logEvent("Scroll"); }
   void KeyDown(std::int16_t& KeyCode, std::int16_t& Shift) override {
-    event("KeyDown", {{"KeyCode", KeyCode}, {"Shift", Shift}});
+    logEvent("KeyDown", {{"KeyCode", KeyCode}, {"Shift", Shift}});
   }
-  void KeyPress(std::int16_t& KeyAscii) override { event("KeyPress", {{"KeyAscii", KeyAscii}}); }
+  void KeyPress(std::int16_t& KeyAscii) override { logEvent("KeyPress", {{"KeyAscii", KeyAscii}}); }
   void KeyUp(std::int16_t& KeyCode, std::int16_t& Shift) override {
-    event("KeyUp", {{"KeyCode", KeyCode}, {"Shift", Shift}});
+    logEvent("KeyUp", {{"KeyCode", KeyCode}, {"Shift", Shift}});
   }
   void OLECompleteDrag(std::int32_t& Effect) override {
-    event("OLECompleteDrag", {{"Effect", Effect}});
+    logEvent("OLECompleteDrag", {{"Effect", Effect}});
   }
   void OLEDragDrop(DataObject& Data, std::int32_t& Effect, std::int16_t& Button,
                    std::int16_t& Shift, float& X, float& Y) override;
   void OLEDragOver(DataObject& Data, std::int32_t& Effect, std::int16_t& Button,
                    std::int16_t& Shift, float& X, float& Y, std::int16_t& State) override;
   void OLEGiveFeedback(std::int32_t& Effect, norvane::Boolean& DefaultCursors) override {
-    event("OLEGiveFeedback", {{"Effect", Effect}, {"DefaultCursors", DefaultCursors}});
+    logEvent("OLEGiveFeedback", {{"Effect", Effect}, {"DefaultCursors", DefaultCursors}});
   }
   void OLESetData(DataObject& Data, std::int16_t& DataFormat) override {
-    event("OLESetData", {{"Data", Data}, {"DataFormat", DataFormat}});
+    logEvent("OLESetData", {{"Data", Data}, {"DataFormat", DataFormat}});
   }
   void OLEStartDrag(DataObject& Data, std::int32_t& AllowedEffects) override {
-    event("OLEStartDrag", {{"Data", Data}, {"AllowedEffects", AllowedEffects}});
+    logEvent("OLEStartDrag", {{"Data", Data}, {"AllowedEffects", AllowedEffects}});
   }
   void ErrorWrongIndex(norvane::Variant& Index) override {
-    event("ErrorWrongIndex", {{"Index", Index}});
+    logEvent("ErrorWrongIndex", {{"Index", Index}});
   }
 
  private:
@@ -77,7 +77,7 @@ class EventLog : public QPlainTextEdit, public norvane::__nvList {
     norvane::Variant value;
   };
 
-  void event(const char* name, std::initializer_list<Argument> arguments = {});
+  void logEvent(const char* name, std::initializer_list<Argument> arguments = {});
   /// An event that comes once an item. The last one of several in a row is all that is kept.
   void progress(const char* name, const norvane::Variant& index);
   void showProgress();

@@ -5,9 +5,9 @@
 #include <functional>
 #include <vector>
 
-#include <nvlist/core/Colour.h>
 #include <nvlist/input/events.h>
 #include <nvlist/platform/qt/NvListWidget.h>
+#include <nvlist/values/Colour.h>
 
 #include "Glyphs.h"
 

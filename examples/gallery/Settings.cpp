@@ -6,8 +6,8 @@
 #include <utility>
 #include <vector>
 
-#include <nvlist/core/PropertyBag.h>
-#include <nvlist/objects/Failure.h>
+#include <nvlist/values/Failure.h>
+#include <nvlist/values/PropertyBag.h>
 
 using norvane::ListItem;
 using norvane::NewItem;

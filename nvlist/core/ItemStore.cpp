@@ -5,7 +5,7 @@
 #include <limits>
 #include <vector>
 
-#include <nvlist/objects/Failure.h>
+#include <nvlist/values/Failure.h>
 
 namespace norvane {
 

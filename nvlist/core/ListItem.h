@@ -2,13 +2,13 @@
 
 #include <string>
 
-#include <nvlist/core/Boolean.h>
-#include <nvlist/core/Colour.h>
-#include <nvlist/core/CompactText.h>
-#include <nvlist/core/Picture.h>
-#include <nvlist/core/Ref.h>
-#include <nvlist/core/Variant.h>
-#include <nvlist/core/enumerations.h>
+#include <nvlist/values/Boolean.h>
+#include <nvlist/values/Colour.h>
+#include <nvlist/values/CompactText.h>
+#include <nvlist/values/Picture.h>
+#include <nvlist/values/Ref.h>
+#include <nvlist/values/Variant.h>
+#include <nvlist/values/enumerations.h>
 
 namespace norvane {
 

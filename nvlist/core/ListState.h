@@ -2,14 +2,14 @@
 
 #include <string>
 
-#include <nvlist/core/Boolean.h>
-#include <nvlist/core/Colour.h>
-#include <nvlist/core/Font.h>
 #include <nvlist/core/ItemStore.h>
-#include <nvlist/core/Rectangle.h>
 #include <nvlist/core/SelectionMarks.h>
-#include <nvlist/core/Variant.h>
-#include <nvlist/core/enumerations.h>
+#include <nvlist/values/Boolean.h>
+#include <nvlist/values/Colour.h>
+#include <nvlist/values/Font.h>
+#include <nvlist/values/Rectangle.h>
+#include <nvlist/values/Variant.h>
+#include <nvlist/values/enumerations.h>
 
 namespace norvane {
 

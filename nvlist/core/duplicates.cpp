@@ -1,7 +1,7 @@
-#include <nvlist/core/numbers.h>
 #include <nvlist/core/repeatedTexts.h>
-#include <nvlist/core/text.h>
 #include <nvlist/nvList.h>
+#include <nvlist/values/numbers.h>
+#include <nvlist/values/text.h>
 
 #include <string>
 #include <vector>

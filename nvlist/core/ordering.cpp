@@ -1,6 +1,6 @@
-#include <nvlist/core/numbers.h>
 #include <nvlist/core/partitionSort.h>
 #include <nvlist/nvList.h>
+#include <nvlist/values/numbers.h>
 
 #include <algorithm>
 #include <cmath>

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include <nvlist/core/enumerations.h>
+#include <nvlist/values/enumerations.h>
 
 namespace norvane {
 

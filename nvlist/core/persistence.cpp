@@ -1,7 +1,7 @@
 #include <functional>
 
 #include <nvlist/nvList.h>
-#include <nvlist/objects/Failure.h>
+#include <nvlist/values/Failure.h>
 
 namespace norvane {
 namespace {

@@ -1,7 +1,7 @@
-#include <nvlist/core/like.h>
-#include <nvlist/nvList.h>
-
 #include <optional>
+
+#include <nvlist/nvList.h>
+#include <nvlist/values/LikePattern.h>
 
 namespace norvane {
 

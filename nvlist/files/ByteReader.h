@@ -7,8 +7,8 @@
 #include <type_traits>
 #include <vector>
 
-#include <nvlist/objects/Failure.h>
 #include <nvlist/platform/File.h>
+#include <nvlist/values/Failure.h>
 
 namespace norvane {
 

@@ -1,7 +1,7 @@
 #include <nvlist/files/FileWriter.h>
 
-#include <nvlist/core/numbers.h>
 #include <nvlist/files/windows1252.h>
+#include <nvlist/values/numbers.h>
 
 namespace norvane {
 

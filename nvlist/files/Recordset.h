@@ -3,9 +3,9 @@
 #include <cstdint>
 #include <optional>
 
-#include <nvlist/core/Boolean.h>
-#include <nvlist/core/Variant.h>
-#include <nvlist/objects/Failure.h>
+#include <nvlist/values/Boolean.h>
+#include <nvlist/values/Failure.h>
+#include <nvlist/values/Variant.h>
 
 namespace norvane {
 

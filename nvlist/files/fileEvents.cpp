@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <limits>
 
-#include <nvlist/core/numbers.h>
+#include <nvlist/values/numbers.h>
 
 namespace norvane {
 namespace {

@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include <nvlist/core/ListItem.h>
-#include <nvlist/objects/Failure.h>
+#include <nvlist/values/Failure.h>
 
 namespace norvane {
 

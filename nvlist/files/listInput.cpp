@@ -1,10 +1,12 @@
-#include <nvlist/core/numbers.h>
 #include <nvlist/files/ByteReader.h>
+#include <nvlist/files/colourTexts.h>
 #include <nvlist/files/fileExists.h>
 #include <nvlist/files/inputLimits.h>
 #include <nvlist/files/windows1252.h>
 #include <nvlist/nvList.h>
 #include <nvlist/platform/Application.h>
+#include <nvlist/values/numbers.h>
+#include <nvlist/values/text.h>
 
 #include <algorithm>
 #include <utility>

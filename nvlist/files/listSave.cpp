@@ -1,4 +1,5 @@
 #include <nvlist/files/FileWriter.h>
+#include <nvlist/files/colourTexts.h>
 #include <nvlist/nvList.h>
 #include <nvlist/platform/Application.h>
 

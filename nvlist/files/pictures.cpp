@@ -1,6 +1,6 @@
-#include <nvlist/core/numbers.h>
 #include <nvlist/nvList.h>
 #include <nvlist/platform/Application.h>
+#include <nvlist/values/numbers.h>
 
 namespace norvane {
 

@@ -1,7 +1,7 @@
-#include <nvlist/core/numbers.h>
 #include <nvlist/files/fileExists.h>
 #include <nvlist/nvList.h>
 #include <nvlist/objects/SpEv.h>
+#include <nvlist/values/numbers.h>
 
 #include <vector>
 

@@ -6,7 +6,7 @@
 #include <cstring>
 #include <iterator>
 
-#include <nvlist/core/text.h>
+#include <nvlist/values/text.h>
 
 namespace norvane::windows1252 {
 namespace {

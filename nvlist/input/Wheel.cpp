@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include <nvlist/core/numbers.h>
 #include <nvlist/objects/Trap.h>
+#include <nvlist/values/numbers.h>
 
 namespace norvane {
 namespace {

@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <vector>
 
-#include <nvlist/core/Boolean.h>
-#include <nvlist/core/Variant.h>
+#include <nvlist/values/Boolean.h>
+#include <nvlist/values/Variant.h>
 
 namespace norvane {
 

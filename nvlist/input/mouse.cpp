@@ -1,8 +1,8 @@
 #include <algorithm>
 
-#include <nvlist/core/numbers.h>
 #include <nvlist/nvList.h>
 #include <nvlist/render/art.h>
+#include <nvlist/values/numbers.h>
 
 namespace norvane {
 namespace {

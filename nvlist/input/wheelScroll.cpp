@@ -1,5 +1,5 @@
-#include <nvlist/core/numbers.h>
 #include <nvlist/nvList.h>
+#include <nvlist/values/numbers.h>
 
 namespace norvane {
 

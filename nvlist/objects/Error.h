@@ -1,6 +1,6 @@
 #pragma once
 
-#include <nvlist/core/Boolean.h>
+#include <nvlist/values/Boolean.h>
 
 namespace norvane {
 

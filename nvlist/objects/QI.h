@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <string>
 
-#include <nvlist/core/Variant.h>
 #include <nvlist/objects/nvToolTip.h>
+#include <nvlist/values/Variant.h>
 
 namespace norvane {
 

@@ -1,11 +1,11 @@
 #include <nvlist/objects/SpEv.h>
 
-#include <nvlist/core/numbers.h>
 #include <nvlist/objects/TextFile.h>
 #include <nvlist/objects/Trap.h>
 #include <nvlist/objects/lateBound.h>
 #include <nvlist/platform/Application.h>
 #include <nvlist/platform/ListBox.h>
+#include <nvlist/values/numbers.h>
 
 namespace norvane {
 namespace {

@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include <nvlist/core/Boolean.h>
-#include <nvlist/core/Variant.h>
-#include <nvlist/core/enumerations.h>
+#include <nvlist/values/Boolean.h>
+#include <nvlist/values/Variant.h>
+#include <nvlist/values/enumerations.h>
 
 namespace norvane {
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include <nvlist/objects/Failure.h>
 #include <nvlist/platform/Application.h>
+#include <nvlist/values/Failure.h>
 
 namespace norvane {
 namespace {

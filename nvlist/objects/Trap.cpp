@@ -5,8 +5,8 @@
 #include <string>
 
 #include <nvlist/objects/Error.h>
-#include <nvlist/objects/Failure.h>
 #include <nvlist/objects/reporter.h>
+#include <nvlist/values/Failure.h>
 
 namespace norvane {
 namespace {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <nvlist/core/Ref.h>
-#include <nvlist/core/Variant.h>
-#include <nvlist/objects/Failure.h>
+#include <nvlist/values/Failure.h>
+#include <nvlist/values/Ref.h>
+#include <nvlist/values/Variant.h>
 
 namespace norvane {
 

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include <nvlist/core/numbers.h>
 #include <nvlist/objects/Trap.h>
 #include <nvlist/objects/lateBound.h>
 #include <nvlist/platform/Application.h>
 #include <nvlist/platform/HostWindow.h>
+#include <nvlist/values/numbers.h>
 
 namespace norvane {
 namespace {

@@ -5,10 +5,10 @@
 #include <string>
 #include <string_view>
 
-#include <nvlist/core/Boolean.h>
-#include <nvlist/core/Colour.h>
-#include <nvlist/core/Variant.h>
 #include <nvlist/platform/TipWindow.h>
+#include <nvlist/values/Boolean.h>
+#include <nvlist/values/Colour.h>
+#include <nvlist/values/Variant.h>
 
 namespace norvane {
 

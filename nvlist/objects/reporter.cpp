@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <nvlist/platform/Application.h>
+#include <nvlist/values/text.h>
 
 namespace norvane {
 namespace {
@@ -18,12 +19,6 @@ bool ignoringFailures(Statement&& statement) {
   } catch (...) {
     return false;
   }
-}
-
-std::string trimmedBlanks(const std::string& text) {
-  const auto first = text.find_first_not_of(' ');
-  if (first == std::string::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 std::string messageOf(const Report& failure, const ApplicationFacts& program) {

@@ -3,8 +3,8 @@
 #include <cstdio>
 #include <utility>
 
-#include <nvlist/objects/Failure.h>
 #include <nvlist/platform/diskFiles.h>
+#include <nvlist/values/Failure.h>
 
 namespace norvane {
 namespace {

@@ -8,10 +8,10 @@
 #include <string_view>
 #include <vector>
 
-#include <nvlist/core/Picture.h>
-#include <nvlist/core/Variant.h>
 #include <nvlist/platform/File.h>
 #include <nvlist/platform/TipWindow.h>
+#include <nvlist/values/Picture.h>
+#include <nvlist/values/Variant.h>
 
 namespace norvane {
 

@@ -5,12 +5,12 @@
 #include <string>
 #include <string_view>
 
-#include <nvlist/core/Boolean.h>
-#include <nvlist/core/Font.h>
+#include <nvlist/drawing/Surface.h>
 #include <nvlist/platform/Bounds.h>
 #include <nvlist/platform/TextBox.h>
 #include <nvlist/platform/Timer.h>
-#include <nvlist/render/Surface.h>
+#include <nvlist/values/Boolean.h>
+#include <nvlist/values/Font.h>
 
 namespace norvane {
 

@@ -2,9 +2,9 @@
 
 #include <cstdint>
 
-#include <nvlist/core/Ref.h>
-#include <nvlist/core/Variant.h>
-#include <nvlist/objects/Failure.h>
+#include <nvlist/values/Failure.h>
+#include <nvlist/values/Ref.h>
+#include <nvlist/values/Variant.h>
 
 namespace norvane {
 

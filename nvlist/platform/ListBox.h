@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <string>
 
-#include <nvlist/core/Variant.h>
-#include <nvlist/objects/Failure.h>
+#include <nvlist/values/Failure.h>
+#include <nvlist/values/Variant.h>
 
 namespace norvane {
 

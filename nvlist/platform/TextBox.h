@@ -3,9 +3,9 @@
 #include <cstdint>
 #include <string>
 
-#include <nvlist/core/Colour.h>
-#include <nvlist/core/Font.h>
 #include <nvlist/platform/Bounds.h>
+#include <nvlist/values/Colour.h>
+#include <nvlist/values/Font.h>
 
 namespace norvane {
 

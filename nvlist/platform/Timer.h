@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include <nvlist/core/Boolean.h>
+#include <nvlist/values/Boolean.h>
 
 namespace norvane {
 

@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <string>
 
-#include <nvlist/core/Colour.h>
-#include <nvlist/core/Rectangle.h>
+#include <nvlist/values/Colour.h>
+#include <nvlist/values/Rectangle.h>
 
 namespace norvane {
 

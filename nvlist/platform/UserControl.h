@@ -4,8 +4,8 @@
 #include <memory>
 #include <string_view>
 
-#include <nvlist/core/Boolean.h>
 #include <nvlist/platform/Container.h>
+#include <nvlist/values/Boolean.h>
 
 namespace norvane {
 

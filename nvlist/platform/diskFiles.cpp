@@ -6,8 +6,8 @@
 #include <ios>
 #include <system_error>
 
-#include <nvlist/core/like.h>
-#include <nvlist/objects/Failure.h>
+#include <nvlist/values/Failure.h>
+#include <nvlist/values/LikePattern.h>
 
 namespace norvane::disk {
 namespace {

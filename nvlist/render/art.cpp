@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include <nvlist/render/DrawnPicture.h>
+#include <nvlist/drawing/DrawnPicture.h>
 
 namespace norvane::art {
 namespace {

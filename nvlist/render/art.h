@@ -1,6 +1,6 @@
 #pragma once
 
-#include <nvlist/core/Picture.h>
+#include <nvlist/values/Picture.h>
 
 /// The pictures the list brings along, each drawn once and shared by all lists of the program.
 namespace norvane::art {

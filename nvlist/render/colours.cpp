@@ -1,15 +1,7 @@
 #include <nvlist/render/colours.h>
 
-#include <algorithm>
-
-#include <nvlist/core/numbers.h>
-#include <nvlist/objects/Failure.h>
-#include <nvlist/objects/Trap.h>
-
 namespace norvane {
 namespace {
-
-constexpr Module here = {kinds::module, "basList"};
 
 struct Palette {
   Colour selection;
@@ -34,20 +26,6 @@ std::optional<Palette> paletteOf(cColorStyle style, const Palette& custom) {
   return std::nullopt;
 }
 
-/// Red, green and blue; a negative number is divided towards zero.
-std::array<Colour, 3> channelsOf(Colour color) {
-  return {color & 255, color / 256 & 255, color / 65536 & 255};
-}
-
-constexpr char hexDigits[] = "0123456789ABCDEF";
-
-Colour digitOf(char hex) {
-  if (hex >= '0' && hex <= '9') return hex - '0';
-  const char letter = static_cast<char>(hex | 0x20);
-  if (letter < 'a' || letter > 'f') throw Failure::typeMismatch();
-  return letter - 'a' + 10;
-}
-
 }  // namespace
 
 Colour selectionColour(cColorStyle style, Colour valueColor) {
@@ -58,78 +36,6 @@ Colour selectionColour(cColorStyle style, Colour valueColor) {
 std::optional<Colour> borderColour(cColorStyle style, Colour borderColor) {
   const auto palette = paletteOf(style, {0, borderColor});
   return palette ? std::optional(palette->border) : std::nullopt;
-}
-
-std::string CHex(std::int32_t value, std::int16_t width) {
-  std::string result;
-  trapped(here, "CHex", [&](Trap& on) {
-    on.step([&] { result = hexTextOf(static_cast<std::uint32_t>(value), width); });
-  });
-  return result;
-}
-
-std::string RGB2HTML(std::int16_t red, std::int16_t green, std::int16_t blue) {
-  std::string result;
-  trapped(here, "RGB2HTML", [&](Trap& on) {
-    on.step([&] { result = CHex(red, 2) + CHex(green, 2) + CHex(blue, 2); });
-  });
-  return result;
-}
-
-std::string VBColor2HTML(Colour color) {
-  std::string result;
-  trapped(here, "VBColor2HTML", [&](Trap& on) {
-    on.step([&] {
-      const auto [red, green, blue] = channelsOf(color);
-      result = RGB2HTML(static_cast<std::int16_t>(red), static_cast<std::int16_t>(green),
-                        static_cast<std::int16_t>(blue));
-    });
-  });
-  return result;
-}
-
-std::string GetCorrectColor(std::string_view text) {
-  std::string result;
-  trapped(here, "GetCorrectColor", [&](Trap& on) {
-    if (text == defaultMark) {
-      on.step([&] { result = std::string(3, ' ').append(text); });
-    } else if (const auto number = numberOf(text)) {
-      on.step([&] { result = VBColor2HTML(checked::nearest<Colour>(*number)); });
-    } else {
-      on.step([&] { result = VBColor2HTML(colours::white); });
-    }
-  });
-  return result;
-}
-
-std::array<char, 6> listFileColour(const Variant& colour) {
-  std::array<char, 6> result;
-  if (isDefaultMark(colour)) {
-    result = {' ', ' ', ' ', 'd', 'e', 'f'};
-  } else if (colour.type() == Variant::Type::Int32) {
-    // The long way round gives the same, as the text of a number is a number.
-    char* digit = result.data();
-    for (const Colour channel : channelsOf(colour.toInt32())) {
-      *digit++ = hexDigits[channel >> 4];
-      *digit++ = hexDigits[channel & 15];
-    }
-  } else {
-    result.fill(' ');
-    // Six characters or, after a report, none.
-    std::ranges::copy(GetCorrectColor(colour.toText()), result.begin());
-  }
-  return result;
-}
-
-std::string_view trimmedBlanks(std::string_view text) {
-  const auto first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
-Colour channelOfText(std::string_view text, std::size_t at) {
-  if (text.size() < at + 2) throw Failure::typeMismatch();
-  return digitOf(text[at]) << 4 | digitOf(text[at + 1]);
 }
 
 }  // namespace norvane

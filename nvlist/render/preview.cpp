@@ -8,8 +8,6 @@ namespace norvane {
 void nvList::paintPreview(Trap& on) {
   constexpr float margin = 3;
   constexpr float iconSize = 16;
-  const bool hasCheckBox = state_.Style == cCheckBoxes || state_.Style == cCheckBoxesIcons;
-  const bool hasIcon = state_.Style == cIcons || state_.Style == cCheckBoxesIcons;
 
   on.step([&] { surface_.Cls(); });
   const auto centred = [&](float height) {
@@ -17,16 +15,16 @@ void nvList::paintPreview(Trap& on) {
   };
   float nameLeft = state_.IndentLeft;
   float iconLeft = margin;
-  if (hasCheckBox) {
+  if (hasCheckBox(state_.Style)) {
     Picture box;
     on.step([&] { box = art::checkBox(false, true); });
     const float width = box ? box->width() : 0;
     const float height = box ? box->height() : 0;
     on.step([&] { surface_.PaintPicture(box, margin, centred(height)); });
-    nameLeft += hasIcon ? width + margin : width + state_.DistPicText;
+    nameLeft += hasIcon(state_.Style) ? width + margin : width + state_.DistPicText;
     iconLeft += width + margin;
   }
-  if (hasIcon) {
+  if (hasIcon(state_.Style)) {
     on.step([&] {
       surface_.PaintPicture(art::sampleIcon(), iconLeft, centred(iconSize), iconSize, iconSize);
     });

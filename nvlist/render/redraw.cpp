@@ -1,6 +1,6 @@
-#include <nvlist/core/numbers.h>
 #include <nvlist/nvList.h>
 #include <nvlist/render/RepaintValues.h>
+#include <nvlist/values/numbers.h>
 
 #include <algorithm>
 #include <cmath>

@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <string_view>
 
-#include <nvlist/core/numbers.h>
 #include <nvlist/render/Row.h>
+#include <nvlist/values/numbers.h>
 
 namespace norvane {
 

@@ -8,8 +8,6 @@ namespace {
 
 constexpr float gapBetweenPictures = 3;
 
-bool hasCheckBox(cListStyle style) { return style == cCheckBoxes || style == cCheckBoxesIcons; }
-bool hasIcon(cListStyle style) { return style == cIcons || style == cCheckBoxesIcons; }
 float checkBoxWidth() { return art::checkBox(true, true)->width(); }
 
 /// An empty reference and a picture object that holds no picture both have no handle.

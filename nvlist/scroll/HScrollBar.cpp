@@ -1,7 +1,7 @@
 #include <nvlist/scroll/HScrollBar.h>
 
-#include <nvlist/core/numbers.h>
 #include <nvlist/scroll/art.h>
+#include <nvlist/values/numbers.h>
 
 namespace norvane {
 

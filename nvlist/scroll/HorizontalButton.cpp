@@ -1,6 +1,6 @@
 #include <nvlist/scroll/HorizontalButton.h>
 
-#include <nvlist/core/numbers.h>
+#include <nvlist/values/numbers.h>
 
 namespace norvane {
 namespace {

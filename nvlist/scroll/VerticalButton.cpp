@@ -1,6 +1,6 @@
 #include <nvlist/scroll/VerticalButton.h>
 
-#include <nvlist/core/numbers.h>
+#include <nvlist/values/numbers.h>
 
 namespace norvane {
 namespace {

@@ -8,8 +8,8 @@
 #include <string_view>
 #include <utility>
 
-#include <nvlist/objects/Failure.h>
-#include <nvlist/render/DrawnPicture.h>
+#include <nvlist/drawing/DrawnPicture.h>
+#include <nvlist/values/Failure.h>
 
 namespace norvane::art {
 namespace {

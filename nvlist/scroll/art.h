@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include <nvlist/core/Picture.h>
+#include <nvlist/values/Picture.h>
 
 /// The pictures of the scroll bars, each drawn once and shared by all bars of the program.
 namespace norvane::art {

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include <nvlist/core/numbers.h>
 #include <nvlist/objects/about.h>
 #include <nvlist/platform/Application.h>
-#include <nvlist/render/gradient.h>
+#include <nvlist/scroll/gradient.h>
+#include <nvlist/values/numbers.h>
 
 namespace norvane {
 namespace {

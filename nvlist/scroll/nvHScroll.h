@@ -5,13 +5,13 @@
 #include <string>
 #include <string_view>
 
-#include <nvlist/core/PropertyBag.h>
 #include <nvlist/objects/Trap.h>
 #include <nvlist/platform/UserControl.h>
 #include <nvlist/scroll/HScrollBar.h>
 #include <nvlist/scroll/VBtnLeft.h>
 #include <nvlist/scroll/VBtnRight.h>
 #include <nvlist/scroll/values.h>
+#include <nvlist/values/PropertyBag.h>
 
 namespace norvane {
 

@@ -2,10 +2,10 @@
 
 #include <cstdint>
 
-#include <nvlist/core/Boolean.h>
-#include <nvlist/core/Colour.h>
+#include <nvlist/drawing/Surface.h>
 #include <nvlist/objects/Trap.h>
-#include <nvlist/render/Surface.h>
+#include <nvlist/values/Boolean.h>
+#include <nvlist/values/Colour.h>
 
 /// The lines around a thumb that both thumbs draw alike; `W` and `H` are the size of the surface.
 namespace norvane::scroll {

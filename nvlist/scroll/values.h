@@ -2,10 +2,10 @@
 
 #include <cstdint>
 
-#include <nvlist/core/Boolean.h>
-#include <nvlist/core/Colour.h>
-#include <nvlist/core/enumerations.h>
-#include <nvlist/render/Surface.h>
+#include <nvlist/drawing/Surface.h>
+#include <nvlist/values/Boolean.h>
+#include <nvlist/values/Colour.h>
+#include <nvlist/values/enumerations.h>
 
 /// What the parts of the two scroll bars have in common: values and the simplest drawing. What they
 /// do differs in many small points, so each part does it itself.

@@ -1,7 +1,9 @@
 #include <nvlist/core/like.h>
-#include <nvlist/core/text.h>
-#include <nvlist/objects/Failure.h>
+
 #include <nvlist/platform/headless/HeadlessApplication.h>
+#include <nvlist/values/Failure.h>
+#include <nvlist/values/LikePattern.h>
+#include <nvlist/values/text.h>
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include <nvlist/core/caseTables.h>
-#include <nvlist/core/text.h>
+#include <nvlist/values/caseTables.h>
+#include <nvlist/values/text.h>
 
 #include <gtest/gtest.h>
 

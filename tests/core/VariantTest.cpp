@@ -1,11 +1,11 @@
-#include <nvlist/core/Variant.h>
+#include <nvlist/values/Variant.h>
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
 
-#include <nvlist/core/numbers.h>
+#include <nvlist/values/numbers.h>
 
 namespace norvane {
 namespace {

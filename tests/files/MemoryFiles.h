@@ -5,8 +5,8 @@
 #include <memory>
 #include <string>
 
-#include <nvlist/objects/Failure.h>
 #include <nvlist/platform/headless/HeadlessApplication.h>
+#include <nvlist/values/Failure.h>
 
 namespace norvane {
 

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include <nvlist/core/like.h>
-#include <nvlist/core/text.h>
-#include <nvlist/objects/Failure.h>
+#include <nvlist/values/Failure.h>
+#include <nvlist/values/LikePattern.h>
+#include <nvlist/values/text.h>
 
 namespace {
 

@@ -33,7 +33,7 @@ Picture somePicture() {
 }
 
 TEST(Recording, KeepsEveryCallAndReplaysIt) {
-  HeadlessSurface surface(20, 20);
+  RecordingSurface surface(20, 20);
   drawEverything(surface, somePicture());
   EXPECT_EQ(surface.image().text(),
             "Cls\n"
@@ -56,7 +56,7 @@ TEST(Recording, KeepsEveryCallAndReplaysIt) {
   EXPECT_EQ(surface.CurrentX(), 0);
   EXPECT_EQ(surface.CurrentY(), 21);
 
-  HeadlessSurface other(20, 20);
+  RecordingSurface other(20, 20);
   surface.replay(other);
   EXPECT_EQ(other.image().text(), surface.image().text());
   EXPECT_THROW(surface.PaintPicture(nullptr, 0, 0), Failure);
@@ -65,15 +65,15 @@ TEST(Recording, KeepsEveryCallAndReplaysIt) {
 }
 
 TEST(Recording, AnImageBeginsWithTheSettingsOfItsTime) {
-  HeadlessSurface surface(20, 20);
+  RecordingSurface surface(20, 20);
   surface.BackColor(0x123456);
   surface.FontBold(true);
   surface.Cls();
   surface.BackColor(0);
-  HeadlessSurface other(20, 20);
+  RecordingSurface other(20, 20);
   other.Cls();
   surface.replay(other);
-  HeadlessSurface third(20, 20);
+  RecordingSurface third(20, 20);
   third.Cls();
   other.replay(third);
   EXPECT_EQ(third.TextWidth("ab"), 16);
@@ -81,7 +81,7 @@ TEST(Recording, AnImageBeginsWithTheSettingsOfItsTime) {
 }
 
 TEST(Recording, MeasuresTextsByCharacters) {
-  HeadlessSurface surface(20, 20);
+  RecordingSurface surface(20, 20);
   EXPECT_EQ(surface.TextWidth(""), 0);
   EXPECT_EQ(surface.TextHeight(""), 13);
   EXPECT_EQ(surface.TextWidth("\u00e4\xff"), 14);

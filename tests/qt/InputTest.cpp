@@ -13,10 +13,10 @@
 #include <memory>
 #include <string>
 
-#include <nvlist/core/numbers.h>
 #include <nvlist/platform/headless/HeadlessApplication.h>
 #include <nvlist/platform/qt/QtColour.h>
 #include <nvlist/platform/qt/QtKeys.h>
+#include <nvlist/values/numbers.h>
 
 namespace norvane {
 namespace {

@@ -3,10 +3,10 @@
 #include <QBuffer>
 #include <QTemporaryDir>
 
-#include <nvlist/objects/Failure.h>
 #include <nvlist/platform/qt/NvListWidget.h>
 #include <nvlist/platform/qt/QtApplication.h>
 #include <nvlist/platform/qt/QtPicture.h>
+#include <nvlist/values/Failure.h>
 
 namespace norvane {
 namespace {

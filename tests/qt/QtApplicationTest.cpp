@@ -9,8 +9,8 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-#include <nvlist/objects/Failure.h>
 #include <nvlist/objects/reporter.h>
+#include <nvlist/values/Failure.h>
 
 namespace norvane {
 namespace {

@@ -7,10 +7,10 @@
 #include <QWheelEvent>
 #include <functional>
 
-#include <nvlist/objects/Failure.h>
 #include <nvlist/platform/UserControl.h>
 #include <nvlist/platform/qt/QtTextBox.h>
 #include <nvlist/platform/qt/QtTimer.h>
+#include <nvlist/values/Failure.h>
 
 namespace norvane {
 namespace {

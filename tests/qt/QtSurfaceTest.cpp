@@ -7,9 +7,9 @@
 #include <limits>
 #include <string>
 
-#include <nvlist/objects/Failure.h>
 #include <nvlist/platform/qt/QtFont.h>
 #include <nvlist/platform/qt/QtPicture.h>
+#include <nvlist/values/Failure.h>
 
 namespace norvane {
 namespace {

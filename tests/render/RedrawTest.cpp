@@ -11,7 +11,7 @@ namespace {
 using Redraw = ListTest;
 
 /// The texts drawn, top to bottom, each with its top edge: "a@3 b@16".
-std::string rowsOf(const HeadlessSurface& surface) {
+std::string rowsOf(const RecordingSurface& surface) {
   std::string result;
   for (const SurfaceCall& call : surface.image().calls)
     if (const auto* text = std::get_if<calls::DrawTextA>(&call))
@@ -105,19 +105,19 @@ TEST_F(Redraw, AShortListMayHaveANegativeTopIndexAndIsStillShown) {
 
 /// A list whose surface calls the host in the middle of a row.
 struct HostedList {
-  struct Surface : HeadlessSurface {
-    using HeadlessSurface::HeadlessSurface;
+  struct Surface : RecordingSurface {
+    using RecordingSurface::RecordingSurface;
     float TextHeight(std::string_view text) override {
       if (text != "A") onMeasure();
-      return HeadlessSurface::TextHeight(text);
+      return RecordingSurface::TextHeight(text);
     }
     void DrawTextA(std::uintptr_t hDC, std::string_view text, std::int32_t length,
                    const Rectangle& rectangle, TextFormat format) override {
-      HeadlessSurface::DrawTextA(hDC, text, length, rectangle, format);
+      RecordingSurface::DrawTextA(hDC, text, length, rectangle, format);
       onText(text);
     }
     void ForeColor(Colour colour) override {
-      HeadlessSurface::ForeColor(colour);
+      RecordingSurface::ForeColor(colour);
       onColour();
     }
     std::function<void()> onMeasure = [] {};

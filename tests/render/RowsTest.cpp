@@ -243,11 +243,11 @@ TEST_F(Rows, PicturesThatAreNoneAreSkipped) {
 }
 
 TEST_F(Rows, WhateverTheSurfaceThrowsIsReportedOnce) {
-  struct Failing : HeadlessSurface {
-    using HeadlessSurface::HeadlessSurface;
+  struct Failing : RecordingSurface {
+    using RecordingSurface::RecordingSurface;
     float CurrentY() const override {
       if (--questionsLeft == 0) throw std::runtime_error("no answer");
-      return HeadlessSurface::CurrentY();
+      return RecordingSurface::CurrentY();
     }
     mutable int questionsLeft = 0;
   };

@@ -47,7 +47,7 @@ class ScrollFit : public ListTest, public __nvList {
   std::string horizontal() { return told(list.horizontalBar()); }
   std::int32_t contentWidth() { return list.state().MaxItemWidth; }
   /// What the items are measured on.
-  HeadlessSurface& label() { return form.children().at(6)->ownSurface(); }
+  RecordingSurface& label() { return form.children().at(6)->ownSurface(); }
 
   /// A part of a bar: 0 thumb, 1 near button, 2 far button.
   HeadlessContainer& part(int bar, int index) {

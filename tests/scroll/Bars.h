@@ -13,8 +13,8 @@ namespace norvane {
 
 /// What the last Cls filled a surface with.
 inline Colour background(HeadlessContainer& place) {
-  struct Watcher : HeadlessSurface {
-    Watcher() : HeadlessSurface(0, 0) {}
+  struct Watcher : RecordingSurface {
+    Watcher() : RecordingSurface(0, 0) {}
     void BackColor(Colour value) override { colour = value; }
     Colour colour = -1;
   } watcher;

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include <nvlist/objects/Failure.h>
 #include <nvlist/platform/UserControl.h>
+#include <nvlist/values/Failure.h>
 
 namespace norvane {
 
@@ -74,7 +74,7 @@ void HeadlessContainer::paintPending() {
   if (std::exchange(isPaintPending_, false) && control_) control_->UserControl_Paint();
 }
 
-HeadlessSurface& HeadlessContainer::ownSurface() {
+RecordingSurface& HeadlessContainer::ownSurface() {
   if (!ownSurface_) throw Failure::invalidCall();
   return *ownSurface_;
 }

@@ -6,9 +6,9 @@
 #include <optional>
 #include <vector>
 
+#include <nvlist/drawing/RecordingSurface.h>
 #include <nvlist/platform/Container.h>
 #include <nvlist/platform/headless/HeadlessClock.h>
-#include <nvlist/platform/headless/HeadlessSurface.h>
 #include <nvlist/platform/headless/HeadlessTextBox.h>
 
 namespace norvane {
@@ -60,7 +60,7 @@ class HeadlessContainer : public Container {
   /// The second press of a double click, as the control under it hears it.
   void doubleClick(float x, float y, std::int16_t button = 1, std::int16_t shift = 0);
   /// The surface it made for itself; Failure 5 for a form that shows the program's.
-  HeadlessSurface& ownSurface();
+  RecordingSurface& ownSurface();
 
   void attach(UserControl* control) override;
   Surface& surface() override { return surface_; }
@@ -99,7 +99,7 @@ class HeadlessContainer : public Container {
   Point onRoot(Point point) const;
   Point fromRoot(Point point) const;
 
-  std::optional<HeadlessSurface> ownSurface_;
+  std::optional<RecordingSurface> ownSurface_;
   Surface& surface_;
   HeadlessContainer* parent_ = nullptr;
   HeadlessContainer& root_;

@@ -15,7 +15,7 @@ class HeadlessList {
 
   nvList& list() { return list_; }
   HeadlessContainer& container() { return container_; }
-  HeadlessSurface& surface() { return container_.ownSurface(); }
+  RecordingSurface& surface() { return container_.ownSurface(); }
 
   /// What the list shows now, one drawing call a line.
   std::string picture() { return surface().image().text(); }

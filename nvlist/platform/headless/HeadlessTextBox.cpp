@@ -1,6 +1,6 @@
 #include <nvlist/platform/headless/HeadlessTextBox.h>
 
-#include <nvlist/objects/Failure.h>
+#include <nvlist/values/Failure.h>
 
 namespace norvane {
 

@@ -14,12 +14,12 @@
 #include <QVersionNumber>
 #include <cstdio>
 
-#include <nvlist/objects/Failure.h>
 #include <nvlist/platform/qt/QtMouse.h>
 #include <nvlist/platform/qt/QtPicture.h>
 #include <nvlist/platform/qt/QtSound.h>
 #include <nvlist/platform/qt/QtTipWindow.h>
 #include <nvlist/platform/qt/QtWindow.h>
+#include <nvlist/values/Failure.h>
 
 namespace norvane {
 namespace {

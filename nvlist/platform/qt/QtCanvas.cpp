@@ -5,10 +5,11 @@
 #include <limits>
 #include <utility>
 
-#include <nvlist/objects/Failure.h>
 #include <nvlist/platform/qt/QtColour.h>
 #include <nvlist/platform/qt/QtFont.h>
 #include <nvlist/platform/qt/QtPicture.h>
+#include <nvlist/values/Failure.h>
+#include <nvlist/values/text.h>
 
 namespace norvane {
 namespace {
@@ -39,16 +40,6 @@ int nearestOf(int count, int at, int from, int to) {
   const auto place = static_cast<std::uint64_t>(std::int64_t{at} - from);
   const auto length = static_cast<std::uint64_t>(std::int64_t{to} - from);
   return static_cast<int>((2 * place + 1) * static_cast<std::uint64_t>(count) / (2 * length));
-}
-
-/// Calls `take` with each line of a text, until it returns false.
-template <class Take>
-void forEachLine(std::string_view text, Take&& take) {
-  for (;;) {
-    const std::size_t end = text.find_first_of("\r\n");
-    if (!take(text.substr(0, end)) || end == std::string_view::npos) return;
-    text.remove_prefix(text.substr(end, 2) == "\r\n" ? end + 2 : end + 1);
-  }
 }
 
 int lineCount(std::string_view text) {

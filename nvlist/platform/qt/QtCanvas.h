@@ -13,7 +13,7 @@
 #include <optional>
 #include <vector>
 
-#include <nvlist/render/Surface.h>
+#include <nvlist/drawing/Surface.h>
 
 namespace norvane {
 

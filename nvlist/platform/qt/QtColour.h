@@ -3,7 +3,7 @@
 #include <QPalette>
 #include <QRgb>
 
-#include <nvlist/core/Colour.h>
+#include <nvlist/values/Colour.h>
 
 namespace norvane {
 

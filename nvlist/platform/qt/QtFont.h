@@ -2,7 +2,7 @@
 
 #include <QFont>
 
-#include <nvlist/core/Font.h>
+#include <nvlist/values/Font.h>
 
 namespace norvane {
 

@@ -4,7 +4,7 @@
 #include <QImage>
 #include <QString>
 
-#include <nvlist/core/Picture.h>
+#include <nvlist/values/Picture.h>
 
 namespace norvane {
 

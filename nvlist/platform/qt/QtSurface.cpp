@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include <nvlist/objects/Failure.h>
+#include <nvlist/values/Failure.h>
 
 namespace norvane {
 namespace {

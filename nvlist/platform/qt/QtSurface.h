@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include <nvlist/platform/headless/HeadlessSurface.h>
+#include <nvlist/drawing/RecordingSurface.h>
 #include <nvlist/platform/qt/QtCanvas.h>
 
 namespace norvane {
@@ -69,7 +69,7 @@ class QtSurface final : public Surface {
   void requireOwn(std::uintptr_t hDC) const;
 
   QtCanvas canvas_;
-  HeadlessSurface waiting_{0, 0};
+  RecordingSurface waiting_{0, 0};
   bool isChangeTold_ = false;
 };
 

@@ -5,10 +5,10 @@
 #include <cmath>
 #include <cstdlib>
 
-#include <nvlist/objects/Failure.h>
 #include <nvlist/platform/qt/QtColour.h>
 #include <nvlist/platform/qt/QtFont.h>
 #include <nvlist/platform/qt/QtKeys.h>
+#include <nvlist/values/Failure.h>
 
 namespace norvane {
 namespace {

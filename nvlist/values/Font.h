@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include <nvlist/core/Boolean.h>
-#include <nvlist/core/Variant.h>
+#include <nvlist/values/Boolean.h>
+#include <nvlist/values/Variant.h>
 
 namespace norvane {
 

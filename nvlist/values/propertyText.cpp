@@ -5,10 +5,10 @@
 #include <limits>
 #include <optional>
 
-#include <nvlist/core/Font.h>
-#include <nvlist/core/PropertyBag.h>
-#include <nvlist/core/numbers.h>
-#include <nvlist/objects/Failure.h>
+#include <nvlist/values/Failure.h>
+#include <nvlist/values/Font.h>
+#include <nvlist/values/PropertyBag.h>
+#include <nvlist/values/numbers.h>
 
 namespace norvane {
 namespace {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include <nvlist/core/Ref.h>
+#include <nvlist/values/Ref.h>
 
 namespace norvane {
 

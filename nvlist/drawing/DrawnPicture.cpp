@@ -1,4 +1,4 @@
-#include <nvlist/render/DrawnPicture.h>
+#include <nvlist/drawing/DrawnPicture.h>
 
 #include <utility>
 

@@ -2,9 +2,9 @@
 
 #include <cstdint>
 
-#include <nvlist/core/Colour.h>
-#include <nvlist/core/Rectangle.h>
-#include <nvlist/render/Surface.h>
+#include <nvlist/drawing/Surface.h>
+#include <nvlist/values/Colour.h>
+#include <nvlist/values/Rectangle.h>
 
 namespace norvane {
 

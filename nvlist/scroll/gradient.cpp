@@ -1,12 +1,12 @@
-#include <nvlist/render/gradient.h>
+#include <nvlist/scroll/gradient.h>
 
 #include <array>
 #include <cstddef>
 #include <vector>
 
-#include <nvlist/core/numbers.h>
-#include <nvlist/objects/Failure.h>
 #include <nvlist/objects/Trap.h>
+#include <nvlist/values/Failure.h>
+#include <nvlist/values/numbers.h>
 
 namespace norvane {
 namespace {

@@ -16,6 +16,11 @@ enum cScrollColorStyle : std::int32_t {
 
 enum cListStyle : std::int32_t { cDefault = 0, cCheckBoxes = 1, cIcons = 2, cCheckBoxesIcons = 3 };
 
+constexpr bool hasCheckBox(cListStyle style) {
+  return style == cCheckBoxes || style == cCheckBoxesIcons;
+}
+constexpr bool hasIcon(cListStyle style) { return style == cIcons || style == cCheckBoxesIcons; }
+
 enum cItemAlignment : std::int32_t { cLeft = 0, cCenter = 1, cRight = 2 };
 
 enum cSortMode : std::int32_t { cAscending = 1, cDescending = 2 };

@@ -1,4 +1,4 @@
-#include <nvlist/core/numbers.h>
+#include <nvlist/values/numbers.h>
 
 #include <charconv>
 #include <locale>

@@ -52,4 +52,18 @@ inline char32_t foldCase(char32_t character) {
   return character >= U'A' && character <= U'Z' ? character + (U'a' - U'A') : character;
 }
 
+/// The text without the blanks at both ends.
+std::string_view trimmedBlanks(std::string_view text);
+
+/// Calls `take` with each line of a text, until it returns false. CR, LF and both together end a
+/// line and are not part of it; an empty text is one empty line.
+template <class Take>
+void forEachLine(std::string_view text, Take&& take) {
+  for (;;) {
+    const std::size_t end = text.find_first_of("\r\n");
+    if (!take(text.substr(0, end)) || end == std::string_view::npos) return;
+    text.remove_prefix(text.substr(end, 2) == "\r\n" ? end + 2 : end + 1);
+  }
+}
+
 }  // namespace norvane

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include <nvlist/core/Variant.h>
+#include <nvlist/values/Variant.h>
 
 namespace norvane {
 

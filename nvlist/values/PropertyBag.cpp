@@ -1,4 +1,4 @@
-#include <nvlist/core/PropertyBag.h>
+#include <nvlist/values/PropertyBag.h>
 
 #include <algorithm>
 

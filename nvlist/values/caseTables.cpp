@@ -1,5 +1,5 @@
 // Made by scripts/make-case-tables from Unicode 14.0.0.
-#include <nvlist/core/caseTables.h>
+#include <nvlist/values/caseTables.h>
 
 #include <algorithm>
 

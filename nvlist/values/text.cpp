@@ -1,5 +1,5 @@
-#include <nvlist/core/caseTables.h>
-#include <nvlist/core/text.h>
+#include <nvlist/values/caseTables.h>
+#include <nvlist/values/text.h>
 
 namespace norvane {
 
@@ -99,5 +99,11 @@ std::string upperCase(std::string_view text) {
 }
 
 char32_t foldLong(char32_t character) { return mapCase(foldCaseTable(), character); }
+
+std::string_view trimmedBlanks(std::string_view text) {
+  const auto first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
 
 }  // namespace norvane

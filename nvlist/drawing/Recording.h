@@ -5,7 +5,7 @@
 #include <variant>
 #include <vector>
 
-#include <nvlist/render/Surface.h>
+#include <nvlist/drawing/Surface.h>
 
 namespace norvane {
 

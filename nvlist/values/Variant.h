@@ -9,8 +9,8 @@
 #include <string_view>
 #include <utility>
 
-#include <nvlist/core/Boolean.h>
-#include <nvlist/core/Ref.h>
+#include <nvlist/values/Boolean.h>
+#include <nvlist/values/Ref.h>
 
 namespace norvane {
 

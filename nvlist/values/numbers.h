@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include <nvlist/objects/Failure.h>
+#include <nvlist/values/Failure.h>
 
 /// Whole numbers that never wrap round: each of these throws Failure 6, Overflow, where the result
 /// does not fit.

@@ -1,6 +1,6 @@
-#include <nvlist/platform/headless/Recording.h>
+#include <nvlist/drawing/Recording.h>
 
-#include <nvlist/core/numbers.h>
+#include <nvlist/values/numbers.h>
 
 namespace norvane {
 namespace {

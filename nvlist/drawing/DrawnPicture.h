@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include <nvlist/core/Picture.h>
+#include <nvlist/values/Picture.h>
 
 namespace norvane::art {
 

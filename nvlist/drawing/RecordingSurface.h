@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include <nvlist/platform/headless/Recording.h>
+#include <nvlist/drawing/Recording.h>
 
 namespace norvane {
 
@@ -17,10 +17,10 @@ struct FontMeasure {
 ///
 /// Its image is the recording of what was drawn since the last Cls, which covers all that went
 /// before; so a program may run for long without the recording growing.
-class HeadlessSurface : public Surface {
+class RecordingSurface : public Surface {
  public:
   /// Size in pixels.
-  HeadlessSurface(float width, float height) : width_(width), height_(height) {}
+  RecordingSurface(float width, float height) : width_(width), height_(height) {}
 
   void resize(float width, float height);
   /// How texts are measured from now on.

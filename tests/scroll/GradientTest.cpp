@@ -3,38 +3,16 @@
 #include <cstdint>
 #include <limits>
 
-#include <nvlist/render/colours.h>
-#include <nvlist/render/gradient.h>
+#include <nvlist/scroll/gradient.h>
 
 namespace norvane {
 namespace {
-
-using Colours = ListTest;
-
-TEST_F(Colours, AreWrittenInHexadecimal) {
-  EXPECT_EQ(CHex(5, 2), "05");
-  EXPECT_EQ(CHex(-2, 2), "FFFFFFFE");
-  EXPECT_EQ(RGB2HTML(1, 0xAB, 16), "01AB10");
-  EXPECT_EQ(VBColor2HTML(0xFF8040), "4080FF");
-  EXPECT_EQ(VBColor2HTML(-1), "FF0000");
-}
-
-TEST_F(Colours, GoToAListFile) {
-  const struct {
-    std::string_view text;
-    std::string_view written;
-  } cases[] = {{"def", "   def"},    {"Def", "FFFFFF"}, {"2.5", "020000"},
-               {"&HFF80", "800000"}, {"-1", "FF0000"},  {"4227327", "FF8040"}};
-  for (const auto& [text, written] : cases) EXPECT_EQ(GetCorrectColor(text), written) << text;
-  EXPECT_EQ(GetCorrectColor("4294967295"), "");
-  EXPECT_EQ(reports(), "6 GetCorrectColor");
-}
 
 class Gradient : public ListTest {
  protected:
   /// The bitmap that is stretched over the rectangle; an empty one where none is.
   Bitmap24 drawn(const Rectangle& rectangle, Colour color1, Colour color2, int direction) {
-    HeadlessSurface surface(100, 100);
+    RecordingSurface surface(100, 100);
     DrawGradient(surface, rectangle, color1, color2, direction);
     if (surface.image().calls.empty()) return {};
     const auto& call = std::get<calls::StretchDIBits>(surface.image().calls.at(0));

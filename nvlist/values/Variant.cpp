@@ -1,5 +1,5 @@
-#include <nvlist/core/Variant.h>
-#include <nvlist/core/numbers.h>
+#include <nvlist/values/Variant.h>
+#include <nvlist/values/numbers.h>
 
 #include <bit>
 #include <cmath>
