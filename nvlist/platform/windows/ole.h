@@ -1,0 +1,129 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <utility>
+
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#include <windows.h>
+
+#include <ocidl.h>
+#include <ole2.h>
+#include <olectl.h>
+
+namespace norvane {
+
+/// A counted reference to a COM object; it may be empty.
+template <class T>
+class ComPtr {
+ public:
+  ComPtr() = default;
+  ComPtr(T* object) : object_(object) {
+    if (object_) object_->AddRef();
+  }
+  ComPtr(const ComPtr& other) : ComPtr(other.object_) {}
+  ComPtr(ComPtr&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
+  ~ComPtr() { reset(); }
+  ComPtr& operator=(ComPtr other) noexcept {
+    std::swap(object_, other.object_);
+    return *this;
+  }
+  void reset() {
+    if (T* object = std::exchange(object_, nullptr)) object->Release();
+  }
+
+  T* get() const { return object_; }
+  T* operator->() const { return object_; }
+  explicit operator bool() const { return object_ != nullptr; }
+
+  /// Where a call puts its result, which comes with a reference of its own.
+  T** put() {
+    reset();
+    return &object_;
+  }
+  void** putVoid() { return reinterpret_cast<void**>(put()); }
+  /// Hands the reference over to the caller.
+  [[nodiscard]] T* detach() { return std::exchange(object_, nullptr); }
+  /// Asks an object, which may be missing, for this interface.
+  HRESULT query(IUnknown* from) {
+    reset();
+    return from ? from->QueryInterface(__uuidof(T), putVoid()) : E_NOINTERFACE;
+  }
+
+ private:
+  T* object_ = nullptr;
+};
+
+/// The interface T of an object; empty where it has none.
+template <class T>
+ComPtr<T> asked(IUnknown* object) {
+  ComPtr<T> result;
+  result.query(object);
+  return result;
+}
+
+/// A VARIANT that clears itself.
+struct OleVariant : VARIANT {
+  OleVariant() { VariantInit(this); }
+  /// A copy without indirection.
+  explicit OleVariant(const VARIANT& other) : OleVariant() {
+    VariantCopyInd(this, const_cast<VARIANT*>(&other));
+  }
+  ~OleVariant() { VariantClear(this); }
+  OleVariant(const OleVariant&) = delete;
+  OleVariant& operator=(const OleVariant&) = delete;
+};
+
+// ---- texts: UTF-16 outside, UTF-8 inside ----
+
+inline std::wstring wide(std::string_view text) {
+  std::wstring result(text.size(), L'\0');
+  result.resize(static_cast<std::size_t>(
+      MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), result.data(),
+                          static_cast<int>(result.size()))));
+  return result;
+}
+
+inline std::string narrow(std::wstring_view text) {
+  std::string result(text.size() * 3, '\0');
+  result.resize(static_cast<std::size_t>(
+      WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), result.data(),
+                          static_cast<int>(result.size()), nullptr, nullptr)));
+  return result;
+}
+
+/// A BSTR may be null, which is the empty text.
+inline std::string textOf(BSTR text) {
+  return narrow(std::wstring_view(text ? text : L"", SysStringLen(text)));
+}
+
+/// Null where memory is short. The caller frees it.
+inline BSTR newBstr(std::string_view text) {
+  const std::wstring result = wide(text);
+  return SysAllocStringLen(result.data(), static_cast<UINT>(result.size()));
+}
+
+// ---- lengths: hundredths of a millimetre outside, pixels inside ----
+
+/// Pixels an inch of the screen; `index` is LOGPIXELSX or LOGPIXELSY.
+inline int screenResolution(int index) {
+  const HDC screen = GetDC(nullptr);
+  const int result = GetDeviceCaps(screen, index);
+  ReleaseDC(nullptr, screen);
+  return result;
+}
+
+inline constexpr int himetricPerInch = 2540;
+
+inline SIZE pixelsOf(const SIZEL& size) {
+  return {MulDiv(size.cx, screenResolution(LOGPIXELSX), himetricPerInch),
+          MulDiv(size.cy, screenResolution(LOGPIXELSY), himetricPerInch)};
+}
+inline SIZEL himetricOf(const SIZE& pixels) {
+  return {MulDiv(pixels.cx, himetricPerInch, screenResolution(LOGPIXELSX)),
+          MulDiv(pixels.cy, himetricPerInch, screenResolution(LOGPIXELSY))};
+}
+
+}  // namespace norvane
