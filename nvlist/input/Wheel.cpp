@@ -12,10 +12,12 @@ constexpr Module wheelControl{kinds::control, "Wheel"};
 constexpr Module basWheel{kinds::module, "basWheel"};
 constexpr double turnOfOneNotch = 120;
 
-}  // namespace
-
+// The halves of a 32-bit number, as signed ones. They are no members of the header: the headers of
+// Windows have macros of these names.
 std::int16_t LOWORD(std::int32_t value) { return static_cast<std::int16_t>(value & 0xFFFF); }
 std::int16_t HIWORD(std::int32_t value) { return static_cast<std::int16_t>(value >> 16); }
+
+}  // namespace
 
 void Wheel::EnableWheel() {
   trapped(wheelControl, "EnableWheel", [&](Trap& on) {

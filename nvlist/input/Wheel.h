@@ -6,10 +6,6 @@
 
 namespace norvane {
 
-/// The halves of a 32-bit number, as signed ones.
-std::int16_t LOWORD(std::int32_t value);
-std::int16_t HIWORD(std::int32_t value);
-
 /// What the owner of a Wheel hears. `Rotation` is in notches, positive away from the user; a turn
 /// of less than half a notch is 0.
 struct WheelEvents {

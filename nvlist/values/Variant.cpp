@@ -31,8 +31,8 @@ Variant::TextBlock* Variant::permanentBlock(std::string_view text) {
 }
 
 void Variant::holdText(TextBlock* block) {
-  static_assert(alignof(TextBlock) > tagMask);
-  bits_ = reinterpret_cast<std::uintptr_t>(block) | static_cast<std::uint64_t>(Type::Text);
+  static_assert(isAddressShort || alignof(TextBlock) > tagMask);
+  bits_ = packAddress(Type::Text, block);
 }
 
 Variant::Variant(std::string text) {
@@ -46,8 +46,8 @@ Variant::Variant(std::string_view text) {
 }
 
 Variant::Variant(const Ref<Object>& object) {
-  static_assert(alignof(Object) > tagMask || sizeof(void*) < 8);
-  bits_ = reinterpret_cast<std::uintptr_t>(object.get()) | static_cast<std::uint64_t>(Type::Object);
+  static_assert(isAddressShort || alignof(Object) > tagMask);
+  bits_ = packAddress(Type::Object, object.get());
   retain();
 }
 

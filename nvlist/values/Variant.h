@@ -26,7 +26,7 @@ class Object : public Shared {
 /// A tagged value: nothing, a number, a truth value, a text (UTF-8) or an object reference.
 ///
 /// It takes eight bytes, since a list of a million items holds five million of them: the low three
-/// bits are the tag, above them stand a number or the address of a shared text or object.
+/// bits are the tag; the others hold a number or the address of a shared text or object.
 /// Conversions throw Failure 13, Type mismatch, where there is no sensible result, and Failure 6,
 /// Overflow, where it does not fit.
 class Variant {
@@ -92,7 +92,22 @@ class Variant {
     return std::uint64_t{payload} << 32 | static_cast<std::uint64_t>(type);
   }
   std::uint32_t payload() const { return static_cast<std::uint32_t>(bits_ >> 32); }
-  std::uintptr_t address() const { return static_cast<std::uintptr_t>(bits_ & ~tagMask); }
+  /// An address of 32 bits is packed like a number, so that none of its bits meets the tag: objects
+  /// there begin at multiples of four.
+  static constexpr bool isAddressShort = sizeof(void*) < sizeof(std::uint64_t);
+  static std::uint64_t packAddress(Type type, const void* at) {
+    const auto address = reinterpret_cast<std::uintptr_t>(at);
+    if constexpr (isAddressShort)
+      return pack(type, static_cast<std::uint32_t>(address));
+    else
+      return address | static_cast<std::uint64_t>(type);
+  }
+  std::uintptr_t address() const {
+    if constexpr (isAddressShort)
+      return payload();
+    else
+      return static_cast<std::uintptr_t>(bits_ & ~tagMask);
+  }
   TextBlock* textBlock() const { return reinterpret_cast<TextBlock*>(address()); }
 
   void retain() const {

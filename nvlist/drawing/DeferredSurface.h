@@ -1,0 +1,70 @@
+#pragma once
+
+#include <functional>
+
+#include <nvlist/drawing/RecordingSurface.h>
+
+namespace norvane {
+
+/// Defers drawing until the image is needed. A host that adds a hundred items makes a list repaint
+/// itself a hundred times, and only the last repaint is drawn.
+///
+/// The calls wait in a recording, which the next Cls drops. Texts are measured at once, and
+/// pictures are checked at once.
+class DeferredSurface : public Surface {
+ public:
+  /// Called at the first change since the last drawWaiting(). It must not draw on this surface.
+  /// Default: none.
+  std::function<void()> onDrawn;
+
+  /// Draws what waits onto the canvas. A failure leaves that frame incomplete; a window that is
+  /// painting itself has no caller that could handle it.
+  void drawWaiting();
+
+  void Cls() override;
+  void Line(LineMode mode, float x1, float y1, float x2, float y2, Colour colour) override;
+  void PSet(float x, float y, Colour colour) override;
+  /// An empty reference throws Failure 5, a picture that cannot be decoded Failure 481.
+  void PaintPicture(const Picture& picture, float x, float y) override;
+  void PaintPicture(const Picture& picture, float x, float y, float width, float height) override;
+  float TextWidth(std::string_view text) override { return canvas_.TextWidth(text); }
+  float TextHeight(std::string_view text) override { return canvas_.TextHeight(text); }
+  float CurrentX() const override { return waiting_.CurrentX(); }
+  void CurrentX(float x) override { waiting_.CurrentX(x); }
+  float CurrentY() const override { return waiting_.CurrentY(); }
+  void CurrentY(float y) override { waiting_.CurrentY(y); }
+  float ScaleWidth() const override { return canvas_.ScaleWidth(); }
+  float ScaleHeight() const override { return canvas_.ScaleHeight(); }
+  void BackColor(Colour colour) override;
+  void ForeColor(Colour colour) override { waiting_.ForeColor(colour); }
+  void Font(const norvane::Font& font) override;
+  void FontBold(Boolean on) override;
+  void FontItalic(Boolean on) override;
+  void FontUnderline(Boolean on) override;
+  /// The calls that take a handle throw Failure 5 for any other.
+  std::uintptr_t hDC() const override { return canvas_.hDC(); }
+  void DrawTextA(std::uintptr_t hDC, std::string_view text, std::int32_t length,
+                 const Rectangle& rectangle, TextFormat format) override;
+  void DrawFocusRect(std::uintptr_t hDC, const Rectangle& rectangle) override;
+  void StretchDIBits(std::uintptr_t hDC, const Rectangle& target, const Bitmap24& bitmap) override;
+  void Print(std::string_view text) override;
+
+ protected:
+  /// `canvas` draws at once. It may be a member of the derived class.
+  explicit DeferredSurface(Surface& canvas) : canvas_(canvas) {}
+
+  /// Throws what the canvas would throw for a picture.
+  virtual void requireDrawable(const Picture& picture) = 0;
+  /// What waits is of no use: the image has another size.
+  void dropWaiting();
+
+ private:
+  void drawn();
+  void requireOwn(std::uintptr_t hDC) const;
+
+  Surface& canvas_;
+  RecordingSurface waiting_{0, 0};
+  bool isChangeReported_ = false;
+};
+
+}  // namespace norvane

@@ -1,0 +1,100 @@
+#pragma once
+
+#include <array>
+#include <memory>
+#include <vector>
+
+#include <nvlist/drawing/Surface.h>
+#include <nvlist/platform/windows/Apartment.h>
+
+namespace norvane {
+
+/// A surface that draws with GDI on an image in memory, at once; GdiSurface defers that. The image
+/// is made when something is drawn for the first time, since most controls in a control are never
+/// visible. It belongs to the thread that made it.
+class GdiCanvas final : public Surface {
+ public:
+  GdiCanvas();
+  ~GdiCanvas() override;
+  GdiCanvas(const GdiCanvas&) = delete;
+  GdiCanvas& operator=(const GdiCanvas&) = delete;
+
+  /// Starts a new image in the background colour. A size without area draws nowhere.
+  void resize(int width, int height);
+  int width() const { return width_; }
+  int height() const { return height_; }
+  /// The size of the font in pixels follows it. Default: that of the screen.
+  void resolution(int dpi);
+
+  /// Copies a part of the image to a place on another device.
+  void copyTo(HDC target, int x, int y, int width, int height, int fromX = 0, int fromY = 0);
+  /// Throws what PaintPicture would throw for a picture.
+  void requireDrawable(const Picture& picture);
+
+  void Cls() override;
+  /// Coordinates are rounded to the nearest pixel, halves to the even one.
+  void Line(LineMode mode, float x1, float y1, float x2, float y2, Colour colour) override;
+  void PSet(float x, float y, Colour colour) override;
+  /// An empty reference throws Failure 5. The picture of another platform is decoded from the bytes
+  /// of its file; one that has none, or none that the system knows, throws Failure 481.
+  void PaintPicture(const Picture& picture, float x, float y) override;
+  void PaintPicture(const Picture& picture, float x, float y, float width, float height) override;
+  float TextWidth(std::string_view text) override;
+  float TextHeight(std::string_view text) override;
+  float CurrentX() const override { return currentX_; }
+  void CurrentX(float x) override { currentX_ = x; }
+  float CurrentY() const override { return currentY_; }
+  void CurrentY(float y) override { currentY_ = y; }
+  float ScaleWidth() const override { return static_cast<float>(width_); }
+  float ScaleHeight() const override { return static_cast<float>(height_); }
+  void BackColor(Colour colour) override { backColor_ = colour; }
+  void ForeColor(Colour colour) override { foreColor_ = colour; }
+  void Font(const norvane::Font& font) override;
+  void FontBold(Boolean on) override { setFlag(bold, on); }
+  void FontItalic(Boolean on) override { setFlag(italic, on); }
+  void FontUnderline(Boolean on) override { setFlag(underline, on); }
+  /// Names this surface; it is no handle of the system. The calls that take a handle throw Failure
+  /// 5 for any other.
+  std::uintptr_t hDC() const override { return reinterpret_cast<std::uintptr_t>(this); }
+  void DrawTextA(std::uintptr_t hDC, std::string_view text, std::int32_t length,
+                 const Rectangle& rectangle, TextFormat format) override;
+  void DrawFocusRect(std::uintptr_t hDC, const Rectangle& rectangle) override;
+  void StretchDIBits(std::uintptr_t hDC, const Rectangle& target, const Bitmap24& bitmap) override;
+  /// Lines after the first begin at x 0.
+  void Print(std::string_view text) override;
+
+  static COLORREF colourRef(Colour colour);
+
+ private:
+  enum Flag : unsigned { bold = 1, italic = 2, underline = 4 };
+
+  void setFlag(Flag flag, Boolean on) { flags_ = on ? flags_ | flag : flags_ & ~flag; }
+  GdiFace& face();
+  /// The device that draws on the image, which it makes where there is none.
+  HDC dc();
+  /// The same, with the present font and text colour.
+  HDC textDc();
+  void dropImage();
+  void fill(int left, int top, int right, int bottom, Colour colour);
+
+  std::shared_ptr<Apartment> apartment_ = Apartment::current();
+  HDC dc_ = nullptr;
+  HBITMAP image_ = nullptr;
+  HGDIOBJ imageBefore_ = nullptr;
+  HGDIOBJ fontBefore_ = nullptr;
+  /// The pixels, from the top row on.
+  std::uint32_t* pixels_ = nullptr;
+  int width_ = 0;
+  int height_ = 0;
+
+  float currentX_ = 0;
+  float currentY_ = 0;
+  Colour backColor_ = colours::white;
+  Colour foreColor_ = 0;
+  FontObject font_;
+  int dpi_;
+  unsigned flags_ = 0;
+  std::array<std::shared_ptr<GdiFace>, 8> faces_;
+};
+
+}  // namespace norvane
