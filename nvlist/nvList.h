@@ -25,6 +25,7 @@ namespace norvane {
 
 class FileWriter;
 class PropertyImage;
+struct StoredProperty;
 
 /// A visual list: items in rows that the control paints itself.
 ///
@@ -57,7 +58,7 @@ class nvList final : public UserControl,
   /// which ends the reading there; nothing is painted then until the properties are read again.
   /// (Under SilentError the rest is read.)
   void UserControl_ReadProperties(const PropertyBag& PropBag);
-  /// Stores every property that differs from its default.
+  /// Stores every property that differs from its default. core/storedProperties.h lists them.
   void UserControl_WriteProperties(PropertyBag& PropBag);
 
   void UserControl_Terminate();
@@ -544,12 +545,7 @@ class nvList final : public UserControl,
   Variant colourOfDisabled(const char* name, const Variant& Index, Colour ListItem::*field);
 
   // core/persistence.cpp
-  struct StoredProperty;
-  template <class Value>
-  static StoredProperty stored(const char* name, Value (nvList::*get)() const,
-                               void (nvList::*let)(std::type_identity_t<Value>),
-                               Variant defaultValue);
-  static const std::vector<StoredProperty>& storedProperties();
+  Variant storedDefault(const StoredProperty& property) const;
 
   // core/properties.cpp
   template <class Value>

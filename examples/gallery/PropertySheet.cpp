@@ -1,16 +1,81 @@
 // The properties of the list: one row each.
 
+#include <nvlist/core/storedProperties.h>
 #include <nvlist/objects/Error.h>
 
 #include "Sheet.h"
 
 using norvane::nvList;
 using norvane::NvListWidget;
+using norvane::PropertyType;
+using norvane::StoredProperty;
+using norvane::Variant;
 
 namespace gallery {
 namespace {
 
-/// A pair of accessors as the list has them. The reading one is const or is not.
+/// The named values of an enumeration; empty for all other types.
+std::vector<Choice> choicesOf(PropertyType type) {
+  switch (type) {
+    case PropertyType::ColorStyle:
+      return {{"cXPBlue", norvane::cXPBlue},
+              {"cXPSilver", norvane::cXPSilver},
+              {"cXPOlive", norvane::cXPOlive},
+              {"cCustom", norvane::cCustom}};
+    case PropertyType::ScrollColorStyle:
+      return {{"cXPScrollBlue", norvane::cXPScrollBlue},
+              {"cXPScrollSilver", norvane::cXPScrollSilver},
+              {"cXPScrollOlive", norvane::cXPScrollOlive}};
+    case PropertyType::ListStyle:
+      return {{"cDefault", norvane::cDefault},
+              {"cCheckBoxes", norvane::cCheckBoxes},
+              {"cIcons", norvane::cIcons},
+              {"cCheckBoxesIcons", norvane::cCheckBoxesIcons}};
+    case PropertyType::WheelFunction:
+      return {{"cWheelScroll", norvane::cWheelScroll},
+              {"cWheelListIndex", norvane::cWheelListIndex},
+              {"cWheelOff", norvane::cWheelOff}};
+    case PropertyType::ScrollBars:
+      return {{"vbSBNone", norvane::vbSBNone},
+              {"vbHorizontal", norvane::vbHorizontal},
+              {"vbVertical", norvane::vbVertical},
+              {"vbBoth", norvane::vbBoth}};
+    default:
+      return {};
+  }
+}
+
+/// A row for a stored property, with an editor for values of its type.
+template <class Value, class FromVariant>
+Property stored(const StoredProperty& of, MakeEditor<Value> make, FromVariant fromVariant) {
+  return property<Value>(
+      of.name, make,
+      [&of, fromVariant](const Subject& on) { return fromVariant(of.get(on.list())); },
+      [&of](const Subject& on, const Value& value) { of.set(on.list(), Variant(value)); });
+}
+
+Property row(const char* name) {
+  const StoredProperty& of = *norvane::storedProperty(name);
+  const auto toInt32 = [](const Variant& value) { return value.toInt32(); };
+  switch (of.type) {
+    case PropertyType::Font:
+      return property<norvane::Font>(
+          name, font(), [](const Subject& on) { return on.list().Font(); },
+          [](const Subject& on, const norvane::Font& value) { on.list().Font(value); });
+    case PropertyType::Boolean:
+      return stored(of, flag(), [](const Variant& value) { return value.toBoolean(); });
+    case PropertyType::Single:
+      return stored(of, length(), [](const Variant& value) { return value.toSingle(); });
+    case PropertyType::Colour:
+      return stored(of, colour(), toInt32);
+    case PropertyType::Integer:
+      return stored(of, number(), toInt32);
+    default:
+      return stored(of, choiceOf(choicesOf(of.type)), toInt32);
+  }
+}
+
+/// A property that is not stored.
 template <class Value, class Argument>
 Property row(const char* name, MakeEditor<Value> make, Value (nvList::*read)() const,
              void (nvList::*write)(Argument)) {
@@ -19,53 +84,23 @@ Property row(const char* name, MakeEditor<Value> make, Value (nvList::*read)() c
       [write](const Subject& on, const Value& value) { (on.list().*write)(value); });
 }
 
-template <class Value, class Argument>
-Property row(const char* name, MakeEditor<Value> make, Value (nvList::*read)(),
-             void (nvList::*write)(Argument)) {
-  return property<Value>(
-      name, make, [read](const Subject& on) { return (on.list().*read)(); },
-      [write](const Subject& on, const Value& value) { (on.list().*write)(value); });
-}
-
-MakeEditor<norvane::cListStyle> style() {
-  return choice<norvane::cListStyle>({{"cDefault", norvane::cDefault},
-                                      {"cCheckBoxes", norvane::cCheckBoxes},
-                                      {"cIcons", norvane::cIcons},
-                                      {"cCheckBoxesIcons", norvane::cCheckBoxesIcons}});
-}
-
-MakeEditor<norvane::cColorStyle> colorStyle() {
-  return choice<norvane::cColorStyle>({{"cXPBlue", norvane::cXPBlue},
-                                       {"cXPSilver", norvane::cXPSilver},
-                                       {"cXPOlive", norvane::cXPOlive},
-                                       {"cCustom", norvane::cCustom}});
-}
-
-MakeEditor<norvane::cScrollColorStyle> scrollColorStyle() {
-  return choice<norvane::cScrollColorStyle>({{"cXPScrollBlue", norvane::cXPScrollBlue},
-                                             {"cXPScrollSilver", norvane::cXPScrollSilver},
-                                             {"cXPScrollOlive", norvane::cXPScrollOlive}});
-}
-
-/// The list follows a new choice when its bars are fitted the next time, which is left to the host.
+/// The list applies a new choice of scroll bars at the next CheckScroll, which is up to the host.
 Property scrollBars() {
-  const auto make = choice<norvane::ScrollBarConstants>({{"vbSBNone", norvane::vbSBNone},
-                                                         {"vbHorizontal", norvane::vbHorizontal},
-                                                         {"vbVertical", norvane::vbVertical},
-                                                         {"vbBoth", norvane::vbBoth}});
-  return property<norvane::ScrollBarConstants>(
-      "ScrollBars", make, [](const Subject& on) { return on.list().ScrollBars(); },
-      [](const Subject& on, norvane::ScrollBarConstants value) {
-        on.list().ScrollBars(value);
+  const char* const name = "ScrollBars";
+  return property<int>(
+      name, choiceOf(choicesOf(PropertyType::ScrollBars)),
+      [](const Subject& on) { return static_cast<int>(on.list().ScrollBars()); },
+      [](const Subject& on, int value) {
+        on.list().ScrollBars(static_cast<norvane::ScrollBarConstants>(value));
         on.list().CheckScroll();
         if (on.list().AutoRedraw()) on.list().Redraw();
       });
 }
 
-MakeEditor<norvane::cWheelFunction> wheelFunction() {
-  return choice<norvane::cWheelFunction>({{"cWheelScroll", norvane::cWheelScroll},
-                                          {"cWheelListIndex", norvane::cWheelListIndex},
-                                          {"cWheelOff", norvane::cWheelOff}});
+Property currentText() {
+  return property<std::string>(
+      "Text", text(), [](const Subject& on) { return on.list().Text(); },
+      [](const Subject& on, const std::string& value) { on.list().Text(value); });
 }
 
 Property designMode() {
@@ -76,7 +111,7 @@ Property designMode() {
       });
 }
 
-/// One for the whole program.
+/// One value for the whole program.
 Property silentError() {
   return property<norvane::Boolean>(
       "SilentError", flag(), [](const Subject&) { return norvane::Error().SilentError(); },
@@ -88,47 +123,21 @@ Property silentError() {
 const std::vector<PropertyGroup>& propertiesOfTheList() {
   static const std::vector<PropertyGroup> groups = {
       {"Look",
-       {row("Style", style(), &nvList::Style, &nvList::Style),
-        row("FullRowSelect", flag(), &nvList::FullRowSelect, &nvList::FullRowSelect),
-        row("GridLines", flag(), &nvList::GridLines, &nvList::GridLines),
-        row("IconSelect", flag(), &nvList::IconSelect, &nvList::IconSelect),
-        row("ShowFocusRect", flag(), &nvList::ShowFocusRect, &nvList::ShowFocusRect),
-        row("ColorStyle", colorStyle(), &nvList::ColorStyle, &nvList::ColorStyle),
-        row("ValueColor", colour(), &nvList::ValueColor, &nvList::ValueColor)}},
+       {row("Style"), row("FullRowSelect"), row("GridLines"), row("IconSelect"),
+        row("ShowFocusRect"), row("ColorStyle"), row("ValueColor")}},
       {"Rows",
-       {row("Font", font(), &nvList::Font, &nvList::Font),
-        row("MinHeight", length(), &nvList::MinHeight, &nvList::MinHeight),
-        row("IconW", length(), &nvList::IconW, &nvList::IconW),
-        row("IconH", length(), &nvList::IconH, &nvList::IconH),
-        row("DistPicText", length(), &nvList::DistPicText, &nvList::DistPicText),
-        row("IndentTop", length(), &nvList::IndentTop, &nvList::IndentTop),
-        row("IndentLeft", length(), &nvList::IndentLeft, &nvList::IndentLeft),
-        row("IndentRight", length(), &nvList::IndentRight, &nvList::IndentRight),
-        row("IndentBottom", length(), &nvList::IndentBottom, &nvList::IndentBottom)}},
+       {row("Font"), row("MinHeight"), row("IconW"), row("IconH"), row("DistPicText"),
+        row("IndentTop"), row("IndentLeft"), row("IndentRight"), row("IndentBottom")}},
       {"Colours",
-       {row("ForeColor", colour(), &nvList::ForeColor, &nvList::ForeColor),
-        row("BackColor", colour(), &nvList::BackColor, &nvList::BackColor),
-        row("GridLineColor", colour(), &nvList::GridLineColor, &nvList::GridLineColor),
-        row("BorderVisible", flag(), &nvList::BorderVisible, &nvList::BorderVisible),
-        row("BorderColor", colour(), &nvList::BorderColor, &nvList::BorderColor),
-        row("ScrollColorStyle", scrollColorStyle(), &nvList::ScrollColorStyle,
-            &nvList::ScrollColorStyle)}},
+       {row("ForeColor"), row("BackColor"), row("GridLineColor"), row("BorderVisible"),
+        row("BorderColor"), row("ScrollColorStyle")}},
       {"Behaviour",
-       {row("Enabled", flag(), &nvList::Enabled, &nvList::Enabled),
-        row("MultiSelect", flag(), &nvList::MultiSelect, &nvList::MultiSelect),
-        row("AllowEdit", flag(), &nvList::AllowEdit, &nvList::AllowEdit),
-        row("AllowItemMoving", flag(), &nvList::AllowItemMoving, &nvList::AllowItemMoving),
-        row("HoverSelect", flag(), &nvList::HoverSelect, &nvList::HoverSelect),
-        row("ClickOnIndexChange", flag(), &nvList::ClickOnIndexChange, &nvList::ClickOnIndexChange),
-        scrollBars(),
-        row("WheelFunction", wheelFunction(), &nvList::WheelFunction, &nvList::WheelFunction),
-        row("WheelScrollLines", number(), &nvList::WheelScrollLines, &nvList::WheelScrollLines),
-        row("AutoRedraw", flag(), &nvList::AutoRedraw, &nvList::AutoRedraw),
-        row("AutoCheckScroll", flag(), &nvList::AutoCheckScroll, &nvList::AutoCheckScroll)}},
+       {row("Enabled"), row("MultiSelect"), row("AllowEdit"), row("AllowItemMoving"),
+        row("HoverSelect"), row("ClickOnIndexChange"), scrollBars(), row("WheelFunction"),
+        row("WheelScrollLines"), row("AutoRedraw"), row("AutoCheckScroll")}},
       {"Position",
        {row("ListIndex", number(), &nvList::ListIndex, &nvList::ListIndex),
-        row("TopIndex", number(), &nvList::TopIndex, &nvList::TopIndex),
-        row("Text", text(), &nvList::Text, &nvList::Text)}},
+        row("TopIndex", number(), &nvList::TopIndex, &nvList::TopIndex), currentText()}},
       {"Around the list", {designMode(), silentError()}},
   };
   return groups;

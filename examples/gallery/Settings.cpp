@@ -1,11 +1,11 @@
 #include "Settings.h"
 
 #include <QFile>
-#include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include <nvlist/core/storedProperties.h>
 #include <nvlist/values/Failure.h>
 #include <nvlist/values/PropertyBag.h>
 
@@ -18,26 +18,23 @@ using norvane::Variant;
 namespace gallery {
 namespace {
 
-/// A store that knows what it was asked for.
+/// A store that remembers which property was read last.
 class WatchedBag final : public PropertyBag {
  public:
   explicit WatchedBag(PropertyBag bag) : PropertyBag(std::move(bag)) {}
 
   Variant ReadProperty(std::string_view name, const Variant& defaultValue) const override {
-    asked_.emplace_back(name);
+    lastRead_ = name;
     return PropertyBag::ReadProperty(name, defaultValue);
   }
 
-  const std::string& lastAsked() const { return asked_.back(); }
-  bool wasAsked(const std::string& name) const {
-    return std::ranges::find(asked_, name) != asked_.end();
-  }
+  const std::string& lastRead() const { return lastRead_; }
 
  private:
-  mutable std::vector<std::string> asked_;
+  mutable std::string lastRead_;
 };
 
-/// What a list holds besides its properties, as loading them empties it.
+/// The items, selection and position of a list, which loading its properties resets.
 class Content {
  public:
   explicit Content(nvList& list) : current_(list.ListIndex()), top_(list.TopIndex()) {
@@ -119,11 +116,11 @@ QStringList loadSettings(nvList& list, const QString& path) {
   const bool isRefused = static_cast<bool>(list.state().SuppressRedraw);
   if (isRefused) {
     remarks << QString("%1 refused its value: all settings stay as they were")
-                   .arg(QString::fromStdString(bag.lastAsked()));
+                   .arg(QString::fromStdString(bag.lastRead()));
     list.UserControl_ReadProperties(before);
   } else {
     for (const PropertyBag::Property& property : bag.properties())
-      if (!bag.wasAsked(property.name))
+      if (!norvane::storedProperty(property.name))
         remarks << QString("No property is called %1").arg(QString::fromStdString(property.name));
   }
   content.putInto(list);

@@ -11,7 +11,7 @@
 
 namespace gallery {
 
-/// What a sheet shows the properties of: a list and, for those of items, one of its items.
+/// The list whose properties a sheet shows or, for properties of items, one of its items.
 struct Subject {
   norvane::NvListWidget* widget = nullptr;
   std::int32_t item = -1;
@@ -25,7 +25,7 @@ class Sheet;
 struct Property {
   struct Field {
     QWidget* widget;
-    /// Shows the value that the subject has now.
+    /// Shows the subject's current value.
     std::function<void(const Subject&)> show;
   };
 
@@ -43,10 +43,10 @@ class Sheet : public QScrollArea {
  public:
   explicit Sheet(const std::vector<PropertyGroup>& groups);
 
-  /// Told of each change that the user makes, just before it is made.
+  /// Called before each change that the user makes is applied.
   std::function<void(const char* name, const QString& value)> onEdited;
 
-  /// Shows the values of the subject as they are now. One without a list has none.
+  /// Shows the subject's current values. A subject without a list disables the sheet.
   void show(const Subject& subject);
 
   const Subject& subject() const { return subject_; }

@@ -1,5 +1,6 @@
-#include <functional>
+#include <algorithm>
 
+#include <nvlist/core/storedProperties.h>
 #include <nvlist/nvList.h>
 #include <nvlist/values/Failure.h>
 
@@ -24,71 +25,102 @@ Variant toVariant(Value value) {
     return value;
 }
 
-norvane::Font fontIn(const Variant& value) {
+Variant getFont(const nvList& list) { return Variant(Ref<Object>(list.Font())); }
+
+void setFont(nvList& list, const Variant& value) {
   const Ref<Object> object = value.object();
   auto* font = dynamic_cast<FontObject*>(object.get());
   if (value.type() != Variant::Type::Object || (object && !font)) throw Failure::typeMismatch();
-  return norvane::Font(font);
+  list.Font(norvane::Font(font));
 }
+
+template <class Value>
+using Getter = Value (nvList::*)() const;
+template <class Value>
+using Setter = void (nvList::*)(Value);
+
+template <class Value, Getter<Value> getter, Setter<Value> setter>
+constexpr StoredProperty stored(const char* name, PropertyType type, Variant defaultValue) {
+  return {name, type, std::move(defaultValue),
+          [](const nvList& list) { return toVariant((list.*getter)()); },
+          [](nvList& list, const Variant& value) { (list.*setter)(fromVariant<Value>(value)); }};
+}
+
+template <Getter<Boolean> getter, Setter<Boolean> setter>
+constexpr StoredProperty flag(const char* name, bool defaultValue) {
+  return stored<Boolean, getter, setter>(name, PropertyType::Boolean, defaultValue);
+}
+
+template <Getter<Colour> getter, Setter<Colour> setter>
+constexpr StoredProperty colour(const char* name, Colour defaultValue) {
+  return stored<Colour, getter, setter>(name, PropertyType::Colour, defaultValue);
+}
+
+template <Getter<float> getter, Setter<float> setter>
+constexpr StoredProperty single(const char* name, float defaultValue) {
+  return stored<float, getter, setter>(name, PropertyType::Single, defaultValue);
+}
+
+/// The defaults of enumerations are stored with 16 bits.
+template <class Value, Getter<Value> getter, Setter<Value> setter>
+constexpr StoredProperty choice(const char* name, PropertyType type) {
+  return stored<Value, getter, setter>(name, type, std::int16_t{0});
+}
+
+constexpr StoredProperty properties[] = {
+    {"Font", PropertyType::Font, Variant(), getFont, setFont},
+    colour<&nvList::ForeColor, &nvList::ForeColor>("ForeColor", 0),
+    colour<&nvList::BackColor, &nvList::BackColor>("BackColor", 0xFFFFFF),
+    flag<&nvList::Enabled, &nvList::Enabled>("Enabled", true),
+    flag<&nvList::ClickOnIndexChange, &nvList::ClickOnIndexChange>("ClickOnIndexChange", false),
+    choice<cColorStyle, &nvList::ColorStyle, &nvList::ColorStyle>("ColorStyle",
+                                                                  PropertyType::ColorStyle),
+    colour<&nvList::BorderColor, &nvList::BorderColor>("BorderColor", 0),
+    flag<&nvList::HoverSelect, &nvList::HoverSelect>("HoverSelect", false),
+    choice<cListStyle, &nvList::Style, &nvList::Style>("Style", PropertyType::ListStyle),
+    flag<&nvList::FullRowSelect, &nvList::FullRowSelect>("FullRowSelect", true),
+    flag<&nvList::AllowEdit, &nvList::AllowEdit>("AllowEdit", false),
+    colour<&nvList::ValueColor, &nvList::ValueColor>("ValueColor", 0xFF0000),
+    flag<&nvList::IconSelect, &nvList::IconSelect>("IconSelect", true),
+    flag<&nvList::BorderVisible, &nvList::BorderVisible>("BorderVisible", true),
+    single<&nvList::IndentTop, &nvList::IndentTop>("IndentTop", 3),
+    single<&nvList::IndentLeft, &nvList::IndentLeft>("IndentLeft", 3),
+    single<&nvList::IndentRight, &nvList::IndentRight>("IndentRight", 3),
+    single<&nvList::IndentBottom, &nvList::IndentBottom>("IndentBottom", 3),
+    single<&nvList::DistPicText, &nvList::DistPicText>("DistPicText", 2),
+    flag<&nvList::AutoCheckScroll, &nvList::AutoCheckScroll>("AutoCheckScroll", true),
+    single<&nvList::IconW, &nvList::IconW>("IconW", 16),
+    single<&nvList::IconH, &nvList::IconH>("IconH", 16),
+    choice<cScrollColorStyle, &nvList::ScrollColorStyle, &nvList::ScrollColorStyle>(
+        "ScrollColorStyle", PropertyType::ScrollColorStyle),
+    flag<&nvList::GridLines, &nvList::GridLines>("GridLines", false),
+    colour<&nvList::GridLineColor, &nvList::GridLineColor>("GridLineColor", 0xC0C0C0),
+    flag<&nvList::MultiSelect, &nvList::MultiSelect>("MultiSelect", false),
+    flag<&nvList::ShowFocusRect, &nvList::ShowFocusRect>("ShowFocusRect", false),
+    choice<cWheelFunction, &nvList::WheelFunction, &nvList::WheelFunction>(
+        "WheelFunction", PropertyType::WheelFunction),
+    stored<std::int32_t, &nvList::WheelScrollLines, &nvList::WheelScrollLines>(
+        "WheelScrollLines", PropertyType::Integer, std::int16_t{1}),
+    single<&nvList::MinHeight, &nvList::MinHeight>("MinHeight", 0),
+    flag<&nvList::AutoRedraw, &nvList::AutoRedraw>("AutoRedraw", true),
+    stored<ScrollBarConstants, &nvList::ScrollBars, &nvList::ScrollBars>(
+        "ScrollBars", PropertyType::ScrollBars, 2),
+    flag<&nvList::AllowItemMoving, &nvList::AllowItemMoving>("AllowItemMoving", false)};
 
 }  // namespace
 
-/// How one property gets into the store and back, always through its public setter and getter.
-struct nvList::StoredProperty {
-  const char* name;
-  Variant defaultValue;
-  std::function<void(nvList&, const Variant&)> read;
-  std::function<Variant(const nvList&)> written;
-};
+std::span<const StoredProperty> storedProperties() { return properties; }
 
-template <class Value>
-nvList::StoredProperty nvList::stored(const char* name, Value (nvList::*get)() const,
-                                      void (nvList::*let)(std::type_identity_t<Value>),
-                                      Variant defaultValue) {
-  return {name, std::move(defaultValue),
-          [let](nvList& list, const Variant& value) { (list.*let)(fromVariant<Value>(value)); },
-          [get](const nvList& list) { return toVariant((list.*get)()); }};
+const StoredProperty* storedProperty(std::string_view name) {
+  const auto* found =
+      std::ranges::find_if(properties, [&](const StoredProperty& p) { return p.name == name; });
+  return found == std::end(properties) ? nullptr : found;
 }
 
-/// All but the font, which comes first. The order counts: ColorStyle sets ScrollColorStyle too, and
-/// the stored one has to come after it.
-const std::vector<nvList::StoredProperty>& nvList::storedProperties() {
-  constexpr std::int16_t zero = 0;
-  constexpr std::int16_t one = 1;
-  static const std::vector<StoredProperty> properties = {
-      stored("ForeColor", &nvList::ForeColor, &nvList::ForeColor, 0),
-      stored("BackColor", &nvList::BackColor, &nvList::BackColor, 0xFFFFFF),
-      stored("Enabled", &nvList::Enabled, &nvList::Enabled, true),
-      stored("ClickOnIndexChange", &nvList::ClickOnIndexChange, &nvList::ClickOnIndexChange, false),
-      stored("ColorStyle", &nvList::ColorStyle, &nvList::ColorStyle, zero),
-      stored("BorderColor", &nvList::BorderColor, &nvList::BorderColor, 0),
-      stored("HoverSelect", &nvList::HoverSelect, &nvList::HoverSelect, false),
-      stored("Style", &nvList::Style, &nvList::Style, zero),
-      stored("FullRowSelect", &nvList::FullRowSelect, &nvList::FullRowSelect, true),
-      stored("AllowEdit", &nvList::AllowEdit, &nvList::AllowEdit, false),
-      stored("ValueColor", &nvList::ValueColor, &nvList::ValueColor, 0xFF0000),
-      stored("IconSelect", &nvList::IconSelect, &nvList::IconSelect, true),
-      stored("BorderVisible", &nvList::BorderVisible, &nvList::BorderVisible, true),
-      stored("IndentTop", &nvList::IndentTop, &nvList::IndentTop, 3.0F),
-      stored("IndentLeft", &nvList::IndentLeft, &nvList::IndentLeft, 3.0F),
-      stored("IndentRight", &nvList::IndentRight, &nvList::IndentRight, 3.0F),
-      stored("IndentBottom", &nvList::IndentBottom, &nvList::IndentBottom, 3.0F),
-      stored("DistPicText", &nvList::DistPicText, &nvList::DistPicText, 2.0F),
-      stored("AutoCheckScroll", &nvList::AutoCheckScroll, &nvList::AutoCheckScroll, true),
-      stored("IconW", &nvList::IconW, &nvList::IconW, 16.0F),
-      stored("IconH", &nvList::IconH, &nvList::IconH, 16.0F),
-      stored("ScrollColorStyle", &nvList::ScrollColorStyle, &nvList::ScrollColorStyle, zero),
-      stored("GridLines", &nvList::GridLines, &nvList::GridLines, false),
-      stored("GridLineColor", &nvList::GridLineColor, &nvList::GridLineColor, 0xC0C0C0),
-      stored("MultiSelect", &nvList::MultiSelect, &nvList::MultiSelect, false),
-      stored("ShowFocusRect", &nvList::ShowFocusRect, &nvList::ShowFocusRect, false),
-      stored("WheelFunction", &nvList::WheelFunction, &nvList::WheelFunction, zero),
-      stored("WheelScrollLines", &nvList::WheelScrollLines, &nvList::WheelScrollLines, one),
-      stored("MinHeight", &nvList::MinHeight, &nvList::MinHeight, 0.0F),
-      stored("AutoRedraw", &nvList::AutoRedraw, &nvList::AutoRedraw, true),
-      stored("ScrollBars", &nvList::ScrollBars, &nvList::ScrollBars, 2),
-      stored("AllowItemMoving", &nvList::AllowItemMoving, &nvList::AllowItemMoving, false)};
-  return properties;
+/// The default of one of this list's properties.
+Variant nvList::storedDefault(const StoredProperty& property) const {
+  return property.type == PropertyType::Font ? Variant(Ref<Object>(lblFont))
+                                             : property.defaultValue;
 }
 
 void nvList::UserControl_InitProperties() {
@@ -102,10 +134,9 @@ void nvList::UserControl_ReadProperties(const PropertyBag& PropBag) {
   trapped(here, "UserControl_ReadProperties", [&](Trap& on) {
     on.ignoring([&] { lblFont = container_.AmbientFont(); });
     state_.SuppressRedraw = true;
-    on.step([&] { Font(fontIn(PropBag.ReadProperty("Font", Variant(Ref<Object>(lblFont))))); });
-    for (const StoredProperty& property : storedProperties())
+    for (const StoredProperty& property : properties)
       on.step([&] {
-        property.read(*this, PropBag.ReadProperty(property.name, property.defaultValue));
+        property.set(*this, PropBag.ReadProperty(property.name, storedDefault(property)));
       });
     state_.SuppressRedraw = false;
     state_.ClickPending = true;
@@ -124,13 +155,13 @@ void nvList::UserControl_ReadProperties(const PropertyBag& PropBag) {
 
 void nvList::UserControl_WriteProperties(PropertyBag& PropBag) {
   trapped(here, "UserControl_WriteProperties", [&](Trap& on) {
-    on.step([&] {
-      PropBag.WriteProperty("Font", Variant(Ref<Object>(CloneFont(Font()))),
-                            Variant(Ref<Object>(lblFont)));
-    });
-    for (const StoredProperty& property : storedProperties())
+    for (const StoredProperty& property : properties)
       on.step([&] {
-        PropBag.WriteProperty(property.name, property.written(*this), property.defaultValue);
+        // The store keeps a font of its own, which does not change with the list's.
+        const Variant value = property.type == PropertyType::Font
+                                  ? Variant(Ref<Object>(CloneFont(Font())))
+                                  : property.get(*this);
+        PropBag.WriteProperty(property.name, value, storedDefault(property));
       });
   });
 }

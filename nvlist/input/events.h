@@ -9,47 +9,87 @@
 
 namespace norvane {
 
-/// The events of the list. A host derives from it, overrides what it wants to hear, and registers
-/// the object with nvList::addSink. Each handler runs in the middle of the operation that raises
-/// it and may do anything to the list; what it throws is a failure of that step.
+/// The published member ids of the events, by which hosts bind them.
+enum class EventId : std::int32_t {
+  Click = 1,
+  DblClick = 2,
+  ItemCheck = 3,
+  MouseUp = 4,
+  MouseMove = 5,
+  MouseDown = 6,
+  ErrorListInput = 7,
+  ErrorListSave = 8,
+  ListSaving = 9,
+  ListReading = 10,
+  Scroll = 11,
+  KeyDown = 12,
+  KeyPress = 13,
+  KeyUp = 14,
+  OLECompleteDrag = 15,
+  OLEDragDrop = 16,
+  OLEDragOver = 17,
+  OLEGiveFeedback = 18,
+  OLESetData = 19,
+  OLEStartDrag = 20,
+  ErrorWrongIndex = 21
+};
+
+/// The events of the list. A host derives from it, overrides the events it wants, and registers the
+/// object with nvList::addSink. Each handler has the name of its id.
 ///
-/// All arguments are by reference, as hosts bind them; those that are read back are told. Positions
-/// are pixels of the list; `Button` and `Shift` are as told at UserControl::UserControl_MouseDown.
+/// A handler runs in the middle of the operation that raises the event and may call any operation
+/// of the list, clear it or destroy it. An exception it throws is a failure of that operation. The
+/// depth of such calls is not limited: a handler that always causes its own event again, such as an
+/// ErrorWrongIndex that sets another bad ListIndex or a Click that sets ListIndex while
+/// ClickOnIndexChange is on, overflows the stack.
+///
+/// All arguments are by reference. Changes to an argument are ignored unless its event says that it
+/// is read back. Positions are pixels of the list; `Button` and `Shift` are described at
+/// UserControl::UserControl_MouseDown.
 class __nvList {  // NOLINT(bugprone-reserved-identifier): the published name of the interface
  public:
   virtual ~__nvList() = default;
 
-  /// 1
+  /// EventId::Click. Raised by a click of the left button. Under ClickOnIndexChange also raised by
+  /// setting ListIndex during a press, before ListIndex changes.
   virtual void Click() {}
-  /// 2
+  /// EventId::DblClick. Raised by a double click, after its effects on the item; not raised below
+  /// the last item if there is a current one.
   virtual void DblClick() {}
-  /// 3: before a check mark flips; `Item` is the current item. `Cancel` is read back: true keeps
-  /// the mark.
+  /// EventId::ItemCheck. Raised before the user changes a check mark, with `Item`, the current
+  /// item. `Cancel` starts as false and is read back: true keeps the mark as it is.
   virtual void ItemCheck(std::int32_t& Item, Boolean& Cancel);
-  /// 4
+  /// EventId::MouseUp. Raised by the release of a button, after a dragged item has moved.
   virtual void MouseUp(std::int16_t& Button, std::int16_t& Shift, float& X, float& Y);
-  /// 5: `IndexUnderMouse` may name no item; `TextUnderMouse` is empty then.
+  /// EventId::MouseMove. Raised by each move of the mouse. `IndexUnderMouse` is not clipped to the
+  /// items; `TextUnderMouse` is empty where there is no item.
   virtual void MouseMove(Variant& TextUnderMouse, std::int32_t& IndexUnderMouse,
                          std::int16_t& Button, std::int16_t& Shift, float& X, float& Y);
-  /// 6: the first thing in a press. `Button` is read back: 2 makes it a right press.
+  /// EventId::MouseDown. Raised by the press of a button, before the list reacts. `Button` is read
+  /// back: with 2 the list ignores the press.
   virtual void MouseDown(std::int16_t& Button, std::int16_t& Shift, float& X, float& Y);
-  /// 7: a list file could not be loaded.
+  /// EventId::ErrorListInput. Raised when a list file could not be loaded.
   virtual void ErrorListInput() {}
-  /// 8: a list file could not be saved.
+  /// EventId::ErrorListSave. Raised when a list file could not be saved.
   virtual void ErrorListSave() {}
-  /// 9, 10: for each item while a list is saved or loaded. `Index` is read back.
+  /// EventId::ListSaving. Raised after each item that ListSave has written. `Index`, the item's
+  /// position, is read back: saving goes on behind it.
   virtual void ListSaving(Variant& Index);
+  /// EventId::ListReading. Raised after each item that ListInput has read. `Index`, the item's
+  /// position, is read back: loading goes on behind it.
   virtual void ListReading(Variant& Index);
-  /// 11: a bar or the wheel has scrolled the list.
+  /// EventId::Scroll. Raised after a scroll bar or the mouse wheel has scrolled the list.
   virtual void Scroll() {}
-  /// 12: before the key is handled. `KeyCode` is read back: 0 swallows the key.
+  /// EventId::KeyDown. Raised by the press of a key, before the list reacts. `KeyCode` is read
+  /// back: 0 swallows the key, another code replaces it.
   virtual void KeyDown(std::int16_t& KeyCode, std::int16_t& Shift);
-  /// 13
+  /// EventId::KeyPress. Raised by each typed character.
   virtual void KeyPress(std::int16_t& KeyAscii);
-  /// 14
+  /// EventId::KeyUp. Raised by the release of a key.
   virtual void KeyUp(std::int16_t& KeyCode, std::int16_t& Shift);
 
-  // 15 to 20 can be bound; the list never raises them.
+  // The list never raises the drag-and-drop events, from OLECompleteDrag to OLEStartDrag. They
+  // exist so that hosts can bind them.
   virtual void OLECompleteDrag(std::int32_t& Effect);
   virtual void OLEDragDrop(Ref<Object>& Data, std::int32_t& Effect, std::int16_t& Button,
                            std::int16_t& Shift, float& X, float& Y);
@@ -59,17 +99,17 @@ class __nvList {  // NOLINT(bugprone-reserved-identifier): the published name of
   virtual void OLESetData(Ref<Object>& Data, std::int16_t& DataFormat);
   virtual void OLEStartDrag(Ref<Object>& Data, std::int32_t& AllowedEffects);
 
-  /// 21: ListIndex has refused a value, and stays as it was.
+  /// EventId::ErrorWrongIndex. Raised when ListIndex refuses a value, `Index`, and keeps its own.
   virtual void ErrorWrongIndex(Variant& Index);
 };
 
-/// The hosts that listen. They may come and go while an event is being raised: one that leaves
-/// hears nothing any more, one that comes hears the next event.
+/// The registered sinks of a list. Sinks may be added and removed while an event is being raised: a
+/// removed sink gets no further event, a new one gets the next event.
 class EventSinks {
  public:
-  /// The sink has to live until it is removed. Adding it twice changes nothing.
+  /// The sink must live until it is removed. Adding a registered sink changes nothing.
   void add(__nvList& sink);
-  /// Removing one that is not there changes nothing.
+  /// Removing a sink that is not registered changes nothing.
   void remove(__nvList& sink);
   void removeAll();
   bool isEmpty() const { return sinks_.empty(); }
@@ -83,7 +123,7 @@ class EventSinks {
   }
 
  private:
-  /// While one stands, places are emptied and not taken away.
+  /// While one exists, removed sinks leave an empty entry, so that loops keep their positions.
   class Raising {
    public:
     explicit Raising(EventSinks& sinks) : sinks_(sinks) { ++sinks_.depth_; }

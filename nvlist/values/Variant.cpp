@@ -21,8 +21,6 @@ bool isFalseText(std::string_view text) {
 
 }  // namespace
 
-Variant::Variant(float number) : bits_(pack(Type::Single, std::bit_cast<std::uint32_t>(number))) {}
-
 Variant::TextBlock* Variant::permanentBlock(std::string_view text) {
   static TextBlock emptyText{{}, 1, true};
   static TextBlock mark{std::string(defaultMark), 1, true};

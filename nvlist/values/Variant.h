@@ -1,6 +1,7 @@
 #pragma once
 
 #include <atomic>
+#include <bit>
 #include <compare>
 #include <concepts>
 #include <cstddef>
@@ -33,30 +34,34 @@ class Variant {
  public:
   enum class Type : std::uint8_t { Empty, Int16, Int32, Single, Boolean, Text, Object };
 
-  Variant() = default;
-  Variant(std::int16_t number) : bits_(pack(Type::Int16, static_cast<std::uint16_t>(number))) {}
-  Variant(std::int32_t number) : bits_(pack(Type::Int32, static_cast<std::uint32_t>(number))) {}
-  Variant(float number);
+  constexpr Variant() = default;
+  constexpr Variant(std::int16_t number)
+      : bits_(pack(Type::Int16, static_cast<std::uint16_t>(number))) {}
+  constexpr Variant(std::int32_t number)
+      : bits_(pack(Type::Int32, static_cast<std::uint32_t>(number))) {}
+  constexpr Variant(float number)
+      : bits_(pack(Type::Single, std::bit_cast<std::uint32_t>(number))) {}
   /// Kept as a 32-bit float, the only float there is: about seven digits.
-  Variant(double number) : Variant(static_cast<float>(number)) {}
-  Variant(Boolean value) : bits_(pack(Type::Boolean, static_cast<std::uint16_t>(value.number()))) {}
+  constexpr Variant(double number) : Variant(static_cast<float>(number)) {}
+  constexpr Variant(Boolean value)
+      : bits_(pack(Type::Boolean, static_cast<std::uint16_t>(value.number()))) {}
   /// Of exactly this type, or any pointer would be a truth value.
   template <std::same_as<bool> Bool>
-  Variant(Bool value) : Variant(Boolean(value)) {}
+  constexpr Variant(Bool value) : Variant(Boolean(value)) {}
   Variant(std::nullptr_t) = delete;
   Variant(std::string text);
   Variant(std::string_view text);
   Variant(const char* text) : Variant(std::string_view(text)) {}
   Variant(const Ref<Object>& object);
-  Variant(const Variant& other) : bits_(other.bits_) { retain(); }
-  Variant(Variant&& other) noexcept : bits_(std::exchange(other.bits_, 0)) {}
+  constexpr Variant(const Variant& other) : bits_(other.bits_) { retain(); }
+  constexpr Variant(Variant&& other) noexcept : bits_(std::exchange(other.bits_, 0)) {}
   Variant& operator=(Variant other) noexcept {
     std::swap(bits_, other.bits_);
     return *this;
   }
-  ~Variant() { release(); }
+  constexpr ~Variant() { release(); }
 
-  Type type() const { return static_cast<Type>(bits_ & tagMask); }
+  constexpr Type type() const { return static_cast<Type>(bits_ & tagMask); }
   bool isEmpty() const { return bits_ == 0; }
   bool isText() const { return type() == Type::Text; }
   /// A number, a truth value, nothing, or a text that reads as a number.
@@ -110,10 +115,10 @@ class Variant {
   }
   TextBlock* textBlock() const { return reinterpret_cast<TextBlock*>(address()); }
 
-  void retain() const {
+  constexpr void retain() const {
     if (type() >= Type::Text) retainShared();
   }
-  void release() const {
+  constexpr void release() const {
     if (type() >= Type::Text) releaseShared();
   }
   void retainShared() const;

@@ -1,3 +1,5 @@
+#include <nvlist/core/storedProperties.h>
+
 #include "../Lists.h"
 
 namespace norvane {
@@ -59,6 +61,28 @@ TEST_F(Persistence, EveryPropertyComesBackInItsOrder) {
   EXPECT_EQ(
       text.substr(0, 81),
       "Font = font \"Sans \\\"x\\\"\" 8.25 italic\nForeColor = 1\nBackColor = &H80000005\nEnabled");
+}
+
+TEST_F(Persistence, TheTableReadsAndSetsEveryProperty) {
+  const auto properties = storedProperties();
+  ASSERT_EQ(properties.size(), 1 + std::size(otherValues));
+  for (std::size_t i = 0; i < std::size(otherValues); ++i) {
+    const StoredProperty& property = properties[i + 1];
+    const auto& [name, value] = otherValues[i];
+    ASSERT_EQ(property.name, name);
+    EXPECT_EQ(storedProperty(name), &property);
+    EXPECT_EQ(property.get(list).toNumber(), property.defaultValue.toNumber()) << name;
+    property.set(list, value);
+    const bool isFlag = property.type == PropertyType::Boolean;
+    EXPECT_EQ(property.get(list).toNumber(), isFlag ? value.toBoolean().number() : value.toNumber())
+        << name;
+    EXPECT_THROW(property.set(list, "many"), Failure) << name;
+  }
+  EXPECT_EQ(storedProperty("font"), nullptr);
+  const StoredProperty& font = *storedProperty("Font");
+  EXPECT_EQ(font.get(list).object().get(), list.Font().get());
+  font.set(list, Variant(Ref<Object>()));
+  EXPECT_FALSE(list.Font());
 }
 
 TEST_F(Persistence, DefaultsAreNotStored) {
