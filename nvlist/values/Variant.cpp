@@ -21,6 +21,9 @@ bool isFalseText(std::string_view text) {
 
 }  // namespace
 
+double Object::toNumber() const { throw Failure::typeMismatch(); }
+std::string Object::toText() const { throw Failure::typeMismatch(); }
+
 Variant::TextBlock* Variant::permanentBlock(std::string_view text) {
   static TextBlock emptyText{{}, 1, true};
   static TextBlock mark{std::string(defaultMark), 1, true};
@@ -76,7 +79,7 @@ bool Variant::isNumeric() const {
     case Type::Text:
       return numberOf(text()).has_value();
     case Type::Object:
-      return false;
+      return address() != 0 && objectAt(address())->isNumeric();
     default:
       return true;
   }
@@ -97,6 +100,7 @@ double Variant::toNumber() const {
       if (const auto number = numberOf(text())) return *number;
       break;
     case Type::Object:
+      if (address() != 0) return objectAt(address())->toNumber();
       break;
   }
   throw Failure::typeMismatch();
@@ -137,6 +141,7 @@ std::string Variant::toText() const& {
     case Type::Text:
       return textBlock()->text;
     case Type::Object:
+      if (address() != 0) return objectAt(address())->toText();
       break;
   }
   throw Failure::typeMismatch();

@@ -15,13 +15,19 @@
 
 namespace norvane {
 
-/// Base of a host's object that a Variant can hold.
+/// Base of a host's object that a Variant can hold. A platform also derives from it for values of
+/// its own, such as a date: these convert to a number and to a text.
 class Object : public Shared {
  public:
   virtual ~Object() = default;
 
-  /// Whether the other one stands for the same value; here: whether it is the same object.
+  /// Whether both are the same value; here: whether both are the same object.
   virtual bool isSame(const Object& other) const { return this == &other; }
+
+  /// The conversions of the Variant that holds it. Default: no value, Failure 13.
+  virtual bool isNumeric() const { return false; }
+  virtual double toNumber() const;
+  virtual std::string toText() const;
 };
 
 /// A tagged value: nothing, a number, a truth value, a text (UTF-8) or an object reference.

@@ -72,6 +72,26 @@ TEST(Variant, ComparesTextsByByteAndNumbersByValue) {
   EXPECT_EQ(failureOf([] { (void)(compare("abc", 1) == 0); }), 13);
 }
 
+TEST(Variant, AnObjectMayBeAValue) {
+  struct Date final : Object {
+    bool isNumeric() const override { return true; }
+    double toNumber() const override { return 46347.5; }
+    std::string toText() const override { return "21.11.2026"; }
+  };
+  const Variant date = Ref<Object>(makeRef<Date>());
+  EXPECT_TRUE(date.isNumeric());
+  EXPECT_EQ(date.toInt32(), 46348);
+  EXPECT_EQ(date.toText(), "21.11.2026");
+  EXPECT_TRUE(compare("46347.5", date) == 0);
+
+  struct Thing final : Object {};
+  for (const Variant& none : {Variant(Ref<Object>()), Variant(Ref<Object>(makeRef<Thing>()))}) {
+    EXPECT_FALSE(none.isNumeric());
+    EXPECT_EQ(failureOf([&] { (void)none.toInt32(); }), 13);
+    EXPECT_EQ(failureOf([&] { (void)none.toText(); }), 13);
+  }
+}
+
 TEST(Variant, SharesTextsAndObjectsAndLetsThemGo) {
   struct Counted : Object {
     explicit Counted(int& count) : alive(count) { ++alive; }
