@@ -184,7 +184,8 @@ class nvList final : public UserControl,
   /// (under SilentError it still changes ListIndex). Fractions are rounded slot by slot.
   void MoveItemUp(const Variant& lItem, const Variant& lCount);
   /// The same in the other direction: away from 0, the last item being the end, and ListIndex grows
-  /// by `lCount`.
+  /// by `lCount`. Of two texts the far place is what they read as one behind the other: "1" and "2"
+  /// name item 12.
   void MoveItemDown(const Variant& lItem, const Variant& lCount);
 
   // ---- events: input/events.h ----

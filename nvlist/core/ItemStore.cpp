@@ -1,7 +1,6 @@
 #include <nvlist/core/ItemStore.h>
 
 #include <algorithm>
-#include <iterator>
 #include <limits>
 #include <vector>
 
@@ -9,11 +8,23 @@
 
 namespace norvane {
 
-Ref<ListItem>& ItemStore::reference(std::int32_t index) const {
+Ref<ListItem>& ItemStore::peek(std::int32_t index) const {
   if (!holds(index)) throw Failure::subscriptOutOfRange();
-  Ref<ListItem>& reference = slots_[static_cast<std::size_t>(index)];
+  Ref<ListItem>& reference = slots_.peek(index);
   if (!reference) makeItem(reference, index);
   return reference;
+}
+
+Ref<ListItem>& ItemStore::slot(std::int32_t index) {
+  peek(index);
+  return slots_.write(index);
+}
+
+void ItemStore::setText(std::int32_t index, std::string text) {
+  const Ref<ListItem>& reference = slot(index);
+  norvane::setText(*reference, std::move(text));
+  // Another slot may hold the same item.
+  if (!reference->isHeldOnce()) slots_.forgetWidest();
 }
 
 void ItemStore::makeItem(Ref<ListItem>& reference, std::int32_t index) const {
@@ -28,64 +39,61 @@ void ItemStore::makeAllItems() {
 }
 
 void ItemStore::forgetTextWidths() {
-  for (const Ref<ListItem>& reference : slots_)
+  slots_.visitUntil([](const Ref<ListItem>& reference, std::int32_t) {
     if (reference) reference->textWidth = ListItem::notMeasured;
+    return false;
+  });
+  slots_.forgetWidest();
 }
 
 void ItemStore::grow() {
   if (upperBound() == std::numeric_limits<std::int32_t>::max()) throw Failure::overflow();
-  slots_.emplace_back();
+  slots_.insert(slots_.size(), nullptr);
 }
 
-// Room is made before anything moves, so that a lack of memory loses no item. References are let go
-// last: an item's objects may run host code as they are destroyed.
+// Room is made before anything moves, so that a lack of memory loses no item. References are
+// released last, since an item's objects may run host code when they are destroyed.
 
 void ItemStore::shrink() {
   makeAllItems();
-  const Ref<ListItem> last = std::move(slots_.back());
-  slots_.pop_back();
+  const Ref<ListItem> last = slots_.take(upperBound());
 }
 
 void ItemStore::recreate(std::size_t count, std::shared_ptr<ItemSource> source) {
-  std::deque<Ref<ListItem>> old(count);
-  slots_.swap(old);
+  SlotBlocks old(static_cast<std::int32_t>(count));
+  std::swap(slots_, old);
   source_.swap(source);
 }
 
-void ItemStore::moveLastTo(std::int32_t index) {
+void ItemStore::move(std::int32_t from, std::int32_t to) {
   makeAllItems();
-  slot(index);
-  if (index == upperBound()) return;
-  slots_.emplace(slots_.begin() + index);
-  slots_[static_cast<std::size_t>(index)].swap(slots_.back());
-  slots_.pop_back();
+  slot(to);
+  const Ref<ListItem> moved = slot(from);
+  if (from == to) return;
+  slots_.insert(to > from ? to + 1 : to, moved);
+  slots_.take(from < to ? from : from + 1);
 }
 
 void ItemStore::moveDownOnto(std::int32_t index) {
   makeAllItems();
   const Ref<ListItem> removed = slot(index);
-  slots_.push_back(Ref(slots_.back()));
-  slots_.erase(slots_.begin() + index);
-}
-
-void ItemStore::moveOnto(std::int32_t from, std::int32_t to) {
-  makeAllItems();
-  slot(from);
-  Ref<ListItem> carried = slot(to);
-  const auto exchange = [&](Ref<ListItem>& reference) { reference.swap(carried); };
-  const auto first = slots_.begin();
-  if (from < to)
-    std::for_each(std::reverse_iterator(first + to), std::reverse_iterator(first + from), exchange);
-  else
-    std::for_each(first + to + 1, first + from + 1, exchange);
+  slots_.insert(slots_.size(), slot(upperBound()));
+  slots_.take(index);
 }
 
 void ItemStore::reorder(std::span<const std::int32_t> order) {
   makeAllItems();
-  std::vector<Ref<ListItem>> old(slots_.size());
-  std::ranges::move(slots_, old.begin());
-  auto slot = slots_.begin();
-  for (const std::int32_t index : order) *slot++ = std::move(old[static_cast<std::size_t>(index)]);
+  std::vector<Ref<ListItem>> old;
+  old.reserve(order.size());
+  slots_.visitUntil([&](Ref<ListItem>& reference, std::int32_t) {
+    old.push_back(std::move(reference));
+    return false;
+  });
+  slots_.visitUntil([&](Ref<ListItem>& reference, std::int32_t index) {
+    reference = std::move(old[static_cast<std::size_t>(order[static_cast<std::size_t>(index)])]);
+    return false;
+  });
+  slots_.forgetWidest();
 }
 
 }  // namespace norvane

@@ -16,8 +16,7 @@ void SelectionMarks::clear(ItemStore& items) {
   if (marksSet_ == 1 && items.holds(lastIndex_) && items.at(lastIndex_).Selected) {
     items.touch(lastIndex_).Selected = false;
   } else if (marksSet_ > 0) {
-    for (std::int32_t index = 0; index <= items.upperBound(); ++index)
-      items.touch(index).Selected = false;
+    items.forEach([](ListItem& item) { item.Selected = false; });
   }
   marksSet_ = 0;
 }

@@ -92,7 +92,11 @@ std::string nvList::ItemText(const Variant& Index) {
 }
 
 void nvList::ItemText(const Variant& Index, const std::string& value) {
-  writeItem("ItemText", Index, ItemRepaint::yes, [&](ListItem& item) { setText(item, value); });
+  trapped(here, "ItemText", [&](Trap& on) {
+    on.step([&] { state_.Items.setText(Index.toInt32(), value); });
+    on.step([&] { container_.PropertyChanged("ItemText"); });
+    repaint(on);
+  });
 }
 
 Boolean nvList::ItemEnabled(const Variant& Index) {

@@ -44,6 +44,7 @@ void nvList::ItemsAdd(NewItem values) {
 
     // Held, as dropping what stood in a field may let the host remove the item.
     Ref<ListItem> added;
+    on.step([&] { items.setText(items.upperBound(), std::move(values.aText).toText()); });
     on.step([&] { added = items.slot(items.upperBound()); });
     if (added) writeFields(on, *added, values);
 
@@ -76,7 +77,6 @@ void nvList::ItemsAdd(NewItem values) {
 }
 
 void nvList::writeFields(Trap& on, ListItem& item, NewItem& values) {
-  on.step([&] { setText(item, std::move(values.aText).toText()); });
   item.Icon = std::move(values.aIcon);
   item.IconSelected = std::move(values.aIconSelected);
   item.Checked = values.aChecked;
@@ -104,12 +104,11 @@ void nvList::writeFields(Trap& on, ListItem& item, NewItem& values) {
 void nvList::moveLastTo(double index) {
   ItemStore& items = state_.Items;
   const auto first = checked::nearest<std::int32_t>(std::ceil(index));
-  if (first == index) {
-    items.moveLastTo(first);
-  } else {
-    const Ref<ListItem> last = items.slot(items.upperBound());
-    items.moveOnto(items.upperBound(), first);
-    items.slot(checked::nearest<std::int32_t>(index)) = last;
+  const auto place = checked::nearest<std::int32_t>(index);
+  items.move(items.upperBound(), first);
+  if (place < first) {
+    items.slot(place) = items.slot(first);
+    if (first < items.upperBound()) items.slot(first) = items.slot(first + 1);
   }
   state_.LoopIndex = first;
 }

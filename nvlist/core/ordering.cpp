@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -48,19 +49,33 @@ void nvList::MoveItemUp(const Variant& lItem, const Variant& lCount) {
   });
 }
 
+namespace {
+
+/// Adds as hosts do: two texts are joined, and the result is read as a number.
+double sumOf(const Variant& a, const Variant& b) {
+  if (!a.isText() || !b.isText()) return a.toNumber() + b.toNumber();
+  return Variant(std::string(a.text()).append(b.text())).toNumber();
+}
+
+}  // namespace
+
 void nvList::MoveItemDown(const Variant& lItem, const Variant& lCount) {
   trapped(here, "MoveItemDown", [&](Trap& on) {
     if (!state_.ItemsDimensioned || on.test([&] { return WrongIndex(lItem); })) return;
     const double from = lItem.toNumber();
     const double last = state_.Items.upperBound();
-    double count = 0;
+    double target = last;
+    double count = last - from;
     const auto goesTooFar = [&] {
-      count = lCount.toNumber();
-      return from + count > last;
+      target = sumOf(lItem, lCount);
+      return target > last;
     };
-    if (on.test(goesTooFar)) count = last - from;
+    if (on.test(goesTooFar))
+      target = last;
+    else if (on.test([&] { return (count = lCount.toNumber()) == 0; }))
+      return;
     if (count == 0) return;
-    on.step([&] { moveItem(from, count, 1); });
+    on.step([&] { moveItem(from, target - from, 1); });
     on.step([&] { state_.ListIndex = checked::nearest<std::int32_t>(state_.ListIndex + count); });
     repaint(on);
   });
@@ -74,16 +89,17 @@ void nvList::moveItem(double from, double count, int direction) {
   };
   ItemStore& items = state_.Items;
   const double passes = std::max(0.0, std::floor(count));
-  const Ref<ListItem> held = items.slot(place(0));
-  if (from == std::floor(from)) {
-    items.moveOnto(place(0), place(passes));
+  if (from == std::floor(from) && count == passes) {
+    items.move(place(0), place(count));
+    state_.LoopIndex = place(direction > 0 ? passes + 1 : passes);
   } else {
     // Of two places that are halves, one may be rounded onto the other.
+    const Ref<ListItem> held = items.slot(place(0));
     for (double pass = 0; pass < passes; ++pass)
       items.slot(place(pass)) = items.slot(place(pass + 1));
+    state_.LoopIndex = place(direction > 0 ? passes + 1 : passes);
+    items.slot(place(count)) = held;
   }
-  state_.LoopIndex = place(direction > 0 ? passes + 1 : passes);
-  items.slot(place(count)) = held;
   state_.Selection.itemMoved(place(0), place(count));
 }
 

@@ -78,7 +78,7 @@ void nvList::inputImage(Boolean ReadItemPropertiesIfExists) {
 void nvList::inputImageItem(const PropertyImage& image, bool readsProperties) {
   ItemInImage stored(image, state_.LoopIndex);
   // Dropping what stands in it may let the host remove the item.
-  const Ref<ListItem> item(&this->item(state_.LoopIndex));
+  const Ref<ListItem> item = state_.Items.slot(state_.LoopIndex);
   setText(*item, stored("Text", "").toText());
   if (!readsProperties) {
     setDefaults(*item);

@@ -70,7 +70,7 @@ void nvList::Text1_KeyPress(std::int16_t& KeyAscii) {
   trapped(here, "Text1_KeyPress", [&](Trap& on) {
     if (KeyAscii != keyReturn || !state_.EditActive) return;
     // To the item that is current now, past the property and its repaint.
-    on.step([&] { setText(item(state_.ListIndex), Text1->Text()); });
+    on.step([&] { state_.Items.setText(state_.ListIndex, Text1->Text()); });
     state_.EditActive = false;
     on.step([&] { Text1->Visible(false); });
     on.step([&] { Redraw(); });

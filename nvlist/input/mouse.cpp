@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <cmath>
+#include <cstdint>
 
 #include <nvlist/nvList.h>
 #include <nvlist/render/art.h>
@@ -17,14 +19,17 @@ constexpr std::int32_t pressOrigin = 4;
 /// The row at a height, where row 0 begins at `origin`; -1 above it. No row is found below the
 /// surface, nor where rows have no height.
 std::int32_t nvList::rowAt(double y, std::int32_t origin, std::int32_t height) {
-  std::int32_t row = -1;
   state_.LoopIndex = origin;
-  if (height <= 0) return row;
-  while (state_.LoopIndex <= double{surface_.ScaleHeight()} && !(state_.LoopIndex > y)) {
-    ++row;
-    state_.LoopIndex = checked::add(state_.LoopIndex, height);
-  }
-  return row;
+  if (height <= 0) return -1;
+  const double surfaceHeight = surface_.ScaleHeight();
+  const double end = y < surfaceHeight ? y : surfaceHeight;
+  if (!(end >= origin)) return -1;
+  const double row = std::floor((end - origin) / height);
+  // LoopIndex ends at the top of the row below, or at that of the last row a number can name.
+  const double last = std::floor((double{INT32_MAX} - origin) / height);
+  state_.LoopIndex = static_cast<std::int32_t>(origin + std::min(row + 1, last) * height);
+  if (row + 1 > last) throw Failure::overflow();
+  return static_cast<std::int32_t>(row);
 }
 
 /// Where the content of a row begins: the check zone of a press does.
@@ -101,9 +106,13 @@ void nvList::selectRange(Trap& on) {
   on.step([&] { SetNoneSelected(); });
   const auto [first, last] = std::minmax(state_.ListIndex, state_.SelectAnchor);
   if (first == last) return;
-  for (std::int32_t i = last; i >= first; --i)
+  for (std::int32_t i = last; i >= first; --i) {
     if (on.test([&] { return static_cast<bool>(item(i).Enabled); }))
       on.step([&] { state_.Selection.set(state_.Items, i, true); });
+    // Outside the list one failure is like all others.
+    if (i < 0) break;
+    i = std::min(i, state_.Items.upperBound() + 1);
+  }
 }
 
 /// The check mark of the current item changes, unless the host refuses: then it is false.

@@ -69,13 +69,14 @@ void nvList::Redraw() {
 /// Paints everything; ends early where the properties begin to be read anew in the middle of it.
 void nvList::paintFace(Trap& on) {
   on.step([&] { surface_.Cls(); });
-  if (state_.TopIndex > 0 && WrongIndex(state_.TopIndex)) {
+  // On a list shorter than the window a negative TopIndex is not a bad one.
+  const auto isShort = [&] { return ItemsCount() < VisibleItems(); };
+  if (WrongIndex(state_.TopIndex) && !(state_.TopIndex < 0 && on.test(isShort))) {
     state_.TopIndexRepair = true;
     on.step([&] { TopIndex(0); });
     state_.TopIndexRepair = false;
   }
 
-  // Where the list is shorter than the window TopIndex may be negative; item 0 is on top then.
   state_.LoopIndex = std::max(state_.TopIndex, 0);
   on.step([&] { surface_.CurrentY(state_.IndentTop); });
 

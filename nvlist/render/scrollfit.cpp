@@ -1,4 +1,4 @@
-#include <cmath>
+#include <algorithm>
 
 #include <nvlist/nvList.h>
 #include <nvlist/render/art.h>
@@ -17,13 +17,22 @@ std::int32_t whole(double length) { return nearest<std::int32_t>(length); }
 
 // ---- the widest item ----
 
-/// Measures every item anew, or takes the width that it was last measured with.
+/// Takes the widest of all items. A text is measured if it has changed since it last was.
 void nvList::CheckItemWidth() {
   trapped(here, "CheckItemWidth", [&](Trap& on) {
     if (!state_.ItemsDimensioned) return;
     state_.MaxItemWidth = 0;
     const std::int32_t count = ItemsCount();
-    for (std::int32_t i = 0; i < count; ++i) on.step([&] { widenTo(item(i)); });
+    for (std::int32_t i = 0; i < count;) {
+      const auto measured = state_.Items.measuredFrom(i);
+      if (measured && measured->end <= count) {
+        state_.MaxItemWidth = std::max<std::int32_t>(state_.MaxItemWidth, measured->widest);
+        i = measured->end;
+      } else {
+        on.step([&] { widenTo(item(i)); });
+        ++i;
+      }
+    }
     addPadding(on);
   });
 }
@@ -42,8 +51,8 @@ void nvList::widenTo(ListItem& item) {
   if (item.textWidth == ListItem::notMeasured) {
     const float width = lblWidth.widthOf(item.Text);
     if (double{width} > state_.MaxItemWidth) state_.MaxItemWidth = whole(width);
-    const bool fits = width >= 0 && width < ListItem::notMeasured && std::trunc(width) == width;
-    if (fits) item.textWidth = static_cast<std::uint16_t>(width);
+    if (width >= 0 && width < ListItem::notMeasured - 1)
+      item.textWidth = static_cast<std::uint16_t>(whole(width));
   } else if (item.textWidth > state_.MaxItemWidth) {
     state_.MaxItemWidth = item.textWidth;
   }

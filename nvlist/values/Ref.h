@@ -15,6 +15,7 @@ class Shared {
   Shared& operator=(const Shared&) { return *this; }
 
   void retain() const { references_.fetch_add(1, std::memory_order_relaxed); }
+  bool isHeldOnce() const { return references_.load(std::memory_order_relaxed) == 1; }
   /// Whether that was the last reference.
   bool releaseLast() const { return references_.fetch_sub(1, std::memory_order_acq_rel) == 1; }
 

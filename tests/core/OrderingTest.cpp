@@ -152,6 +152,9 @@ TEST_F(Ordering, MovesTakeTheItemsOnTheWayAlong) {
       // A negative count loses the item at the far place.
       {up, 1, -3, "a b c d b", 5, 1},
       {down, 2, -2, "c b c d e", 0, 1},
+      // Two texts are joined: past the end, and to place 3.
+      {down, "1", "2", "a c d e b", 5, 1},
+      {down, "0", "3", "b c d a e", 5, 1},
       // Each place is rounded by itself.
       {up, 3.5, 2, "a b e d c", 0, 1},
       {up, 3, 2.5, "d b b c e", 0, 1},

@@ -120,6 +120,17 @@ TEST_F(Mouse, ShiftAndCtrl) {
   EXPECT_EQ(now(), "2: 2");
 }
 
+TEST_F(Mouse, ARangeFarOutsideTheListIsWalkedAsFarAsTheListGoes) {
+  fill(20);
+  list.MultiSelect(true);
+  silent();
+  list.MoveItemDown(0, -2e9);
+  key(down);
+  ASSERT_LT(list.state().SelectAnchor, -1'999'999'000);
+  press(3, 1);
+  EXPECT_EQ(selected(), "0 1 2 3");
+}
+
 TEST_F(Mouse, HandlersSeeWhatHasHappenedSoFar) {
   std::string seen;
   onEvent = [&](const std::string& event) { seen += event + ": " + now() + "; "; };

@@ -84,6 +84,19 @@ TEST_F(Redraw, RepairsATopIndexPastTheEnd) {
   EXPECT_EQ(rowsOf(headless.surface()), "38@3 39@16");
 }
 
+TEST_F(Redraw, RepairsATopIndexOfAListThatHasGrown) {
+  headless.resize(200, 133);
+  add({"0", "1"});
+  list.TopIndex(0);
+  list.Redraw();
+  EXPECT_EQ(list.TopIndex(), -8);
+  for (int i = 2; i < 40; ++i) list.ItemsAdd(i);
+  list.Redraw();
+  EXPECT_EQ(list.TopIndex(), 0);
+  list.ListIndex(3);
+  EXPECT_EQ(list.TopIndex(), 0);
+}
+
 TEST_F(Redraw, TopIndexKeepsTheLastRowInTheWindow) {
   for (int i = 0; i < 40; ++i) list.ItemsAdd(i);
   list.TopIndex(5);

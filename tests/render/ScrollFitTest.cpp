@@ -110,6 +110,35 @@ TEST_F(ScrollFit, AWidthIsKeptUntilTheTextOrTheFontChanges) {
   }
 }
 
+TEST_F(ScrollFit, TheWidestOfManyIsKnownWhateverBecomesOfThem) {
+  std::mt19937 random(8);
+  const auto upTo = [&](int most) { return static_cast<int>(random() % (most + 1U)); };
+  list.AutoCheckScroll(false);
+  for (int round = 0; round < 3000; ++round) {
+    const int last = list.ItemsCount() - 1;
+    list.AutoRedraw(false);
+    for (int deeds = upTo(3); deeds >= 0; --deeds) {
+      const int deed = upTo(last < 2000 ? 9 : 6);
+      if (deed > 6 || last < 2) {
+        const std::string text(static_cast<std::size_t>(1 + upTo(upTo(60))), 'm');
+        for (int i = upTo(50); i >= 0; --i) list.ItemsAdd(text, upTo(1) ? upTo(last + 1) : -1);
+      }
+      const int place = upTo(list.ItemsCount() - 1);
+      if (deed == 0) list.ItemText(place, std::string(static_cast<std::size_t>(upTo(60)), 'm'));
+      if (deed == 1) list.MoveItemDown(upTo(list.ItemsCount() - 1), place);
+      if (deed == 2) list.MoveItemUp(place, upTo(9) == 0 ? -1 : 7);
+      if (deed == 3 && upTo(99) == 0) list.Sort(cDescending);
+      if (deed == 4) list.ItemSelected(place, true);
+      if (deed == 5 && upTo(9) == 0) list.ItemsSelectedRemove();
+      if (deed == 6) list.ItemsRemove(place);
+    }
+    list.AutoRedraw(true);
+    std::size_t widest = 0;
+    for (int i = 0; i < list.ItemsCount(); ++i) widest = std::max(widest, item(i).Text.size());
+    ASSERT_EQ(contentWidth(), 7 * static_cast<int>(widest) + 4) << round;
+  }
+}
+
 TEST_F(ScrollFit, TheChoiceOfBarsAndTheirRanges) {
   struct Case {
     ScrollBarConstants bars;

@@ -1,0 +1,88 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include <nvlist/core/ListItem.h>
+
+namespace norvane {
+
+/// A sequence of references to items, kept in blocks of at most 512, so that inserting or removing
+/// one in the middle of a million costs little more than at the end. A reference may be empty.
+///
+/// Each block also keeps the widest text of its items, so that the widest of all is found without
+/// visiting a million items. It is forgotten when a reference of the block may have changed.
+class SlotBlocks {
+ public:
+  using Slot = Ref<ListItem>;
+
+  /// `count` empty slots.
+  explicit SlotBlocks(std::int32_t count);
+
+  std::int32_t size() const { return size_; }
+
+  /// The reference at an index below size(), for reading. It lives until a slot is inserted or
+  /// taken out. An empty one may be filled.
+  Slot& peek(std::int32_t index) {
+    const Place place = find(index);
+    return blocks_[place.block].slots[place.offset];
+  }
+  /// The same for writing.
+  Slot& write(std::int32_t index) {
+    const Place place = find(index);
+    blocks_[place.block].isMeasured = false;
+    return blocks_[place.block].slots[place.offset];
+  }
+
+  /// Inserts a reference before `index`, or at the end. A lack of memory changes nothing.
+  void insert(std::int32_t index, Slot slot);
+  /// Takes the reference at `index` out.
+  Slot take(std::int32_t index);
+
+  /// Calls `visit(slot, index)` for each slot in order until it returns true.
+  template <class Visit>
+  void visitUntil(Visit&& visit) {
+    std::int32_t index = 0;
+    for (Block& block : blocks_)
+      for (Slot& slot : block.slots)
+        if (visit(slot, index++)) return;
+  }
+
+  /// Texts of neighbouring blocks that have all been measured.
+  struct Measured {
+    std::uint16_t widest;  ///< of their texts, in pixels
+    std::int32_t end;      ///< the index behind them
+  };
+  /// Those from `index` on, where a block begins there and all its texts have been measured.
+  std::optional<Measured> measuredFrom(std::int32_t index);
+  /// To be called when a text has changed that may stand in any block.
+  void forgetWidest();
+
+ private:
+  struct Block {
+    std::vector<Slot> slots;
+    std::int32_t first = 0;  ///< the index of its first slot
+    std::uint16_t widest = 0;
+    bool isMeasured = false;  ///< `widest` is known
+  };
+  struct Place {
+    std::size_t block;
+    std::size_t offset;
+  };
+  static constexpr std::size_t blockSize = 512;
+
+  Place find(std::int32_t index) const;
+  Block& addBlock(std::size_t place, std::int32_t first);
+  void split(std::size_t block);
+  void moveFirsts(std::size_t behindBlock, std::int32_t difference);
+  void removeOrMerge(std::size_t block);
+  static bool measure(Block& block);
+
+  std::vector<Block> blocks_;
+  std::int32_t size_ = 0;
+  mutable std::size_t lastFound_ = 0;  ///< the block that find() returned last
+};
+
+}  // namespace norvane
