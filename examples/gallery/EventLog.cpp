@@ -3,7 +3,6 @@
 #include <QStringList>
 #include <QTextBlock>
 
-#include <nvlist/platform/Application.h>
 #include <nvlist/platform/qt/QtApplication.h>
 
 namespace gallery {
@@ -21,19 +20,19 @@ QString shown(const norvane::Variant& value) {
 
 }  // namespace
 
-/// Takes the failures over, so that no box interrupts who tries things out.
+/// Logs failures instead of interrupting the user with message boxes.
 class EventLog::Failures final : public norvane::ErrorHandler {
  public:
   explicit Failures(EventLog& log) : log_(log) {}
 
-  void RaiseError(const std::string&, const norvane::ApplicationFacts&, std::int32_t Number,
-                  const std::string& Description, const std::string& Procedure, std::int32_t Line,
-                  const std::string&, const std::string& Module) override {
+  void RaiseError(std::string_view, const norvane::ApplicationFacts&, std::int32_t Number,
+                  std::string_view Description, std::string_view Procedure, std::int32_t Line,
+                  std::string_view, std::string_view Module) override {
     log_.write(QString("Failure %1 in %2.%3, line %4: %5")
                    .arg(Number)
-                   .arg(QString::fromStdString(Module), QString::fromStdString(Procedure))
+                   .arg(QString::fromUtf8(Module), QString::fromUtf8(Procedure))
                    .arg(Line)
-                   .arg(QString::fromStdString(Description)));
+                   .arg(QString::fromUtf8(Description)));
   }
 
  private:
@@ -46,10 +45,10 @@ EventLog::EventLog() : failures_(std::make_shared<Failures>(*this)) {
   setPlaceholderText("Events appear here, and what is set in the sheets.");
   connect(&showingProgress_, &QTimer::timeout, this, [this] { showProgress(); });
   norvane::QtApplication::ensure();
-  norvane::Application::inUse().registerErrorHandler(failures_);
+  norvane::Program::inUse().registerErrorHandler(failures_);
 }
 
-EventLog::~EventLog() { norvane::Application::inUse().registerErrorHandler(nullptr); }
+EventLog::~EventLog() { norvane::Program::inUse().registerErrorHandler(nullptr); }
 
 void EventLog::progress(const char* name, const norvane::Variant& index) {
   if (progress_ && progress_ != name) showProgress();

@@ -1,7 +1,7 @@
 #include <nvlist/files/ByteReader.h>
 #include <nvlist/files/PropertyImage.h>
 #include <nvlist/files/windows1252.h>
-#include <nvlist/platform/Application.h>
+#include <nvlist/platform/Files.h>
 
 #include <algorithm>
 #include <bit>
@@ -116,7 +116,7 @@ Variant PropertyImage::ReadProperty(std::string_view name, const Variant& defaul
 }
 
 Variant readTaggedBytes(const std::string& path) {
-  const auto file = Application::inUse().openFile(path, FileMode::read);
+  const auto file = Files::inUse().openFile(path, FileMode::read);
   const std::vector<char> head = readBytes(*file, 12);
   ByteReader reader({head.data(), head.size()});
   const auto tag = reader.number<std::int16_t>();

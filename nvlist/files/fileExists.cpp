@@ -1,7 +1,7 @@
 #include <nvlist/files/fileExists.h>
 
 #include <nvlist/objects/Trap.h>
-#include <nvlist/platform/Application.h>
+#include <nvlist/platform/Files.h>
 
 namespace norvane {
 
@@ -9,7 +9,7 @@ Boolean FileExists(const std::string& path) {
   static constexpr Module here = {kinds::module, "basList"};
   Boolean result;
   trapped(here, "FileExists",
-          [&](Trap& on) { on.step([&] { result = Application::inUse().holdsFile(path); }); });
+          [&](Trap& on) { on.step([&] { result = Files::inUse().holdsFile(path); }); });
   return result;
 }
 

@@ -2,7 +2,7 @@
 #include <nvlist/files/fileExists.h>
 #include <nvlist/files/inputLimits.h>
 #include <nvlist/nvList.h>
-#include <nvlist/platform/Application.h>
+#include <nvlist/platform/Files.h>
 
 #include <utility>
 
@@ -28,7 +28,7 @@ class ItemInImage {
     if (value.type() != Variant::Type::Object) throw Failure::typeMismatch();
     const Ref<Object> object = value.object();
     if (!object) return nullptr;
-    return Application::inUse().loadPicture(static_cast<const StoredPicture&>(*object).file);
+    return Files::inUse().loadPicture(static_cast<const StoredPicture&>(*object).file);
   }
 
  private:

@@ -4,7 +4,7 @@
 #include <nvlist/files/inputLimits.h>
 #include <nvlist/files/windows1252.h>
 #include <nvlist/nvList.h>
-#include <nvlist/platform/Application.h>
+#include <nvlist/platform/Files.h>
 #include <nvlist/values/numbers.h>
 #include <nvlist/values/text.h>
 
@@ -264,7 +264,7 @@ void nvList::ListInput(const std::string& Filename, Boolean ReadItemPropertiesIf
 }
 
 void nvList::inputItems(const std::string& Filename, Boolean ReadItemPropertiesIfExists) {
-  const auto file = Application::inUse().openFile(Filename, FileMode::read);
+  const auto file = Files::inUse().openFile(Filename, FileMode::read);
   const auto reader = std::make_shared<ListFile>(*this, ReadItemPropertiesIfExists);
   reader->readHeader(*file);
   state_.ItemsDimensioned = false;

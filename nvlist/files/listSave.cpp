@@ -1,7 +1,7 @@
 #include <nvlist/files/FileWriter.h>
 #include <nvlist/files/colourTexts.h>
 #include <nvlist/nvList.h>
-#include <nvlist/platform/Application.h>
+#include <nvlist/platform/Files.h>
 
 namespace norvane {
 namespace {
@@ -27,8 +27,8 @@ void nvList::ListSave(const std::string& Filename, Boolean SaveItemProperties) {
 }
 
 void nvList::saveItems(const std::string& Filename, Boolean SaveItemProperties) {
-  Application::inUse().removeFile(Filename);
-  const auto file = Application::inUse().openFile(Filename, FileMode::write);
+  Files::inUse().removeFile(Filename);
+  const auto file = Files::inUse().openFile(Filename, FileMode::write);
   FileWriter writer(*file);
   const std::int32_t last = ItemsCount() - 1;
   const auto hasProperties = static_cast<std::uint8_t>(SaveItemProperties.number());

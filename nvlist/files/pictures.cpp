@@ -1,5 +1,5 @@
 #include <nvlist/nvList.h>
-#include <nvlist/platform/Application.h>
+#include <nvlist/platform/Files.h>
 #include <nvlist/values/numbers.h>
 
 namespace norvane {
@@ -27,7 +27,7 @@ Picture nvList::GetStringPicture(std::string_view file) {
   trapped(here, "GetStringPicture", [&](Trap& on) {
     on.step([&] {
       const auto* first = reinterpret_cast<const std::byte*>(file.data());
-      result = Application::inUse().loadPicture({first, first + file.size()});
+      result = Files::inUse().loadPicture({first, first + file.size()});
     });
   });
   return result;

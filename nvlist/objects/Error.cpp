@@ -5,14 +5,17 @@
 namespace norvane {
 namespace {
 
-// Programs may run lists of their own on several threads; the switch is the one thing shared.
+// The one value that all threads of a program share.
 std::atomic<std::int16_t> silentError = 0;
-std::atomic<bool> isInitialised = false;
 
 }  // namespace
 
 Error::Error() {
-  if (!isInitialised.exchange(true)) silentError = 0;
+  // Once in a program: other threads wait here, so that none sets the value before.
+  [[maybe_unused]] static const bool isInitialised = [] {
+    silentError = 0;
+    return true;
+  }();
 }
 
 Boolean Error::SilentError() const { return Boolean::ofNumber(silentError); }

@@ -3,7 +3,8 @@
 #include <nvlist/objects/TextFile.h>
 #include <nvlist/objects/Trap.h>
 #include <nvlist/objects/lateBound.h>
-#include <nvlist/platform/Application.h>
+#include <nvlist/platform/Desktop.h>
+#include <nvlist/platform/Files.h>
 #include <nvlist/platform/ListBox.h>
 #include <nvlist/values/numbers.h>
 
@@ -50,7 +51,7 @@ void SpEv::TextSave(const std::string& Filename, const std::string& Text) {
 
 void SpEv::PlayMusic(const std::string& Filename) {
   trapped(here, "PlayMusic",
-          [&](Trap& on) { on.step([&] { Application::inUse().playSound(Filename); }); });
+          [&](Trap& on) { on.step([&] { Desktop::inUse().playSound(Filename); }); });
 }
 
 void SpEv::ListSave(const Variant& List, const std::string& Filename,
@@ -91,7 +92,7 @@ void SpEv::ListRead(const Variant& List, const std::string& Filename) {
 Boolean SpEv::FileExists(const std::string& sFile) {
   Boolean result;
   trapped(here, "FileExists",
-          [&](Trap& on) { on.step([&] { result = Application::inUse().holdsFile(sFile); }); });
+          [&](Trap& on) { on.step([&] { result = Files::inUse().holdsFile(sFile); }); });
   return result;
 }
 
@@ -100,7 +101,7 @@ Boolean SpEv::IsWinXP() {
   Boolean result;
   trapped(here, "IsWinXP", [&](Trap& on) {
     SystemVersion version;
-    on.step([&] { version = Application::inUse().systemVersion(); });
+    on.step([&] { version = Desktop::inUse().systemVersion(); });
     result = version.PlatformId == 2 && version.Major >= 5 && version.Minor >= 1;
   });
   return result;
@@ -131,7 +132,7 @@ cActiveXPTheme SpEv::ActiveXPTheme() {
     std::u16string size(255, u' ');
     std::string scheme;
     if (on.test([&] {
-          return Application::inUse().currentThemeName(themeFile, colourScheme, size) == 0;
+          return Desktop::inUse().currentThemeName(themeFile, colourScheme, size) == 0;
         })) {
       on.step([&] { ConvUnicode(themeFile); });
       on.step([&] { scheme = ConvUnicode(colourScheme); });
@@ -146,7 +147,7 @@ cMouseButton SpEv::MouseButtonPressed() {
   cMouseButton result = mouseNone;
   trapped(here, "MouseButtonPressed", [&](Trap& on) {
     for (const std::int32_t key : {1, 2, 4}) {
-      if (!on.test([&] { return Application::inUse().asyncKeyState(key) != 0; })) continue;
+      if (!on.test([&] { return Desktop::inUse().asyncKeyState(key) != 0; })) continue;
       result = static_cast<cMouseButton>(key);
       return;
     }

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include <nvlist/platform/Application.h>
+#include <nvlist/platform/Files.h>
 #include <nvlist/values/Failure.h>
 
 namespace norvane {
@@ -23,12 +23,12 @@ TextFile::~TextFile() {
 
 void TextFile::openForInput(const std::string& path) {
   mode_ = FileMode::read;
-  file_ = Application::inUse().openFile(path, mode_);
+  file_ = Files::inUse().openFile(path, mode_);
 }
 
 void TextFile::openForOutput(const std::string& path) {
   mode_ = FileMode::write;
-  file_ = Application::inUse().openFile(path, mode_);
+  file_ = Files::inUse().openFile(path, mode_);
 }
 
 void TextFile::close() {

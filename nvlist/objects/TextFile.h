@@ -10,7 +10,7 @@ namespace norvane {
 
 /// A text file, open until it is closed or the object ends; what fails in the latter case is lost.
 /// Paths are UTF-8; texts stand in the file byte by byte as they are. Each call throws where
-/// it cannot be done, as Application::openFile tells.
+/// it cannot be done, as Files::openFile describes.
 class TextFile {
  public:
   TextFile() = default;

@@ -3,6 +3,7 @@
 #include <new>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 #include <nvlist/objects/Error.h>
 #include <nvlist/objects/reporter.h>
@@ -11,21 +12,33 @@
 namespace norvane {
 namespace {
 
-/// The exception being handled as a failure with a number. What is none of ours comes from a host
-/// or a platform.
-Failure currentFailure() {
+/// Passes the exception being handled to `reportAs` as a number and a text. What is not a Failure
+/// comes from a host, a platform or the standard library. Allocates nothing that it could not do
+/// without.
+template <class ReportAs>
+void reportCurrent(ReportAs&& reportAs) {
+  const auto outOfMemory = [&] { reportAs(7, "Out of memory"); };
+  const auto automation = [&](const char* what) {
+    std::string text;
+    try {
+      text = Failure::automation(what).what();
+    } catch (const std::bad_alloc&) {
+      return outOfMemory();
+    }
+    reportAs(440, text);
+  };
   try {
     throw;
   } catch (const Failure& failure) {
-    return failure;
+    reportAs(failure.number(), failure.what());
   } catch (const std::bad_alloc&) {
-    return Failure::outOfMemory();
+    outOfMemory();
   } catch (const std::length_error&) {
-    return Failure::outOfMemory();
+    outOfMemory();
   } catch (const std::exception& exception) {
-    return Failure::automation(exception.what());
+    automation(exception.what());
   } catch (...) {
-    return Failure::automation("unknown exception");
+    automation("unknown exception");
   }
 }
 
@@ -38,8 +51,9 @@ void Trap::failed(int line) const {
     throw;
   } catch (...) {
     if (Error::silent()) return;
-    const Failure failure = currentFailure();
-    report({failure.number(), failure.what(), procedure_, line, module_.kind, module_.name});
+    reportCurrent([&](std::int32_t number, std::string_view description) {
+      report({number, description, procedure_, line, module_.kind, module_.name});
+    });
   }
   throw Left{};
 }

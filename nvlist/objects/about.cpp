@@ -1,12 +1,12 @@
 #include <nvlist/objects/about.h>
 
-#include <nvlist/platform/Application.h>
+#include <nvlist/platform/Program.h>
 
 namespace norvane {
 
 void showAboutBox() {
   constexpr std::int32_t informationWithOk = 64;
-  Application::inUse().MsgBox("nvList " NVLIST_VERSION, informationWithOk, "About nvList");
+  Program::inUse().MsgBox("nvList " NVLIST_VERSION, informationWithOk, "About nvList");
 }
 
 }  // namespace norvane

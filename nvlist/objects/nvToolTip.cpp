@@ -4,7 +4,7 @@
 
 #include <nvlist/objects/Trap.h>
 #include <nvlist/objects/lateBound.h>
-#include <nvlist/platform/Application.h>
+#include <nvlist/platform/Desktop.h>
 #include <nvlist/platform/HostWindow.h>
 #include <nvlist/values/numbers.h>
 
@@ -50,7 +50,7 @@ Boolean nvToolTip::Create(const Variant& form) {
     if (!on.test([&] { return isForm(form); })) return;
     if (!IsWindow())
       on.step([&] {
-        TipWindow_ = Application::inUse().createTipWindow(lateBound<HostWindow>(form)->hwnd());
+        TipWindow_ = Desktop::inUse().createTipWindow(lateBound<HostWindow>(form)->hwnd());
       });
     result = IsWindow();
   });

@@ -1,9 +1,11 @@
 #include <nvlist/objects/reporter.h>
 
+#include <array>
 #include <memory>
-#include <utility>
+#include <new>
+#include <string>
 
-#include <nvlist/platform/Application.h>
+#include <nvlist/platform/Program.h>
 #include <nvlist/values/text.h>
 
 namespace norvane {
@@ -11,6 +13,7 @@ namespace {
 
 constexpr std::int32_t criticalStopWithOk = 16;
 
+/// Whether the statement succeeded.
 template <class Statement>
 bool ignoringFailures(Statement&& statement) {
   try {
@@ -21,52 +24,101 @@ bool ignoringFailures(Statement&& statement) {
   }
 }
 
-std::string messageOf(const Report& failure, const ApplicationFacts& program) {
-  const std::string newLine = "\r\n";
-  return "Error no.: " + std::to_string(failure.Number) + newLine +
-         "Error description: " + failure.Description + newLine +  //
-         "Project: " + program.EXEName + newLine +                //
-         "Module: " + failure.Kind + " " + failure.Module + newLine +
-         "Line/Procedure: " + std::to_string(failure.Line) + "/" + failure.Procedure + newLine +
-         "Version: " + std::to_string(program.Major) + "." + std::to_string(program.Minor) + "." +
-         std::to_string(program.Revision);
+/// Runs a part of the report that is left out where memory is exhausted. Any other failure comes
+/// out of the report.
+template <class Statement>
+bool ifMemoryLasts(Statement&& statement) {
+  try {
+    statement();
+    return true;
+  } catch (const std::bad_alloc&) {
+    return false;
+  }
 }
 
-/// The setting that names the folder of the log; a text counts up to its first zero character.
-std::string logSetting(Application& application) {
-  const Variant value = application.readSetting("Software\\Norvane", "ErrorLog");
+/// A text that needs no memory of its own. What exceeds its size is cut off.
+class FixedText {
+ public:
+  void append(std::string_view text) {
+    size_ += text.copy(bytes_.data() + size_, bytes_.size() - size_);
+  }
+  std::string_view view() const { return {bytes_.data(), size_}; }
+
+ private:
+  std::array<char, 1000> bytes_;
+  std::size_t size_ = 0;
+};
+
+template <class Text>
+void writeMessage(Text& message, const Report& failure, const ApplicationFacts& program) {
+  // A number is short enough for a std::string to hold it without memory of its own.
+  const auto write = [&](std::string_view label, std::string_view value) {
+    message.append(label);
+    message.append(value);
+  };
+  write("Error no.: ", std::to_string(failure.Number));
+  write("\r\nError description: ", failure.Description);
+  write("\r\nProject: ", program.EXEName);
+  write("\r\nModule: ", failure.Kind);
+  write(" ", failure.Module);
+  write("\r\nLine/Procedure: ", std::to_string(failure.Line));
+  write("/", failure.Procedure);
+  write("\r\nVersion: ", std::to_string(program.Major));
+  write(".", std::to_string(program.Minor));
+  write(".", std::to_string(program.Revision));
+}
+
+/// The message in a fixed size. The description alone can be long, and the lines behind it count.
+void writeShortMessage(FixedText& message, Report failure, const ApplicationFacts& program) {
+  constexpr std::size_t longestDescription = 200;
+  failure.Description = failure.Description.substr(0, longestDescription);
+  writeMessage(message, failure, program);
+}
+
+/// The setting that names the folder of the log, up to its first zero character.
+std::string logSetting(Program& program) {
+  const Variant value = program.readSetting("Software\\Norvane", "ErrorLog");
   std::string text = value.toText();
   return text.substr(0, text.find('\0'));
 }
 
-void writeLog(Application& application, std::string folder, const std::string& message) {
-  if (folder == "*app*") folder = application.facts().Path;
+void writeLog(Program& program, std::string folder, std::string_view message) {
+  if (folder == "*app*") folder = program.facts().Path;
   if (!folder.ends_with('\\')) folder += '\\';
   ignoringFailures([&] {
-    application.appendToFile(folder + "NorvaneError.txt",
-                             application.dateText() + " " + application.timeText() + "\r\n" +
-                                 message + "\r\n" + std::string(30, '-') + "\r\n");
+    std::string record = program.dateText() + " " + program.timeText() + "\r\n";
+    record.append(message).append("\r\n").append(30, '-').append("\r\n");
+    program.appendToFile(folder + "NorvaneError.txt", record);
   });
 }
 
 }  // namespace
 
 void report(const Report& failure) {
-  Application& application = Application::inUse();
+  Program& program = Program::inUse();
   std::shared_ptr<ErrorHandler> handler;
-  ignoringFailures([&] { handler = application.createErrorHandler(); });
+  ignoringFailures([&] { handler = program.createErrorHandler(); });
 
-  const ApplicationFacts facts = application.facts();
-  const std::string message = messageOf(failure, facts);
-  const std::string folder = logSetting(application);
-  if (!trimmedBlanks(folder).empty()) writeLog(application, folder, message);
+  ApplicationFacts facts;
+  ifMemoryLasts([&] { facts = program.facts(); });
+  std::string whole;
+  FixedText cut;
+  const bool isWhole = ifMemoryLasts([&] { writeMessage(whole, failure, facts); });
+  if (!isWhole) writeShortMessage(cut, failure, facts);
+  const std::string_view message = isWhole ? whole : cut.view();
 
-  if (handler && ignoringFailures([&] {
-        handler->RaiseError(application.programPath(), facts, failure.Number, failure.Description,
+  ifMemoryLasts([&] {
+    const std::string folder = logSetting(program);
+    if (!trimmedBlanks(folder).empty()) writeLog(program, folder, message);
+  });
+
+  const bool isTakenOver =
+      handler && ignoringFailures([&] {
+        handler->RaiseError(program.programPath(), facts, failure.Number, failure.Description,
                             failure.Procedure, failure.Line, failure.Kind, failure.Module);
-      }))
-    return;
-  application.MsgBox(message, criticalStopWithOk, "Error");
+      });
+  if (isTakenOver) return;
+  ifMemoryLasts([&] { program.MsgBox(message, criticalStopWithOk, "Error"); });
 }
 
 }  // namespace norvane

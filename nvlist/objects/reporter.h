@@ -1,24 +1,27 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
+#include <string_view>
 
 namespace norvane {
 
-/// One failure as the reporter gets it from a trap.
+/// A failure as a trap passes it to the reporter.
 struct Report {
   std::int32_t Number;
-  std::string Description;
-  std::string Procedure;
+  std::string_view Description;
+  std::string_view Procedure;
   std::int32_t Line;
-  std::string Kind;
-  std::string Module;
+  std::string_view Kind;
+  std::string_view Module;
 };
 
-/// Tells the user of a failure: writes the log if one is configured, gives the failure to the
-/// host's outside handler, and shows the box titled "Error" unless the handler took over. Works on
-/// the Application that is in use (platform/Application.h). Throws what the application throws
-/// where its failure is not one to be ignored.
+/// Reports a failure through the Program in use (platform/Program.h): writes the log if the
+/// settings name a folder, calls the host's ErrorHandler and, unless that takes over, shows the
+/// message box titled "Error".
+///
+/// Where memory is exhausted, the parts of the report that need some are left out, and a long
+/// description is cut off. Throws what the program's facts, settings or message box throw, apart
+/// from std::bad_alloc.
 void report(const Report& failure);
 
 }  // namespace norvane

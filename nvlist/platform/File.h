@@ -7,7 +7,7 @@ namespace norvane {
 
 enum class FileMode { read, write };
 
-/// A file that Application::openFile has opened, from its first byte on. Destroying it closes it;
+/// A file that Files::openFile has opened, from its first byte on. Destroying it closes it;
 /// what fails then is lost, so a writer closes it first. Any call may throw.
 class File {
  public:

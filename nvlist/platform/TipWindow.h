@@ -21,7 +21,8 @@ struct TipTool {
   std::int32_t id = 0;
   /// Of a tool that is no window.
   Rectangle rectangle;
-  std::int32_t instance = 0;
+  /// The module that holds the text, of the width of a pointer; unused here.
+  std::intptr_t instance = 0;
   /// UTF-8; it ends at its first zero character.
   std::string text;
 };

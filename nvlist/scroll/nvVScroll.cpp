@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include <nvlist/objects/about.h>
-#include <nvlist/platform/Application.h>
+#include <nvlist/platform/Program.h>
 #include <nvlist/scroll/gradient.h>
 #include <nvlist/values/numbers.h>
 
@@ -61,8 +61,7 @@ void nvVScroll::assignRange(const char* name, std::int32_t ScrollState::*field, 
                             bool isRefused, const char* refusal) {
   trapped(here, name, [&](Trap& on) {
     if (isRefused) {
-      on.step(
-          [&] { Application::inUse().MsgBox(refusal, scroll::criticalStop, scroll::boxTitle); });
+      on.step([&] { Program::inUse().MsgBox(refusal, scroll::criticalStop, scroll::boxTitle); });
       return;
     }
     assign(on, name, field, value);

@@ -71,7 +71,7 @@ class FileTest : public ListTest, protected __nvList {
     return result;
   }
 
-  MemoryFiles memory{application};
+  MemoryFiles memory;
   std::string heard;
   /// What the host does for each item of a list that is saved or read.
   std::function<void(Variant&)> onProgress;

@@ -185,13 +185,12 @@ TEST_F(ListInput, OutlivesAHostThatClearsTheListInAReport) {
   struct Clearing final : ErrorHandler {
     explicit Clearing(nvList& cleared) : list(cleared) {}
     nvList& list;
-    void RaiseError(const std::string&, const ApplicationFacts&, std::int32_t, const std::string&,
-                    const std::string&, std::int32_t, const std::string&,
-                    const std::string&) override {
+    void RaiseError(std::string_view, const ApplicationFacts&, std::int32_t, std::string_view,
+                    std::string_view, std::int32_t, std::string_view, std::string_view) override {
       list.ItemsClear();
     }
   };
-  memory.registerErrorHandler(std::make_shared<Clearing>(list));
+  application.registerErrorHandler(std::make_shared<Clearing>(list));
   const std::string record = text("a") + fields("no hex") + flagsAndKeys("k", "t") + noIcons;
   expectRefused(header(1, true) + record + record, "colour");
   add({"first"});

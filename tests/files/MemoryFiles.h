@@ -2,32 +2,28 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <string>
 
-#include <nvlist/platform/headless/HeadlessApplication.h>
+#include <nvlist/platform/Files.h>
 #include <nvlist/values/Failure.h>
 
 namespace norvane {
 
-/// A program whose files stand in memory, and of whose file operations any can fail.
-class MemoryFiles : public HeadlessApplication {
+/// Files in memory, any of whose operations can be made to fail.
+class MemoryFiles : public Files {
  public:
-  MemoryFiles() = default;
-  explicit MemoryFiles(HeadlessApplication& boxesGoTo) : boxesGoTo_(&boxesGoTo) {}
-
+  std::map<std::string, std::string> files;
   int operations = 0;
   /// Which operation fails, from 1; 0 none.
   int failing = 0;
   int open = 0;
   /// Bytes that the largest read asked for.
   std::size_t largestRead = 0;
-  /// By how much files are shorter than they say.
+  /// By how much files are shorter than their size says.
   std::uint64_t missing = 0;
 
-  void MsgBox(const std::string& text, std::int32_t style, const std::string& title) override {
-    if (boxesGoTo_) boxesGoTo_->MsgBox(text, style, title);
-  }
   bool holdsFile(const std::string& path) override {
     operate();
     return files.contains(path);
@@ -74,8 +70,6 @@ class MemoryFiles : public HeadlessApplication {
   void operate() {
     if (++operations == failing) throw Failure(57, "Device I/O error");
   }
-
-  HeadlessApplication* boxesGoTo_ = nullptr;
 };
 
 }  // namespace norvane

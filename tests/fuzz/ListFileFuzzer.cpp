@@ -7,6 +7,7 @@
 #include <string>
 
 #include <nvlist/objects/Error.h>
+#include <nvlist/platform/headless/HeadlessApplication.h>
 #include <nvlist/platform/headless/HeadlessList.h>
 
 #include "../files/MemoryFiles.h"
@@ -76,6 +77,7 @@ void change(nvList& list, int way) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size == 0) return 0;
   const int way = data[0];
+  HeadlessApplication application;
   MemoryFiles files;
   HeadlessList headless(50, 50);
   nvList& list = headless.list();

@@ -1,3 +1,7 @@
+#include <thread>
+
+#include <nvlist/platform/Files.h>
+
 #include "../Lists.h"
 
 namespace norvane {
@@ -12,13 +16,14 @@ class Reporter : public ListTest {
   }
 
   struct Handler : ErrorHandler {
-    void RaiseError(const std::string& programPath, const ApplicationFacts& program,
-                    std::int32_t Number, const std::string& Description,
-                    const std::string& Procedure, std::int32_t, const std::string& Kind,
-                    const std::string& Module) override {
-      for (const auto& each : {programPath, program.EXEName, std::to_string(Number), Description,
-                               Procedure, Kind, Module})
-        got += each + "|";
+    void RaiseError(std::string_view programPath, const ApplicationFacts& program,
+                    std::int32_t Number, std::string_view Description, std::string_view Procedure,
+                    std::int32_t, std::string_view Kind, std::string_view Module) override {
+      const std::string number = std::to_string(Number);
+      for (const std::string_view each :
+           {programPath, std::string_view(program.EXEName), std::string_view(number), Description,
+            Procedure, Kind, Module})
+        got.append(each).append("|");
       if (refuses) throw std::runtime_error("not mine");
     }
     std::string got;
@@ -84,6 +89,49 @@ TEST_F(Reporter, AsksTheOutsideHandlerFirst) {
   handler->refuses = true;
   fail();
   EXPECT_EQ(application.boxes.size(), 1U);
+}
+
+/// A program of which every call finds no memory left, apart from the message box.
+class NoMemory final : public Program {
+ public:
+  ApplicationFacts facts() override { throw std::bad_alloc(); }
+  std::string programPath() override { throw std::bad_alloc(); }
+  Variant readSetting(std::string_view, std::string_view) override { throw std::bad_alloc(); }
+  void MsgBox(std::string_view text, std::int32_t, std::string_view) override {
+    box = text;
+    throw std::bad_alloc();
+  }
+  std::string box;
+};
+
+TEST_F(Reporter, ExhaustedMemoryNeverReachesTheHost) {
+  constexpr Module here{kinds::module, "basList"};
+  NoMemory program;
+  trapped(here, "Proc", [](Trap& on) { on.step([] { throw std::bad_alloc(); }); });
+  EXPECT_TRUE(program.box.starts_with("Error no.: 7\r\nError description: Out of memory\r\n"));
+  EXPECT_TRUE(program.box.ends_with("/Proc\r\nVersion: 0.0.0"));
+}
+
+/// A host implements what it has, and gets the service before back where its own ends.
+TEST_F(Reporter, ServicesAreInUseFromTheirMakingToTheirEnd) {
+  EXPECT_EQ(&Program::inUse(), &application);
+  EXPECT_FALSE(Files::anyInUse());
+  {
+    auto first = std::make_unique<Program>();
+    Program second;
+    EXPECT_EQ(&Program::inUse(), &second);
+    EXPECT_EQ(&Desktop::inUse(), &application);
+    first.reset();
+    EXPECT_EQ(&Program::inUse(), &second);
+    std::thread([] {
+      EXPECT_FALSE(Program::anyInUse());
+      Program threads;
+      EXPECT_EQ(&Program::inUse(), &threads);
+    }).join();
+    EXPECT_EQ(&Program::inUse(), &second);
+  }
+  EXPECT_EQ(&Program::inUse(), &application);
+  EXPECT_EQ(Files::inUse().loadPicture({std::byte{1}})->fileBytes().size(), 1U);
 }
 
 TEST_F(Reporter, AFailureEndsOnlyTheProcedureItHappensIn) {

@@ -136,7 +136,7 @@ TEST_F(SpEvTest, AFailingFileOperationEndsTheHelperUnlessSilent) {
   const auto failEachIn = [&](const std::function<std::string(MemoryFiles&)>& run) {
     trace.clear();
     for (int failing = 1;; ++failing) {
-      MemoryFiles memory(application);
+      MemoryFiles memory;
       memory.files = {{"a", "one\r\ntwo"}};
       memory.failing = failing;
       rows->texts.clear();

@@ -5,10 +5,15 @@
 #include <QApplication>
 #include <QFile>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QtTest>
+#include <memory>
+#include <utility>
 
+#include <nvlist/objects/about.h>
 #include <nvlist/objects/reporter.h>
 #include <nvlist/values/Failure.h>
 
@@ -31,6 +36,60 @@ TEST(QtApplicationTest, readsSettingsByTheLastLevelOfTheKey) {
   EXPECT_EQ(application.readSetting("Software\\Norvane", "Number").type(), Variant::Type::Int32);
   EXPECT_EQ(application.readSetting("Software\\Norvane", "Code").toText(), "007");
   EXPECT_TRUE(application.readSetting("Software\\Nobody", "Folder").isEmpty());
+
+  // Written by hand, without quotes.
+  QFile file(QSettings(QSettings::UserScope, "Norvane").fileName());
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("[Other]\nByHand=a,b\n[General]\nByHand=/var/log/a,  b\nQuoted=x, \"y\"\n");
+  file.close();
+  EXPECT_EQ(application.readSetting("Software\\Norvane", "ByHand").toText(), "/var/log/a,  b");
+  EXPECT_EQ(application.readSetting("Software\\Norvane", "Quoted").toText(), "x,y");
+}
+
+TEST(QtApplicationTest, namesTheProgramAndTheTime) {
+  struct Named : QtProgram {
+    std::string programPath() override { return path; }
+    std::string path;
+  } program;
+  const std::pair<const char*, const char*> names[] = {
+      {"/opt/host-1.2", "host-1.2"}, {"/opt/my.host.exe", "my.host"}, {"/opt/A.EXE", "A"}};
+  for (const auto& [path, name] : names) {
+    program.path = path;
+    EXPECT_EQ(program.facts().EXEName, name);
+  }
+  const QString zone = QDateTime::currentDateTime().timeZoneAbbreviation();
+  for (const QLocale& locale :
+       QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry)) {
+    QLocale::setDefault(locale);
+    const QString time = QString::fromStdString(program.timeText());
+    EXPECT_FALSE(time.contains(zone) || time.contains(u'(') || time.contains(u'['))
+        << locale.name().toStdString() << ": " << time.toStdString();
+  }
+  QLocale::setDefault(QLocale::c());
+  EXPECT_TRUE(QRegularExpression("^\\d\\d:\\d\\d:\\d\\d$")
+                  .match(QString::fromStdString(program.timeText()))
+                  .hasMatch());
+}
+
+/// The active window, which is the parent of the box, is destroyed while the box is open.
+TEST(QtApplicationTest, aBoxSurvivesTheEndOfItsWindow) {
+  QtApplication application;
+  for (const bool isAbout : {false, true}) {
+    auto window = std::make_unique<QWidget>();
+    window->show();
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    QTimer ending;
+    QObject::connect(&ending, &QTimer::timeout, [&] {
+      if (QApplication::activeModalWidget()) window.reset();
+    });
+    ending.start(5);
+    if (isAbout)
+      showAboutBox();
+    else
+      report({9, "Subscript out of range", "ItemText", 12, "Klassenmodul", "cItem"});
+    EXPECT_EQ(window, nullptr);
+  }
 }
 
 TEST(QtApplicationTest, appendsBytesAsTheyAre) {
@@ -67,14 +126,16 @@ TEST(QtApplicationTest, aReportWritesTheLogAndShowsABox) {
   settings.sync();
 }
 
-TEST(QtApplicationTest, ensureLeavesAHostsApplicationInUse) {
+TEST(QtApplicationTest, ensureAddsWhatTheHostHasNotMade) {
   {
-    QtApplication hosts;
+    Program hosts;
     QtApplication::ensure();
-    EXPECT_EQ(&Application::inUse(), &hosts);
+    EXPECT_EQ(&Program::inUse(), &hosts);
+    EXPECT_TRUE(dynamic_cast<QtFiles*>(&Files::inUse()));
+    EXPECT_TRUE(dynamic_cast<QtDesktop*>(&Desktop::inUse()));
   }
   QtApplication::ensure();
-  EXPECT_TRUE(dynamic_cast<QtApplication*>(&Application::inUse()));
+  EXPECT_TRUE(dynamic_cast<QtProgram*>(&Program::inUse()));
 }
 
 }  // namespace

@@ -93,6 +93,9 @@ TEST(QtMouseTest, TellsButtonsThatAreDownOrWerePressed) {
   QWindow* window = widget.windowHandle();
   // Other tests may have left it down.
   QTest::mouseRelease(window, Qt::LeftButton);
+  // A press before the first query counts.
+  QTest::mouseClick(window, Qt::LeftButton);
+  EXPECT_EQ(pressed(), 1);
   EXPECT_EQ(pressed(), 0);
   QTest::mousePress(window, Qt::RightButton);
   EXPECT_EQ(pressed(), 2);

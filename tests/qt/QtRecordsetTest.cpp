@@ -16,10 +16,10 @@ class Reports final : public ErrorHandler {
  public:
   std::string text;
 
-  void RaiseError(const std::string&, const ApplicationFacts&, std::int32_t Number,
-                  const std::string& Description, const std::string&, std::int32_t,
-                  const std::string&, const std::string&) override {
-    text += std::to_string(Number) + " " + Description + ";";
+  void RaiseError(std::string_view, const ApplicationFacts&, std::int32_t Number,
+                  std::string_view Description, std::string_view, std::int32_t, std::string_view,
+                  std::string_view) override {
+    text.append(std::to_string(Number)).append(" ").append(Description).append(";");
   }
 };
 

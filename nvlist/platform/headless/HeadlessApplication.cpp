@@ -7,7 +7,7 @@
 namespace norvane {
 namespace {
 
-/// The zero character behind the name goes where there is room for it.
+/// Ends the name with a zero character if the buffer has room for it.
 void putName(std::u16string_view name, std::span<char16_t> buffer) {
   const std::size_t copied = name.copy(buffer.data(), buffer.size());
   if (copied < buffer.size()) buffer[copied] = u'\0';
@@ -62,16 +62,16 @@ std::int16_t HeadlessApplication::asyncKeyState(std::int32_t key) {
 
 std::shared_ptr<TipWindow> HeadlessApplication::createTipWindow(std::int32_t form) {
   if (!hasTipWindows) return nullptr;
-  // Far from the handles that a program gives its own windows.
+  // Far from the handles that a program is likely to use for its own windows.
   const auto handle = static_cast<std::int32_t>(0x10000 + tipWindows.size());
   auto window = std::make_shared<TipStore>(handle, form);
   tipWindows.push_back(window);
   return window;
 }
 
-void HeadlessApplication::MsgBox(const std::string& text, std::int32_t style,
-                                 const std::string& title) {
-  boxes.push_back({text, style, title});
+void HeadlessApplication::MsgBox(std::string_view text, std::int32_t style,
+                                 std::string_view title) {
+  boxes.push_back({std::string(text), style, std::string(title)});
 }
 
 }  // namespace norvane

@@ -18,8 +18,8 @@ namespace norvane {
 /// The list starts with the font of the widget. It belongs to the thread of the QApplication.
 class NvListWidget : public QWidget {
  public:
-  /// The first of them makes the application serve as the program around the lists, unless the host
-  /// has made another one (QtApplication::ensure).
+  /// The first widget puts the Qt platform's services to use, apart from those that the host has
+  /// made already (QtApplication::ensure).
   explicit NvListWidget(QWidget* parent = nullptr);
   ~NvListWidget() override;
 

@@ -20,8 +20,8 @@ namespace norvane {
 template <class Bar>
 class NvScrollWidget : public QWidget {
  public:
-  /// The first of them makes the application serve as the program around the bars, unless the host
-  /// has made another one (QtApplication::ensure).
+  /// The first widget puts the Qt platform's services to use, apart from those that the host has
+  /// made already (QtApplication::ensure).
   explicit NvScrollWidget(QWidget* parent = nullptr);
   ~NvScrollWidget() override;
 

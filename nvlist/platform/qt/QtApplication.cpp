@@ -12,7 +12,6 @@
 #include <QThread>
 #include <QTime>
 #include <QVersionNumber>
-#include <cstdio>
 
 #include <nvlist/platform/qt/QtMouse.h>
 #include <nvlist/platform/qt/QtPicture.h>
@@ -32,6 +31,23 @@ QString qtText(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+/// What a settings file has behind `name =`, as written; null if there is no such line or if it
+/// needs more than reading.
+QString lineOf(const QString& path, const QString& name) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  QString found;
+  bool isGeneral = true;
+  while (!file.atEnd()) {
+    const QString line = QString::fromUtf8(file.readLine()).trimmed();
+    if (line.startsWith(u'[')) isGeneral = line.compare("[General]", Qt::CaseInsensitive) == 0;
+    const qsizetype equals = line.indexOf(u'=');
+    if (isGeneral && equals > 0 && line.left(equals).trimmed() == name)
+      found = line.mid(equals + 1).trimmed();
+  }
+  return found.contains(u'\\') || found.contains(u'"') ? QString() : found;
+}
+
 QVariant settingOf(const QString& key, const QString& name) {
   if (isWindows())
     return QSettings("HKEY_CURRENT_USER\\" + key, QSettings::NativeFormat).value(name);
@@ -39,7 +55,22 @@ QVariant settingOf(const QString& key, const QString& name) {
   if (program.isEmpty()) return {};
   QSettings settings(QSettings::UserScope, program);
   settings.setFallbacksEnabled(false);
-  return settings.value(name);
+  const QVariant value = settings.value(name);
+  if (value.typeId() != QMetaType::QStringList) return value;
+  // An unquoted text with commas. QSettings takes it for a list and drops the blanks around them.
+  const QString line = lineOf(settings.fileName(), name);
+  return line.isNull() ? value.toStringList().join(u',') : line;
+}
+
+/// The user's time format without the time zone, which some locales put in brackets.
+QString timeFormat() {
+  QString format;
+  bool isQuoted = false;
+  for (const QChar c : QLocale().timeFormat(QLocale::LongFormat)) {
+    if (c == u'\'') isQuoted = !isQuoted;
+    if (isQuoted || c != u't') format += c;
+  }
+  return format.remove("()").remove("[]").simplified();
 }
 
 QMessageBox::Icon iconOf(std::int32_t style) {
@@ -57,7 +88,7 @@ QMessageBox::Icon iconOf(std::int32_t style) {
   }
 }
 
-/// Whether there is a program with windows, and this is the thread of its windows.
+/// Whether there is a QApplication, and this is its thread.
 bool canShow() {
   const auto* program = qobject_cast<QApplication*>(QCoreApplication::instance());
   return program && program->thread() == QThread::currentThread();
@@ -66,23 +97,29 @@ bool canShow() {
 }  // namespace
 
 void QtApplication::ensure() {
-  if (Application::anyInUse()) return;
-  static QtApplication application;
+  // Each is made the first time that it is missing.
+  if (!Program::anyInUse()) static thread_local QtProgram program;
+  if (!Files::anyInUse()) static thread_local QtFiles files;
+  if (!Desktop::anyInUse()) static thread_local QtDesktop desktop;
 }
 
-QtApplication::QtApplication() = default;
+QtDesktop::QtDesktop() {
+  if (canShow()) mouse_ = new QtMouse(*QCoreApplication::instance());
+}
 
-QtApplication::~QtApplication() {
+QtDesktop::~QtDesktop() {
   delete mouse_.data();
   delete sound_.data();
 }
 
-ApplicationFacts QtApplication::facts() {
+ApplicationFacts QtProgram::facts() {
   ApplicationFacts facts;
+  const QFileInfo program(qtText(programPath()));
   if (!QCoreApplication::instance()) return facts;
   const auto version = QVersionNumber::fromString(QCoreApplication::applicationVersion());
-  facts.EXEName =
-      QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName().toStdString();
+  // A dot elsewhere in the name begins no extension, as in "host-1.2".
+  const bool isExe = program.suffix().compare("exe", Qt::CaseInsensitive) == 0;
+  facts.EXEName = (isExe ? program.completeBaseName() : program.fileName()).toStdString();
   facts.Major = version.majorVersion();
   facts.Minor = version.minorVersion();
   facts.Revision = version.microVersion();
@@ -90,17 +127,15 @@ ApplicationFacts QtApplication::facts() {
   return facts;
 }
 
-std::string QtApplication::programPath() {
+std::string QtProgram::programPath() {
   if (!QCoreApplication::instance()) return {};
   return QDir::toNativeSeparators(QCoreApplication::applicationFilePath()).toStdString();
 }
 
-Variant QtApplication::readSetting(std::string_view key, std::string_view name) {
+Variant QtProgram::readSetting(std::string_view key, std::string_view name) {
   const QVariant value = settingOf(qtText(key), qtText(name));
   if (!value.isValid()) return {};
-  // A comma in a settings file makes a list of a text.
-  const QString text =
-      value.typeId() == QMetaType::QStringList ? value.toStringList().join(u',') : value.toString();
+  const QString text = value.toString();
   bool isNumber = false;
   const int number = text.toInt(&isNumber);
   const bool mayBeNumber = !isWindows() || value.typeId() != QMetaType::QString;
@@ -109,7 +144,7 @@ Variant QtApplication::readSetting(std::string_view key, std::string_view name) 
   return Variant(text.toStdString());
 }
 
-void QtApplication::appendToFile(const std::string& path, const std::string& text) {
+void QtProgram::appendToFile(const std::string& path, const std::string& text) {
   QString name = qtText(path);
   if (!isWindows()) name.replace(u'\\', u'/');
   QFile file(name);
@@ -120,50 +155,50 @@ void QtApplication::appendToFile(const std::string& path, const std::string& tex
   if (!isWritten) throw Failure(75, "Path/File access error");
 }
 
-std::string QtApplication::dateText() {
+std::string QtProgram::dateText() {
   return QLocale().toString(QDate::currentDate(), QLocale::ShortFormat).toStdString();
 }
 
-std::string QtApplication::timeText() {
-  return QLocale().toString(QTime::currentTime(), QLocale::LongFormat).toStdString();
+std::string QtProgram::timeText() {
+  return QLocale().toString(QTime::currentTime(), timeFormat()).toStdString();
 }
 
-SystemVersion QtApplication::systemVersion() {
+SystemVersion QtDesktop::systemVersion() {
   if (!isWindows()) return {};
   const auto version = QOperatingSystemVersion::current();
   return {2, version.majorVersion(), version.minorVersion()};
 }
 
-std::int16_t QtApplication::asyncKeyState(std::int32_t key) {
+std::int16_t QtDesktop::asyncKeyState(std::int32_t key) {
   if (!canShow()) return 0;
   if (!mouse_) mouse_ = new QtMouse(*QCoreApplication::instance());
   return mouse_->asyncKeyState(key);
 }
 
-void QtApplication::playSound(const std::string& path) {
+void QtDesktop::playSound(const std::string& path) {
   if (!canShow()) return;
   if (!sound_) sound_ = new QtSound(QCoreApplication::instance());
   sound_->play(qtText(path));
 }
 
-std::shared_ptr<TipWindow> QtApplication::createTipWindow(std::int32_t form) {
+std::shared_ptr<TipWindow> QtDesktop::createTipWindow(std::int32_t form) {
   QWidget* widget = widgetOf(form);
   if (!widget || !canShow()) return nullptr;
   return std::make_shared<QtTipWindow>(*widget);
 }
 
-void QtApplication::MsgBox(const std::string& text, std::int32_t style, const std::string& title) {
-  if (!canShow()) {
-    std::fprintf(stderr, "%s\n%s\n", title.c_str(), text.c_str());
-    return;
-  }
-  QMessageBox box(iconOf(style), qtText(title), qtText(text).replace("\r\n", "\n"), QMessageBox::Ok,
-                  QApplication::activeWindow());
-  box.setTextFormat(Qt::PlainText);
-  box.exec();
+void QtProgram::MsgBox(std::string_view text, std::int32_t style, std::string_view title) {
+  if (!canShow()) return Program::MsgBox(text, style, title);
+  // The window, and the box with it, may be destroyed while the box is open.
+  const QPointer<QMessageBox> box =
+      new QMessageBox(iconOf(style), qtText(title), qtText(text).replace("\r\n", "\n"),
+                      QMessageBox::Ok, QApplication::activeWindow());
+  box->setTextFormat(Qt::PlainText);
+  box->exec();
+  delete box;
 }
 
-Picture QtApplication::loadPicture(std::vector<std::byte> file) {
+Picture QtFiles::loadPicture(std::vector<std::byte> file) {
   Picture picture = QtPicture::fromBytes(
       QByteArray(reinterpret_cast<const char*>(file.data()), static_cast<qsizetype>(file.size())));
   if (!picture) throw Failure::invalidPicture();

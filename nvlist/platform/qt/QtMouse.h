@@ -15,7 +15,7 @@ class QtMouse final : public QObject {
     program.installEventFilter(this);
   }
 
-  /// As Application::asyncKeyState. Qt's own numbers of the three buttons are the same.
+  /// As Desktop::asyncKeyState. Qt's own numbers of the three buttons are the same.
   std::int16_t asyncKeyState(std::int32_t key) {
     if (key != Qt::LeftButton && key != Qt::RightButton && key != Qt::MiddleButton) return 0;
     const auto button = static_cast<Qt::MouseButton>(key);

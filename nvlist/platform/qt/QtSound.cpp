@@ -2,12 +2,13 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QLibrary>
 #include <QStandardPaths>
 
 namespace norvane {
 namespace {
 
-struct Player {
+struct [[maybe_unused]] Player {
   const char* program;
   QStringList arguments;
 };
@@ -23,9 +24,21 @@ QtSound::QtSound(QObject* parent) : QObject(parent) {
 
 QtSound::~QtSound() { stop(); }
 
+#ifdef Q_OS_WIN
+
+void QtSound::play(const QString& path) {
+  using Play = int(__stdcall*)(const char* file, unsigned flags);
+  constexpr unsigned asynchronously = 1;
+  constexpr unsigned withoutDefault = 2;
+  static const auto play = reinterpret_cast<Play>(QLibrary("winmm").resolve("sndPlaySoundA"));
+  if (play) play(path.toLocal8Bit().constData(), asynchronously | withoutDefault);
+}
+
+#else
+
 void QtSound::play(const QString& path) {
   stop();
-  // As a full path the name cannot be taken for an option.
+  // A full path cannot be mistaken for an option.
   const QFileInfo file(path);
   if (!file.isFile()) return;
   for (const Player& player :
@@ -36,6 +49,8 @@ void QtSound::play(const QString& path) {
     return;
   }
 }
+
+#endif
 
 void QtSound::stop() {
   if (player_.state() == QProcess::NotRunning) return;

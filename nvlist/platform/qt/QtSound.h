@@ -5,8 +5,9 @@
 
 namespace norvane {
 
-/// Plays sound files, one at a time, through the player that the system has: paplay, aplay or
-/// afplay. Without one there is silence. A sound ends with the program.
+/// Plays sound files, one at a time: on Windows through the system's own function, elsewhere
+/// through the first of paplay, aplay and afplay that is installed. Without one, sounds are silent.
+/// A sound ends with the program.
 class QtSound final : public QObject {
  public:
   explicit QtSound(QObject* parent);
