@@ -23,6 +23,8 @@ class Apartment : public std::enable_shared_from_this<Apartment> {
  public:
   /// That of the calling thread.
   static std::shared_ptr<Apartment> current();
+  /// Before the module is unloaded.
+  static void unregisterClass();
   ~Apartment();
   Apartment(const Apartment&) = delete;
   Apartment& operator=(const Apartment&) = delete;
@@ -68,7 +70,7 @@ class Apartment : public std::enable_shared_from_this<Apartment> {
   HWND window_ = nullptr;
   GdiFaces faces_;
   std::map<const PictureObject*, std::pair<Picture, Picture>> decoded_;
-  UINT_PTR lastTimer_ = 0;
+  UINT_PTR lastTimer_ = 1;
   std::map<UINT_PTR, std::shared_ptr<std::function<void()>>> timers_;
   std::vector<std::shared_ptr<void>> released_;
   int running_ = 0;

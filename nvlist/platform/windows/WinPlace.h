@@ -7,6 +7,9 @@ namespace norvane {
 
 class WinWindow;
 
+/// To the nearest pixel that a coordinate of a window can have.
+int windowPixel(float length);
+
 /// The place of a control inside another one. It has no window: the outermost place shows its image
 /// and passes it the mouse (WinWindow).
 class WinPlace : public Place {
@@ -14,6 +17,8 @@ class WinPlace : public Place {
   explicit WinPlace(WinPlace* around);
 
   GdiSurface& image() { return surface_; }
+  /// The outermost place; nullptr once it has ended.
+  WinWindow* window();
 
   Surface& surface() override { return surface_; }
   void PropertyChanged(std::string_view) override {}
@@ -33,8 +38,6 @@ class WinPlace : public Place {
 
  protected:
   void changed() override;
-  WinWindow* window();
-
   std::shared_ptr<Apartment> apartment_ = Apartment::current();
 
  private:

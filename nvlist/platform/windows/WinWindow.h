@@ -66,8 +66,11 @@ class WinWindow final : public WinPlace {
   void hookWheel(std::function<void(std::int32_t, std::int32_t)> procedure) override;
   /// Shows the images anew, once for any number of calls before the next painting.
   void invalidate();
-  /// An edit box gets or loses the keyboard.
-  void editFocus(bool hasFocus);
+  /// The edit box of a control gets the keyboard from another window, or loses it to one. `other`
+  /// may be 0.
+  void editFocus(bool hasFocus, HWND other);
+  /// Pixels an inch where the window is shown.
+  int resolution() const { return dpi_; }
 
   static void unregisterClass();
 
@@ -75,31 +78,39 @@ class WinWindow final : public WinPlace {
   void changed() override { invalidate(); }
 
  private:
+  using Answer = std::optional<LRESULT>;
+
   static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam,
                                     LPARAM lParam) noexcept;
   static LRESULT CALLBACK wheelProcedure(HWND window, UINT message, WPARAM wParam,
                                          LPARAM lParam) noexcept;
 
   void create();
-  void destroy();
-  /// What a message results in; nothing leaves it to the system.
-  std::optional<LRESULT> handle(UINT message, WPARAM wParam, LPARAM lParam);
-  std::optional<LRESULT> handleMouse(UINT message, WPARAM wParam, LPARAM lParam);
-  std::optional<LRESULT> handleKey(UINT message, WPARAM wParam);
+  /// What a message results in. An empty answer leaves it to the system.
+  Answer handleMessage(UINT message, WPARAM wParam, LPARAM lParam);
+  Answer handleMouse(UINT message, WPARAM wParam, LPARAM lParam);
+  Answer handleKey(UINT message, WPARAM wParam);
+  void handleFocus(bool hasFocus, HWND other);
+  /// The window is about to be destroyed.
+  void lost();
   void paint();
-  void show(HDC target, WinPlace& place, int x, int y);
-  void focusIn();
-  void focusOut(HWND to);
+  /// Draws everything that waits, so that nothing changes while the images are shown.
+  static void complete(WinPlace& place);
+  static void show(HDC target, WinPlace& place, int x, int y);
+  void moveTo(HWND parent, const RECT& position, UINT flags);
   void subclass();
   void unsubclass();
-  void repaintAll();
-  void trackLeaving();
+  void followResolution();
+  static void setResolution(WinPlace& place, int dpi);
+  static void repaint(Place& place);
+  void enter();
+  void leave(HWND to);
 
   WinHost& host_;
   HWND window_ = nullptr;
   HWND wheelWindow_ = nullptr;
   std::function<void(std::int32_t, std::int32_t)> wheelHook_;
-  int dpi_;
+  int dpi_ = 0;
   bool isInvalid_ = false;
   bool isViewChanged_ = false;
   bool isLeavingTracked_ = false;

@@ -1,0 +1,132 @@
+#include <nvlist/platform/windows/Apartment.h>
+
+#include <utility>
+
+#include <nvlist/objects/Trap.h>
+#include <nvlist/platform/windows/WinApplication.h>
+#include <nvlist/values/Failure.h>
+
+namespace norvane {
+namespace {
+
+constexpr wchar_t className[] = L"NorvaneApartment";
+/// Of the timer that looks whether something can be released; those of controls count from 2.
+constexpr UINT_PTR releaseTimer = 1;
+constexpr UINT releaseInterval = 10;
+/// More than a list's own art and the icons of a long list.
+constexpr std::size_t maximumDecoded = 1024;
+
+thread_local std::weak_ptr<Apartment> ofThread;
+
+void registerClass(WNDPROC procedure) {
+  WNDCLASSW look{};
+  look.hInstance = thisModule();
+  look.lpfnWndProc = procedure;
+  look.lpszClassName = className;
+  // Fails if another thread has done it.
+  RegisterClassW(&look);
+}
+
+}  // namespace
+
+HINSTANCE thisModule() {
+  HMODULE module = nullptr;
+  GetModuleHandleExW(
+      GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+      reinterpret_cast<LPCWSTR>(&thisModule), &module);
+  return module;
+}
+
+std::shared_ptr<Apartment> Apartment::current() {
+  std::shared_ptr<Apartment> apartment = ofThread.lock();
+  if (!apartment) {
+    apartment = std::shared_ptr<Apartment>(new Apartment);
+    ofThread = apartment;
+  }
+  return apartment;
+}
+
+Apartment::Apartment() {
+  registerClass(procedure);
+  window_ = CreateWindowExW(0, className, L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, thisModule(),
+                            nullptr);
+  if (!window_) throw Failure::outOfMemory();
+  SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  application_ = std::make_unique<WinApplication>();
+}
+
+Apartment::~Apartment() {
+  SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
+  DestroyWindow(window_);
+}
+
+void Apartment::unregisterClass() { UnregisterClassW(className, thisModule()); }
+
+const OlePicture& Apartment::drawable(const Picture& picture) {
+  if (!picture) throw Failure::invalidCall();
+  if (const auto* own = dynamic_cast<const OlePicture*>(picture.get())) return *own;
+  if (decoded_.size() >= maximumDecoded) decoded_.clear();
+  // The picture is kept with its decoded form, so that no other one can take its address.
+  auto& [kept, decoded] = decoded_[picture.get()];
+  if (!kept) {
+    kept = picture;
+    decoded = OlePicture::fromBytes(picture->fileBytes());
+  }
+  if (!decoded) throw Failure::invalidPicture();
+  return static_cast<const OlePicture&>(*decoded);
+}
+
+UINT_PTR Apartment::startTimer(UINT milliseconds, std::function<void()> tick) {
+  const UINT_PTR timer = ++lastTimer_;
+  if (!SetTimer(window_, timer, milliseconds, nullptr)) return 0;
+  timers_[timer] = std::make_shared<std::function<void()>>(std::move(tick));
+  return timer;
+}
+
+void Apartment::stopTimer(UINT_PTR timer) {
+  // A message of the timer may be waiting already; it finds nothing.
+  if (timers_.erase(timer) != 0) KillTimer(window_, timer);
+}
+
+void Apartment::tick(UINT_PTR timer) {
+  const auto found = timers_.find(timer);
+  if (found == timers_.end()) return;
+  // A reference of its own, as the timer may end in its tick.
+  const auto action = found->second;
+  (*action)();
+}
+
+void Apartment::release(std::shared_ptr<void> control) {
+  released_.push_back(std::move(control));
+  releaseWaiting();
+}
+
+void Apartment::releaseWaiting() {
+  if (running_ > 0 || Trap::anyRuns()) {
+    SetTimer(window_, releaseTimer, releaseInterval, nullptr);
+    return;
+  }
+  KillTimer(window_, releaseTimer);
+  // The last of them may hold the last reference to this.
+  const auto self = shared_from_this();
+  std::exchange(released_, {}).clear();
+}
+
+LRESULT CALLBACK Apartment::procedure(HWND window, UINT message, WPARAM wParam,
+                                      LPARAM lParam) noexcept {
+  auto* const self = reinterpret_cast<Apartment*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  if (!self || message != WM_TIMER) return DefWindowProcW(window, message, wParam, lParam);
+  try {
+    if (wParam == releaseTimer) {
+      self->releaseWaiting();
+    } else {
+      const Running running(*self);
+      self->tick(wParam);
+    }
+  } catch (...) {
+    // Nobody could handle it: the caller is the system.
+  }
+  return 0;
+}
+
+}  // namespace norvane

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <nvlist/platform/Desktop.h>
+#include <nvlist/platform/Files.h>
+#include <nvlist/platform/Program.h>
+
+namespace norvane {
+
+/// The running program as Windows knows it, with its settings below HKEY_CURRENT_USER.
+class WinProgram final : public Program {
+ public:
+  /// The registered handler, else a new ErrorReporter if that object is installed.
+  std::shared_ptr<ErrorHandler> createErrorHandler() override;
+  /// The first, the second and the last of the four numbers of the program's version.
+  ApplicationFacts facts() override;
+  std::string programPath() override;
+  Variant readSetting(std::string_view key, std::string_view name) override;
+  /// Throws Failure 75 if the file cannot be written.
+  void appendToFile(const std::string& path, const std::string& text) override;
+  std::string dateText() override;
+  std::string timeText() override;
+  /// In front of the active window of the thread.
+  void MsgBox(std::string_view text, std::int32_t style, std::string_view title) override;
+};
+
+/// Files on the disk, with the pictures that OlePicture reads.
+class WinFiles final : public Files {
+ public:
+  Picture loadPicture(std::vector<std::byte> file) override;
+};
+
+class WinDesktop final : public Desktop {
+ public:
+  /// As Windows reports it to this program; without a manifest that may be an older one.
+  SystemVersion systemVersion() override;
+  std::int32_t currentThemeName(std::span<char16_t> themeFile, std::span<char16_t> colourScheme,
+                                std::span<char16_t> size) override;
+  std::int16_t asyncKeyState(std::int32_t key) override;
+  void playSound(const std::string& path) override;
+  std::shared_ptr<TipWindow> createTipWindow(std::int32_t form) override;
+};
+
+/// Puts the services of Windows to use on the thread that makes it, apart from those that the host
+/// or a platform has made already.
+class WinApplication {
+ public:
+  WinApplication();
+
+ private:
+  std::unique_ptr<Program> program_;
+  std::unique_ptr<Files> files_;
+  std::unique_ptr<Desktop> desktop_;
+};
+
+}  // namespace norvane

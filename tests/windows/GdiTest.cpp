@@ -1,0 +1,151 @@
+#include <gtest/gtest.h>
+#include <nvlist/platform/windows/GdiSurface.h>
+
+#include <cstdlib>
+
+#include "scenes.h"
+
+namespace norvane {
+namespace {
+
+scenes::Pixels pixelsOf(GdiCanvas& canvas) {
+  const int width = canvas.width();
+  const int height = canvas.height();
+  BITMAPINFO info{};
+  info.bmiHeader.biSize = sizeof info.bmiHeader;
+  info.bmiHeader.biWidth = width;
+  info.bmiHeader.biHeight = -height;
+  info.bmiHeader.biPlanes = 1;
+  info.bmiHeader.biBitCount = 32;
+  void* bits = nullptr;
+  const HDC dc = CreateCompatibleDC(nullptr);
+  const HBITMAP bitmap = CreateDIBSection(dc, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+  const HGDIOBJ before = SelectObject(dc, bitmap);
+  canvas.copyTo(dc, 0, 0, width, height);
+  GdiFlush();
+  const auto* values = static_cast<const std::uint32_t*>(bits);
+  scenes::Pixels result{width, height, {values, values + width * height}};
+  for (std::uint32_t& value : result.values) value &= 0xFFFFFF;
+  SelectObject(dc, before);
+  DeleteObject(bitmap);
+  DeleteDC(dc);
+  return result;
+}
+
+TEST(Gdi, DrawsTheScenesAsQtDoes) {
+  const char* folder = std::getenv("NVLIST_SCENES");
+  if (!folder) GTEST_SKIP() << "NVLIST_SCENES names no folder with Qt's pictures";
+  int images = 0;
+  scenes::forEachImage([&](const scenes::Image& image) {
+    ++images;
+    GdiCanvas canvas;
+    canvas.resize(static_cast<int>(image.surface.ScaleWidth()),
+                  static_cast<int>(image.surface.ScaleHeight()));
+    image.surface.replay(canvas);
+    const scenes::Pixels drawn = pixelsOf(canvas);
+    const std::string path = std::string(folder) + "/" + image.name;
+    const scenes::Pixels expected = scenes::read(path + ".ppm");
+    if (drawn == expected) return;
+    scenes::write(drawn, path + "-gdi.ppm");
+    ASSERT_EQ(expected.values.size(), drawn.values.size()) << image.name;
+    std::size_t differing = 0;
+    std::size_t first = drawn.values.size();
+    for (std::size_t i = 0; i < drawn.values.size(); ++i) {
+      if (drawn.values[i] == expected.values[i]) continue;
+      ++differing;
+      first = std::min(first, i);
+    }
+    const auto width = static_cast<std::size_t>(drawn.width);
+    ADD_FAILURE() << image.name << ": " << differing << " pixels differ, the first one at column "
+                  << first % width << ", row " << first / width << ": " << std::hex
+                  << expected.values[first] << " on Qt, " << drawn.values[first] << " here";
+  });
+  EXPECT_GT(images, 50);
+}
+
+TEST(Gdi, DrawsItsOwnCallsExactly) {
+  GdiCanvas canvas;
+  canvas.resize(8, 6);
+  const Bitmap24 two{2, 1, {0, 0, 255, 255, 0, 0}};  // red, blue
+  canvas.Cls();
+  canvas.Line(LineMode::filledBox, 1, 1, 2, 2, rgb(0, 255, 0));
+  canvas.Line(LineMode::outlineBox, 7, 5, 4, 3, rgb(1, 2, 3));
+  canvas.Line(LineMode::plainLine, 0, 0, 3, 0, 0);
+  canvas.PSet(7, 0, rgb(9, 8, 7));
+  canvas.StretchDIBits(canvas.hDC(), {3, 1, 7, 2}, two);
+  const char* const expected[] = {"###....p",
+                                  ".gg"
+                                  "rrbb.",
+                                  ".gg.....",
+                                  "....oooo",
+                                  "....o..o",
+                                  "....oooo"};
+  const scenes::Pixels drawn = pixelsOf(canvas);
+  const auto name = [](std::uint32_t value) {
+    switch (value) {
+      case 0xFFFFFF:
+        return '.';
+      case 0x000000:
+        return '#';
+      case 0x00FF00:
+        return 'g';
+      case 0x010203:
+        return 'o';
+      case 0x090807:
+        return 'p';
+      case 0xFF0000:
+        return 'r';
+      case 0x0000FF:
+        return 'b';
+      default:
+        return '?';
+    }
+  };
+  for (int y = 0; y < 6; ++y) {
+    std::string row;
+    for (int x = 0; x < 8; ++x) row += name(drawn.values[static_cast<std::size_t>(y * 8 + x)]);
+    EXPECT_EQ(expected[y], row) << "row " << y;
+  }
+  EXPECT_EQ(7, canvas.CurrentX());
+  EXPECT_THROW(canvas.StretchDIBits(canvas.hDC() + 1, {0, 0, 1, 1}, two), Failure);
+  EXPECT_THROW(canvas.PaintPicture(nullptr, 0, 0), Failure);
+}
+
+TEST(Gdi, MeasuresTextsAsTheSystemDoes) {
+  const HDC dc = CreateCompatibleDC(nullptr);
+  for (const bool isBold : {false, true}) {
+    FontObject font;
+    font.Bold = isBold;
+    GdiFace face(dc, font, 96);
+    const HGDIOBJ before = SelectObject(dc, face.handle());
+    for (const char* text : {"", "i", "AVAVA To", "Item 17 (of 20)", "\u00fcber \u4e2d", "a\tb\tc",
+                             "one\r\nlonger line\nx"}) {
+      RECT box{};
+      const std::wstring shown = wide(text);
+      DrawTextW(dc, shown.data(), static_cast<int>(shown.size()), &box,
+                DT_CALCRECT | DT_NOPREFIX | DT_EXPANDTABS);
+      EXPECT_EQ(box.right, face.widthOf(text)) << text << (isBold ? " in bold" : "");
+    }
+    SelectObject(dc, before);
+  }
+  DeleteDC(dc);
+}
+
+TEST(Gdi, ASurfaceDrawsWhenItIsLookedAt) {
+  GdiSurface surface;
+  surface.resize(4, 4);
+  int reports = 0;
+  surface.onDrawn = [&] { ++reports; };
+  surface.drawWaiting();
+  for (int i = 0; i < 100; ++i) {
+    surface.Cls();
+    surface.Line(LineMode::filledBox, 0, 0, 3, 3, rgb(0, 0, static_cast<std::uint8_t>(i)));
+  }
+  EXPECT_EQ(1, reports);
+  EXPECT_EQ(99u, pixelsOf(surface.image()).values[0]);
+  surface.Cls();
+  EXPECT_EQ(2, reports);
+}
+
+}  // namespace
+}  // namespace norvane

@@ -1,0 +1,152 @@
+#include "scenes.h"
+
+#include <nvlist/drawing/DrawnPicture.h>
+#include <nvlist/platform/headless/HeadlessList.h>
+
+#include <fstream>
+#include <stdexcept>
+
+using namespace norvane;
+
+namespace scenes {
+namespace {
+
+/// A picture with a colour of its own in each pixel.
+Picture icon(int size) {
+  return art::drawn("icon", size, size, [&](int row, int column) {
+    const auto part = [&](int value) { return static_cast<std::uint8_t>(value * 255 / size); };
+    return art::Pixel{part(row), part(column), part(size - row)};
+  });
+}
+
+/// Wide enough for a horizontal bar.
+const std::string blanks(60, ' ');
+
+void addItems(nvList& list, int count) {
+  const Picture small = icon(16);
+  for (int i = 0; i < count; ++i)
+    list.ItemsAdd({.aText = i % 3 == 1 ? blanks : std::string(4, ' '),
+                   .aIcon = i % 4 == 3 ? nullptr : small,
+                   .aChecked = i % 2 == 0,
+                   .aBackColor = i % 5 == 2 ? Variant(rgb(255, 240, 200)) : Variant(defaultMark),
+                   .aAlignment = static_cast<cItemAlignment>(i % 3),
+                   .aEnabled = i % 6 != 4});
+}
+
+struct Scene {
+  const char* name;
+  std::function<void(HeadlessList&)> build;
+};
+
+const Scene all[] = {
+    {"plain", [](HeadlessList& it) { addItems(it.list(), 3); }},
+    {"boxes",
+     [](HeadlessList& it) {
+       it.list().Style(cCheckBoxes);
+       it.list().GridLines(true);
+       it.list().ScrollBars(vbVertical);
+       addItems(it.list(), 40);
+       it.list().ListIndex(2);
+     }},
+    {"icons-silver",
+     [](HeadlessList& it) {
+       it.list().Style(cIcons);
+       it.list().ColorStyle(cXPSilver);
+       it.list().ScrollBars(vbBoth);
+       addItems(it.list(), 200);
+       it.list().ListIndex(100);
+     }},
+    {"both-olive",
+     [](HeadlessList& it) {
+       it.list().Style(cCheckBoxesIcons);
+       it.list().ColorStyle(cXPOlive);
+       it.list().FullRowSelect(true);
+       it.list().MultiSelect(true);
+       it.list().ScrollBars(vbBoth);
+       addItems(it.list(), 30);
+       for (const int i : {1, 2, 3, 5}) it.list().ItemSelected(i, true);
+     }},
+    {"custom",
+     [](HeadlessList& it) {
+       it.list().ColorStyle(cCustom);
+       it.list().ValueColor(rgb(150, 70, 160));
+       it.list().BackColor(rgb(250, 245, 255));
+       it.list().ScrollBars(vbVertical);
+       it.list().MinHeight(24);
+       addItems(it.list(), 30);
+       it.list().ListIndex(3);
+     }},
+    {"disabled",
+     [](HeadlessList& it) {
+       it.list().Style(cCheckBoxesIcons);
+       addItems(it.list(), 8);
+       it.list().Enabled(false);
+     }},
+    {"bar-pressed",
+     [](HeadlessList& it) {
+       it.list().ScrollBars(vbVertical);
+       addItems(it.list(), 60);
+       it.list().TopIndex(20);
+       // The button at the lower end of the bar.
+       it.container().press(190, 90);
+     }},
+    {"preview",
+     [](HeadlessList& it) {
+       it.container().userMode = false;
+       it.container().name = "  ";
+       it.list().Style(cCheckBoxes);
+       it.list().Redraw();
+     }},
+};
+
+void visit(const std::string& name, HeadlessContainer& place,
+           const std::function<void(const Image&)>& take) {
+  RecordingSurface& surface = place.ownSurface();
+  if (surface.ScaleWidth() >= 1 && surface.ScaleHeight() >= 1) take({name, surface});
+  int number = 0;
+  for (HeadlessContainer* child : place.children()) {
+    ++number;
+    if (child->isShown()) visit(name + "-" + std::to_string(number), *child, take);
+  }
+}
+
+}  // namespace
+
+void forEachImage(const std::function<void(const Image&)>& take) {
+  for (const Scene& scene : all) {
+    HeadlessList list(200, 100);
+    scene.build(list);
+    list.surface().image();  // paints what waits
+    visit(scene.name, list.container(), take);
+  }
+}
+
+void write(const Pixels& pixels, const std::string& path) {
+  std::ofstream file(path, std::ios::binary);
+  file << "P6\n" << pixels.width << ' ' << pixels.height << "\n255\n";
+  for (const std::uint32_t value : pixels.values)
+    for (const int shift : {16, 8, 0}) file.put(static_cast<char>(value >> shift));
+  if (!file.flush()) throw std::runtime_error("cannot write " + path);
+}
+
+Pixels read(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  std::string form;
+  Pixels result;
+  int most = 0;
+  file >> form >> result.width >> result.height >> most;
+  file.get();
+  if (!file || form != "P6") throw std::runtime_error("cannot read " + path);
+  const auto count =
+      static_cast<std::size_t>(result.width) * static_cast<std::size_t>(result.height);
+  for (std::size_t i = 0; i < count; ++i) {
+    std::uint32_t value = 0;
+    for (int channel = 0; channel < 3; ++channel)
+      value = value << 8 | static_cast<std::uint8_t>(file.get());
+    result.values.push_back(value);
+  }
+  if (!file) throw std::runtime_error("cannot read " + path);
+  return result;
+}
+
+}  // namespace scenes
