@@ -3,13 +3,16 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <functional>
 #include <limits>
+#include <utility>
 
 #include <nvlist/values/numbers.h>
 
 namespace norvane {
 namespace {
 
+/// The number of the failure, or 0.
 int failureOf(auto&& statement) {
   try {
     statement();
@@ -19,27 +22,23 @@ int failureOf(auto&& statement) {
   }
 }
 
-TEST(Numbers, FloatsGoToTheNearestWholeNumberHalvesToTheEvenOne) {
+constexpr auto least = std::numeric_limits<std::int32_t>::min();
+constexpr auto most = std::numeric_limits<std::int32_t>::max();
+
+TEST(Numbers, AreRoundedToEvenAndNeverWrapRound) {
   const auto nearest = [](double value) { return checked::nearest<std::int32_t>(value); };
-  EXPECT_EQ(nearest(2.5), 2);
-  EXPECT_EQ(nearest(3.5), 4);
-  EXPECT_EQ(nearest(-3.5), -4);
-  EXPECT_EQ(nearest(2147483647.4), 2147483647);
-  EXPECT_EQ(nearest(-2147483648.5), std::numeric_limits<std::int32_t>::min());
-  EXPECT_EQ(failureOf([&] { nearest(2147483647.5); }), 6);
-  EXPECT_EQ(failureOf([&] { nearest(std::nan("")); }), 6);
-}
-
-TEST(Numbers, ArithmeticNeverWrapsRound) {
-  constexpr auto most = std::numeric_limits<std::int32_t>::max();
-  EXPECT_EQ(failureOf([] { checked::add(most, 1); }), 6);
-  EXPECT_EQ(failureOf([] { checked::subtract(-2, most); }), 6);
-  EXPECT_EQ(failureOf([] { checked::multiply(most, 2); }), 6);
-  EXPECT_EQ(failureOf([] { checked::narrow<std::int16_t>(32768); }), 6);
+  for (const auto& [value, whole] :
+       {std::pair(2.5, 2), {3.5, 4}, {-3.5, -4}, {most + 0.4, most}, {least - 0.5, least}})
+    EXPECT_EQ(nearest(value), whole);
   EXPECT_EQ(checked::narrow<std::int16_t>(-32768), -32768);
+  const std::function<void()> overflows[] = {
+      [&] { nearest(most + 0.5); },       [&] { nearest(std::nan("")); },
+      [] { checked::add(most, 1); },      [] { checked::subtract(-2, most); },
+      [] { checked::multiply(most, 2); }, [] { checked::narrow<std::int16_t>(32768); }};
+  for (const auto& overflow : overflows) EXPECT_EQ(failureOf(overflow), 6);
 }
 
-TEST(Numbers, ATextReadsAsANumberOnlyAsAWhole) {
+TEST(Numbers, AreReadFromWholeTextsOnly) {
   EXPECT_EQ(numberOf(" -12.5e1 "), -125);
   EXPECT_EQ(numberOf(".5"), 0.5);
   EXPECT_EQ(numberOf("&HFFFF"), -1);
@@ -48,27 +47,27 @@ TEST(Numbers, ATextReadsAsANumberOnlyAsAWhole) {
 }
 
 TEST(Variant, ConvertsAsHostsExpect) {
-  EXPECT_EQ(Variant().toInt32(), 0);
-  EXPECT_EQ(Variant(true).toInt32(), -1);
-  EXPECT_EQ(Variant("3.5").toInt32(), 4);
+  for (const auto& [value, number] :
+       {std::pair(Variant(), 0), {true, -1}, {"3.5", 4}, {2.5F, 2}, {"&HFFFF", -1}})
+    EXPECT_EQ(value.toInt32(), number);
+  for (const auto& [value, text] : {std::pair(Variant(), ""),
+                                    {1.5, "1.5"},
+                                    {-7, "-7"},
+                                    {Boolean::ofNumber(2), "True"},
+                                    {"x", "x"}})
+    EXPECT_EQ(value.toText(), text);
   EXPECT_EQ(failureOf([] { Variant("abc").toInt32(); }), 13);
   EXPECT_EQ(failureOf([] { Variant(1e10).toInt32(); }), 6);
   EXPECT_EQ(failureOf([] { Variant(40000).toInt16(); }), 6);
   EXPECT_EQ(failureOf([] { Variant(Ref<Object>()).toText(); }), 13);
-
-  EXPECT_EQ(Variant().toText(), "");
-  EXPECT_EQ(Variant(1.5).toText(), "1.5");
-  EXPECT_EQ(Variant(Boolean::ofNumber(2)).toText(), "True");
   EXPECT_TRUE(Variant("fALSE").toBoolean() == Boolean(false));
   EXPECT_EQ(Variant(Boolean::ofNumber(2)).toBoolean().number(), 2);
 }
 
 TEST(Variant, ComparesTextsByByteAndNumbersByValue) {
-  EXPECT_TRUE(compare("B", "a") < 0);
-  EXPECT_TRUE(compare("10", "9") < 0);
+  EXPECT_TRUE(compare("B", "a") < 0 && compare("10", "9") < 0);
   EXPECT_TRUE(compare("10", 9) > 0);
-  EXPECT_TRUE(compare(Variant(), "") == 0);
-  EXPECT_TRUE(compare(Variant(), 0) == 0);
+  EXPECT_TRUE(compare(Variant(), "") == 0 && compare(Variant(), 0) == 0);
   EXPECT_EQ(failureOf([] { (void)(compare("abc", 1) == 0); }), 13);
 }
 

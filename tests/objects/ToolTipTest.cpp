@@ -100,14 +100,6 @@ TEST_F(ToolTipTest, ReadsTextsBackWhole) {
   EXPECT_EQ(tips.ToolText(two), "cut");
 }
 
-TEST_F(ToolTipTest, ReadingForeColorMakesItBlack) {
-  tips.Create(form);
-  tips.ForeColor(0x445566);
-  EXPECT_EQ(window()->textColour(), 0x445566);
-  EXPECT_EQ(tips.ForeColor(), 0);
-  EXPECT_EQ(window()->textColour(), 0);
-}
-
 TEST_F(ToolTipTest, DelaysOfFourKinds) {
   tips.Create(form);
   const auto delays = [&] {
@@ -126,8 +118,15 @@ TEST_F(ToolTipTest, DelaysOfFourKinds) {
   EXPECT_EQ(delays(), "500 100 5000 500 ");
 }
 
-TEST_F(ToolTipTest, AWidthBelowOneIsNoLimit) {
+TEST_F(ToolTipTest, ColoursWidthAndMargins) {
   tips.Create(form);
+  tips.ForeColor(0x445566);
+  EXPECT_EQ(window()->textColour(), 0x445566);
+  // Reading sets it to black.
+  EXPECT_EQ(tips.ForeColor(), 0);
+  EXPECT_EQ(window()->textColour(), 0);
+  tips.BackColor(0x778899);
+  EXPECT_EQ(tips.BackColor(), 0x778899);
   tips.MaxTipWidth(32767);
   EXPECT_EQ(tips.MaxTipWidth(), 32767);
   for (const std::int16_t value : {0, -32768}) {
@@ -135,6 +134,10 @@ TEST_F(ToolTipTest, AWidthBelowOneIsNoLimit) {
     tips.MaxTipWidth(value);
     EXPECT_EQ(window()->maxTipWidth(), -1);
   }
+  for (const int side : {-1, 0, 1, 2, 3, 4}) tips.Margin(side, 10 + side);
+  EXPECT_EQ(window()->margin(), (Rectangle{10, 11, 12, 13}));
+  EXPECT_EQ(tips.Margin(2), 12);
+  EXPECT_EQ(tips.Margin(4), 0);
 }
 
 TEST_F(ToolTipTest, ControlsWithoutAWindowTakeNoTips) {
@@ -149,12 +152,8 @@ TEST_F(ToolTipTest, ControlsWithoutAWindowTakeNoTips) {
   EXPECT_EQ(reports(), "91 AddTool");
 }
 
-class QITest : public ToolTipTest {
- protected:
+TEST_F(ToolTipTest, QuickTipsTakeOneCall) {
   QI quick;
-};
-
-TEST_F(QITest, GivesTipsInOneCall) {
   quick.Create(form, one, "first", 3000, 200);
   quick.Create(form, two, "second", 4000, 0);
   ASSERT_EQ(application.tipWindows.size(), 1U);
@@ -173,7 +172,8 @@ TEST_F(QITest, GivesTipsInOneCall) {
   EXPECT_EQ(window()->tools()[0].id, 2);
 }
 
-TEST_F(QITest, AStepThatFailsDoesNotStopTheOthers) {
+TEST_F(ToolTipTest, AFailingStepOfAQuickTipDoesNotStopTheOthers) {
+  QI quick;
   quick.Create(one, one, "no form", 3000, 200);
   quick.Remove(one);
   EXPECT_EQ(reports(), "");
