@@ -157,7 +157,7 @@ void nvList::UserControl_WriteProperties(PropertyBag& PropBag) {
   trapped(here, "UserControl_WriteProperties", [&](Trap& on) {
     for (const StoredProperty& property : properties)
       on.step([&] {
-        // The store keeps a font of its own, which does not change with the list's.
+        // A copy, which does not change with the list's font.
         const Variant value = property.type == PropertyType::Font
                                   ? Variant(Ref<Object>(CloneFont(Font())))
                                   : property.get(*this);

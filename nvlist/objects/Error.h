@@ -4,18 +4,18 @@
 
 namespace norvane {
 
-/// The public switch that says what a failure does. All instances and all controls of a program
-/// share the one value, which starts as false; making another instance never changes it.
+/// The public switch for the handling of failures. All instances, controls and threads of a program
+/// share one value, which is false at first. Making further instances does not change it.
 class Error {
  public:
   Error();
 
-  /// False: a failure is reported and the procedure in which it happens is left. True: the failed
-  /// step is passed over in silence and the next one runs.
+  /// False: a failure is reported and ends the procedure in which it happens. True: the failing
+  /// step is skipped without a report and the procedure continues with the next step.
   Boolean SilentError() const;
   void SilentError(Boolean value);
 
-  /// What SilentError reads, for the traps.
+  /// The shared value, for traps.
   static bool silent();
 };
 

@@ -17,7 +17,7 @@ void QI::Create(const Variant& form, const Variant& control, const std::string& 
     on.step([&] { ToolTip_.MaxTipWidth(maxWidth); });
     on.step([&] { ToolTip_.DelayTime(static_cast<std::int32_t>(TipDelay::autopop), displayTime); });
     on.step([&] { ToolTip_.AddTool(control, text); });
-    // A control that has a tip already got no new one above.
+    // If the control already had a tip, AddTool has changed nothing.
     on.step([&] { ToolTip_.ToolText(control, text); });
   });
 }

@@ -8,23 +8,23 @@
 
 namespace norvane {
 
-/// The short way to a tool tip. One of them serves one form: the first that it is given.
+/// A simple interface to tool tips. Each object serves one form, the first one passed to Create.
 ///
 /// Forms and controls are variants that hold a norvane::HostWindow.
 class QI {
  public:
-  /// Gives a control a tip, or its tip another text. `displayTime`, in milliseconds, and
-  /// `maxWidth`, in pixels with anything below 1 for no limit, count from now on for all controls
-  /// of this object.
+  /// Adds a tip to a control, or changes the text of its tip. From now on, tips of all controls of
+  /// this object stay for `displayTime` milliseconds and are at most `maxWidth` pixels wide; below
+  /// 1 means no limit.
   void Create(const Variant& form, const Variant& control, const std::string& text,
               std::int32_t displayTime, std::int16_t maxWidth);
-  /// Takes the tip of a control away, where it has one.
+  /// Removes the tip of a control, if it has one.
   void Remove(const Variant& control);
   /// Shows the library's about box.
   void About();
 
  private:
-  /// Without a window until a form is given.
+  /// Has no window before the first Create with a form.
   nvToolTip ToolTip_;
 };
 

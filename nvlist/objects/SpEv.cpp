@@ -13,7 +13,7 @@ namespace {
 
 constexpr Module here{kinds::classModule, "SpEv"};
 
-/// The names that count are ASCII, and so no other character may become a part of one.
+/// The names of interest are ASCII; no other character may turn into a part of one.
 std::string narrowed(std::u16string_view text) {
   std::string result;
   for (const char16_t unit : text) result += unit < 0x80 ? static_cast<char>(unit) : '?';
@@ -96,7 +96,7 @@ Boolean SpEv::FileExists(const std::string& sFile) {
   return result;
 }
 
-/// Two tests of their own: version 6.0 is none, and 6.1 is one.
+/// Tests the major and the minor version independently, as published: 6.0 is not XP, but 6.1 is.
 Boolean SpEv::IsWinXP() {
   Boolean result;
   trapped(here, "IsWinXP", [&](Trap& on) {

@@ -10,46 +10,45 @@
 
 namespace norvane {
 
-/// Small helpers for a host: text files, a sound, list boxes in files, the theme and the mouse. It
-/// keeps nothing, so one is as good as another.
+/// Helpers for hosts: text files, sound, list boxes in files, the theme and the mouse. It has no
+/// state.
 ///
-/// File names are UTF-8, and texts stand in their files byte by byte as they are. A failure is
-/// reported; the file is closed then, and a text that was written in part stays so.
+/// File names are UTF-8, and texts are read and written byte by byte. A failure is reported and the
+/// file closed; text already written stays in the file.
 class SpEv {
  public:
-  /// The whole file, line ends included. Empty where it cannot be read.
+  /// The contents of a file, including line ends. Empty if it cannot be read.
   std::string TextRead(const std::string& Filename);
-  /// Puts the text and a line end, carriage return and line feed, into a new file in the place of
-  /// an old one.
+  /// Writes a file, replacing an old one, with the text and a line end (CR LF).
   void TextSave(const std::string& Filename, const std::string& Text);
 
-  /// Begins to play a sound file and returns at once; one that still plays ends. There is no sound
-  /// and no report where the platform cannot play it.
+  /// Starts playing a sound file and returns at once; a sound still playing stops. A file that the
+  /// platform cannot play is silent and not reported.
   void PlayMusic(const std::string& Filename);
 
-  /// Puts each row of a list box between two texts and as one line, which ends with a carriage
-  /// return and a line feed, into a new file. `List` holds a norvane::ListBox. More than 32767 rows
-  /// are Failure 6, Overflow, once 32768 of them are written.
+  /// Writes a file, replacing an old one, with each row of a list box as a line (CR LF) between the
+  /// two texts. `List` holds a norvane::ListBox. Reports Failure 6, Overflow, after 32768 rows.
   void ListSave(const Variant& List, const std::string& Filename,
                 const std::string& TextBeforeListText = {},
                 const std::string& TextAfterListText = {});
-  /// Adds each line of a file to the rows of a list box. Lines end as told at TextFile::readLine; a
-  /// line end that closes the file adds no row.
+  /// Adds each line of a file, as read by TextFile::readLine, as a row to a list box. A line end at
+  /// the end of the file adds no row.
   void ListRead(const Variant& List, const std::string& Filename);
 
-  /// Whether there is a file or folder of that name; `*` and `?` in its last part stand for others.
+  /// Whether a file or folder of that name exists. `*` and `?` in its last part are wildcards.
   Boolean FileExists(const std::string& sFile);
 
-  /// The theme of Windows XP that the program shows; styleClassic where there is none, or another.
+  /// The colour scheme of the active Windows XP theme; styleClassic for none and any other.
   cActiveXPTheme ActiveXPTheme();
 
-  /// The mouse button that is down, or was pressed since it was asked for last: 1 left, else 2
-  /// right, else 4 middle (which is not mouseMiddle), else 0.
+  /// The first of these buttons that is down or was pressed since the last query: 1 left, 2 right,
+  /// 4 middle (not mouseMiddle, as published); otherwise 0.
   cMouseButton MouseButtonPressed();
 
  private:
   static Boolean IsWinXP();
-  /// The text up to its first zero character, one byte a character. Without one that is a failure.
+  /// The text up to its first zero character, with one byte a character. Reports Failure 5 if there
+  /// is none.
   static std::string ConvUnicode(std::u16string_view text);
 };
 

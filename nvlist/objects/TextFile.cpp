@@ -17,7 +17,7 @@ TextFile::~TextFile() {
   try {
     close();
   } catch (...) {
-    // Whoever has to know of it closes the file himself.
+    // Callers that need to know call close().
   }
 }
 
@@ -69,7 +69,7 @@ std::string TextFile::read(std::uint64_t count) {
 int TextFile::peek() {
   if (at_ == block_.size()) {
     block_.resize(blockSize);
-    // Nothing of the block counts where the read fails.
+    // If the read fails, the block counts as consumed.
     at_ = blockSize;
     block_.resize(file().read(block_.data(), blockSize));
     at_ = 0;

@@ -8,9 +8,8 @@
 
 namespace norvane {
 
-/// A text file, open until it is closed or the object ends; what fails in the latter case is lost.
-/// Paths are UTF-8; texts stand in the file byte by byte as they are. Each call throws where
-/// it cannot be done, as Files::openFile describes.
+/// A text file. Destruction closes it and ignores failures. Paths are UTF-8; texts are read and
+/// written byte by byte. Calls throw as Files and File do, and Failure 52 without an open file.
 class TextFile {
  public:
   TextFile() = default;
@@ -19,31 +18,30 @@ class TextFile {
   ~TextFile();
 
   void openForInput(const std::string& path);
-  /// Makes a file new, in the place of an old one.
+  /// Creates a file, replacing an old one.
   void openForOutput(const std::string& path);
   void close();
 
-  /// Of a file open for input: its bytes.
+  /// The size in bytes of a file open for input.
   std::uint64_t length();
-  /// The next bytes. A file that has fewer is a failure.
+  /// The next `count` bytes. Throws Failure 62 if there are fewer.
   std::string read(std::uint64_t count);
   bool isAtEnd();
-  /// The text up to the next line end, or to the end of the file. A line ends with a carriage
-  /// return, a line feed or both in this order.
+  /// The text up to the next line end or the end of the file. Lines end with CR, LF or CR LF.
   std::string readLine();
 
-  /// Writes the text and a line end, which is a carriage return and a line feed.
+  /// Writes the text and a line end (CR LF).
   void print(const std::string& text);
 
  private:
   File& file();
-  /// The next byte, which stays; -1 at the end of the file.
+  /// The next byte without consuming it; -1 at the end of the file.
   int peek();
   void writeBlock();
 
   std::unique_ptr<File> file_;
   FileMode mode_ = FileMode::read;
-  /// Read ahead, from `at_` on, or to be written.
+  /// Bytes read ahead, from `at_` on, or bytes yet to be written.
   std::string block_;
   std::size_t at_ = 0;
 };

@@ -6,7 +6,7 @@
 
 namespace norvane {
 
-/// Whose procedures a trap stands in; both texts are part of every report.
+/// The module of a procedure; both texts are part of every report.
 struct Module {
   const char* kind;
   const char* name;
@@ -18,23 +18,22 @@ inline constexpr const char* classModule = "Klassenmodul";
 inline constexpr const char* module = "Modul";
 }  // namespace kinds
 
-/// The one way in which the library deals with failures. Each procedure runs its body under a
-/// trap, and each statement of it that can fail is one step:
+/// The handling of failures in the library. Each procedure runs its body under a trap, and each
+/// statement of it that can fail is one step:
 ///
 ///     trapped(here, "ItemText", [&](Trap& on) {
 ///       on.step([&] { text = item(index).Text; });
 ///     });
 ///
-/// A step that throws is a failure. With SilentError off it is reported and the procedure is left
-/// normally, so that its caller goes on with whatever result stood by then. With SilentError on
-/// the next step runs as if nothing had happened. No failure ever reaches the caller, but for one
-/// of the reporter itself.
+/// A step that throws is a failure. With SilentError off, it is reported and the procedure returns
+/// normally with the result it has so far. With SilentError on, the next step runs. A failure never
+/// reaches the caller, except one of the reporter itself.
 class Trap {
  public:
   Trap(const Module& module, const char* procedure) : module_(module), procedure_(procedure) {}
 
-  /// Whether any procedure runs on this thread. A platform must not end a control then: it may be
-  /// in use further up.
+  /// Whether a procedure is running on this thread. If so, a platform must not destroy a control,
+  /// which may be in use further up the stack.
   static bool anyRuns() { return depth > 0; }
 
   /// Runs one statement.
@@ -47,7 +46,7 @@ class Trap {
     }
   }
 
-  /// Asks the condition of a branch. One that fails in silence counts as passed.
+  /// Evaluates the condition of a branch. If it fails under SilentError, it counts as true.
   template <class Condition>
   bool test(Condition&& condition, int line = __builtin_LINE()) {
     try {
@@ -58,7 +57,7 @@ class Trap {
     }
   }
 
-  /// Runs one statement whose failure costs nothing and is never reported.
+  /// Runs one statement whose failure is always ignored.
   template <class Statement>
   void ignoring(Statement&& statement) {
     try {
@@ -66,15 +65,15 @@ class Trap {
     } catch (const Left&) {
       throw;
     } catch (...) {
-      // An optional thing is missing; the procedure does without it.
+      // The procedure continues without the result.
     }
   }
 
  private:
-  /// Thrown to leave the procedure after a report.
+  /// Thrown after a report to leave the procedure.
   struct Left {};
 
-  /// Counts the procedures that run.
+  /// Counts the procedures running on this thread.
   struct Running {
     Running() { ++depth; }
     ~Running() { --depth; }
@@ -86,8 +85,8 @@ class Trap {
   template <class Body>
   friend void trapped(const Module& module, const char* procedure, Body&& body);
 
-  /// Called while the failure is being handled: returns where SilentError is on, else reports and
-  /// throws Left.
+  /// Called while the exception is being handled. Returns if SilentError is on; otherwise reports
+  /// the failure and throws Left.
   void failed(int line) const;
 
   const Module& module_;
@@ -102,7 +101,7 @@ void trapped(const Module& module, const char* procedure, Body&& body) {
   try {
     body(on);
   } catch (const Trap::Left&) {
-    // Reported already; the caller gets the result as it stands.
+    // Already reported.
   }
 }
 

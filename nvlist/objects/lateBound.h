@@ -6,8 +6,8 @@
 
 namespace norvane {
 
-/// The object in a variant, as one that has the members of a class. Throws Failure 424 where there
-/// is no object, 91 where the reference is empty, and 438 where the object is of another class.
+/// The object in a variant, cast to a class. Throws Failure 424 if the variant holds no object, 91
+/// if its reference is empty, and 438 if the object is of another class.
 template <class Members>
 Ref<Members> lateBound(const Variant& value) {
   if (value.type() != Variant::Type::Object) throw Failure::objectRequired();

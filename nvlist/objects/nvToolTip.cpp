@@ -15,7 +15,7 @@ constexpr Module here{kinds::classModule, "nvToolTip"};
 
 TipDelay delayOf(std::int32_t kind) { return static_cast<TipDelay>(kind & 3); }
 
-/// The side of that number, or nullptr for any other number.
+/// The side with that number, or nullptr.
 std::int32_t* sideOf(Rectangle& sides, std::int32_t side) {
   switch (side) {
     case 0:
@@ -71,7 +71,7 @@ Boolean nvToolTip::GetToolInfo(std::int32_t controlHandle, TipTool& record, bool
   return result;
 }
 
-/// Keeps the buffer big enough to read the longest text back.
+/// Keeps the buffer large enough to read back the longest text.
 void nvToolTip::keepLength(const std::string& text) {
   MaxTextLength_ = std::max(MaxTextLength_, text.size() + 1);
 }
@@ -121,7 +121,7 @@ void nvToolTip::BackColor(Colour value) {
 Colour nvToolTip::ForeColor() {
   Colour result = 0;
   trapped(here, "ForeColor", [&](Trap& on) {
-    // It has always set the colour where it should read it, and hosts know it so.
+    // Reading sets the colour: this is part of the published behaviour.
     if (IsWindow()) on.step([&] { result = TipWindow_->textColour(0); });
   });
   return result;

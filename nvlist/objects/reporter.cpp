@@ -24,8 +24,8 @@ bool ignoringFailures(Statement&& statement) {
   }
 }
 
-/// Runs a part of the report that is left out where memory is exhausted. Any other failure comes
-/// out of the report.
+/// Runs a part of the report that is left out when memory is exhausted. Any other failure is thrown
+/// to the caller of the report.
 template <class Statement>
 bool ifMemoryLasts(Statement&& statement) {
   try {
@@ -36,7 +36,7 @@ bool ifMemoryLasts(Statement&& statement) {
   }
 }
 
-/// A text that needs no memory of its own. What exceeds its size is cut off.
+/// A text of limited size, which never allocates. The rest of a longer text is cut off.
 class FixedText {
  public:
   void append(std::string_view text) {
@@ -51,7 +51,7 @@ class FixedText {
 
 template <class Text>
 void writeMessage(Text& message, const Report& failure, const ApplicationFacts& program) {
-  // A number is short enough for a std::string to hold it without memory of its own.
+  // std::to_string does not allocate for numbers of 32 bits.
   const auto write = [&](std::string_view label, std::string_view value) {
     message.append(label);
     message.append(value);
@@ -68,7 +68,7 @@ void writeMessage(Text& message, const Report& failure, const ApplicationFacts& 
   write(".", std::to_string(program.Revision));
 }
 
-/// The message in a fixed size. The description alone can be long, and the lines behind it count.
+/// The message in a fixed size. Cuts the description, so that the lines after it are complete.
 void writeShortMessage(FixedText& message, Report failure, const ApplicationFacts& program) {
   constexpr std::size_t longestDescription = 200;
   failure.Description = failure.Description.substr(0, longestDescription);

@@ -19,7 +19,7 @@ struct Report {
 /// settings name a folder, calls the host's ErrorHandler and, unless that takes over, shows the
 /// message box titled "Error".
 ///
-/// Where memory is exhausted, the parts of the report that need some are left out, and a long
+/// When memory is exhausted, parts of the report that would allocate are left out and a long
 /// description is cut off. Throws what the program's facts, settings or message box throw, apart
 /// from std::bad_alloc.
 void report(const Report& failure);

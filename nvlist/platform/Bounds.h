@@ -2,7 +2,7 @@
 
 namespace norvane {
 
-/// Where something stands in the control around it, in pixels of that one.
+/// The position and size of a control, in pixels of the control or form around it.
 struct Bounds {
   float Left = 0;
   float Top = 0;

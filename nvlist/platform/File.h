@@ -7,19 +7,19 @@ namespace norvane {
 
 enum class FileMode { read, write };
 
-/// A file that Files::openFile has opened, from its first byte on. Destroying it closes it;
-/// what fails then is lost, so a writer closes it first. Any call may throw.
+/// An open file, positioned at its first byte. Its destruction closes it and ignores failures, so
+/// writers should call close(). Any call may throw.
 class File {
  public:
   virtual ~File() = default;
 
-  /// Bytes in a file to be read; more are not asked of it.
+  /// The size in bytes of a file opened for reading. No caller reads beyond it.
   virtual std::uint64_t size() = 0;
-  /// Reads up to `count` bytes and answers how many; fewer only at the end of the file.
+  /// Reads up to `count` bytes and returns their number, which is less only at the end of the file.
   virtual std::size_t read(char* bytes, std::size_t count) = 0;
-  /// Writes all of them.
+  /// Writes all `count` bytes.
   virtual void write(const char* bytes, std::size_t count) = 0;
-  /// Nothing else is called after it.
+  /// The last call to a file.
   virtual void close() = 0;
 };
 

@@ -8,16 +8,15 @@
 
 namespace norvane {
 
-/// A form or a control of the host, as tool tips ask it. A host or a platform derives from it. What
-/// it does not override it does not have, as a control without a window, and calling that is
-/// Failure 438.
+/// A form or control of the host, for which nvToolTip shows tool tips. Hosts and platforms derive
+/// from it. A member that is not overridden throws Failure 438, as for a control without a window.
 class HostWindow : public Object {
  public:
-  /// Whether it is a form, which may be one that holds other forms.
+  /// Whether it is a form, including one that contains other forms. Default: false.
   virtual bool isForm() const { return false; }
-  /// Its handle, by which the platform knows it.
+  /// Its window handle on the platform.
   virtual std::int32_t hwnd() { throw Failure::noSuchMember(); }
-  /// What it stands in. An empty one is Failure 91 for who needs it.
+  /// The form or control that contains it. Callers report an empty result as Failure 91.
   virtual Ref<HostWindow> Container() { throw Failure::noSuchMember(); }
 };
 

@@ -2,11 +2,11 @@
 
 namespace norvane {
 
-/// Base of the services that the library asks the outside for: Program, Files and Desktop.
+/// Base of the services that a program provides to the library: Program, Files and Desktop.
 ///
-/// Making an object of a service puts it to use on the thread that makes it, until it is destroyed
-/// on that thread; then the one in use before it is in use again. Each thread has services of its
-/// own. Where none was made, one with the defaults of the service is in use.
+/// Making an object of a service puts it to use on the current thread. Destroying it, on the same
+/// thread, puts the previous one back to use. Each thread has its own services; a thread that has
+/// made none uses the defaults.
 template <class Service>
 class InUse {
  public:

@@ -9,8 +9,8 @@
 
 namespace norvane {
 
-/// The platform's own edit control of one line, with its selection, clipboard and input methods.
-/// A new one is hidden.
+/// The platform's own single-line edit control, with its selection, clipboard and input methods. A
+/// new one is hidden. Any call may throw.
 class TextBox {
  public:
   virtual ~TextBox() = default;
@@ -20,15 +20,15 @@ class TextBox {
   virtual std::string Text() const = 0;
   virtual void Text(const std::string& text) = 0;
 
-  /// In pixels of the control around it, as last set.
+  /// The bounds last set, in pixels of the control around it.
   virtual Bounds place() const = 0;
   virtual void Move(const Bounds& bounds) = 0;
   virtual bool Visible() const = 0;
   virtual void Visible(bool isVisible) = 0;
 
-  /// Takes the keyboard.
+  /// Gives it the keyboard focus.
   virtual void SetFocus() = 0;
-  /// Selects `length` characters from `start` on, from 0; more than there are means all.
+  /// Selects `length` characters, or as many as there are, starting at `start`. The first is 0.
   virtual void select(std::int32_t start, std::int32_t length) = 0;
 };
 

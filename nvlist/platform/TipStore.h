@@ -6,7 +6,8 @@
 
 namespace norvane {
 
-/// A tip window that keeps what it is told and shows nothing. A platform derives from it to show.
+/// A tip window that stores its tools and settings but shows nothing. A platform derives from it to
+/// show tips.
 class TipStore : public TipWindow {
  public:
   TipStore(std::int32_t handle, std::int32_t form) : handle_(handle), form_(form) {}
@@ -23,7 +24,7 @@ class TipStore : public TipWindow {
   Colour backColour() override { return backColour_; }
   void backColour(Colour colour) override { backColour_ = colour; }
   Colour textColour() override { return textColour_; }
-  /// 0.
+  /// Returns 0.
   std::int32_t textColour(Colour colour) override;
   std::int32_t delay(TipDelay which) override;
   void delay(TipDelay which, std::int32_t milliseconds) override;

@@ -22,7 +22,7 @@ constexpr bool ignoresCase = false;
 
 fs::path pathOf(const std::string& path) { return std::u8string(path.begin(), path.end()); }
 
-/// Whatever stands behind a zero character would be lost without a word.
+/// The system would silently ignore what follows a zero character.
 fs::path checkedPathOf(const std::string& path) {
   if (path.find('\0') != std::string::npos) throw Failure(52, "Bad file name or number");
   return pathOf(path);
@@ -33,7 +33,7 @@ std::string nameOf(const fs::path& path) {
   return {name.begin(), name.end()};
 }
 
-/// The wildcards of file names as a pattern, in which more characters have a meaning.
+/// A file name with wildcards as a pattern, in which # and [ are special too.
 LikePattern patternOf(const std::string& name) {
   std::string pattern;
   for (const char c : name) {
@@ -73,7 +73,7 @@ void requireFolderOf(const fs::path& path) {
   if (!folder.empty() && !fs::is_directory(folder, error)) throw Failure(76, "Path not found");
 }
 
-/// Anything but a regular file has no size, and opening it might wait for ever.
+/// Only regular files: others have no size, and opening them might block for ever.
 std::uint64_t sizeOf(const fs::path& path) {
   std::error_code error;
   const fs::file_status status = fs::status(path, error);
@@ -87,7 +87,7 @@ std::uint64_t sizeOf(const fs::path& path) {
   return size;
 }
 
-/// Unbuffered: who reads and writes does so in big blocks.
+/// Unbuffered, since callers read and write in large blocks.
 class DiskFile final : public File {
  public:
   DiskFile(const fs::path& path, FileMode mode) {
@@ -105,7 +105,7 @@ class DiskFile final : public File {
   std::uint64_t size() override { return size_; }
 
   std::size_t read(char* bytes, std::size_t count) override {
-    // Some libraries throw where a read fails, others answer the end of the file.
+    // If a read fails, some standard libraries throw and others return the end of the file.
     try {
       return static_cast<std::size_t>(file_.sgetn(bytes, static_cast<std::streamsize>(count)));
     } catch (const std::ios_base::failure&) {

@@ -5,22 +5,22 @@
 
 #include <nvlist/platform/File.h>
 
-/// Files as the standard library reaches them. Paths are UTF-8.
+/// Files of the disk, through the standard library. Paths are UTF-8.
 namespace norvane::disk {
 
-/// Whether there is a file or folder of that name. In the last part of the path `*` stands for any
-/// characters and `?` for one; a closing `.*` also for no ending at all. Case counts as it does in
-/// the names of the system's files.
+/// Whether a file or folder of that name exists. In the last part of the path, `*` matches any
+/// characters, `?` one character, and a final `.*` also a name without an extension. Case matters
+/// if it does in the system's file names.
 bool holdsAny(const std::string& path);
 
-/// Deletes a file; one that is not there, a folder and a device stay as they are. Throws Failure 75
-/// where a file cannot be deleted, 52 for a name with a zero character.
+/// Deletes a regular file; does nothing if there is none. Throws Failure 75 if the file cannot be
+/// deleted, 52 for a name with a zero character.
 void remove(const std::string& path);
 
-/// A file to be written is made new, in the place of an old one. Throws Failure 53 for a file to be
-/// read that is not there, 76 where its folder is not, 75 for one that may not be opened or is no
-/// regular file, 52 for a name with a zero character. Later calls throw 61 where the disk is full
-/// and 57 for any other trouble of the device.
+/// Opens a file. For writing it is created, or emptied if it exists. Throws Failure 53 if a file to
+/// read does not exist, 76 if its folder does not, 75 if it cannot be opened or is not a regular
+/// file, 52 for a name with a zero character. Calls of the file throw 61 if the disk is full and 57
+/// for other device errors.
 std::unique_ptr<File> open(const std::string& path, FileMode mode);
 
 }  // namespace norvane::disk

@@ -4,16 +4,16 @@
 
 namespace norvane {
 
-/// A truth value of 16 bits, as hosts keep it: true is -1, false is 0.
+/// A 16-bit truth value in the host's format: true is -1, false is 0. Default: false.
 ///
-/// It can hold any other number, which counts as true in an ordinary test (`if (b)`) but not where
-/// a rule asks for true exactly (`b.isTrue()`). Default: false.
+/// It can hold any other number, which counts as true in an ordinary test (`if (b)`) but not in a
+/// test for exactly true (`b.isTrue()`).
 class Boolean {
  public:
   constexpr Boolean() = default;
   constexpr Boolean(bool value) : number_(value ? -1 : 0) {}
 
-  /// The value that holds `number` as it stands.
+  /// A value that holds exactly `number`.
   static constexpr Boolean ofNumber(std::int16_t number) {
     Boolean result;
     result.number_ = number;
@@ -24,7 +24,7 @@ class Boolean {
   constexpr bool isTrue() const { return number_ == -1; }
   constexpr explicit operator bool() const { return number_ != 0; }
 
-  /// Every bit turned round: true and false change places, any other number stays true.
+  /// Inverts every bit: swaps true and false; any other number still counts as true.
   friend constexpr Boolean operator~(Boolean value) {
     return ofNumber(static_cast<std::int16_t>(~value.number_));
   }

@@ -4,11 +4,11 @@
 
 namespace norvane {
 
-/// A colour in the host's form: low byte red, then green, then blue. With the top bit set the low
-/// byte is the index of a system colour, which only a drawing surface resolves.
+/// A colour in the host's format: red in the low byte, then green, then blue. If the top bit is
+/// set, the low byte is the index of a system colour, which the drawing surface resolves.
 using Colour = std::int32_t;
 
-/// The colour of three channels, 0 to 255 each.
+/// The colour with these channels, 0 to 255 each.
 constexpr Colour rgb(std::uint8_t red, std::uint8_t green, std::uint8_t blue) {
   return red | green << 8 | blue << 16;
 }

@@ -9,8 +9,8 @@
 
 namespace norvane {
 
-/// A text of half the size of a std::string: twelve bytes in place, a longer one on the heap. An
-/// item's key is one, as a list of a million items mostly holds a million empty keys.
+/// A text half the size of a std::string: up to twelve bytes are stored in place, longer texts on
+/// the heap. Used for item keys, since most of a million items have an empty one.
 class CompactText {
  public:
   CompactText() = default;
@@ -35,7 +35,7 @@ class CompactText {
     if (!isInPlace()) delete[] heap();
   }
 
-  /// Lives as long as the text stays as it is.
+  /// Valid until the text changes.
   std::string_view view() const { return {isInPlace() ? inPlace_ : heap(), size_}; }
   operator std::string_view() const { return view(); }
 

@@ -6,10 +6,10 @@
 
 namespace norvane {
 
-/// A step that could not be done: its number and its text, as the reporter shows them.
+/// A failure with the number and text that the reporter shows.
 ///
-/// Inside the library every failure is thrown as one of these and caught by the trap of the
-/// procedure in which it happens (Trap.h). A host's own handler may throw one too.
+/// The library throws every failure as one of these; the trap of the procedure in which it happens
+/// catches it (objects/Trap.h). Hosts and platforms may throw one too.
 class Failure : public std::runtime_error {
  public:
   Failure(std::int32_t number, const std::string& description)

@@ -7,7 +7,7 @@
 
 namespace norvane {
 
-/// A font as hosts describe it. A platform looks up the nearest face it has.
+/// A font as hosts describe it. The platform uses the closest font it has.
 class FontObject final : public Object {
  public:
   std::string Name = "Tahoma";
@@ -18,7 +18,7 @@ class FontObject final : public Object {
   Boolean Underline = false;
   Boolean Strikethrough = false;
 
-  /// Every field counts.
+  /// Compares all fields.
   bool isSame(const Object& other) const override;
 
   Ref<FontObject> Clone() const { return makeRef<FontObject>(*this); }
@@ -34,7 +34,7 @@ inline bool FontObject::isSame(const Object& other) const {
 /// A reference to a font object; it may be empty.
 using Font = Ref<FontObject>;
 
-/// A font object of its own with the same look; empty for an empty reference.
+/// An independent copy of a font; empty for an empty reference.
 inline Font CloneFont(const Font& font) { return font ? font->Clone() : Font(); }
 
 }  // namespace norvane

@@ -19,7 +19,7 @@ LikePattern::LikePattern(std::string_view pattern, bool ignoreCase) : ignoresCas
     switch (character) {
       case U'*': {
         closeSegment();
-        // Asterisks in a row are as good as one.
+        // Several asterisks in a row have the effect of one.
         const bool isRun = segments_.size() > 1 && segments_.back().size() == 0;
         if (!isRun) segments_.push_back({tokens_.size(), tokens_.size()});
         break;
@@ -41,7 +41,7 @@ LikePattern::LikePattern(std::string_view pattern, bool ignoreCase) : ignoresCas
       default:
         addCharacter(character);
         segments_.back().literal += pattern.substr(start, at - start);
-        // Stray bytes might complete a character in the text, whose bytes they must not match.
+        // A stray byte must not match a byte inside a valid character of the text.
         if (character >= firstStrayByte) isLiteral = false;
     }
   }
@@ -94,7 +94,7 @@ void LikePattern::addToken(std::size_t rangesBegin, bool isNegated) {
     }
   }
   if (ignoresCase_) {
-    // The ranges are folded: a capital is as good as its small letter, 32 places further on.
+    // The ranges are folded to small letters; each capital has the bit of its small letter.
     const std::uint64_t capitals = std::uint64_t{0x3FFFFFF} << (U'A' & 63);
     token.ascii[1] = (token.ascii[1] & ~capitals) | (token.ascii[1] >> 32 & capitals);
   }
@@ -115,7 +115,7 @@ bool LikePattern::acceptsLong(const Token& token, char32_t character) const {
   return token.isNegated;
 }
 
-/// Whether the segment stands at `at`; if so moves `at` behind it.
+/// Whether the segment matches at `at`; if so, advances `at` past it.
 bool LikePattern::matchesForward(const Segment& segment, std::string_view text,
                                  std::size_t& at) const {
   if (!segment.literal.empty()) {
@@ -131,7 +131,7 @@ bool LikePattern::matchesForward(const Segment& segment, std::string_view text,
   return true;
 }
 
-/// Whether the segment stands right before the end; if so moves `end` to where it starts.
+/// Whether the segment matches directly before `end`; if so, moves `end` to its start.
 bool LikePattern::matchesBackward(const Segment& segment, std::string_view text,
                                   std::size_t& end) const {
   if (!segment.literal.empty()) {
@@ -147,10 +147,10 @@ bool LikePattern::matchesBackward(const Segment& segment, std::string_view text,
   return true;
 }
 
-/// Looks for the first place of the segment from `at` on; if there is one moves `at` behind it.
+/// Finds the first match of the segment from `at` on; if there is one, advances `at` past it.
 bool LikePattern::find(const Segment& segment, std::string_view text, std::size_t& at) const {
   if (!segment.literal.empty()) {
-    // Valid UTF-8 is found only where characters of the text start and end.
+    // Valid UTF-8 matches only at character boundaries of the text.
     const std::size_t place = text.find(segment.literal, at);
     if (place == std::string_view::npos) return false;
     at = place + segment.literal.size();

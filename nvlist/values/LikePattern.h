@@ -9,22 +9,22 @@
 
 namespace norvane {
 
-/// A wildcard pattern, made ready once to be held against many texts.
+/// A wildcard pattern, compiled once and matched against many texts.
 ///
-/// `?` stands for one character, `*` for any run of them, also none, `#` for one digit from 0 to 9,
-/// `[abc]` for one character of a set, `[!abc]` for one outside it. A hyphen between two characters
-/// of a set makes a range; first or last, or right behind a range, it stands for itself. `[]`
-/// stands for no character at all, `[!]` for the exclamation mark.
+/// `?` matches one character, `*` any number of characters, `#` a digit from 0 to 9, `[abc]` one
+/// character of a set, `[!abc]` one character outside it. A hyphen between two characters of a set
+/// makes a range; at either end of the set, or directly after a range, it matches itself. `[]`
+/// matches no character at all, `[!]` the exclamation mark.
 ///
-/// matches() allocates nothing and takes at most time in proportion to text times pattern.
+/// matches() does not allocate; its time is at most proportional to text length times pattern
+/// length.
 class LikePattern {
  public:
-  /// With `ignoreCase` characters are folded before they are compared, the ends of ranges too.
-  /// Throws Failure 93, Invalid pattern string, for a `[` that is never closed and for a range that
-  /// runs backwards.
+  /// With `ignoreCase`, characters and the ends of ranges are case-folded before they are compared.
+  /// Throws Failure 93, Invalid pattern string, for an unclosed `[` and for a descending range.
   LikePattern(std::string_view pattern, bool ignoreCase);
 
-  /// Whether the pattern covers the whole text.
+  /// Whether the pattern matches the whole text.
   bool matches(std::string_view text) const;
 
  private:
@@ -33,7 +33,8 @@ class LikePattern {
     char32_t last;
   };
 
-  /// What one character can match. The answer for ASCII stands ready, with case and negation in it.
+  /// The characters that match at one position. `ascii` has a bit for each ASCII character, with
+  /// case and negation already applied.
   struct Token {
     std::array<std::uint64_t, 2> ascii = {};
     std::uint32_t rangesBegin = 0;
@@ -45,7 +46,7 @@ class LikePattern {
   struct Segment {
     std::size_t tokensBegin = 0;
     std::size_t tokensEnd = 0;
-    /// The same as bytes, where they can be compared as such; empty otherwise.
+    /// The tokens as bytes if they can be compared bytewise; otherwise empty.
     std::string literal = {};
 
     std::size_t size() const { return tokensEnd - tokensBegin; }
@@ -64,8 +65,8 @@ class LikePattern {
   bool ignoresCase_;
   std::vector<Range> ranges_;
   std::vector<Token> tokens_;
-  /// One more than there are runs of asterisks. The first one stands at the start of the text, the
-  /// last one at its end, those between them as early as they can.
+  /// One more than there are runs of asterisks. The first matches at the start of the text, the
+  /// last at its end, the others at the earliest possible place between.
   std::vector<Segment> segments_;
 };
 

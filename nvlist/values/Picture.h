@@ -9,28 +9,28 @@
 
 namespace norvane {
 
-/// A picture as the library sees it: a handle, a size and the file it came from. Platforms derive
-/// from it and keep what they draw with.
+/// A picture as the library sees it: a handle, a size and the bytes of its file. Platforms derive
+/// from it and add what they need to draw it. Immutable, so threads may share it.
 class PictureObject : public Shared {
  public:
   virtual ~PictureObject() = default;
 
-  /// What tells pictures apart; never 0, which stands for "no picture".
+  /// Identifies the picture; never 0, which means "no picture".
   virtual std::uintptr_t handle() const { return reinterpret_cast<std::uintptr_t>(this); }
 
   /// Natural size in pixels.
   virtual float width() const = 0;
   virtual float height() const = 0;
 
-  /// The bytes of a file of the picture: of the one it was read from, or of one that the platform
-  /// makes; empty where there is none. List files hold them.
+  /// The bytes of a picture file, which list files contain: the file it was read from, or one that
+  /// the platform encodes. Default: empty, no file.
   virtual std::vector<std::byte> fileBytes() const { return {}; }
 
-  /// What a recording calls the picture; empty: its size alone.
+  /// The name of the picture in recordings. Default: empty, which shows its size alone.
   virtual std::string description() const { return {}; }
 };
 
-/// A reference to a shared picture; it may be empty. The host's picture is shared, never copied.
+/// A reference to a shared picture; may be empty. Pictures of the host are never copied.
 using Picture = Ref<PictureObject>;
 
 }  // namespace norvane

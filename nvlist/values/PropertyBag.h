@@ -8,8 +8,8 @@
 
 namespace norvane {
 
-/// A property store: it maps names to values and keeps nothing that equals its default. A host may
-/// derive one that keeps them elsewhere.
+/// A property store, which maps names to values. It does not store values equal to their defaults.
+/// A host may derive one that stores them elsewhere.
 class PropertyBag {
  public:
   struct Property {
@@ -19,30 +19,29 @@ class PropertyBag {
 
   virtual ~PropertyBag() = default;
 
-  /// The value stored under the name, or the default. Names are compared exactly.
+  /// The value stored under exactly this name, or the default.
   virtual Variant ReadProperty(std::string_view name, const Variant& defaultValue) const;
-  /// Stores the value; one that is the same as its default is not stored, and what was stored under
-  /// the name goes.
+  /// Stores the value under the name. A value equal to its default removes the stored one instead.
   virtual void WriteProperty(std::string_view name, const Variant& value,
                              const Variant& defaultValue);
 
-  /// What is stored, in the order in which the names first came.
+  /// The stored properties, in the order in which their names were first written.
   const std::vector<Property>& properties() const { return properties_; }
 
  private:
   std::vector<Property> properties_;
 };
 
-/// The store as text, a line each: `ForeColor = 255`. A number above 65535 or below 0 is written as
-/// &H and its digits, as colours read best; truth values as True and False; texts in double quotes,
-/// with \" \\ and \xNN in them; a font as `font "Tahoma" 8.25 bold italic underline strikethrough`.
-/// Other objects have no text and are left out.
+/// The store as text with one property a line: `ForeColor = 255`. Numbers above 65535 and below 0
+/// are written in hexadecimal with &H, as suits colours; truth values as True and False; texts in
+/// double quotes with the escapes \" \\ and \xNN; a font as
+/// `font "Tahoma" 8.25 bold italic underline strikethrough`. Other objects are omitted.
 std::string propertyText(const PropertyBag& bag);
 
-/// The store that such a text describes. Empty lines, and those that begin with #, say nothing. A
-/// word that is none of the forms above is kept as a text, so that whoever reads the property
-/// tells what is wrong with it. A line without a name and =, or with a quote that does not end,
-/// throws Failure 321 with the number of the line.
+/// The store that such a text describes. Empty lines and lines starting with # are skipped. A value
+/// in none of the forms above is stored as a text, so that the property that reads it reports the
+/// failure. Throws Failure 321 with the line number for a line without a name and =, or with an
+/// unclosed quote.
 PropertyBag propertiesOf(std::string_view text);
 
 }  // namespace norvane

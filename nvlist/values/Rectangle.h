@@ -4,7 +4,7 @@
 
 namespace norvane {
 
-/// A rectangle in pixels; `Right` and `Bottom` lie just outside it.
+/// A rectangle in pixels. `Right` and `Bottom` are exclusive.
 struct Rectangle {
   std::int32_t Left = 0;
   std::int32_t Top = 0;

@@ -7,7 +7,7 @@
 
 namespace norvane {
 
-/// Base of everything that is held by reference: it carries the count of its references.
+/// Base of reference-counted objects. It contains the count, which is atomic.
 class Shared {
  public:
   Shared() = default;
@@ -16,7 +16,7 @@ class Shared {
 
   void retain() const { references_.fetch_add(1, std::memory_order_relaxed); }
   bool isHeldOnce() const { return references_.load(std::memory_order_relaxed) == 1; }
-  /// Whether that was the last reference.
+  /// Releases a reference and returns whether it was the last.
   bool releaseLast() const { return references_.fetch_sub(1, std::memory_order_acq_rel) == 1; }
 
  protected:
@@ -26,9 +26,8 @@ class Shared {
   mutable std::atomic<std::int32_t> references_ = 0;
 };
 
-/// A counted reference of the size of one pointer; it may be empty. The last reference to go
-/// deletes the object. The count lives in the object, so that a list of a million items pays for
-/// no second block.
+/// A counted reference, which may be empty. The last reference deletes the object. It is one
+/// pointer wide and the count is inside the object, so that an item takes a single memory block.
 template <class T>
 class Ref {
  public:

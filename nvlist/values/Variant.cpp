@@ -157,7 +157,7 @@ std::partial_ordering compareText(std::string_view a, const Variant& b) {
   if (b.isText() || b.isEmpty()) return a.compare(b.text()) <=> 0;
   const double other = b.toNumber();
   if (const auto number = numberOf(a)) {
-    // Against a float the text counts as one, or 0.1 would differ from itself.
+    // Compared as floats, or the text "0.1" would differ from the float 0.1.
     if (b.type() == Variant::Type::Single) return static_cast<float>(*number) <=> b.toSingle();
     return *number <=> other;
   }

@@ -15,13 +15,13 @@
 
 namespace norvane {
 
-/// Base of a host's object that a Variant can hold. A platform also derives from it for values of
-/// its own, such as a date: these convert to a number and to a text.
+/// Base of the objects that a Variant can hold. Platforms also derive values from it, such as a
+/// date, which convert to a number and a text.
 class Object : public Shared {
  public:
   virtual ~Object() = default;
 
-  /// Whether both are the same value; here: whether both are the same object.
+  /// Whether both objects have the same value. Default: whether they are the same object.
   virtual bool isSame(const Object& other) const { return this == &other; }
 
   /// The conversions of the Variant that holds it. Default: no value, Failure 13.
@@ -30,12 +30,13 @@ class Object : public Shared {
   virtual std::string toText() const;
 };
 
-/// A tagged value: nothing, a number, a truth value, a text (UTF-8) or an object reference.
+/// A value of one of several types: empty, a number, a truth value, a text (UTF-8) or a reference
+/// to an object.
 ///
 /// It takes eight bytes, since a list of a million items holds five million of them: the low three
 /// bits are the tag; the others hold a number or the address of a shared text or object.
-/// Conversions throw Failure 13, Type mismatch, where there is no sensible result, and Failure 6,
-/// Overflow, where it does not fit.
+/// Conversions throw Failure 13, Type mismatch, if there is no sensible result, and Failure 6,
+/// Overflow, if the result does not fit.
 class Variant {
  public:
   enum class Type : std::uint8_t { Empty, Int16, Int32, Single, Boolean, Text, Object };
@@ -47,11 +48,11 @@ class Variant {
       : bits_(pack(Type::Int32, static_cast<std::uint32_t>(number))) {}
   constexpr Variant(float number)
       : bits_(pack(Type::Single, std::bit_cast<std::uint32_t>(number))) {}
-  /// Kept as a 32-bit float, the only float there is: about seven digits.
+  /// Stored as a 32-bit float, with about seven digits.
   constexpr Variant(double number) : Variant(static_cast<float>(number)) {}
   constexpr Variant(Boolean value)
       : bits_(pack(Type::Boolean, static_cast<std::uint16_t>(value.number()))) {}
-  /// Of exactly this type, or any pointer would be a truth value.
+  /// Only bool itself, so that pointers do not convert to truth values.
   template <std::same_as<bool> Bool>
   constexpr Variant(Bool value) : Variant(Boolean(value)) {}
   Variant(std::nullptr_t) = delete;
@@ -70,32 +71,32 @@ class Variant {
   constexpr Type type() const { return static_cast<Type>(bits_ & tagMask); }
   bool isEmpty() const { return bits_ == 0; }
   bool isText() const { return type() == Type::Text; }
-  /// A number, a truth value, nothing, or a text that reads as a number.
+  /// Whether it is a number, a truth value, empty, or a text that can be read as a number.
   bool isNumeric() const;
 
-  /// The text held, without a copy; empty where the value is no text. Lives as long as the value.
+  /// The stored text, valid as long as the value; empty if the value is not a text.
   std::string_view text() const;
-  /// The object held; empty where the value is none.
+  /// The stored object; empty if the value is not an object.
   Ref<Object> object() const;
 
-  /// Nothing counts as 0, a truth value as its number, a text as the number it reads as.
+  /// Empty converts to 0, a truth value to its number, a text to the number it represents.
   double toNumber() const;
-  /// Rounded to the nearest whole number, halves to the even one.
+  /// Rounded to the nearest integer, halves to the even one.
   std::int32_t toInt32() const;
   std::int16_t toInt16() const;
   float toSingle() const;
-  /// True for every number but 0, and for the text "True" in any capitalisation.
+  /// False for 0 and the text "False", true for other numbers and the text "True". Case is ignored.
   Boolean toBoolean() const;
-  /// Numbers in decimal form, truth values as "True" and "False", nothing as the empty text.
+  /// Numbers in decimal, truth values as "True" and "False", empty as the empty text.
   std::string toText() const&;
-  /// The same; a text that nobody else holds is moved out.
+  /// The same, moving out a text that is not shared.
   std::string toText() &&;
 
  private:
   struct TextBlock;
   static constexpr std::uint64_t tagMask = 7;
 
-  /// The block of a text that nearly every item holds, or nullptr for any other text.
+  /// The permanent block of a text that nearly every item has, or nullptr for other texts.
   static TextBlock* permanentBlock(std::string_view text);
   void holdText(TextBlock* block);
 
@@ -133,7 +134,7 @@ class Variant {
   std::uint64_t bits_ = 0;
 };
 
-/// A text shared by the variants that hold it. The few that every list needs are never counted.
+/// A text shared by variants. Permanent blocks are not counted or deleted.
 struct Variant::TextBlock {
   std::string text;
   std::atomic<std::int32_t> references = 1;
@@ -144,13 +145,13 @@ inline std::string_view Variant::text() const {
   return isText() ? std::string_view(textBlock()->text) : std::string_view();
 }
 
-/// Compares as hosts do: two texts byte by byte; a text with a number after turning the text into
-/// a number (Failure 13 where it reads as none); nothing as 0 or as the empty text, as the other
-/// side wants it. An object compares with nothing: Failure 13.
+/// Compares as hosts do: two texts byte by byte; a text and a number as numbers (Failure 13 if the
+/// text is not a number); an empty value as 0 or as the empty text, to match the other side. Throws
+/// Failure 13 for objects.
 std::partial_ordering compare(const Variant& a, const Variant& b);
 std::partial_ordering compareText(std::string_view a, const Variant& b);
 
-/// The mark in an item's colour that says: no colour of its own.
+/// The value of an item's colour that means "the default colour".
 inline constexpr std::string_view defaultMark = "def";
 inline bool isDefaultMark(const Variant& colour) {
   return colour.isText() && colour.text() == defaultMark;

@@ -5,7 +5,8 @@
 
 namespace norvane {
 
-/// Characters that change their case by the same distance: from `first` to `last`, each `step`th.
+/// A range of characters with the same offset to their other case: every `step`th character from
+/// `first` to `last`.
 struct CaseRow {
   char32_t first;
   char32_t last;
@@ -13,11 +14,11 @@ struct CaseRow {
   std::uint32_t step;
 };
 
-/// The rows in order of their characters, none overlapping another. Beyond ASCII only.
+/// Rows in ascending order without overlaps, for characters beyond ASCII.
 std::span<const CaseRow> upperCaseTable();
 std::span<const CaseRow> foldCaseTable();
 
-/// The character as the table maps it; itself where no row holds it.
+/// The character that the table maps to, or the character itself if no row contains it.
 char32_t mapCase(std::span<const CaseRow> table, char32_t character);
 
 }  // namespace norvane

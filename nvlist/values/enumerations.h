@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-/// The public enumerations. Their values are part of the interface: hosts store them. None is
-/// checked on assignment; what an unknown value does is told at the property that takes it.
+/// The public enumerations. Hosts store their values. Values are not checked on assignment; the
+/// properties that take them document the effect of unknown ones.
 namespace norvane {
 
 enum cColorStyle : std::int32_t { cXPBlue = 0, cXPSilver = 1, cXPOlive = 2, cCustom = 99 };
@@ -36,7 +36,7 @@ enum cActiveXPTheme : std::int32_t {
   styleClassic = 4
 };
 
-/// What the mouse tells is not always one of these: the middle button is 4.
+/// SpEv::MouseButtonPressed returns 4 for the middle button, which is none of these.
 enum cMouseButton : std::int32_t { mouseNone = 0, mouseLeft = 1, mouseRight = 2, mouseMiddle = 3 };
 
 /// Which scroll bars the list may show.

@@ -21,12 +21,13 @@ std::optional<double> prefixedNumber(std::string_view digits, int base) {
   const auto [end, error] =
       std::from_chars(digits.data(), digits.data() + digits.size(), value, base);
   if (error != std::errc{} || end != digits.data() + digits.size()) return std::nullopt;
-  // Four digits name a 16-bit number, more a 32-bit one; both are signed.
+  // Up to four hexadecimal digits are a 16-bit number, more a 32-bit one; both are signed.
   const bool isShort = base == 16 ? digits.size() <= 4 : value <= 0xFFFF;
   return isShort ? static_cast<std::int16_t>(value) : static_cast<std::int32_t>(value);
 }
 
-/// Whether the text is digits with at most one point, and an exponent of digits behind them.
+/// Whether the text is a decimal number: an optional sign, digits with at most one point, and an
+/// optional exponent.
 bool isDecimal(std::string_view text) {
   std::size_t at = 0;
   const auto digits = [&] {

@@ -9,8 +9,8 @@
 
 #include <nvlist/values/Failure.h>
 
-/// Whole numbers that never wrap round: each of these throws Failure 6, Overflow, where the result
-/// does not fit.
+/// Checked integer arithmetic: each function throws Failure 6, Overflow, if the result does not
+/// fit.
 namespace norvane::checked {
 
 template <class Integer>
@@ -20,8 +20,7 @@ Integer narrow(std::int64_t value) {
   return static_cast<Integer>(value);
 }
 
-/// The nearest whole number, halves to the even neighbour: 2.5 gives 2, 3.5 gives 4. A value that
-/// is no number at all overflows too.
+/// The nearest integer, halves to the even one: 2.5 gives 2, 3.5 gives 4. NaN overflows too.
 template <class Integer>
 Integer nearest(double value) {
   const double floor = std::floor(value);
@@ -56,14 +55,14 @@ Integer multiply(Integer a, Integer b) {
 
 namespace norvane {
 
-/// The number that a text reads as, or nothing where it reads as none. Outer blanks, a sign, a
-/// decimal point and an exponent are taken, as are the prefixes &H and &O; whatever the locale.
+/// The number that a text represents, or nothing. Accepts blanks around it, a sign, a decimal point
+/// and an exponent, and the prefixes &H and &O. Does not depend on the locale.
 std::optional<double> numberOf(std::string_view text);
 
-/// The decimal form of a number: no more digits than the type holds, a point as decimal separator.
+/// A number in decimal, with up to the precision of its type and a point as decimal separator.
 std::string textOf(std::int32_t number);
 std::string textOf(float number);
-/// Upper-case hexadecimal digits, with zeros in front up to `width` of them.
+/// A number in upper-case hexadecimal, padded with zeros to `width` digits.
 std::string hexTextOf(std::uint32_t number, int width);
 
 }  // namespace norvane

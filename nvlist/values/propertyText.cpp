@@ -68,7 +68,7 @@ std::optional<std::string> valueText(const Variant& value) {
   }
 }
 
-/// Reads a quoted text from the front and takes it away; nothing where it does not end.
+/// Reads and removes a quoted text at the front; nothing if its quote is not closed.
 std::optional<std::string> takeQuoted(std::string_view& text) {
   std::string result;
   for (std::size_t at = 1; at < text.size(); ++at) {
@@ -92,7 +92,7 @@ std::optional<std::string> takeQuoted(std::string_view& text) {
   return std::nullopt;
 }
 
-/// A font, or nothing where the words behind its name are none of a font's.
+/// A font, or nothing if the text is not a valid description of one.
 std::optional<Variant> fontOf(std::string_view text) {
   if (!text.starts_with('"')) return std::nullopt;
   auto font = makeRef<FontObject>();

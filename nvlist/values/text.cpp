@@ -5,8 +5,8 @@ namespace norvane {
 
 namespace {
 
-/// How many bytes the valid sequence at `at` takes; 1 with `character` a stray byte if none starts
-/// there. Only for bytes beyond ASCII.
+/// The length in bytes of the valid sequence at `at`; if there is none, 1, and `character` is a
+/// stray byte. Only for bytes beyond ASCII.
 std::size_t decodeSequence(std::string_view text, std::size_t at, char32_t& character) {
   const auto lead = static_cast<unsigned char>(text[at]);
   character = firstStrayByte + lead;
@@ -21,7 +21,7 @@ std::size_t decodeSequence(std::string_view text, std::size_t at, char32_t& char
     if (!isContinuation(text[at + i])) return 1;
     value = value << 6 | (static_cast<unsigned char>(text[at + i]) & 0x3Fu);
   }
-  // Lead bytes C0 and C1 are excluded above, so that two bytes are never overlong.
+  // Lead bytes C0 and C1 are excluded above, so two bytes are never overlong.
   const bool isOverlong = (length == 3 && value < 0x800) || (length == 4 && value < 0x10000);
   const bool isSurrogate = value >= 0xD800 && value <= 0xDFFF;
   if (isOverlong || isSurrogate || value > 0x10FFFF) return 1;
@@ -41,8 +41,8 @@ char32_t decodePrevious(std::string_view text, std::size_t& at) {
   const std::size_t end = at--;
   const auto last = static_cast<unsigned char>(text[at]);
   if (last < 0x80) return last;
-  // The character is either the whole sequence led by the nearest byte that is no continuation, or
-  // the last byte alone.
+  // The character is either the whole sequence that starts at the nearest lead byte, or the last
+  // byte alone.
   std::size_t lead = at;
   while (lead > 0 && end - lead < 4 && isContinuation(text[lead])) --lead;
   char32_t character;

@@ -6,18 +6,18 @@
 
 namespace norvane {
 
-/// Texts are UTF-8, a character is a code point. A byte that starts no valid sequence is a
-/// character of its own: it stands as firstStrayByte plus its value, so that it equals no code
-/// point and can be written back as it was.
+/// Texts are UTF-8, and a character is a code point. A byte that is not part of a valid sequence is
+/// a character of its own, firstStrayByte plus its value: unlike any code point, and written back
+/// unchanged.
 inline constexpr char32_t firstStrayByte = 0x110000;
 
-/// Whether the byte starts no character but can only continue one.
+/// Whether the byte is a continuation byte of UTF-8.
 constexpr bool isContinuation(char byte) { return (static_cast<unsigned char>(byte) >> 6) == 2; }
 
 /// decodeNext() for characters that may take several bytes.
 char32_t decodeLong(std::string_view text, std::size_t& at);
 
-/// The character at `at`, which must lie before the end; moves `at` behind it.
+/// The character at `at`, which must be before the end. Advances `at` past it.
 inline char32_t decodeNext(std::string_view text, std::size_t& at) {
   const auto byte = static_cast<unsigned char>(text[at]);
   if (byte < 0x80) {
@@ -27,36 +27,37 @@ inline char32_t decodeNext(std::string_view text, std::size_t& at) {
   return decodeLong(text, at);
 }
 
-/// The character before `at`, which must lie between two characters behind the first; moves `at`
-/// to where it starts.
+/// The character before `at`, which must be a character boundary after the start. Moves `at` to its
+/// first byte.
 char32_t decodePrevious(std::string_view text, std::size_t& at);
 
-/// How many characters the text holds.
+/// The number of characters in the text.
 std::size_t characterCount(std::string_view text);
 
-/// Appends a character as decodeNext() gives it; what is no character at all becomes U+FFFD.
+/// Appends a character as returned by decodeNext(). Other values are appended as U+FFFD.
 void appendUtf8(std::string& text, char32_t character);
 
-/// The character's simple (one to one) upper-case form, whatever the locale; itself if it has none.
+/// The simple (one to one) upper-case form of the character in any locale, or the character itself.
 char32_t upperCase(char32_t character);
 
-/// The text with every character in its simple upper-case form. Stray bytes stay as they are.
+/// The text with each character in its simple upper-case form. Stray bytes are unchanged.
 std::string upperCase(std::string_view text);
 
 /// foldCase() for characters beyond ASCII.
 char32_t foldLong(char32_t character);
 
-/// The form in which characters that differ in case alone are equal (Unicode simple case folding).
+/// The folded form of a character (Unicode simple case folding). Characters that differ only in
+/// case have the same.
 inline char32_t foldCase(char32_t character) {
   if (character >= 0x80) return foldLong(character);
   return character >= U'A' && character <= U'Z' ? character + (U'a' - U'A') : character;
 }
 
-/// The text without the blanks at both ends.
+/// The text without leading and trailing blanks.
 std::string_view trimmedBlanks(std::string_view text);
 
-/// Calls `take` with each line of a text, until it returns false. CR, LF and both together end a
-/// line and are not part of it; an empty text is one empty line.
+/// Calls `take` with each line of the text until it returns false. A line ends with CR, LF or CR
+/// LF, which are not part of it. An empty text is one empty line.
 template <class Take>
 void forEachLine(std::string_view text, Take&& take) {
   for (;;) {
