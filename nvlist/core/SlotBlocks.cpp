@@ -18,7 +18,7 @@ SlotBlocks::SlotBlocks(std::int32_t count) : size_(count) {
   constexpr auto step = static_cast<std::int32_t>(blockSize);
   for (std::int32_t left = count; left > 0; left -= step)
     addBlock(blocks_.size(), count - left)
-        .slots.resize(static_cast<std::size_t>(std::min(left, step)));
+        .entries.resize(static_cast<std::size_t>(std::min(left, step)));
 }
 
 SlotBlocks::Place SlotBlocks::find(std::int32_t index) const {
@@ -26,7 +26,7 @@ SlotBlocks::Place SlotBlocks::find(std::int32_t index) const {
     return static_cast<std::size_t>(std::int64_t{index} - blocks_[block].first);
   };
   const auto holds = [&](std::size_t block) {
-    return block < blocks_.size() && offsetIn(block) < blocks_[block].slots.size();
+    return block < blocks_.size() && offsetIn(block) < blocks_[block].entries.size();
   };
   // Most calls ask for the slot beside the last one.
   if (!holds(lastFound_)) {
@@ -39,12 +39,12 @@ SlotBlocks::Place SlotBlocks::find(std::int32_t index) const {
 void SlotBlocks::insert(std::int32_t index, Slot slot) {
   if (blocks_.empty()) addBlock(0, 0);
   Place place =
-      index < size_ ? find(index) : Place{blocks_.size() - 1, blocks_.back().slots.size()};
-  if (blocks_[place.block].slots.size() == blockSize) {
+      index < size_ ? find(index) : Place{blocks_.size() - 1, blocks_.back().entries.size()};
+  if (blocks_[place.block].entries.size() == blockSize) {
     if (place.offset == 0) {
-      addBlock(place.block, index).slots.reserve(blockSize);
+      addBlock(place.block, index).entries.reserve(blockSize);
     } else if (place.offset == blockSize) {
-      addBlock(++place.block, index).slots.reserve(blockSize);
+      addBlock(++place.block, index).entries.reserve(blockSize);
       place.offset = 0;
     } else {
       split(place.block);
@@ -52,7 +52,7 @@ void SlotBlocks::insert(std::int32_t index, Slot slot) {
     }
   }
   Block& block = blocks_[place.block];
-  block.slots.insert(at(block.slots, place.offset), std::move(slot));
+  block.entries.insert(at(block.entries, place.offset), std::move(slot));
   block.isMeasured = false;
   ++size_;
   moveFirsts(place.block, 1);
@@ -61,9 +61,9 @@ void SlotBlocks::insert(std::int32_t index, Slot slot) {
 SlotBlocks::Slot SlotBlocks::take(std::int32_t index) {
   const Place place = find(index);
   Block& block = blocks_[place.block];
-  const auto slot = at(block.slots, place.offset);
+  const auto slot = at(block.entries, place.offset);
   Slot taken = std::move(*slot);
-  block.slots.erase(slot);
+  block.entries.erase(slot);
   block.isMeasured = false;
   --size_;
   moveFirsts(place.block, -1);
@@ -83,10 +83,10 @@ void SlotBlocks::split(std::size_t block) {
   upper.reserve(blockSize);
   constexpr std::size_t half = blockSize / 2;
   Block& added = addBlock(block + 1, blocks_[block].first + static_cast<std::int32_t>(half));
-  std::vector<Slot>& lower = blocks_[block].slots;
+  std::vector<Slot>& lower = blocks_[block].entries;
   upper.assign(std::move_iterator(at(lower, half)), std::move_iterator(lower.end()));
   lower.resize(half);
-  added.slots = std::move(upper);
+  added.entries = std::move(upper);
 }
 
 void SlotBlocks::moveFirsts(std::size_t behindBlock, std::int32_t difference) {
@@ -97,11 +97,11 @@ void SlotBlocks::moveFirsts(std::size_t behindBlock, std::int32_t difference) {
 /// Keeps a list that has shrunk from consisting of nearly empty blocks. A lack of memory leaves
 /// them as they are.
 void SlotBlocks::removeOrMerge(std::size_t block) {
-  std::vector<Slot>& slots = blocks_[block].slots;
+  std::vector<Slot>& slots = blocks_[block].entries;
   if (slots.empty()) {
     blocks_.erase(at(blocks_, block));
   } else if (slots.size() < blockSize / 8 && block + 1 < blocks_.size()) {
-    std::vector<Slot>& next = blocks_[block + 1].slots;
+    std::vector<Slot>& next = blocks_[block + 1].entries;
     if (slots.size() + next.size() > blockSize / 2 || slots.size() + next.size() > slots.capacity())
       return;
     std::ranges::move(next, std::back_inserter(slots));
@@ -116,7 +116,7 @@ std::optional<SlotBlocks::Measured> SlotBlocks::measuredFrom(std::int32_t index)
   for (std::size_t block = place.block; block < blocks_.size() && measure(blocks_[block]);
        ++block) {
     result.widest = std::max(result.widest, blocks_[block].widest);
-    result.end += static_cast<std::int32_t>(blocks_[block].slots.size());
+    result.end += static_cast<std::int32_t>(blocks_[block].entries.size());
   }
   if (result.end == index) return std::nullopt;
   return result;
@@ -126,7 +126,7 @@ std::optional<SlotBlocks::Measured> SlotBlocks::measuredFrom(std::int32_t index)
 bool SlotBlocks::measure(Block& block) {
   if (block.isMeasured) return true;
   std::uint16_t widest = 0;
-  for (const Slot& slot : block.slots) {
+  for (const Slot& slot : block.entries) {
     if (!slot || slot->textWidth == ListItem::notMeasured) return false;
     widest = std::max(widest, slot->textWidth);
   }

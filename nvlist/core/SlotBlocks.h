@@ -27,13 +27,13 @@ class SlotBlocks {
   /// taken out. An empty one may be filled.
   Slot& peek(std::int32_t index) {
     const Place place = find(index);
-    return blocks_[place.block].slots[place.offset];
+    return blocks_[place.block].entries[place.offset];
   }
   /// The same for writing.
   Slot& write(std::int32_t index) {
     const Place place = find(index);
     blocks_[place.block].isMeasured = false;
-    return blocks_[place.block].slots[place.offset];
+    return blocks_[place.block].entries[place.offset];
   }
 
   /// Inserts a reference before `index`, or at the end. A lack of memory changes nothing.
@@ -46,7 +46,7 @@ class SlotBlocks {
   void visitUntil(Visit&& visit) {
     std::int32_t index = 0;
     for (Block& block : blocks_)
-      for (Slot& slot : block.slots)
+      for (Slot& slot : block.entries)
         if (visit(slot, index++)) return;
   }
 
@@ -62,8 +62,8 @@ class SlotBlocks {
 
  private:
   struct Block {
-    std::vector<Slot> slots;
-    std::int32_t first = 0;  ///< the index of its first slot
+    std::vector<Slot> entries;  // "slots" is a macro of Qt
+    std::int32_t first = 0;     ///< the index of its first slot
     std::uint16_t widest = 0;
     bool isMeasured = false;  ///< `widest` is known
   };
