@@ -18,14 +18,15 @@ std::string randomText(std::mt19937& random) {
 
 /// Texts as a list finds them, `different` of them at most; made once.
 struct Texts {
-  Texts(int count, int different) {
+  Texts(int count, int different) : plain(static_cast<std::size_t>(count)) {
     std::mt19937 random(7);
-    std::vector<std::string> choice;
-    for (int i = 0; i < different; ++i) choice.push_back(randomText(random));
-    for (int i = 0; i < count; ++i) {
-      plain.push_back(different == count ? choice[i] : choice[random() % different]);
-      qt.push_back(QString::fromStdString(plain.back()));
-    }
+    std::vector<std::string> choice(static_cast<std::size_t>(different));
+    for (std::string& text : choice) text = randomText(random);
+    if (different == count)
+      plain = choice;
+    else
+      for (std::string& text : plain) text = choice[random() % choice.size()];
+    for (const std::string& text : plain) qt.push_back(QString::fromStdString(text));
   }
 
   std::vector<std::string> plain;

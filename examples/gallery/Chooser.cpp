@@ -6,7 +6,7 @@
 
 namespace gallery {
 
-Chooser::Chooser(const std::vector<Page>& pages) {
+Chooser::Chooser(const QList<Page>& pages) {
   constexpr int iconSize = 32;
   setObjectName("chooser");
   norvane::nvList& own = list();

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <functional>
-#include <vector>
 
 #include <nvlist/platform/qt/NvListWidget.h>
 
@@ -12,7 +11,7 @@ namespace gallery {
 /// The pages to choose from. It is such a list itself.
 class Chooser : public norvane::NvListWidget, private norvane::__nvList {
  public:
-  explicit Chooser(const std::vector<Page>& pages);
+  explicit Chooser(const QList<Page>& pages);
   ~Chooser() override;
 
   /// Told of the index of the current page after each click, and after each key let go.

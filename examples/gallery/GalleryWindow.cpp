@@ -83,7 +83,7 @@ QString rowsShown(nvList& list) {
 
 }  // namespace
 
-GalleryWindow::GalleryWindow(std::vector<Page> pages)
+GalleryWindow::GalleryWindow(QList<Page> pages)
     : pages_(std::move(pages)),
       stages_(pages_.size(), nullptr),
       log_(new EventLog),

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QMainWindow>
 #include <QTimer>
 #include <utility>
@@ -24,7 +25,7 @@ namespace gallery {
 /// properties at the right, and the log of what happens below.
 class GalleryWindow : public QMainWindow {
  public:
-  explicit GalleryWindow(std::vector<Page> pages);
+  explicit GalleryWindow(QList<Page> pages);
   ~GalleryWindow() override;
 
   /// Shows a page, which is filled the first time.
@@ -55,8 +56,8 @@ class GalleryWindow : public QMainWindow {
   void refresh();
   void showRows();
 
-  const std::vector<Page> pages_;
-  std::vector<Stage*> stages_;
+  const QList<Page> pages_;
+  QList<Stage*> stages_;
   int shown_ = -1;
   norvane::NvListWidget* subject_ = nullptr;  ///< whose properties are shown
   std::vector<std::pair<QWidget*, const char*>> hints_;

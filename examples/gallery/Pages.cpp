@@ -281,7 +281,7 @@ void fillColours(Stage& stage) {
 
 }  // namespace
 
-std::vector<Page> allPages(const SampleText& text) {
+QList<Page> allPages(const SampleText& text) {
   return {
       {"text", "Text", "cDefault: rows of text", document,
        [text](Stage& stage) { fillText(stage, text); }},

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QStringList>
 #include <QWidget>
 #include <functional>
@@ -65,7 +66,7 @@ struct Page {
   std::function<void(Stage&)> fill;
 };
 
-std::vector<Page> allPages(const SampleText& text);
+QList<Page> allPages(const SampleText& text);
 
 /// An icon for a place of `size`: on a dense screen with the pixels that it has there.
 norvane::Picture icon(const Glyph& glyph, int size = 16);

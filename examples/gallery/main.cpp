@@ -47,7 +47,7 @@ gallery::SampleText sampleText(const QStringList& files) {
 }
 
 /// The index of a page by its name; throws a message that lists the names where there is none.
-int pageNamed(const QString& name, const std::vector<gallery::Page>& pages) {
+int pageNamed(const QString& name, const QList<gallery::Page>& pages) {
   QStringList names;
   for (const gallery::Page& page : pages) names << page.name;
   if (!names.contains(name))
@@ -82,7 +82,7 @@ int main(int argumentCount, char** arguments) {
   options.parse(words);
   const QStringList files = options.positionalArguments();
   if (files.size() > 1) return fail("give one file only", wrongArguments);
-  std::vector<gallery::Page> pages;
+  QList<gallery::Page> pages;
   int first = 0;
   try {
     pages = gallery::allPages(sampleText(files));

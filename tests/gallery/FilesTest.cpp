@@ -17,7 +17,7 @@ namespace {
 class FilesTest : public testing::Test {
  protected:
   void showPage(const char* name) {
-    std::vector<Page> pages = allPages({"A text", {"one"}});
+    QList<Page> pages = allPages({"A text", {"one"}});
     int index = 0;
     while (pages.at(index).name != std::string_view(name)) ++index;
     window = std::make_unique<GalleryWindow>(std::move(pages));

@@ -77,7 +77,8 @@ TEST_F(Edit, ThePlaceIsThatOfTheStyleAndOfTheLastPress) {
 
 TEST_F(Edit, ReturnWritesTheTextIntoTheCurrentItem) {
   box().typeText("a text far too wide for the list");
-  for (const std::int16_t other : {27, 10, 97, 9}) EXPECT_TRUE(box().typeCharacter(other));
+  for (const auto other : std::initializer_list<std::int16_t>{27, 10, 97, 9})
+    EXPECT_TRUE(box().typeCharacter(other));
   const std::int32_t width = list.state().MaxItemWidth;
   EXPECT_FALSE(box().typeCharacter(13));
   EXPECT_EQ(outcome(), "* | 2: a text far too wide for the list");

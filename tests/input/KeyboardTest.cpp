@@ -58,7 +58,7 @@ TEST_F(Keyboard, EveryOtherKeyIsOnlyPassedOn) {
   fill(5);
   list.ListIndex(2);
   heard();
-  for (const std::int16_t code : {34, 16, 17}) {
+  for (const auto code : std::initializer_list<std::int16_t>{34, 16, 17}) {
     key(code, 3);
     EXPECT_EQ(outcome(), "KeyDown(" + std::to_string(code) + " 3) | 2: 2");
     EXPECT_EQ(list.state().ShiftDown, code == 16);

@@ -186,7 +186,7 @@ TEST_F(SpEvTest, TellsTheThemeByItsColourScheme) {
     EXPECT_EQ(theme(scheme), style);
   EXPECT_EQ(reports(), "5 ConvUnicode");
   application.theme->colourScheme = u"NormalColor";
-  for (const auto [major, minor, isXP] :
+  for (const auto& [major, minor, isXP] :
        {std::tuple(5, 0, false), {5, 2, true}, {6, 0, false}, {6, 1, true}}) {
     application.system = {2, major, minor};
     EXPECT_EQ(helper.ActiveXPTheme() == styleBlue, isXP) << major << minor;

@@ -129,7 +129,7 @@ TEST_F(ToolTipTest, ColoursWidthAndMargins) {
   EXPECT_EQ(tips.BackColor(), 0x778899);
   tips.MaxTipWidth(32767);
   EXPECT_EQ(tips.MaxTipWidth(), 32767);
-  for (const std::int16_t value : {0, -32768}) {
+  for (const auto value : std::initializer_list<std::int16_t>{0, -32768}) {
     tips.MaxTipWidth(20);
     tips.MaxTipWidth(value);
     EXPECT_EQ(window()->maxTipWidth(), -1);

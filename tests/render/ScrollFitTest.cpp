@@ -33,7 +33,7 @@ class ScrollFit : public ListTest, public __nvList {
   }
 
   /// New items, the first one of so many characters, and everything fitted anew.
-  void fill(int count, int width = 1) {
+  void fill(int count, std::size_t width = 1) {
     list.AutoRedraw(false);
     list.AutoCheckScroll(false);
     list.ItemsClear();
@@ -112,7 +112,9 @@ TEST_F(ScrollFit, AWidthIsKeptUntilTheTextOrTheFontChanges) {
 
 TEST_F(ScrollFit, TheWidestOfManyIsKnownWhateverBecomesOfThem) {
   std::mt19937 random(8);
-  const auto upTo = [&](int most) { return static_cast<int>(random() % (most + 1U)); };
+  const auto upTo = [&](int most) {
+    return static_cast<int>(random() % (static_cast<unsigned>(most) + 1));
+  };
   list.AutoCheckScroll(false);
   for (int round = 0; round < 3000; ++round) {
     const int last = list.ItemsCount() - 1;
@@ -142,7 +144,8 @@ TEST_F(ScrollFit, TheWidestOfManyIsKnownWhateverBecomesOfThem) {
 TEST_F(ScrollFit, TheChoiceOfBarsAndTheirRanges) {
   struct Case {
     ScrollBarConstants bars;
-    int count, width;
+    int count;
+    std::size_t width;
     const char* ranges;
   };
   constexpr Case cases[] = {

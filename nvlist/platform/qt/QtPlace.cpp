@@ -293,7 +293,7 @@ void QtPlace::letGo(std::int16_t button) {
 }
 
 void QtPlace::releaseLost() {
-  for (const std::int16_t button : {1, 2, 4}) {
+  for (const auto button : std::initializer_list<std::int16_t>{1, 2, 4}) {
     if ((held_ & button) == 0) continue;
     letGo(button);
     if (control_) control_->UserControl_MouseUp(button, 0, -1, -1);
