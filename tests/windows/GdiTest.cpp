@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 #include <nvlist/platform/windows/GdiSurface.h>
+#include <nvlist/values/Failure.h>
 
 #include <cstdlib>
 
