@@ -10,19 +10,7 @@
 
 namespace {
 
-QWidget& childOf(const QWidget& widget, int index) {
-  return *widget.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly).at(index);
-}
-
-void send(QWidget& widget, QEvent::Type type, QPointF point) {
-  const bool isDown = type != QEvent::MouseButtonRelease;
-  const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
-  QMouseEvent event(type, point, widget.mapToGlobal(point), button,
-                    isDown ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
-  QApplication::sendEvent(&widget, &event);
-}
-
-/// A full list on the screen, with its vertical bar and the parts of that.
+/// A full list on the screen, with its vertical bar.
 struct ScrolledList {
   explicit ScrolledList(int count) : widget(makeNvList(false)) {
     fill(widget->list(), count);
@@ -32,17 +20,24 @@ struct ScrolledList {
     QApplication::processEvents();
   }
 
+  /// The mouse, at a point of the bar.
+  void send(QEvent::Type type, QPoint point) {
+    const bool isDown = type != QEvent::MouseButtonRelease;
+    const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    const QPointF at = point + bar.geometry().topLeft();
+    QMouseEvent event(type, at, widget->mapToGlobal(at), button,
+                      isDown ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(widget.get(), &event);
+  }
+
   std::unique_ptr<norvane::NvListWidget> widget;
-  QWidget& bar = childOf(*widget, 0);
-  QWidget& thumb = childOf(bar, 0);
-  QWidget& upButton = childOf(bar, 1);
-  QWidget& downButton = childOf(bar, 2);
+  norvane::QtPlace& bar = static_cast<norvane::QtPlace&>(*widget->place().places().at(0));
 };
 
 /// One repaint of the list and one of the track, seen on the screen.
 void repaintOnce(ScrolledList& list) {
   list.widget->list().Redraw();
-  list.bar.update();
+  list.widget->update(list.bar.geometry());
   QApplication::processEvents();
 }
 
@@ -52,9 +47,10 @@ void addScrollByOneRow(int count) {
   addShared(work, subject::nvList, false, prepare, [](auto& list) {
     // There and back again would be two; the buttons take turns.
     static bool isDown = false;
-    QWidget& button = (isDown = !isDown) ? list->downButton : list->upButton;
-    send(button, QEvent::MouseButtonPress, {8, 8});
-    send(button, QEvent::MouseButtonRelease, {8, 8});
+    isDown = !isDown;
+    const QPoint button(8, isDown ? list->bar.geometry().height() - 8 : 8);
+    list->send(QEvent::MouseButtonPress, button);
+    list->send(QEvent::MouseButtonRelease, button);
     QApplication::processEvents();
   });
   addShared(work, subject::floor, false, prepare, [](auto& list) { repaintOnce(*list); });
@@ -66,13 +62,11 @@ void addDrag(int count) {
   // End to end and back, a pixel at a time, each with a repaint on the screen.
   constexpr int length = 240;
   addShared(work, subject::nvList, false, prepare, [](auto& list) {
-    const auto to = [&](int y) {
-      send(list->thumb, QEvent::MouseMove, list->thumb.mapFrom(&list->bar, QPoint(8, y)));
-    };
-    send(list->thumb, QEvent::MouseButtonPress, {8, 3});
+    const auto to = [&](int y) { list->send(QEvent::MouseMove, {8, y}); };
+    list->send(QEvent::MouseButtonPress, {8, 20});
     for (int i = 0; i < length; ++i) to(20 + i);
     for (int i = length; i > 0; --i) to(20 + i);
-    send(list->thumb, QEvent::MouseButtonRelease, {8, 3});
+    list->send(QEvent::MouseButtonRelease, {8, 20});
   });
   addShared(work, subject::floor, false, prepare, [](auto& list) {
     for (int i = 0; i < 2 * length; ++i) repaintOnce(*list);

@@ -52,16 +52,16 @@ class nvList final : public UserControl,
 
   /// Brings a new control to its defaults and paints it. The platform calls this or
   /// UserControl_ReadProperties once, before anything else.
-  void UserControl_InitProperties();
+  void UserControl_InitProperties() override;
   /// Sets every property of this control to what is stored, or to its default. The list is empty
   /// afterwards: items are not stored. A stored value that its property cannot take is a failure,
   /// which ends the reading there; nothing is painted then until the properties are read again.
   /// (Under SilentError the rest is read.)
-  void UserControl_ReadProperties(const PropertyBag& PropBag);
+  void UserControl_ReadProperties(const PropertyBag& PropBag) override;
   /// Stores every property that differs from its default. core/storedProperties.h lists them.
-  void UserControl_WriteProperties(PropertyBag& PropBag);
+  void UserControl_WriteProperties(PropertyBag& PropBag) override;
 
-  void UserControl_Terminate();
+  void UserControl_Terminate() override;
 
   // ---- input: input/mouse.cpp, hover.cpp, keyboard.cpp, focus.cpp, wheelScroll.cpp ----
 

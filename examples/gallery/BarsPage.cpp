@@ -1,13 +1,12 @@
 // The page of the scroll bars: every look of theirs, enlarged, and some to use.
 
-#include <QCoreApplication>
 #include <QGridLayout>
 #include <QLabel>
-#include <QMouseEvent>
 #include <QScrollArea>
 #include <QVBoxLayout>
 #include <memory>
 
+#include <nvlist/platform/UserControl.h>
 #include <nvlist/platform/qt/NvScrollWidget.h>
 
 #include "Pages.h"
@@ -21,6 +20,8 @@ namespace {
 
 constexpr int enlargement = 3;
 constexpr int specimenLength = 56;
+/// A point inside of each part of a bar, across and along.
+constexpr float insidePart = 8;
 
 struct Family {
   const char* name;
@@ -64,19 +65,7 @@ void setStyle(nvHScroll& bar, const Family& family) {
   bar.SetNewProperty(bag);
 }
 
-/// The thumb and the two buttons.
-QList<QWidget*> partsOf(QWidget& widget) {
-  QWidget* bar = widget.findChild<QWidget*>({}, Qt::FindDirectChildrenOnly);
-  return bar->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
-}
-
-void send(QWidget* part, QEvent::Type type, Qt::MouseButton button) {
-  const QPointF centre = QRectF(part->rect()).center();
-  QMouseEvent event(type, centre, part->mapToGlobal(centre), button, button, Qt::NoModifier);
-  QCoreApplication::sendEvent(part, &event);
-}
-
-/// A real bar whose parts all feel the mouse at once, enlarged.
+/// A real bar, enlarged; each of its parts gets a mouse of its own.
 template <class Bar>
 QPixmap specimen(const Family& family, State state) {
   NvScrollWidget<Bar> widget;
@@ -87,10 +76,12 @@ QPixmap specimen(const Family& family, State state) {
   widget.bar().Value(3);
   setStyle(widget.bar(), family);
   if (state == State::disabled) widget.bar().Enabled(false);
-  for (QWidget* part : partsOf(widget)) {
+  // The thumb and the two buttons.
+  for (norvane::Place* part : widget.place().places()[0]->places()) {
     if (state == State::hovered || state == State::pressed)
-      send(part, QEvent::MouseMove, Qt::NoButton);
-    if (state == State::pressed) send(part, QEvent::MouseButtonPress, Qt::LeftButton);
+      part->control()->UserControl_MouseMove(0, 0, insidePart, insidePart);
+    if (state == State::pressed)
+      part->control()->UserControl_MouseDown(1, 0, insidePart, insidePart);
   }
   const QPixmap pixmap = widget.grab();
   return pixmap.scaled(pixmap.size() * enlargement);

@@ -9,6 +9,8 @@
 
 namespace norvane {
 
+class PropertyBag;
+
 /// Base of every control of the library: the list, its scroll bars, their thumbs and buttons.
 ///
 /// A platform calls the notifications, with positions in pixels of the control's own surface. The
@@ -18,6 +20,19 @@ class UserControl {
   UserControl(const UserControl&) = delete;
   UserControl& operator=(const UserControl&) = delete;
   virtual ~UserControl();
+
+  // ---- start, end and property store ----
+
+  /// Sets the defaults of a new control. A platform calls this or UserControl_ReadProperties once,
+  /// before anything else.
+  virtual void UserControl_InitProperties() {}
+  /// Sets each property to its stored value, or to its default.
+  virtual void UserControl_ReadProperties(const PropertyBag&) {}
+  /// Stores each property that differs from its default.
+  virtual void UserControl_WriteProperties(PropertyBag&) {}
+  /// Gives up what the control holds outside of itself, such as the wheel hook. A control that
+  /// needs this does it when it is destroyed, too; a second time does nothing.
+  virtual void UserControl_Terminate() {}
 
   // ---- notifications of the platform ----
 

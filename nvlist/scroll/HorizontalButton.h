@@ -45,7 +45,7 @@ class HorizontalButton : public UserControl {
   void UC_MDown();
   void UC_MUp();
 
-  void UserControl_InitProperties();
+  void UserControl_InitProperties() override;
   void UserControl_MouseDown(std::int16_t Button, std::int16_t Shift, float X, float Y) override;
   void UserControl_MouseMove(std::int16_t Button, std::int16_t Shift, float X, float Y) override;
   void UserControl_MouseUp(std::int16_t Button, std::int16_t Shift, float X, float Y) override;

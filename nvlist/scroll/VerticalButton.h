@@ -30,7 +30,7 @@ class VerticalButton : public UserControl {
   void UC_MUp();
 
   /// Paints the button at rest.
-  void UserControl_InitProperties();
+  void UserControl_InitProperties() override;
   void UserControl_MouseDown(std::int16_t Button, std::int16_t Shift, float X, float Y) override;
   void UserControl_MouseMove(std::int16_t Button, std::int16_t Shift, float X, float Y) override;
   void UserControl_MouseUp(std::int16_t Button, std::int16_t Shift, float X, float Y) override;

@@ -79,11 +79,11 @@ class nvVScroll final : public UserControl,
   const std::string& Tag() const { return tag_; }
   void Tag(std::string_view value) { tag_ = value; }
 
-  void UserControl_InitProperties();
+  void UserControl_InitProperties() override;
   /// Keys and defaults are those of UserControl_WriteProperties. Each value goes through its
   /// setter, so that a minimum above the maximum of the moment is refused.
-  void UserControl_ReadProperties(const PropertyBag& PropBag);
-  void UserControl_WriteProperties(PropertyBag& PropBag);
+  void UserControl_ReadProperties(const PropertyBag& PropBag) override;
+  void UserControl_WriteProperties(PropertyBag& PropBag) override;
   void UserControl_MouseDown(std::int16_t Button, std::int16_t Shift, float X, float Y) override;
   void UserControl_MouseUp(std::int16_t Button, std::int16_t Shift, float X, float Y) override;
   void UserControl_Resize() override;

@@ -55,6 +55,10 @@ class NvScrollWidgetTest : public testing::Test {
     QTest::mouseRelease(form.windowHandle(), Qt::LeftButton, {}, at(along));
   }
 
+  QRect thumb() {
+    return static_cast<QtPlace&>(*widget->place().places()[0]->places()[0]).geometry();
+  }
+
   QWidget form;
   QPointer<Widget> widget{new Widget};
   std::string told;
@@ -78,7 +82,7 @@ TYPED_TEST(NvScrollWidgetTest, theThumbStandsByItsValueAtEachNewLength) {
   this->widget->bar().Value(100);
   for (const int length : {300, 150}) {
     this->length(length);
-    const QRect thumb = this->widget->childAt(this->at(length - 18))->geometry();
+    const QRect thumb = this->thumb();
     EXPECT_EQ(TestFixture::isVertical ? thumb.bottom() : thumb.right(), length - 18);
     EXPECT_EQ(TestFixture::isVertical ? thumb.height() : thumb.width(), length - 34 - 100);
   }
@@ -120,7 +124,7 @@ TYPED_TEST(NvScrollWidgetTest, aPressEndsAlsoWhereAHandlerTakesTheMouseAway) {
   this->release(60);
   QTest::qWait(10);
   this->widget->bar().Value(0);
-  const QPoint thumb = this->widget->childAt(this->at(20))->pos();
+  const QPoint thumb = this->thumb().topLeft();
   EXPECT_EQ(TestFixture::isVertical ? thumb.y() : thumb.x(), 17);
 }
 

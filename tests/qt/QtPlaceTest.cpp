@@ -20,7 +20,7 @@ TEST(QtPlaceTest, PacksAMessageOfTheWheel) {
     explicit Control(Container& place) : UserControl(place) {}
   };
   QWidget widget;
-  QtPlace place(widget, nullptr);
+  QtPlace place(widget);
   Control control(place);
   std::uint32_t first = 0;
   std::uint32_t second = 0;

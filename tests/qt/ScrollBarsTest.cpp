@@ -15,14 +15,14 @@
 namespace norvane {
 namespace {
 
-/// A control inside another one, by the order of their making.
-QWidget* childOf(const QWidget& widget, int index) {
-  return widget.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly).at(index);
+/// The place of a control in another one, by the order of their creation.
+QtPlace& childOf(const Place& place, std::size_t index) {
+  return static_cast<QtPlace&>(*place.places().at(index));
 }
 
-constexpr int thumb = 0;
-constexpr int nearButton = 1;
-constexpr int farButton = 2;
+constexpr std::size_t thumb = 0;
+constexpr std::size_t nearButton = 1;
+constexpr std::size_t farButton = 2;
 
 /// A list of 200 by 150 on a form, with a hundred long texts and both bars.
 class ScrollBarsTest : public testing::Test, protected __nvList {
@@ -52,7 +52,7 @@ class ScrollBarsTest : public testing::Test, protected __nvList {
 
   void MouseDown(std::int16_t&, std::int16_t&, float&, float&) override { ++heardPresses; }
 
-  /// The mouse as its system tells of it: while the button is down all goes to the window.
+  /// The mouse as its system reports it: while the button is down all goes to the window.
   void moveTo(const QWidget& over, QPoint point) {
     mouse = over.mapTo(&form, point);
     if (isDown)
@@ -61,7 +61,11 @@ class ScrollBarsTest : public testing::Test, protected __nvList {
       QCursor::setPos(form.mapToGlobal(mouse));
     QCoreApplication::processEvents();
   }
-  void press(const QWidget& over, QPoint point) {
+  void moveTo(const QtPlace& over, QPoint point) {
+    moveTo(widget, over.geometry().topLeft() + point);
+  }
+  template <class Over>
+  void press(const Over& over, QPoint point) {
     moveTo(over, point);
     isDown = true;
     QTest::mousePress(form.windowHandle(), Qt::LeftButton, {}, mouse);
@@ -72,8 +76,9 @@ class ScrollBarsTest : public testing::Test, protected __nvList {
     moveTo(form, mouse);
   }
 
-  static QImage picture(QWidget& of) {
-    return of.grab().toImage().convertToFormat(QImage::Format_RGB32);
+  QImage picture() { return widget.grab().toImage().convertToFormat(QImage::Format_RGB32); }
+  QImage picture(const QtPlace& of) {
+    return widget.grab(of.geometry()).toImage().convertToFormat(QImage::Format_RGB32);
   }
 
   /// Runs events until the list has scrolled so often; false if that takes far too long.
@@ -92,8 +97,8 @@ class ScrollBarsTest : public testing::Test, protected __nvList {
   QWidget form;
   NvListWidget widget{&form};
   nvList& list = widget.list();
-  QWidget& vertical = *childOf(widget, 0);
-  QWidget& horizontal = *childOf(widget, 1);
+  QtPlace& vertical = childOf(widget.place(), 0);
+  QtPlace& horizontal = childOf(widget.place(), 1);
   QPoint mouse;
   bool isDown = false;
   int scrolls = 0;
@@ -102,14 +107,15 @@ class ScrollBarsTest : public testing::Test, protected __nvList {
 };
 
 TEST_F(ScrollBarsTest, aHoverShowsAndEndsWhereverThePointerLeaves) {
-  for (QWidget* bar : {&vertical, &horizontal})
-    for (const int index : {thumb, nearButton, farButton}) {
-      QWidget& part = *childOf(*bar, index);
+  for (QtPlace* bar : {&vertical, &horizontal})
+    for (const std::size_t index : {thumb, nearButton, farButton}) {
+      QtPlace& part = childOf(*bar, index);
       const QImage rest = picture(part);
-      const QPoint middle = part.rect().center();
-      // Just beside each edge, where no second move follows, and far from the window.
+      const QPoint middle(part.geometry().width() / 2, part.geometry().height() / 2);
+      // The pixel behind the far edge counts as the part's own; the last point is off the window.
       for (const QPoint outside :
-           {QPoint(-1, middle.y()), QPoint(middle.x(), part.height()), QPoint(-900, -900)}) {
+           {QPoint(-1, middle.y()), QPoint(middle.x(), part.geometry().height() + 1),
+            QPoint(-900, -900)}) {
         moveTo(part, middle);
         EXPECT_NE(picture(part), rest) << index;
         moveTo(part, outside);
@@ -119,7 +125,7 @@ TEST_F(ScrollBarsTest, aHoverShowsAndEndsWhereverThePointerLeaves) {
 }
 
 TEST_F(ScrollBarsTest, aHeldButtonPausesOutsideAndEndsWithTheReleaseThere) {
-  QWidget& button = *childOf(vertical, farButton);
+  QtPlace& button = childOf(vertical, farButton);
   const QImage rest = picture(button);
   press(button, {8, 8});
   const QImage pressed = picture(button);
@@ -127,7 +133,7 @@ TEST_F(ScrollBarsTest, aHeldButtonPausesOutsideAndEndsWithTheReleaseThere) {
   ASSERT_TRUE(waitForScrolls(2));
   // Some systems say that the pointer has left while a button is down; the moves tell better.
   QEvent leave(QEvent::Leave);
-  QCoreApplication::sendEvent(&button, &leave);
+  QCoreApplication::sendEvent(&widget, &leave);
   EXPECT_EQ(picture(button), pressed);
 
   moveTo(form, {-300, 240});
@@ -144,9 +150,9 @@ TEST_F(ScrollBarsTest, aHeldButtonPausesOutsideAndEndsWithTheReleaseThere) {
 }
 
 TEST_F(ScrollBarsTest, aPressOnTheTrackRepeatsUpToThePointer) {
-  const QPoint behind(2, vertical.height() - 20);
+  const QPoint behind(2, vertical.geometry().height() - 20);
   const QRgb bare = picture(vertical).pixel(behind);
-  press(vertical, {8, childOf(vertical, thumb)->geometry().bottom() + 4});
+  press(vertical, {8, childOf(vertical, thumb).geometry().bottom() + 4});
   EXPECT_NE(picture(vertical).pixel(behind), bare);
   EXPECT_TRUE(QTest::qWaitFor([&] { return picture(vertical).pixel(behind) == bare; }, 10'000));
   const int reached = list.TopIndex();
@@ -159,9 +165,9 @@ TEST_F(ScrollBarsTest, aPressOnTheTrackRepeatsUpToThePointer) {
 
 TEST_F(ScrollBarsTest, aHandlerMayEmptyTheListDuringADrag) {
   onScroll = [&] { list.ItemsClear(); };
-  press(*childOf(vertical, thumb), {8, 3});
+  press(childOf(vertical, thumb), {8, 3});
   moveTo(vertical, {8, 60});
-  EXPECT_FALSE(vertical.isVisible());
+  EXPECT_FALSE(vertical.isShown());
   moveTo(vertical, {8, 70});
   release();
 }
@@ -170,7 +176,7 @@ TEST_F(ScrollBarsTest, barsAndFrameFollowTheSizePixelByPixel) {
   widget.resize(201, 81);
   EXPECT_EQ(vertical.geometry(), QRect(183, 1, 17, 62));
   EXPECT_EQ(horizontal.geometry(), QRect(1, 63, 182, 17));
-  const QImage shown = picture(widget);
+  const QImage shown = picture();
   for (const QPoint edge : {QPoint(0, 0), QPoint(200, 9), QPoint(9, 80), QPoint(200, 80)})
     EXPECT_EQ(shown.pixel(edge), qRgb(0x7F, 0x9D, 0xB9)) << edge.x() << ", " << edge.y();
   // The square between the bars is the list's own, and the track reaches the far button.
@@ -181,7 +187,7 @@ TEST_F(ScrollBarsTest, barsAndFrameFollowTheSizePixelByPixel) {
 TEST_F(ScrollBarsTest, anotherScreenIsPaintedFor) {
   const QList<QScreen*> screens = QGuiApplication::screens();
   if (screens.size() < 2) GTEST_SKIP() << "needs a second screen of twice the resolution";
-  QWidget& button = *childOf(vertical, nearButton);
+  QtPlace& button = childOf(vertical, nearButton);
   const QImage before = picture(button);
   form.windowHandle()->setScreen(screens[1]);
   ASSERT_TRUE(QTest::qWaitFor([&] { return picture(button).width() == 2 * before.width(); }));
@@ -190,14 +196,15 @@ TEST_F(ScrollBarsTest, anotherScreenIsPaintedFor) {
   expected.setDevicePixelRatio(2);
   EXPECT_EQ(picture(button), expected);
   // The track, at its shady edge in front of the far button.
-  const QImage shown = picture(widget);
-  EXPECT_EQ(shown.pixel(2 * vertical.x(), 2 * vertical.height() - 36), qRgb(0xF3, 0xF1, 0xEC));
+  const QImage shown = picture();
+  EXPECT_EQ(shown.pixel(2 * vertical.geometry().x(), 2 * vertical.geometry().height() - 36),
+            qRgb(0xF3, 0xF1, 0xEC));
 }
 
 TEST_F(ScrollBarsTest, whatADisabledBarCoversHearsNothing) {
-  vertical.setEnabled(false);
+  vertical.enable(false);
   const int presses = heardPresses;
-  press(*childOf(vertical, farButton), {8, 8});
+  press(childOf(vertical, farButton), {8, 8});
   release();
   EXPECT_EQ(scrolls, 0);
   EXPECT_EQ(heardPresses, presses);
@@ -207,9 +214,9 @@ TEST_F(ScrollBarsTest, whatADisabledBarCoversHearsNothing) {
 }
 
 TEST_F(ScrollBarsTest, aPlaceFarOffIsStillAPlace) {
-  dynamic_cast<Container&>(vertical).move({3e11F, -3e11F, 17, 20});
-  EXPECT_GT(vertical.x(), 10'000);
-  EXPECT_LT(vertical.y(), -10'000);
+  vertical.move({3e11F, -3e11F, 17, 20});
+  EXPECT_GT(vertical.geometry().x(), 10'000);
+  EXPECT_LT(vertical.geometry().y(), -10'000);
 }
 
 }  // namespace

@@ -1,40 +1,29 @@
 #include <nvlist/platform/headless/HeadlessContainer.h>
 
-#include <algorithm>
+#include <utility>
 
-#include <nvlist/platform/UserControl.h>
 #include <nvlist/values/Failure.h>
 
 namespace norvane {
 
 HeadlessContainer::HeadlessContainer(float width, float height)
-    : ownSurface_(std::in_place, width, height),
+    : Place(nullptr),
+      ownSurface_(std::in_place, width, height),
       surface_(*ownSurface_),
-      root_(*this),
       handle_(++lastHandle_) {}
 
 HeadlessContainer::HeadlessContainer(Surface& surface)
-    : surface_(surface), root_(*this), handle_(++lastHandle_) {}
+    : Place(nullptr), surface_(surface), handle_(++lastHandle_) {}
 
 HeadlessContainer::HeadlessContainer(HeadlessContainer* parent)
-    : ownSurface_(std::in_place, 0.0F, 0.0F),
+    : Place(parent),
+      ownSurface_(std::in_place, 0.0F, 0.0F),
       surface_(*ownSurface_),
-      parent_(parent),
-      root_(parent->root_),
-      handle_(++root_.lastHandle_) {
-  parent_->children_.push_back(this);
-}
-
-HeadlessContainer::~HeadlessContainer() {
-  for (HeadlessContainer* child : children_) child->parent_ = nullptr;
-  if (parent_) std::erase(parent_->children_, this);
-  if (root_.pressed_ == this) root_.pressed_ = nullptr;
-  if (root_.captured_ == this) root_.captured_ = nullptr;
-}
+      handle_(++form().lastHandle_) {}
 
 void HeadlessContainer::attach(UserControl* control) {
-  control_ = control;
-  // Its edit boxes went with it.
+  Place::attach(control);
+  // The control has ended, and its edit boxes with it.
   if (!control) textBoxes_.clear();
 }
 
@@ -42,8 +31,14 @@ std::unique_ptr<Container> HeadlessContainer::addChild() {
   return std::unique_ptr<Container>(new HeadlessContainer(this));
 }
 
+std::vector<HeadlessContainer*> HeadlessContainer::children() const {
+  std::vector<HeadlessContainer*> result;
+  for (Place* place : places()) result.push_back(static_cast<HeadlessContainer*>(place));
+  return result;
+}
+
 std::unique_ptr<Timer> HeadlessContainer::addTimer(std::function<void()> tick) {
-  return root_.clock_.addTimer(std::move(tick));
+  return form().clock_.addTimer(std::move(tick));
 }
 
 std::unique_ptr<TextBox> HeadlessContainer::addTextBox(
@@ -53,25 +48,12 @@ std::unique_ptr<TextBox> HeadlessContainer::addTextBox(
   return box;
 }
 
-bool HeadlessContainer::turnWheel(std::int16_t delta) {
-  // A copy, as the control may end the hook.
-  const auto procedure = wheelProcedure_;
-  if (!procedure) return false;
-  procedure(std::int32_t{delta} * 0x10000, 0);
-  return true;
-}
-
-void HeadlessContainer::paintLater() {
-  isPaintPending_ = true;
+void HeadlessContainer::changed() {
   if (!ownSurface_) {
     paintPending();
   } else if (!ownSurface_->beforeLook) {
     ownSurface_->beforeLook = [this] { paintPending(); };
   }
-}
-
-void HeadlessContainer::paintPending() {
-  if (std::exchange(isPaintPending_, false) && control_) control_->UserControl_Paint();
 }
 
 RecordingSurface& HeadlessContainer::ownSurface() {
@@ -80,103 +62,46 @@ RecordingSurface& HeadlessContainer::ownSurface() {
 }
 
 void HeadlessContainer::PropertyChanged(std::string_view property) {
-  // A copy, as a handler may take itself away.
+  // A copy: the handler may replace itself.
   const auto handler = onPropertyChanged;
   if (handler) handler(property);
 }
 
 void HeadlessContainer::DoEvents() {
-  if (root_.queue_.empty()) return;
-  const std::function<void()> message = std::move(root_.queue_.front());
-  root_.queue_.pop_front();
+  auto& queue = form().queue_;
+  if (queue.empty()) return;
+  const std::function<void()> message = std::move(queue.front());
+  queue.pop_front();
   if (message) message();
 }
 
 void HeadlessContainer::move(const Bounds& bounds) {
-  bounds_ = bounds;
+  Place::move(bounds);
   ownSurface().resize(bounds.Width, bounds.Height);
 }
 
-HeadlessContainer* HeadlessContainer::hit(Point point) {
-  for (auto child = children_.rbegin(); child != children_.rend(); ++child) {
-    const Bounds& place = (*child)->bounds_;
-    const Point inside{point.x - place.Left, point.y - place.Top};
-    const bool isInside = inside.x >= 0 && inside.y >= 0 && inside.x < place.Width &&
-                          inside.y < place.Height && (*child)->isVisible_;
-    if (!isInside) continue;
-    // What a disabled control covers hears nothing either.
-    return (*child)->isEnabled_ ? (*child)->hit(inside) : nullptr;
-  }
-  return isEnabled_ ? this : nullptr;
-}
-
-HeadlessContainer* HeadlessContainer::hitOnForm(Point point) {
-  const Surface& form = root_.surface_;
-  const bool isInside =
-      point.x >= 0 && point.y >= 0 && point.x < form.ScaleWidth() && point.y < form.ScaleHeight();
-  return isInside ? root_.hit(point) : nullptr;
-}
-
-HeadlessContainer::Point HeadlessContainer::onRoot(Point point) const {
-  for (const HeadlessContainer* place = this; place->parent_; place = place->parent_)
-    point = {point.x + place->bounds_.Left, point.y + place->bounds_.Top};
-  return point;
-}
-
-HeadlessContainer::Point HeadlessContainer::fromRoot(Point point) const {
-  const Point origin = onRoot({0, 0});
-  return {point.x - origin.x, point.y - origin.y};
-}
-
 void HeadlessContainer::press(float x, float y, std::int16_t button, std::int16_t shift) {
-  const Point point = onRoot({x, y});
-  HeadlessContainer* const target = root_.pressed_ ? root_.pressed_ : hitOnForm(point);
-  if (!target || !target->control_) return;
-  root_.pressed_ = target;
-  root_.buttonsDown_ |= button;
-  if (button == 1) root_.isDoubleClick_ = false;
-  const Point own = target->fromRoot(point);
-  target->control_->UserControl_MouseDown(button, shift, own.x, own.y);
+  mouse().press(toRoot({x, y}), button, shift);
 }
 
 void HeadlessContainer::doubleClick(float x, float y, std::int16_t button, std::int16_t shift) {
-  const Point point = onRoot({x, y});
-  HeadlessContainer* const target = hitOnForm(point);
-  if (!target || !target->control_) return;
-  root_.pressed_ = target;
-  root_.buttonsDown_ |= button;
-  root_.isDoubleClick_ = button == 1 && target->control_->UserControl_DblClick();
-  if (!root_.isDoubleClick_) press(x, y, button, shift);
+  mouse().doubleClick(toRoot({x, y}), button, shift);
 }
 
 void HeadlessContainer::moveTo(float x, float y, std::int16_t buttons, std::int16_t shift) {
-  const Point point = onRoot({x, y});
-  const auto tell = [&](HeadlessContainer* target) {
-    if (!target || !target->control_) return;
-    const Point own = target->fromRoot(point);
-    target->control_->UserControl_MouseMove(buttons, shift, own.x, own.y);
-  };
-  if (root_.pressed_) {
-    tell(root_.pressed_);
-    return;
-  }
-  HeadlessContainer* const under = hitOnForm(point);
-  if (root_.captured_ != under) tell(root_.captured_);
-  tell(under);
+  mouse().move(toRoot({x, y}), buttons, shift);
 }
 
 void HeadlessContainer::release(float x, float y, std::int16_t button, std::int16_t shift) {
-  HeadlessContainer* const target = root_.pressed_;
-  root_.buttonsDown_ &= ~button;
-  if (!target || !target->control_) return;
-  const Point point = onRoot({x, y});
-  const Point own = target->fromRoot(point);
-  const bool isClick = button == 1 && !root_.isDoubleClick_ && hitOnForm(point) == target;
-  target->control_->UserControl_MouseUp(button, shift, own.x, own.y);
-  // The handler may have ended the control.
-  const bool isStillThere = root_.pressed_ == target;
-  if (root_.buttonsDown_ == 0) root_.pressed_ = nullptr;
-  if (isStillThere && isClick) target->control_->UserControl_Click();
+  mouse().release(toRoot({x, y}), button, shift);
+}
+
+bool HeadlessContainer::turnWheel(std::int16_t delta) {
+  // A copy: the control may end the hook.
+  const auto procedure = wheelProcedure_;
+  if (!procedure) return false;
+  procedure(std::int32_t{delta} * 0x10000, 0);
+  return true;
 }
 
 }  // namespace norvane

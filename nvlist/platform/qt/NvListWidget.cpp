@@ -1,12 +1,14 @@
 #include <nvlist/platform/qt/NvListWidget.h>
 
+#include <QPaintEvent>
+
 #include <nvlist/platform/qt/QtApplication.h>
 
 namespace norvane {
 
 /// The list and its place, which may have to live a little longer than the widget.
 struct NvListWidget::Core {
-  explicit Core(QWidget& widget) : place(widget, nullptr), list(place) {}
+  explicit Core(QWidget& widget) : place(widget), list(place) {}
 
   QtPlace place;
   nvList list;
@@ -17,7 +19,7 @@ NvListWidget::NvListWidget(QWidget* parent)
   QtApplication::ensure();
   setFocusPolicy(Qt::StrongFocus);
   core_->place.onPropertyChanged = [this](std::string_view name) {
-    // A copy, as a handler may take itself away.
+    // A copy: the handler may replace itself.
     const auto handler = onPropertyChanged;
     if (handler) handler(name);
   };
@@ -34,6 +36,8 @@ NvListWidget::~NvListWidget() {
   QtPlace::endLater(std::move(core_));
 }
 
+QtPlace& NvListWidget::place() { return core_->place; }
+
 nvList& NvListWidget::list() { return core_->list; }
 
 bool NvListWidget::isDesignMode() const { return core_->place.isDesignMode; }
@@ -49,7 +53,7 @@ bool NvListWidget::event(QEvent* event) {
   return (core_ && core_->place.event(event)) || QWidget::event(event);
 }
 
-void NvListWidget::paintEvent(QPaintEvent*) { core_->place.paint(); }
+void NvListWidget::paintEvent(QPaintEvent* event) { core_->place.paint(event->region()); }
 
 void NvListWidget::resizeEvent(QResizeEvent*) {
   core_->place.resize();

@@ -25,6 +25,8 @@ class NvListWidget : public QWidget {
 
   /// Lives as long as the widget; a handler of one of its events may end the widget.
   nvList& list();
+  /// The place of the list, with those of its bars. Lives as long as the widget.
+  QtPlace& place();
 
   /// Whether the list shows the preview of a form designer instead of its items. Default: false.
   bool isDesignMode() const;

@@ -1,5 +1,6 @@
 #include <nvlist/platform/qt/NvScrollWidget.h>
 
+#include <QPaintEvent>
 #include <type_traits>
 
 #include <nvlist/platform/qt/QtApplication.h>
@@ -26,7 +27,7 @@ QSize sizeOf(int length) {
 template <class Bar>
 struct NvScrollWidget<Bar>::Core final : nvVScrollEvents, nvHScrollEvents {
   explicit Core(NvScrollWidget& owner)
-      : widget(&owner), place(owner, nullptr), bar(place.addChild(), *this) {}
+      : widget(&owner), place(owner), bar(place.addChild(), *this) {}
 
   void VScroll1_Change() override { tell(&NvScrollWidget::onChange); }
   void VScroll1_Scroll() override { tell(&NvScrollWidget::onScroll); }
@@ -73,6 +74,11 @@ Bar& NvScrollWidget<Bar>::bar() {
 }
 
 template <class Bar>
+QtPlace& NvScrollWidget<Bar>::place() {
+  return core_->place;
+}
+
+template <class Bar>
 QSize NvScrollWidget<Bar>::sizeHint() const {
   return sizeOf<Bar>(usualLength);
 }
@@ -83,7 +89,19 @@ QSize NvScrollWidget<Bar>::minimumSizeHint() const {
 }
 
 template <class Bar>
+bool NvScrollWidget<Bar>::event(QEvent* event) {
+  // Events come before the bar exists, and after it.
+  return (core_ && core_->place.event(event)) || QWidget::event(event);
+}
+
+template <class Bar>
+void NvScrollWidget<Bar>::paintEvent(QPaintEvent* event) {
+  core_->place.paint(event->region());
+}
+
+template <class Bar>
 void NvScrollWidget<Bar>::resizeEvent(QResizeEvent*) {
+  core_->place.resize();
   bar().Move({0, 0, static_cast<float>(width()), static_cast<float>(height())});
   // Where the thumb takes its length from the new one, and then its place.
   bar().UserControl_Show();

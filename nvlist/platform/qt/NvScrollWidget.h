@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 
+#include <nvlist/platform/qt/QtPlace.h>
 #include <nvlist/scroll/nvHScroll.h>
 #include <nvlist/scroll/nvVScroll.h>
 
@@ -28,6 +29,8 @@ class NvScrollWidget : public QWidget {
   /// Lives as long as the widget; a handler of one of its events may end the widget. Place, size
   /// and visibility of the bar are the widget's to set.
   Bar& bar();
+  /// The place around that of the bar. Lives as long as the widget.
+  QtPlace& place();
 
   /// Told after a step of a button or of the track, also at an end of the range, and when the thumb
   /// is let go. Default: none.
@@ -40,6 +43,8 @@ class NvScrollWidget : public QWidget {
   QSize minimumSizeHint() const override;
 
  protected:
+  bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:

@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScopeGuard>
+#include <QScopedValueRollback>
 #include <QTimer>
 #include <QWheelEvent>
 #include <algorithm>
@@ -33,22 +35,10 @@ constexpr int mostEventLoops = 16;
 /// In pixels; further than any screen, and no widget takes more.
 constexpr float farOut = 1 << 24;
 
-/// A control inside another one.
-class ChildWidget final : public QWidget, public QtPlace {
- public:
-  ChildWidget(QWidget* parent, QtPlace* around)
-      : QWidget(parent), QtPlace(static_cast<QWidget&>(*this), around) {
-    QWidget::show();
-  }
+std::int16_t shiftNow() { return shiftOf(QGuiApplication::keyboardModifiers()); }
 
-  bool event(QEvent* event) override { return QtPlace::event(event) || QWidget::event(event); }
-
- protected:
-  void paintEvent(QPaintEvent*) override { paint(); }
-};
-
-/// Tells when a window that is being pressed will not hear of the release: it has gone, or a modal
-/// dialog stands in front of it.
+/// Calls back when a window will not get the release of a pressed button: it is hidden, or a modal
+/// dialog has opened in front of it.
 class HoldWatch final : public QObject {
  public:
   HoldWatch(QWidget& window, std::function<void()> onLost) : onLost_(std::move(onLost)) {
@@ -57,7 +47,7 @@ class HoldWatch final : public QObject {
 
  protected:
   bool eventFilter(QObject*, QEvent* event) override {
-    // Not at once: this may be in the middle of the press.
+    // Later, since this may be in the middle of the press.
     if (event->type() == QEvent::WindowBlocked || event->type() == QEvent::Hide)
       QTimer::singleShot(0, this, onLost_);
     return false;
@@ -69,30 +59,24 @@ class HoldWatch final : public QObject {
 
 }  // namespace
 
-QtPlace::QtPlace(QWidget& widget, QtPlace* around) : widget_(&widget), around_(around) {
-  if (around_) around_->children_.push_back(this);
+QtPlace::QtPlace(QWidget& widget) : Place(nullptr), widget_(&widget) {
   widget_->setMouseTracking(true);
   surface_.setPalette(widget_->palette());
-  newImage();
-  surface_.onDrawn = [this] {
-    if (widget_ && !isPainting_) widget_->update();
-  };
+  newImage(widget_->size());
+  surface_.onDrawn = [this] { changed(); };
 }
 
-QtPlace::~QtPlace() {
-  if (around_) std::erase(around_->children_, this);
-  for (QtPlace* child : children_) child->around_ = nullptr;
+QtPlace::QtPlace(QtPlace* around) : Place(around) {
+  if (const QWidget* const widget = form().widget_) surface_.setPalette(widget->palette());
+  newImage({});
+  surface_.onDrawn = [this] { changed(); };
 }
 
-void QtPlace::detach() {
-  for (QtPlace* child : children_) {
-    QWidget* const widget = child->widget_;
-    child->detach();
-    // The control in it owns the widget, not the one around it.
-    if (widget) widget->hide();
-    if (widget) widget->setParent(nullptr);
-  }
-  widget_ = nullptr;
+QtPlace::~QtPlace() { surface_.onDrawn = nullptr; }
+
+void QtPlace::attach(UserControl* control) {
+  Place::attach(control);
+  setOpaque();
 }
 
 void QtPlace::endLater(std::shared_ptr<void> control) {
@@ -101,13 +85,17 @@ void QtPlace::endLater(std::shared_ptr<void> control) {
 }
 
 std::unique_ptr<Container> QtPlace::addChild() {
-  return std::make_unique<ChildWidget>(widget_, this);
+  return std::unique_ptr<Container>(new QtPlace(this));
 }
 
 std::unique_ptr<TextBox> QtPlace::addTextBox(std::function<void(std::int16_t&)> keyPress) {
-  return std::make_unique<QtTextBox>(*widget_, std::move(keyPress), [this](QEvent::Type type) {
-    if (control_) focusEvent(type, FocusOf::editBox);
-  });
+  return std::make_unique<QtTextBox>(*form().widget_, std::move(keyPress),
+                                     [this](QEvent::Type type) {
+                                       if (type == QEvent::Enter)
+                                         mouse().pointerLeft(shiftNow());
+                                       else if (control())
+                                         focusEvent(type, FocusOf::editBox);
+                                     });
 }
 
 std::unique_ptr<Timer> QtPlace::addTimer(std::function<void()> tick) {
@@ -116,18 +104,27 @@ std::unique_ptr<Timer> QtPlace::addTimer(std::function<void()> tick) {
 
 void QtPlace::PropertyChanged(std::string_view name) {
   if (!onPropertyChanged) return;
-  // A copy, as a handler may take itself away.
+  // A copy: the handler may replace itself.
   const auto handler = onPropertyChanged;
   handler(name);
 }
 
-Boolean QtPlace::UserMode() { return around_ ? around_->UserMode() : Boolean(!isDesignMode); }
+Boolean QtPlace::UserMode() { return !form().isDesignMode; }
 
-norvane::Font QtPlace::AmbientFont() { return widget_ ? fontFrom(widget_->font()) : nullptr; }
+norvane::Font QtPlace::AmbientFont() {
+  const QWidget* const widget = form().widget_;
+  return widget ? fontFrom(widget->font()) : nullptr;
+}
 
-std::string QtPlace::Name() { return widget_ ? widget_->objectName().toStdString() : ""; }
+std::string QtPlace::Name() {
+  const QWidget* const widget = form().widget_;
+  return widget ? widget->objectName().toStdString() : "";
+}
 
-std::int32_t QtPlace::hwnd() { return widget_ ? handleOf(*widget_) : 0; }
+std::int32_t QtPlace::hwnd() {
+  QWidget* const widget = form().widget_;
+  return widget ? handleOf(*widget) : 0;
+}
 
 /// Looks at the clock once in a while only: loops over a million items ask.
 bool QtPlace::EventsWaiting() {
@@ -137,97 +134,133 @@ bool QtPlace::EventsWaiting() {
 
 void QtPlace::DoEvents() {
   if (eventLoops >= mostEventLoops) return;
-  ++eventLoops;
-  QCoreApplication::processEvents();
-  --eventLoops;
-  lastDone = SteadyClock::now();
+  const QScopedValueRollback<int> inLoop(eventLoops, eventLoops + 1);
+  const QScopeGuard done([] { lastDone = SteadyClock::now(); });
+  const auto handler = form().onYieldFailure;
+  try {
+    QCoreApplication::processEvents();
+  } catch (...) {
+    if (!handler) throw;
+    handler(std::current_exception());
+  }
 }
 
+// ---- where it is and what it shows ----
+
 void QtPlace::move(const Bounds& bounds) {
-  if (!widget_) return;
   // A thumb may be sent far off its track.
   const auto rounded = [](float length) {
-    return static_cast<int>(std::lrint(std::clamp(length, -farOut, farOut)));
+    return std::nearbyint(std::clamp(length, -farOut, farOut));
   };
-  widget_->setGeometry(rounded(bounds.Left), rounded(bounds.Top), rounded(bounds.Width),
-                       rounded(bounds.Height));
-  // A hidden widget is not told of its size.
-  resize();
+  const QRect before = geometry();
+  Place::move(
+      {rounded(bounds.Left), rounded(bounds.Top), rounded(bounds.Width), rounded(bounds.Height)});
+  const QSize size(static_cast<int>(this->bounds().Width), static_cast<int>(this->bounds().Height));
+  if (size != surface_.size()) newImage(size);
+  if (geometry() == before) return;
+  showAnew(before);
+  showAnew(geometry());
 }
 
 void QtPlace::show(bool isVisible) {
-  if (widget_) widget_->setVisible(isVisible);
+  if (isVisible == this->isVisible()) return;
+  Place::show(isVisible);
+  showAnew(geometry());
 }
 
-void QtPlace::enable(bool isEnabled) {
-  if (widget_) widget_->setEnabled(isEnabled);
+QRect QtPlace::geometry() const {
+  const Point origin = toRoot({});
+  return {static_cast<int>(origin.x), static_cast<int>(origin.y),
+          static_cast<int>(surface_.ScaleWidth()), static_cast<int>(surface_.ScaleHeight())};
 }
 
-void QtPlace::hookWheel(std::function<void(std::int32_t, std::int32_t)> procedure) {
-  wheelProcedure_ = std::move(procedure);
+void QtPlace::showAnew(const QRect& area) {
+  const QtPlace& all = form();
+  if (all.widget_ && !all.isPainting_ && (!parent() || parent()->isShown()))
+    all.widget_->update(area);
 }
 
-void QtPlace::paintLater() {
-  if (std::exchange(isPaintPending_, true) || !widget_) return;
-  widget_->update();
+void QtPlace::changed() {
+  if (isShown()) showAnew(geometry());
 }
 
 void QtPlace::resize() {
-  if (widget_->size() != surface_.size()) newImage();
+  if (widget_->size() != surface_.size()) newImage(widget_->size());
 }
 
-void QtPlace::newImage() {
+void QtPlace::newImage(QSize size) {
+  const QWidget* const widget = form().widget_;
+  surface_.resize(size, widget ? widget->devicePixelRatioF() : 1);
+  setOpaque();
+}
+
+/// With a broken ratio the edges of the widget lie inside pixels, which the image may not reach:
+/// what is behind the widget has to be painted there. Without a control there is nothing to show.
+void QtPlace::setOpaque() {
+  if (!widget_) return;
   const qreal ratio = widget_->devicePixelRatioF();
-  surface_.resize(widget_->size(), ratio);
-  // With a broken ratio the edges of a widget lie inside pixels, which the image may not reach:
-  // what is behind the widget has to be painted there.
-  widget_->setAttribute(Qt::WA_OpaquePaintEvent, ratio == std::floor(ratio));
+  widget_->setAttribute(Qt::WA_OpaquePaintEvent, control() && ratio == std::floor(ratio));
 }
 
-/// The look of the screen or of the program has changed; what was drawn before is of no use.
-void QtPlace::renewImage() {
-  if (!widget_) return;
-  surface_.setPalette(widget_->palette());
-  newImage();
-  isPaintPending_ = false;
-  if (control_) control_->UserControl_Paint();
+/// The look of the screen or of the program has changed, and the images are of no use any more.
+void QtPlace::renewImages() {
+  const QWidget* const widget = form().widget_;
+  if (!widget) return;
+  surface_.setPalette(widget->palette());
+  newImage(surface_.size());
+  if (control()) control()->UserControl_Paint();
+  for (Place* place : places()) static_cast<QtPlace*>(place)->renewImages();
 }
 
-void QtPlace::paint() {
+void QtPlace::paint(const QRegion& region) {
   if (!widget_) return;
-  if (std::exchange(isPaintPending_, false) && control_) {
-    isPainting_ = true;
-    control_->UserControl_Paint();
-    isPainting_ = false;
-  }
-  QPainter(widget_).drawImage(QPointF(0, 0), surface_.image());
-  // Not every change of the ratio is told, and a control must not draw while its window is painted.
-  if (surface_.devicePixelRatio() != widget_->devicePixelRatioF())
-    QTimer::singleShot(0, widget_, [this] { renewImage(); });
+  forEachVisible([&](Place& place, Point, const Bounds&) {
+    if (!region.intersects(static_cast<QtPlace&>(place).geometry())) return;
+    // What is drawn now is shown below.
+    const QScopedValueRollback<bool> painting(isPainting_, true);
+    place.paintPending();
+  });
+  const qreal ratio = widget_->devicePixelRatioF();
+  const auto aligned = [&](float length) { return std::round(qreal{length} * ratio) / ratio; };
+  QPainter painter(widget_);
+  forEachVisible([&](Place& place, Point origin, const Bounds& clip) {
+    auto& shown = static_cast<QtPlace&>(place);
+    if (!place.control() || !region.intersects(shown.geometry())) return;
+    const QRect seen(static_cast<int>(clip.Left), static_cast<int>(clip.Top),
+                     static_cast<int>(clip.Width), static_cast<int>(clip.Height));
+    painter.setClipRect(seen, seen == shown.geometry() ? Qt::NoClip : Qt::ReplaceClip);
+    painter.drawImage(QPointF(aligned(origin.x), aligned(origin.y)), shown.image());
+  });
+  // Not every change of the ratio is reported, and a control must not draw while its window is
+  // painted.
+  if (surface_.devicePixelRatio() != ratio)
+    QTimer::singleShot(0, widget_, [this] { renewImages(); });
 }
+
+// ---- events ----
 
 bool QtPlace::event(QEvent* event) {
-  if (!widget_ || !control_) return false;
+  if (!widget_) return false;
   const QPointer<QWidget> guard(widget_);
-  const bool isTaken = hear(event);
+  const bool isTaken = dispatch(event);
   return isTaken || !guard;
 }
 
-bool QtPlace::hear(QEvent* event) {
+bool QtPlace::dispatch(QEvent* event) {
   switch (event->type()) {
     case QEvent::PaletteChange:
     case QEvent::ScreenChangeInternal:
-      renewImage();
+      renewImages();
       return false;
     case QEvent::FocusIn:
     case QEvent::FocusOut:
-      focusEvent(event->type(), FocusOf::control);
+      if (control()) focusEvent(event->type(), FocusOf::control);
       return false;
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
-      return keyEvent(event);
+      return control() && keyEvent(event);
     case QEvent::Leave:
-      pointerLeft();
+      mouse().pointerLeft(shiftNow());
       return false;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
@@ -241,75 +274,45 @@ bool QtPlace::hear(QEvent* event) {
   }
 }
 
-/// A handler of the host may end the widget: nothing is done behind the call of the control.
+/// A handler of the host may end the widget: it is not used after the control was called.
 bool QtPlace::mouseEvent(QEvent* event) {
-  const auto* mouse = static_cast<const QMouseEvent*>(event);
-  const std::int16_t button = buttonsOf(mouse->button());
-  const bool isLettingGo = event->type() == QEvent::MouseButtonRelease && (held_ & button) != 0;
-  // What a disabled control covers hears nothing either.
-  if (!widget_->isEnabled() && !isLettingGo) return around_ && around_->widget_->isEnabled();
-  const std::int16_t shift = shiftOf(mouse->modifiers());
-  const auto x = static_cast<float>(mouse->position().x());
-  const auto y = static_cast<float>(mouse->position().y());
-  // Buttons that the control does not know are the form's.
-  if (button == 0 && event->type() != QEvent::MouseMove) return false;
+  const auto* mouseEvent = static_cast<const QMouseEvent*>(event);
+  const std::int16_t button = buttonsOf(mouseEvent->button());
+  const std::int16_t buttons = buttonsOf(mouseEvent->buttons());
+  const std::int16_t shift = shiftOf(mouseEvent->modifiers());
+  const Point at{static_cast<float>(mouseEvent->position().x()),
+                 static_cast<float>(mouseEvent->position().y())};
+  const bool isMove = event->type() == QEvent::MouseMove;
+  const bool isRelease = event->type() == QEvent::MouseButtonRelease;
+  // A child control that is pressed gets its release in any case: it repeats until then.
+  const bool isChildHeld = mouse().pressed() && mouse().pressed() != this;
+  if (!widget_->isEnabled() && !(isRelease && isChildHeld)) return false;
+  // Other buttons are the form's.
+  if (button == 0 && !isMove) return false;
   event->accept();
-  if (event->type() == QEvent::MouseMove) {
-    control_->UserControl_MouseMove(buttonsOf(mouse->buttons()), shift, x, y);
+  if (isRelease) {
+    if (buttons == 0) holdWatch_.reset();
+    mouse().release(at, button, shift);
     return true;
   }
-  if (event->type() == QEvent::MouseButtonRelease) {
-    const QPointer<QWidget> guard(widget_);
-    const bool isClick = mouse->button() == Qt::LeftButton && !isDoubleClick_ &&
-                         widget_->rect().contains(mouse->position().toPoint());
-    letGo(button);
-    control_->UserControl_MouseUp(button, shift, x, y);
-    if (guard && isClick && control_) control_->UserControl_Click();
-    return true;
-  }
-  if (mouse->button() == Qt::LeftButton) {
-    const QPointer<QWidget> guard(widget_);
-    const bool isHeard =
-        event->type() == QEvent::MouseButtonDblClick && control_->UserControl_DblClick();
-    if (!guard) return true;
-    isDoubleClick_ = isHeard;
-    if (isHeard) return true;
-  }
-  hold(button);
-  control_->UserControl_MouseDown(button, shift, x, y);
+  // The end of an earlier hold was not reported.
+  if (mouse().pressed() && (buttons & ~button) == 0) mouse().holdLost();
+  if (!isMove) watchHold();
+  if (isMove)
+    mouse().move(at, buttons, shift);
+  else if (event->type() == QEvent::MouseButtonDblClick)
+    mouse().doubleClick(at, button, shift);
+  else
+    mouse().press(at, button, shift);
   return true;
 }
 
-/// A part of a bar acts for as long as it is held, so it must hear of the end of every press.
-void QtPlace::hold(std::int16_t button) {
-  if (!around_) return;
-  held_ = static_cast<std::int16_t>(held_ | button);
-  holdWatch_ = std::make_unique<HoldWatch>(*widget_->window(), [this] { releaseLost(); });
-}
-
-void QtPlace::letGo(std::int16_t button) {
-  held_ = static_cast<std::int16_t>(held_ & ~button);
-  if (held_ == 0) holdWatch_.reset();
-}
-
-void QtPlace::releaseLost() {
-  for (const auto button : std::initializer_list<std::int16_t>{1, 2, 4}) {
-    if ((held_ & button) == 0) continue;
-    letGo(button);
-    if (control_) control_->UserControl_MouseUp(button, 0, -1, -1);
-  }
-}
-
-/// A control that holds the capture hears of the pointer outside. No pointer is grabbed for it.
-void QtPlace::pointerLeft() {
-  // While a button is down every move comes to the control that was pressed.
-  if (!hasCapture_ || QGuiApplication::mouseButtons() != Qt::NoButton) return;
-  QPoint position = widget_->mapFromGlobal(QCursor::pos());
-  // The control counts the pixels beside its far edges as its own, and no other move follows.
-  if (widget_->rect().adjusted(0, 0, 1, 1).contains(position)) position = QPoint(-1, -1);
-  control_->UserControl_MouseMove(0, shiftOf(QGuiApplication::keyboardModifiers()),
-                                  static_cast<float>(position.x()),
-                                  static_cast<float>(position.y()));
+/// Before the press is delivered: its handler may already hide the window. The control of the
+/// widget itself waits for its release.
+void QtPlace::watchHold() {
+  holdWatch_ = std::make_unique<HoldWatch>(*widget_->window(), [this] {
+    if (mouse().pressed() != this) mouse().holdLost();
+  });
 }
 
 bool QtPlace::keyEvent(QEvent* event) {
@@ -320,28 +323,32 @@ bool QtPlace::keyEvent(QEvent* event) {
   std::int16_t code = keyCodeOf(*key);
   const std::int16_t shift = shiftOf(key->modifiers());
   if (event->type() == QEvent::KeyRelease) {
-    if (!key->isAutoRepeat() && code != 0) control_->UserControl_KeyUp(code, shift);
+    if (!key->isAutoRepeat() && code != 0) control()->UserControl_KeyUp(code, shift);
     return false;
   }
   const QPointer<QWidget> guard(widget_);
   const bool isArrow = key->key() == Qt::Key_Up || key->key() == Qt::Key_Down;
   if (code != 0) {
-    control_->UserControl_KeyDown(code, shift);
+    control()->UserControl_KeyDown(code, shift);
     if (!guard || code == 0) return true;
   }
   std::int16_t character = characterOf(*key);
-  if (character != 0) control_->UserControl_KeyPress(character);
+  if (character != 0) control()->UserControl_KeyPress(character);
   return isArrow;
 }
 
 bool QtPlace::wheelEvent(QEvent* event) {
   const auto* wheel = static_cast<const QWheelEvent*>(event);
-  const int turn = std::clamp(wheel->angleDelta().y(), -32768, 32767);
-  if (!wheelProcedure_ || !widget_->isEnabled() || turn == 0) return false;
+  int turn = wheel->angleDelta().y();
+  // Some systems turn the wheel sideways while Alt is down.
+  if (turn == 0 && (wheel->modifiers() & Qt::AltModifier)) turn = wheel->angleDelta().x();
+  turn = std::clamp(turn, -32768, 32767);
+  // In a designer the wheel is not hooked.
+  if (!wheelProcedure_ || isDesignMode || !widget_->isEnabled() || turn == 0) return false;
   const QPoint position = wheel->globalPosition().toPoint();
   const auto packed = [](int high, int low) { return high * 0x10000 + (low & 0xFFFF); };
   event->accept();
-  // A copy, as a handler of the host may end the hook.
+  // A copy: a handler of the host may end the hook.
   const auto procedure = wheelProcedure_;
   procedure(packed(turn, wheelKeysOf(wheel->buttons(), wheel->modifiers())),
             packed(static_cast<std::int16_t>(position.y()), position.x()));
@@ -358,13 +365,13 @@ bool QtPlace::isFocusInside() const {
 void QtPlace::focusEvent(QEvent::Type type, FocusOf of) {
   const QPointer<QWidget> guard(widget_);
   if (type == QEvent::FocusIn) {
-    if (!std::exchange(isEntered_, true)) control_->UserControl_EnterFocus();
-    if (guard && of == FocusOf::control) control_->UserControl_GotFocus();
+    if (!std::exchange(isEntered_, true)) control()->UserControl_EnterFocus();
+    if (guard && of == FocusOf::control) control()->UserControl_GotFocus();
     return;
   }
-  if (of == FocusOf::control) control_->UserControl_LostFocus();
+  if (of == FocusOf::control) control()->UserControl_LostFocus();
   if (guard && !isFocusInside() && std::exchange(isEntered_, false))
-    control_->UserControl_ExitFocus();
+    control()->UserControl_ExitFocus();
 }
 
 }  // namespace norvane

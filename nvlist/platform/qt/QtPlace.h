@@ -2,43 +2,59 @@
 
 #include <QEvent>
 #include <QPointer>
+#include <QRect>
+#include <QRegion>
 #include <QWidget>
+#include <exception>
 #include <functional>
 #include <memory>
 #include <string_view>
-#include <vector>
 
-#include <nvlist/platform/Container.h>
+#include <nvlist/platform/Place.h>
 #include <nvlist/platform/qt/QtSurface.h>
 
 namespace norvane {
 
-/// The place of a control is a widget: the control draws its image and hears its events.
+/// The place of a control in a widget. The outermost place has the widget; the places in it are
+/// regions of that widget, each with an image of its own.
 ///
-/// The widget gives every event of its own to `event` and shows `paint` when it is painted.
-class QtPlace : public Container {
+/// The widget passes every event to `event`, its paint events to `paint` and its new sizes to
+/// `resize`.
+class QtPlace : public Place {
  public:
-  /// `around` is the place of the control around it, or nullptr for a control on a form.
-  QtPlace(QWidget& widget, QtPlace* around);
+  explicit QtPlace(QWidget& widget);
   ~QtPlace() override;
 
+  /// Whether a designer has the form; read at the outermost place. Default: false.
   bool isDesignMode = false;
-  /// Told after each change of a property of the control, if set.
+  /// Called with the name of each property of the control that has changed. Default: none.
   std::function<void(std::string_view name)> onPropertyChanged;
 
-  /// What the widget was told and the control has to hear. True where it is the control's alone,
-  /// and where a handler of the host has ended the widget: it must not be touched then.
+  /// Called with what a handler of the program threw while the control let events run (DoEvents);
+  /// the control then goes on as if nothing had been thrown. Read at the outermost place. Default:
+  /// none; what is thrown is then a failure of the control, after which a list may stay unpainted
+  /// (nvList::Redraw).
+  std::function<void(std::exception_ptr)> onYieldFailure;
+
+  /// Forwards an event of the widget to the control. Returns true if it was consumed, or if a
+  /// handler of the host destroyed the widget.
   bool event(QEvent* event);
-  void paint();
-  /// The image takes the widget's size; what was drawn is lost where that is another one.
+  /// Shows the images of this place and of those in it, as far as they lie in the region.
+  void paint(const QRegion& region);
+  /// Gives the image the size of the widget. A new size clears the image.
   void resize();
-  /// The widget is about to end before the control: what is drawn from now on is seen nowhere.
-  void detach();
-  /// Lets go of a control with its place when no procedure of the library runs any more: a handler
-  /// of the host may end the widget around it.
+  /// Called before the widget is destroyed, if the control lives on: from now on nothing is shown.
+  void detach() { widget_ = nullptr; }
+  /// Destroys a control and its place as soon as no procedure of the library runs: a handler of the
+  /// host may have destroyed the widget around them.
   static void endLater(std::shared_ptr<void> control);
 
-  void attach(UserControl* control) override { control_ = control; }
+  /// In whole pixels of the widget.
+  QRect geometry() const;
+  /// What the place shows, without the places in it.
+  const QImage& image() { return surface_.image(); }
+
+  void attach(UserControl* control) override;
   Surface& surface() override { return surface_; }
   void PropertyChanged(std::string_view name) override;
   Boolean UserMode() override;
@@ -48,45 +64,42 @@ class QtPlace : public Container {
   void DoEvents() override;
   void move(const Bounds& bounds) override;
   void show(bool isVisible) override;
-  void enable(bool isEnabled) override;
-  void SetCapture() override { hasCapture_ = true; }
-  void ReleaseCapture() override { hasCapture_ = false; }
   /// The widget's number (QtWindow.h); 0 once it is gone.
   std::int32_t hwnd() override;
-  void hookWheel(std::function<void(std::int32_t, std::int32_t)> procedure) override;
-  void paintLater() override;
+  void hookWheel(std::function<void(std::int32_t, std::int32_t)> procedure) override {
+    wheelProcedure_ = std::move(procedure);
+  }
   std::unique_ptr<Container> addChild() override;
   std::unique_ptr<TextBox> addTextBox(std::function<void(std::int16_t&)> keyPress) override;
   std::unique_ptr<Timer> addTimer(std::function<void()> tick) override;
 
  private:
-  bool hear(QEvent* event);
+  enum class FocusOf { control, editBox };
+
+  explicit QtPlace(QtPlace* around);
+
+  QtPlace& form() { return static_cast<QtPlace&>(root()); }
+  const QtPlace& form() const { return const_cast<QtPlace*>(this)->form(); }
+  void changed() override;
+  void showAnew(const QRect& area);
+
+  bool dispatch(QEvent* event);
   bool mouseEvent(QEvent* event);
   bool keyEvent(QEvent* event);
   bool wheelEvent(QEvent* event);
-  enum class FocusOf { control, editBox };
   void focusEvent(QEvent::Type type, FocusOf of);
   bool isFocusInside() const;
-  void pointerLeft();
-  void newImage();
-  void hold(std::int16_t button);
-  void letGo(std::int16_t button);
-  void releaseLost();
-  void renewImage();
+  void watchHold();
+  void newImage(QSize size);
+  void setOpaque();
+  void renewImages();
 
-  QWidget* widget_;
-  QtPlace* around_;
-  std::vector<QtPlace*> children_;
   QtSurface surface_;
-  UserControl* control_ = nullptr;
   std::function<void(std::int32_t, std::int32_t)> wheelProcedure_;
-  bool isPaintPending_ = false;
+  // In use at the outermost place only.
+  QWidget* widget_ = nullptr;
   bool isPainting_ = false;
-  bool hasCapture_ = false;
-  bool isDoubleClick_ = false;
   bool isEntered_ = false;
-  /// The buttons that a control inside another one is held with, and what watches over that.
-  std::int16_t held_ = 0;
   std::unique_ptr<QObject> holdWatch_;
 };
 

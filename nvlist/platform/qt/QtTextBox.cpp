@@ -20,12 +20,10 @@ bool isLegible(const QColor& text, const QColor& background) {
 }  // namespace
 
 QtTextBox::QtTextBox(QWidget& parent, std::function<void(std::int16_t&)> keyPress,
-                     std::function<void(QEvent::Type)> focusChanged)
-    : edit_(new QLineEdit(&parent)),
-      keyPress_(std::move(keyPress)),
-      focusChanged_(std::move(focusChanged)) {
+                     std::function<void(QEvent::Type)> notify)
+    : edit_(new QLineEdit(&parent)), keyPress_(std::move(keyPress)), notify_(std::move(notify)) {
   edit_->hide();
-  // As high as a line of text: a frame and margins would take it away.
+  // The edit is as high as a line of text; a frame and margins would not fit.
   edit_->setFrame(false);
   edit_->setTextMargins(0, 0, 0, 0);
   edit_->installEventFilter(this);
@@ -34,7 +32,7 @@ QtTextBox::QtTextBox(QWidget& parent, std::function<void(std::int16_t&)> keyPres
 QtTextBox::~QtTextBox() {
   if (!edit_) return;
   edit_->removeEventFilter(this);
-  // Not at once: this may be one of its own events.
+  // Later, since this may be one of its own events.
   edit_->hide();
   edit_->deleteLater();
 }
@@ -43,8 +41,8 @@ void QtTextBox::Font(const norvane::Font& font) {
   if (edit_ && font) edit_->setFont(toQFont(*font));
 }
 
-/// The background is that of the desktop's edits, which the list's colours know nothing of: a dark
-/// one would swallow dark letters.
+/// The background is that of the desktop's edits. It may be too close to the list's text colour, as
+/// dark letters are on a dark desktop: then it is replaced.
 void QtTextBox::ForeColor(Colour colour) {
   if (!edit_) return;
   const QPalette desktop = edit_->parentWidget()->palette();
@@ -74,7 +72,7 @@ bool QtTextBox::Visible() const { return edit_ && !edit_->isHidden(); }
 
 void QtTextBox::Visible(bool isVisible) {
   if (!edit_ || Visible() == isVisible) return;
-  // Hiding the widget with the focus would hand it to whatever comes next.
+  // Hiding the focused widget would move the focus to the next one of the form.
   if (!isVisible && edit_->hasFocus()) edit_->parentWidget()->setFocus();
   if (edit_) edit_->setVisible(isVisible);
 }
@@ -87,7 +85,7 @@ void QtTextBox::SetFocus() {
 
 void QtTextBox::select(std::int32_t start, std::int32_t length) {
   if (!edit_) return;
-  // Qt counts in halves of the characters beyond 16 bits.
+  // Qt counts UTF-16 units.
   const std::u32string characters = edit_->text().toStdU32String();
   const auto units = [&](std::int32_t count) {
     const auto all = static_cast<std::int32_t>(characters.size());
@@ -99,9 +97,9 @@ void QtTextBox::select(std::int32_t start, std::int32_t length) {
 }
 
 bool QtTextBox::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
-    focusChanged_(event->type());
-  if (event->type() == QEvent::KeyPress) {
+  const QEvent::Type type = event->type();
+  if (type == QEvent::FocusIn || type == QEvent::FocusOut || type == QEvent::Enter) notify_(type);
+  if (type == QEvent::KeyPress) {
     std::int16_t character = characterOf(*static_cast<QKeyEvent*>(event));
     if (character != 0) {
       keyPress_(character);

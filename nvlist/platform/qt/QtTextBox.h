@@ -9,13 +9,14 @@
 
 namespace norvane {
 
-/// Qt's own line edit in front of a control. Where the widget around it ends first, the edit is
-/// gone and nothing happens any more.
+/// Qt's line edit in front of a control. If the widget around it is destroyed first, the edit goes
+/// with it, and all calls do nothing.
 class QtTextBox final : public QObject, public TextBox {
  public:
-  /// `focusChanged` is told each time the edit gets or loses the focus.
+  /// `notify` is called when the edit gets or loses the focus, and when the pointer enters it:
+  /// with FocusIn, FocusOut or Enter.
   QtTextBox(QWidget& parent, std::function<void(std::int16_t&)> keyPress,
-            std::function<void(QEvent::Type)> focusChanged);
+            std::function<void(QEvent::Type)> notify);
   ~QtTextBox() override;
 
   void Font(const norvane::Font& font) override;
@@ -35,7 +36,7 @@ class QtTextBox final : public QObject, public TextBox {
  private:
   QPointer<QLineEdit> edit_;
   std::function<void(std::int16_t&)> keyPress_;
-  std::function<void(QEvent::Type)> focusChanged_;
+  std::function<void(QEvent::Type)> notify_;
   Bounds place_;
 };
 
