@@ -141,6 +141,9 @@ TEST(PropertyText, TellsTheLineThatCannotBeRead) {
   const PropertyBag bag =
       propertiesOf("t = \"\\x41\\\\\\\"\\n\"\nf = -0.5\nfont = font \"A\" 8 bold heavy\nn = 1e99");
   EXPECT_EQ(bag.ReadProperty("t", 0).text(), "A\\\"n");
+  PropertyBag lines;
+  lines.WriteProperty("t", "a\nb", "");
+  EXPECT_EQ(propertyText(lines), "t = \"a\\x0Ab\"\n");
   EXPECT_EQ(bag.ReadProperty("f", 0).toSingle(), -0.5F);
   EXPECT_TRUE(bag.ReadProperty("font", 0).isText());
 }

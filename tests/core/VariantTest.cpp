@@ -42,6 +42,7 @@ TEST(Numbers, AreReadFromWholeTextsOnly) {
   EXPECT_EQ(numberOf(" -12.5e1 "), -125);
   EXPECT_EQ(numberOf(".5"), 0.5);
   EXPECT_EQ(numberOf("&HFFFF"), -1);
+  EXPECT_EQ(numberOf("&H0000FFFF"), 65535);
   for (const char* text : {"", "abc", "1a", "1 2", ".", "1e", "&HG", "&H-1", "0x10", "nan", "1,5"})
     EXPECT_FALSE(numberOf(text)) << text;
 }
