@@ -425,45 +425,54 @@ class nvList final : public UserControl,
 
   // ---- list files: files/listSave.cpp, files/listInput.cpp, files/imageInput.cpp ----
   //
-  // Names of files are UTF-8. docs/list-files.md tells what a list file holds and what is lost in
-  // it. That a file failed is not reported: the events ErrorListSave and ErrorListInput tell of it,
-  // also under SilentError. Reported are single colours and pictures that are none.
+  // File names are UTF-8. docs/list-files.md describes what list files hold and what they lose. A
+  // file that fails is not reported but raises ErrorListSave or ErrorListInput, also under
+  // SilentError. Only invalid colours and pictures are reported.
 
-  /// Saves all items in a file, which is deleted first where it is there. With `SaveItemProperties`
-  /// everything of an item is saved, pictures too, which makes the file big; otherwise its text
-  /// alone. Raises ListSaving after each item. After ErrorListSave what was written stays.
+  /// Saves all items to a file. An existing file is rewritten in place and keeps its permissions;
+  /// only a regular file that is not read-only can be saved to, and by one writer at a time. With
+  /// `SaveItemProperties` everything of an item is saved, pictures included, which makes the file
+  /// large; otherwise only its text. Raises ListSaving after each item. After ErrorListSave the
+  /// file holds what was written so far; see Files::savesBeside for saving without losing the
+  /// old file.
   void ListSave(const std::string& Filename, Boolean SaveItemProperties = false);
 
-  /// Puts the items of a list file in the place of all that are there, and paints. Without
-  /// `ReadItemPropertiesIfExists` they get the properties of new items. ListIndex, TopIndex and the
-  /// scroll bars stay as they are: the host calls CheckScroll itself. After ErrorListInput the list
-  /// is empty, or as it was where the file could not be begun.
+  /// Replaces all items by those of a list file, and paints. Without `ReadItemPropertiesIfExists`
+  /// items get the properties of new items. ListIndex, TopIndex and the scroll bars stay as they
+  /// are: call CheckScroll afterwards.
   ///
-  /// A file saved with properties wants to be read with them: else its keys and tags are mistaken
-  /// for what follows them. The picture of IconSelected, or its absence, comes back as Icon.
+  /// After ErrorListInput the list is unchanged if the file is missing or its header is cut short,
+  /// and otherwise empty. A property store image, the older form, leaves the list partly filled
+  /// instead: the items read so far, the one that failed as far as it was read, and blank items for
+  /// the rest; if the list was empty before, it reads as empty.
+  ///
+  /// Read a file that was saved with properties with `ReadItemPropertiesIfExists`; otherwise its
+  /// keys and tags are mistaken for what follows them. The picture of IconSelected, or its absence,
+  /// is read into Icon.
   void ListInput(const std::string& Filename, Boolean ReadItemPropertiesIfExists = false);
 
-  /// The number of items in a property store image, the older form of list files; -1 where no file
-  /// of the name exists, 0 for any other file.
+  /// The number of items in a property store image, the older form of list files; -1 if the file
+  /// does not exist, 0 for any other file.
   std::int32_t ListFileItemsCount(const Variant& Filename);
 
   // ---- text files: files/textInput.cpp ----
 
-  /// Adds an item for each piece of a text file, whose pieces the delimiter parts; an empty one
-  /// parts nothing. The file's bytes are taken as UTF-8. AutoRedraw and AutoCheckScroll are off
-  /// afterwards. ErrorListInput tells that no file of the name exists; one that cannot be read is
-  /// reported and counts as empty, which is one empty piece. Always 0.
+  /// Splits a text file at a delimiter and adds an item for each piece; an empty delimiter does not
+  /// split it. The bytes of the file are taken as UTF-8. AutoRedraw and AutoCheckScroll are off
+  /// afterwards. Raises ErrorListInput if the file does not exist. A file that cannot be read is
+  /// reported and counts as empty, which is one empty piece. Always returns 0.
   std::int32_t ListInput2(const std::string& Filename, const Variant& Delimiter);
 
   // ---- data: files/recordset.cpp ----
 
-  /// The object last assigned. Assigning one replaces all items by the first fields of its rows, a
-  /// norvane::Recordset's, and paints; where it has no row, or does not know how many, the items
-  /// stay as they are. Later changes of the rows are not seen.
+  /// The object last assigned. Assigning a norvane::Recordset replaces all items by the first
+  /// fields of its rows, and paints. If it has no rows, or does not know how many, the items stay.
+  /// Later changes to the rows are not seen.
   ///
-  /// A Null, and an object that is no Recordset or lacks a member, is a failure, which ends the
-  /// fill with AutoRedraw and AutoCheckScroll off where it has begun. Under SilentError the item
-  /// has an empty text and the fill goes on.
+  /// A Null, and an object that is not a Recordset or lacks a member, is a failure, which ends the
+  /// fill; AutoRedraw and AutoCheckScroll stay off if it has begun. Under SilentError the item gets
+  /// an empty text and the fill goes on: a recordset without Eof is then read without end, for
+  /// as long as its other members can be called.
   Ref<Object> Recordset() const { return state_.Recordset; }
   void Recordset(const Ref<Object>& value);
 

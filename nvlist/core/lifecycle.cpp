@@ -8,6 +8,16 @@ namespace {
 /// in a list with both pictures.
 constexpr Bounds newEditBox{37, 3, 100, 14};
 
+/// For destructors and timers, which must not throw even if the reporter of a failure fails.
+template <class Statement>
+void ignoringFailures(Statement&& statement) {
+  try {
+    statement();
+  } catch (...) {
+    // There is nothing left to report it with.
+  }
+}
+
 }  // namespace
 
 nvList::nvList(Container& place)
@@ -18,7 +28,8 @@ nvList::nvList(Container& place)
              BorderPiece(container_.addChild()), BorderPiece(container_.addChild())}},
       lblWidth(container_.addChild()),
       Text1(container_.addTextBox([this](std::int16_t& KeyAscii) { Text1_KeyPress(KeyAscii); })),
-      tmrMouseAction(container_.addTimer([this] { tmrMouseAction_Timer(); })),
+      tmrMouseAction(
+          container_.addTimer([this] { ignoringFailures([&] { tmrMouseAction_Timer(); }); })),
       Wheel1(container_, *this) {
   VScroll1.UserControl_InitProperties();
   HScroll1.UserControl_InitProperties();
@@ -26,7 +37,9 @@ nvList::nvList(Container& place)
   tmrMouseAction->Interval(1);
 }
 
-nvList::~nvList() { UserControl_Terminate(); }
+nvList::~nvList() {
+  ignoringFailures([&] { UserControl_Terminate(); });
+}
 
 void nvList::UserControl_Terminate() {
   trapped(here, "UserControl_Terminate",

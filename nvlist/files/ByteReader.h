@@ -12,7 +12,7 @@
 
 namespace norvane {
 
-/// The number that little-endian bytes stand for.
+/// Converts sizeof(Integer) little-endian bytes to a number.
 template <std::integral Integer>
 Integer numberOfBytes(const char* bytes) {
   std::make_unsigned_t<Integer> number = 0;
@@ -22,16 +22,15 @@ Integer numberOfBytes(const char* bytes) {
   return static_cast<Integer>(number);
 }
 
-/// Reads bytes of a file from front to back. The bytes are the caller's; a length that they tell is
-/// believed only as far as they go.
+/// Reads bytes from front to back, without copying them: they must outlive the reader and what it
+/// returns. A length found in the data never reads past the end.
 class ByteReader {
  public:
   explicit ByteReader(std::string_view bytes) : rest_(bytes) {}
 
   std::size_t left() const { return rest_.size(); }
 
-  /// The next bytes. Throws Failure 62 where there are fewer; a negative count is more than there
-  /// ever is.
+  /// The next `count` bytes. Throws Failure 62 if fewer are left or `count` is negative.
   std::string_view bytes(std::int64_t count) {
     if (!has(count)) throw Failure::pastEndOfFile();
     const std::string_view result = rest_.substr(0, static_cast<std::size_t>(count));
@@ -39,7 +38,8 @@ class ByteReader {
     return result;
   }
 
-  /// Leaves the next bytes out. False where there are fewer; none is left out then.
+  /// Skips `count` bytes. Returns false, and skips nothing, if fewer are left or `count` is
+  /// negative.
   bool pass(std::int64_t count) {
     if (!has(count)) return false;
     rest_.remove_prefix(static_cast<std::size_t>(count));
@@ -52,12 +52,13 @@ class ByteReader {
   }
 
  private:
+  /// A negative count becomes a huge unsigned one.
   bool has(std::int64_t count) const { return static_cast<std::uint64_t>(count) <= rest_.size(); }
 
   std::string_view rest_;
 };
 
-/// The next bytes of a file; fewer where it ends before.
+/// Reads the next `count` bytes of a file, or what is left of it.
 std::vector<char> readBytes(File& file, std::size_t count);
 
 }  // namespace norvane

@@ -9,7 +9,7 @@ FileWriter::~FileWriter() {
   try {
     if (!buffer_.empty()) flush();
   } catch (...) {
-    // Whoever has to know of it flushes himself.
+    // Callers that need to know call flush().
   }
 }
 
@@ -26,7 +26,7 @@ void FileWriter::text(std::string_view text) {
   number(std::int32_t{0});
   const std::size_t first = buffer_.size();
   windows1252::append(buffer_, text);
-  // A length counts the characters as they stand in the file.
+  // The length counts bytes in the file, not bytes of UTF-8.
   put(buffer_.data() + start,
       checked::narrow<std::int32_t>(static_cast<std::int64_t>(buffer_.size() - first)));
 }

@@ -11,8 +11,9 @@
 
 namespace norvane {
 
-/// Writes a file from front to back, in big blocks. Destroying it hands over what is left, so that
-/// a file that is given up holds all that was written before; what fails then is lost.
+/// Writes a file from front to back in large blocks. The destructor writes what is still buffered,
+/// so that a save that fails leaves everything up to the failure in the file; failures in the
+/// destructor are ignored.
 class FileWriter {
  public:
   explicit FileWriter(File& file) : file_(file) {}
@@ -22,7 +23,7 @@ class FileWriter {
 
   void bytes(std::string_view bytes) { buffer_ += bytes; }
 
-  /// Little-endian.
+  /// Writes a number in little-endian order.
   template <std::integral Integer>
   void number(Integer number) {
     char bytes[sizeof number];
@@ -30,14 +31,14 @@ class FileWriter {
     buffer_.append(bytes, sizeof number);
   }
 
-  /// A text with its length in front. Throws Failure 6 for one whose length is no 32-bit number.
+  /// Writes a text after its length. Throws Failure 6 if the length does not fit 32 bits.
   void text(std::string_view text);
 
-  /// Hands over what has become a block. Called now and then, it keeps the memory small.
+  /// Writes the buffer to the file if it has reached the size of a block.
   void writeBlock() {
     if (buffer_.size() >= blockSize) flush();
   }
-  /// Hands over all. What a file does not take is not handed over a second time.
+  /// Writes the buffer to the file. If that fails, the buffer is dropped.
   void flush();
 
  private:

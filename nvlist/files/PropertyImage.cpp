@@ -24,7 +24,7 @@ enum Kind : std::int16_t {
 };
 
 std::string_view take(std::string_view& rest, std::int64_t count) {
-  // A negative count is more than there ever is.
+  // A negative count becomes a huge unsigned one.
   if (static_cast<std::uint64_t>(count) > rest.size()) throw Failure::invalidFormat();
   const std::string_view result = rest.substr(0, static_cast<std::size_t>(count));
   rest.remove_prefix(result.size());

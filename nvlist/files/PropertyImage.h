@@ -10,7 +10,7 @@
 
 namespace norvane {
 
-/// A picture as it stands in a property store: the bytes of its file.
+/// A picture in a property store: the bytes of its file, not yet decoded.
 class StoredPicture final : public Object {
  public:
   explicit StoredPicture(std::string_view bytes);
@@ -18,30 +18,30 @@ class StoredPicture final : public Object {
   std::vector<std::byte> file;
 };
 
-/// A property store made of the bytes of its contents, to be read. docs/list-files.md has the
+/// A read-only property store over the bytes of its contents. docs/list-files.md describes the
 /// layout of the bytes.
 class PropertyImage final : public Object {
  public:
-  /// Takes over the contents, a text of bytes, and forgets those before. Throws Failure 321, and
-  /// keeps those before, where the layout is another one or a property does not end in time.
+  /// Replaces the contents; `bytes` is a text with one character per byte. Throws Failure 321, and
+  /// keeps the old contents, if the layout is invalid or a property is cut short.
   void Contents(Variant bytes);
 
-  /// The value under a name, whose case counts: the first one where it is there several times. A
-  /// picture is a StoredPicture.
+  /// The value of a property, or the default if there is none. Names are case-sensitive; the first
+  /// of several properties of the same name counts. A picture is returned as a StoredPicture.
   Variant ReadProperty(std::string_view name, const Variant& defaultValue) const;
 
-  /// Bytes of the contents.
+  /// Size of the contents in bytes.
   std::size_t size() const { return contents_.text().size(); }
 
  private:
   std::string_view nameAt(std::uint32_t place) const;
 
   Variant contents_;
-  std::vector<std::uint32_t> places_;  ///< where the properties start, in the order of the names
+  std::vector<std::uint32_t> places_;  ///< offsets of the properties, sorted by name
 };
 
-/// The bytes in the tagged variant that a file starts with. Throws where there is none, or no array
-/// of bytes in it.
+/// The byte array in the tagged variant at the start of a file. Throws if the file does not start
+/// with one.
 Variant readTaggedBytes(const std::string& path);
 
 }  // namespace norvane

@@ -11,7 +11,7 @@ namespace {
 
 constexpr Module here = {kinds::module, "basList"};
 
-/// Red, green and blue; a negative number is divided towards zero.
+/// Red, green and blue. Division truncates towards zero, also for negative colours.
 std::array<Colour, 3> channelsOf(Colour color) {
   return {color & 255, color / 256 & 255, color / 65536 & 255};
 }
@@ -74,7 +74,7 @@ std::array<char, 6> listFileColour(const Variant& colour) {
   if (isDefaultMark(colour)) {
     result = {' ', ' ', ' ', 'd', 'e', 'f'};
   } else if (colour.type() == Variant::Type::Int32) {
-    // The long way round gives the same, as the text of a number is a number.
+    // A shortcut: GetCorrectColor of the number's text gives the same.
     char* digit = result.data();
     for (const Colour channel : channelsOf(colour.toInt32())) {
       *digit++ = hexDigits[channel >> 4];
@@ -82,7 +82,7 @@ std::array<char, 6> listFileColour(const Variant& colour) {
     }
   } else {
     result.fill(' ');
-    // Six characters or, after a report, none.
+    // GetCorrectColor returns six characters, or none after a failure.
     std::ranges::copy(GetCorrectColor(colour.toText()), result.begin());
   }
   return result;

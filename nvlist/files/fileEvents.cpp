@@ -10,7 +10,7 @@ namespace {
 
 using Limits = std::numeric_limits<std::int32_t>;
 
-/// A position that a host has set. Beyond 32 bits there is no item, as there is none at the limits.
+/// A position set by a host, clamped to 32 bits. No item is at the limits either.
 std::int32_t positionOf(const Variant& index) {
   return checked::nearest<std::int32_t>(
       std::clamp<double>(index.toNumber(), Limits::min(), Limits::max()));
@@ -23,12 +23,12 @@ void nvList::raise(Trap& on, void (__nvList::*event)()) {
 }
 
 void nvList::raiseAtLoopIndex(void (__nvList::*event)(Variant& Index)) {
-  // Once an item, of which there may be a million.
+  // Runs once per item; skipping it without hosts matters for large lists.
   if (sinks_.isEmpty()) return;
   Variant index = state_.LoopIndex;
   const Variant told = index;
   sinks_.raise([&](__nvList& sink) { (sink.*event)(index); });
-  // Where the host leaves the argument alone, another loop that it ran may have moved this one.
+  // If the host left the argument alone, LoopIndex keeps what a loop run by the host made of it.
   const bool isUntouched = index.type() == told.type() && index.toInt32() == told.toInt32();
   if (!isUntouched) state_.LoopIndex = positionOf(index);
 }

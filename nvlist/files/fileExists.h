@@ -6,8 +6,8 @@
 
 namespace norvane {
 
-/// Whether there is a file or folder of that name; `*` and `?` in its last part stand for others
-/// (platform/diskFiles.h). False for the empty name and one that ends in a slash. A failure of the
+/// Returns whether a file or folder matches the path; `*` and `?` in its last part are wildcards
+/// (platform/diskFiles.h). False for an empty path and one that ends in a slash. A failure of the
 /// search is reported and gives false.
 Boolean FileExists(const std::string& path);
 

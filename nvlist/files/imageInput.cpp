@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::uint64_t smallestImageItem = 8;
 
-/// One item's properties in the store.
+/// The stored properties of one item.
 class ItemInImage {
  public:
   ItemInImage(const PropertyImage& image, std::int32_t index)
@@ -39,8 +39,8 @@ class ItemInImage {
 
 }  // namespace
 
-/// Whether the file is a property store image, which ReadBag then holds. A failure in looking at it
-/// says that it is none.
+/// Returns whether the file is a property store image, and loads it into ReadBag if so. A failure
+/// while reading it means that it is not.
 bool nvList::isImage(Trap& on, const std::string& Filename) {
   bool result = false;
   if (!FileExists(Filename)) {
@@ -77,7 +77,7 @@ void nvList::inputImage(Boolean ReadItemPropertiesIfExists) {
 
 void nvList::inputImageItem(const PropertyImage& image, bool readsProperties) {
   ItemInImage stored(image, state_.LoopIndex);
-  // Dropping what stands in it may let the host remove the item.
+  // Destroying the old values may run code of the host that removes the item.
   const Ref<ListItem> item = state_.Items.slot(state_.LoopIndex);
   setText(*item, stored("Text", "").toText());
   if (!readsProperties) {

@@ -8,12 +8,12 @@
 
 namespace norvane {
 
-/// Items of which a file may hold so many, however short it is.
+/// A number of items that any file may have, however short it is.
 inline constexpr std::uint64_t alwaysBelieved = 4096;
 
-/// The number of items that a file says it holds. Throws Failure 9 where it is less than one, and 7
-/// where the `left` bytes, of which an item takes at least `smallest`, cannot hold so many; an item
-/// may also take none.
+/// Checks the number of items that a file claims against the `left` bytes of the rest of the file,
+/// where an item takes at least `smallest` bytes, possibly 0. Throws Failure 9 if the number is
+/// less than 1, and 7 if the file is too short for it.
 inline std::size_t believedCount(std::int64_t claimed, std::uint64_t left, std::uint64_t smallest) {
   if (claimed < 1) throw Failure::subscriptOutOfRange();
   const auto count = static_cast<std::uint64_t>(claimed);
@@ -22,7 +22,7 @@ inline std::size_t believedCount(std::int64_t claimed, std::uint64_t left, std::
   return static_cast<std::size_t>(count);
 }
 
-/// What an item has where a file has nothing to say of it.
+/// Sets the properties of an item that a file does not hold to their defaults.
 inline void setDefaults(ListItem& item) {
   static const Variant mark = defaultMark;
   item.AllowEdit = false;

@@ -15,7 +15,7 @@ namespace norvane {
 namespace {
 
 constexpr std::size_t headerSize = 7;
-/// Bytes of the fields that all versions have, in front of the flags of the font.
+/// Size of the fields before the font flags, which all versions have.
 constexpr int uniformPart = 40;
 constexpr int colourSize = 6;
 
@@ -24,7 +24,7 @@ bool isHexDigit(char c) {
   return (c >= '0' && c <= '9') || (letter >= 'a' && letter <= 'f');
 }
 
-/// Whether the colours can be read without a failure, written as ListSave writes them.
+/// Returns whether all colours are valid as ListSave writes them, so that reading them cannot fail.
 bool hasPlainColours(std::string_view uniform) {
   const auto isNumber = [&](std::size_t at) {
     return std::ranges::all_of(uniform.substr(at, colourSize), isHexDigit);
@@ -40,20 +40,20 @@ bool hasPlainColours(std::string_view uniform) {
 
 }  // namespace
 
-/// A binary list file on its way into the list. docs/list-files.md has the layout.
+/// Reads a binary list file into the list. docs/list-files.md describes the layout.
 ///
-/// Its first records stay in memory as they are, up to one in which something could fail, or with a
-/// picture: an item is made of each when somebody wants it. The rest is read at once, so that every
-/// failure comes while the file is read.
+/// The records up to the first one that has a picture or could fail stay in memory as bytes, and
+/// their items are made when they are first accessed. All records from there on are read at once,
+/// so that every failure occurs while the file is read.
 class nvList::ListFile final : public ItemSource {
  public:
   ListFile(nvList& list, Boolean wantsProperties)
       : list_(list), wantsProperties_(static_cast<std::uint8_t>(wantsProperties.number()) != 0) {}
 
   void readHeader(File& file);
-  /// Whether the file is one of an empty list.
+  /// Whether the file holds an empty list.
   bool isEmpty() const { return last_ == -1; }
-  /// Brings the rest of the file into memory if its header can be true. The number of items.
+  /// Checks the number of items in the header, loads the rest of the file and returns that number.
   std::size_t load(File& file);
   void readRecords();
 
@@ -82,8 +82,8 @@ class nvList::ListFile final : public ItemSource {
   std::int16_t version_ = 0;
 
   std::vector<char> records_;
-  std::vector<std::uint64_t> starts_;  ///< of the records that wait to become items
-  std::size_t unmade_ = 1;             ///< how many of them still do, and the reading itself
+  std::vector<std::uint64_t> starts_;  ///< offsets of the records whose items are made later
+  std::size_t unmade_ = 1;  ///< how many of these are left, plus 1 while the file is read
 };
 
 void nvList::ListFile::readHeader(File& file) {
@@ -99,12 +99,12 @@ std::size_t nvList::ListFile::load(File& file) {
   const std::uint64_t smallest = smallestRecord();
   const std::size_t count = believedCount(std::int64_t{last_} + 1, size, smallest);
   starts_.reserve(count);
-  // Big files that begin with zeros, such as images of disks, say that their items take no bytes.
+  // Records may take no bytes at all, as in a large file of zeros; its contents are not needed.
   if (smallest > 0) records_ = readBytes(file, static_cast<std::size_t>(size));
   return count;
 }
 
-/// Bytes that an item takes at least.
+/// The least number of bytes that a record takes.
 std::uint64_t nvList::ListFile::smallestRecord() const {
   const std::uint64_t text = version_ >= 271 ? 4 : version_ == 270 ? 16 : 0;
   if (!hasProperties_) return text;
@@ -126,7 +126,7 @@ void nvList::ListFile::readRecords() {
       starts_.push_back(start);
       ++unmade_;
     } else {
-      // A report in the middle of it may let the host remove the item.
+      // A report may run code of the host that removes the item.
       const Ref<ListItem> item = items.slot(index);
       readItem(from, *item);
       isSelected = static_cast<bool>(item->Selected);
@@ -136,7 +136,7 @@ void nvList::ListFile::readRecords() {
   oneMade();
 }
 
-/// Whether nothing can fail in the next record, which is passed then.
+/// Skips the next record and returns true if nothing in it can fail.
 bool nvList::ListFile::passPlainRecord(ByteReader& from, bool& isSelected) const {
   ByteReader record = from;
   const auto passText = [&](bool isRead) {
@@ -172,7 +172,7 @@ Ref<ListItem> nvList::ListFile::make(std::int32_t index) {
   return item;
 }
 
-/// The file goes with the last item that is made of it.
+/// Frees the bytes of the file after the last item has been made.
 void nvList::ListFile::oneMade() {
   if (--unmade_ > 0) return;
   records_ = std::vector<char>();
@@ -198,13 +198,11 @@ std::string nvList::ListFile::itemText(ByteReader& from) const {
 }
 
 void nvList::ListFile::readProperties(ByteReader& from, ListItem& item) const {
-  const char* next = from.bytes(uniformPart).data();
-  const auto byte = [&] { return static_cast<unsigned char>(*next++); };
-  const auto colour = [&] {
-    const std::string_view text(std::exchange(next, next + colourSize), colourSize);
-    return list_.HTML2VBColor(text);
-  };
+  // Field by field: a record may be cut after a colour whose conversion fails and is reported.
+  const auto byte = [&] { return from.number<std::uint8_t>(); };
+  const auto colour = [&] { return list_.HTML2VBColor(from.bytes(colourSize)); };
   if (!wantsProperties_) {
+    from.bytes(uniformPart);
     setDefaults(item);
   } else {
     item.AllowEdit = byte() != 0;
@@ -230,7 +228,8 @@ void nvList::ListFile::readFlagsAndKeys(ByteReader& from, ListItem& item) const 
     item.Underline = flags[2] != 0;
     item.Selected = flags[3] != 0;
   }
-  // The texts are left in the file where nobody wants them: what follows is then read amiss.
+  // Without the properties only the lengths are consumed, so a non-empty key or tag shifts all that
+  // follows.
   const auto text = [&](std::int32_t size) { return windows1252::textOf(from.bytes(size)); };
   const auto keySize = from.number<std::int32_t>();
   if (wantsProperties_) item.Key = text(keySize);
@@ -238,7 +237,7 @@ void nvList::ListFile::readFlagsAndKeys(ByteReader& from, ListItem& item) const 
   item.Tag = wantsProperties_ ? text(tagSize) : std::string();
 }
 
-/// The second picture takes the place of the first one, or its absence does: so it has always been.
+/// The second picture, or its absence, replaces the first one. Hosts rely on this.
 void nvList::ListFile::readIcons(ByteReader& from, ListItem& item) const {
   item.Icon = readIcon(from);
   item.Icon = readIcon(from);

@@ -17,7 +17,7 @@ void writeColour(FileWriter& file, const Variant& colour) {
 
 }  // namespace
 
-// docs/list-files.md has the layout.
+// docs/list-files.md describes the layout.
 
 void nvList::ListSave(const std::string& Filename, Boolean SaveItemProperties) {
   trapped(here, "ListSave", [&](Trap& on) {
@@ -27,8 +27,9 @@ void nvList::ListSave(const std::string& Filename, Boolean SaveItemProperties) {
 }
 
 void nvList::saveItems(const std::string& Filename, Boolean SaveItemProperties) {
-  Files::inUse().removeFile(Filename);
-  const auto file = Files::inUse().openFile(Filename, FileMode::write);
+  Files& files = Files::inUse();
+  const auto file =
+      files.openFile(Filename, files.savesBeside() ? FileMode::saveBeside : FileMode::save);
   FileWriter writer(*file);
   const std::int32_t last = ItemsCount() - 1;
   const auto hasProperties = static_cast<std::uint8_t>(SaveItemProperties.number());
@@ -47,7 +48,7 @@ void nvList::saveItems(const std::string& Filename, Boolean SaveItemProperties) 
 }
 
 void nvList::saveProperties(FileWriter& file, ListItem& item) {
-  // A report in the middle of it may let the host remove the item.
+  // A report may run code of the host that removes the item.
   const Ref<ListItem> held(&item);
   writeBoolean(file, item.AllowEdit);
   writeColour(file, item.BackColor);

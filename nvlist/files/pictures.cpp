@@ -4,13 +4,13 @@
 
 namespace norvane {
 
-// A platform gives and takes the bytes of picture files, so that there is no temporary file.
+// Platforms convert between pictures and the bytes of their files, so no temporary file is needed.
 
 std::string nvList::GetPictureString(const Picture& picture, std::int32_t& length) {
   std::string result;
   trapped(here, "GetPictureString", [&](Trap& on) {
     on.step([&] {
-      // Making its file may let the host drop it.
+      // fileBytes() may run code of the host that drops the picture.
       const Picture held = picture;
       const std::vector<std::byte> file = held->fileBytes();
       if (file.empty()) throw Failure::invalidPicture();

@@ -6,7 +6,7 @@
 namespace norvane {
 namespace {
 
-/// The object as a recordset. One that is none has no member of one.
+/// Throws if the object is empty or not a recordset.
 Recordset& recordsetOf(const Ref<Object>& object) {
   if (!object) throw Failure::objectNotSet();
   if (auto* rows = dynamic_cast<Recordset*>(object.get())) return *rows;
@@ -40,12 +40,13 @@ void nvList::Recordset(const Ref<Object>& value) {
   });
 }
 
-/// Adds the current row and those behind it.
+/// Adds the current row and all rows after it.
 void nvList::addRows(Trap& on, const Ref<Object>& rows) {
   bool isAtEnd = false;
   bool answers = true;
   while (!isAtEnd && answers) {
-    // A round in which every call failed would be followed by nothing but its like.
+    // If every call of a round fails, all further rounds would fail too. A recordset that lacks
+    // only Eof is read without end.
     answers = false;
     std::string text;
     on.step([&] {

@@ -8,7 +8,7 @@
 namespace norvane {
 namespace {
 
-/// At least one piece. An empty delimiter parts nothing.
+/// Splits the text into at least one piece. An empty delimiter does not split it.
 std::vector<std::string_view> split(std::string_view text, std::string_view delimiter) {
   std::vector<std::string_view> pieces;
   while (!delimiter.empty()) {
@@ -29,10 +29,10 @@ std::int32_t nvList::ListInput2(const std::string& Filename, const Variant& Deli
       raise(on, &__nvList::ErrorListInput);
       return;
     }
-    const std::string text = SpEv().TextRead(Filename);
+    std::string text = SpEv().TextRead(Filename);
     std::vector<std::string_view> pieces;
     on.step([&] { pieces = split(text, Delimiter.toText()); });
-    // Both flags stay off: they are the host's to turn on again.
+    // Both flags stay off after the call; hosts turn them on again.
     state_.AutoCheckScroll = false;
     state_.AutoRedraw = false;
     const bool isWhole = orRaise(on, &__nvList::ErrorListInput, [&] {
@@ -43,6 +43,9 @@ std::int32_t nvList::ListInput2(const std::string& Filename, const Variant& Deli
         ItemsAdd(pieces.at(static_cast<std::size_t>(state_.LoopIndex)));
     });
     if (!isWhole) return;
+    // Measuring and painting long texts takes memory too.
+    pieces.clear();
+    text = std::string();
     on.step([&] { CheckScroll(); });
     on.step([&] { Redraw(); });
   });

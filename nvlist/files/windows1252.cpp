@@ -11,13 +11,13 @@
 namespace norvane::windows1252 {
 namespace {
 
-/// What the bytes from 0x80 to 0x9F stand for; all others are the code points of their number.
+/// Code points of the bytes 0x80 to 0x9F; every other byte is its own code point.
 constexpr char32_t upperHalf[] = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
                                   0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
                                   0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                   0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-/// The first byte beyond ASCII from `at` on, or the end.
+/// The offset of the first byte from `at` on that is not ASCII, or the size of the text.
 std::size_t endOfAscii(std::string_view text, std::size_t at) {
   for (std::uint64_t eight = 0; text.size() - at >= sizeof eight; at += sizeof eight) {
     std::memcpy(&eight, text.data() + at, sizeof eight);

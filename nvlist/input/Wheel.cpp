@@ -37,8 +37,14 @@ void Wheel::DisableWheel() {
   if (window_ != 0) unhook("DisableWheel");
 }
 
-/// The hook must not outlive this, whatever the window is called by now.
-Wheel::~Wheel() { unhook("UserControl_Terminate"); }
+/// Removes the hook whether or not the window still has a handle: the hook refers to this object.
+Wheel::~Wheel() {
+  try {
+    unhook("UserControl_Terminate");
+  } catch (...) {
+    // The reporter failed too. A destructor must not throw.
+  }
+}
 
 void Wheel::unhook(const char* procedure) {
   trapped(wheelControl, procedure, [&](Trap& on) {

@@ -6,8 +6,8 @@
 
 namespace norvane {
 
-/// What the owner of a Wheel hears. `Rotation` is in notches, positive away from the user; a turn
-/// of less than half a notch is 0.
+/// The events of a Wheel. `Rotation` is in notches, positive away from the user; 0 for a turn of
+/// less than half a notch.
 struct WheelEvents {
   virtual void Wheel1_WheelScroll(std::int16_t& Rotation, std::int16_t& Keys, float& X,
                                   float& Y) = 0;
@@ -16,7 +16,7 @@ struct WheelEvents {
   ~WheelEvents() = default;
 };
 
-/// Takes the messages of the mouse wheel from a window, from EnableWheel to DisableWheel.
+/// Receives the mouse wheel messages of a window between EnableWheel and DisableWheel.
 class Wheel {
  public:
   Wheel(Container& place, WheelEvents& owner) : place_(place), owner_(owner) {}
@@ -24,16 +24,16 @@ class Wheel {
   Wheel& operator=(const Wheel&) = delete;
   ~Wheel();
 
-  /// The window; 0 none.
+  /// Handle of the window; 0: none.
   std::int32_t hWndCapture() const { return window_; }
   void hWndCapture(std::int32_t window) { window_ = window; }
 
-  /// Without a window nothing happens. A second time changes nothing.
+  /// Does nothing without a window, or if the wheel is enabled already.
   void EnableWheel();
   void DisableWheel();
 
-  /// A message of the wheel: the turn in the high half of `wParam`, 120 a notch, and the keys in
-  /// the low one; x and y in the halves of `lParam`.
+  /// Handles a wheel message. `wParam` holds the turn in its high half, 120 per notch, and the keys
+  /// in its low half; `lParam` holds y and x.
   void WndProc(std::int32_t wParam, std::int32_t lParam);
 
  private:

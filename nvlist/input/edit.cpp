@@ -15,8 +15,8 @@ void nvList::SetEdit(const Variant& Index) {
     if (!state_.AllowEdit) return;
     std::int32_t height = 0;
     on.step([&] { height = ItemHeight(); });
-    // The box stands where the mouse was pressed last, whatever the index says; above the first row
-    // where it never was.
+    // The box opens over the row of the last mouse press, whatever the index is, and above the
+    // first row if there was no press.
     std::int32_t row = -1;
     on.step([&] {
       const Variant& y = state_.MouseDownY;
@@ -38,7 +38,7 @@ void nvList::SetEdit(const Variant& Index) {
     move([&](Bounds& place) { place.Height = surface_.TextHeight("A") + 1; });
     on.step([&] { Text1->Text(item(index).Text); });
     move([&](Bounds& place) { place.Left = editLeft(place.Left); });
-    // In rows of the text's height, though the list's may be higher.
+    // Counts rows of the height of the text, although the rows of the list may be higher.
     move([&](Bounds& place) {
       place.Top = static_cast<float>(row) * surface_.TextHeight("A") + state_.IndentTop;
     });
@@ -52,7 +52,7 @@ void nvList::SetEdit(const Variant& Index) {
   });
 }
 
-/// With both pictures the box stays at the left where it was last, `before`.
+/// The left edge of the box. With check boxes and icons it stays where it was, at `before`.
 float nvList::editLeft(float before) const {
   switch (state_.Style) {
     case cDefault:
@@ -69,7 +69,7 @@ float nvList::editLeft(float before) const {
 void nvList::Text1_KeyPress(std::int16_t& KeyAscii) {
   trapped(here, "Text1_KeyPress", [&](Trap& on) {
     if (KeyAscii != keyReturn || !state_.EditActive) return;
-    // To the item that is current now, past the property and its repaint.
+    // Goes to the item that is current now, without the repaint of the property ItemText.
     on.step([&] { state_.Items.setText(state_.ListIndex, Text1->Text()); });
     state_.EditActive = false;
     on.step([&] { Text1->Visible(false); });

@@ -2,7 +2,7 @@
 
 namespace norvane {
 
-/// An open edit box stays open: only the look of the rows follows the focus.
+/// Only the look of the rows depends on the focus; an open edit box stays open.
 void nvList::focusChanged(const char* procedure, Boolean hasFocus) {
   trapped(here, procedure, [&](Trap& on) {
     state_.HasFocus = hasFocus;

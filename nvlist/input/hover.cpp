@@ -30,8 +30,8 @@ void nvList::UserControl_MouseMove(std::int16_t Button, std::int16_t Shift, floa
   });
 }
 
-/// Past an edge the list scrolls by a timer; inside, the pointer marks where the item that is being
-/// moved would land, or takes the current item along.
+/// Handles a drag with the left button. Beyond an edge a timer scrolls the list. Inside, the row
+/// under the pointer becomes the target of the move or, if items cannot be moved, the current item.
 void nvList::drag(Trap& on, float y, std::int32_t row, std::int32_t height) {
   if (y < 0) {
     autoScroll_ = AutoScroll::up;
@@ -64,7 +64,7 @@ void nvList::tmrMouseAction_Timer() {
       autoScroll_ = AutoScroll::none;
       return;
     }
-    // Upward it ends at 1: row 0 cannot be reached like this.
+    // Scrolling up ends at row 1; hosts rely on row 0 being out of reach.
     if (autoScroll_ == AutoScroll::up && state_.TopIndex - 1 > 0) {
       if (state_.AllowItemMoving) state_.HoverIndex = state_.TopIndex - 1;
       on.step([&] { TopIndex(state_.TopIndex - 1); });
@@ -78,7 +78,7 @@ void nvList::tmrMouseAction_Timer() {
   });
 }
 
-/// The current item lands before the marked row. Where none is marked it goes to the top.
+/// Moves the current item in front of the marked row, or to the top if no row is marked.
 void nvList::completeMove(Trap& on) {
   on.step([&] {
     const std::int32_t current = state_.ListIndex;

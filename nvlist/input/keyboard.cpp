@@ -26,7 +26,7 @@ void nvList::UserControl_KeyDown(std::int16_t& KeyCode, std::int16_t Shift) {
   });
 }
 
-/// To the nearest enabled row above. `visible` is the number of rows in view.
+/// Moves the selection to the nearest enabled row above. `visible` is the number of visible rows.
 void nvList::moveUp(Trap& on, std::int32_t visible) {
   std::int32_t i = state_.ListIndex;
   for (;;) {
@@ -45,7 +45,8 @@ void nvList::moveUp(Trap& on, std::int32_t visible) {
     on.step([&] { TopIndex(state_.ListIndex); });
 }
 
-/// To the nearest enabled row below, which scrolls by itself: the row lands on the bottom line.
+/// Moves the selection to the nearest enabled row below. A row below the window scrolls to the
+/// bottom.
 void nvList::moveDown(Trap& on, std::int32_t visible) {
   std::int32_t i = state_.ListIndex;
   for (;;) {

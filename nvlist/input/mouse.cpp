@@ -11,13 +11,13 @@ namespace {
 
 constexpr std::int16_t rightButton = 2;
 
-/// Where the rows of a press begin, whatever IndentTop says.
+/// Top of the first row for a mouse press, whatever IndentTop is.
 constexpr std::int32_t pressOrigin = 4;
 
 }  // namespace
 
-/// The row at a height, where row 0 begins at `origin`; -1 above it. No row is found below the
-/// surface, nor where rows have no height.
+/// The row at position `y`, if row 0 begins at `origin`; -1 above it. Below the surface it is the
+/// last row there, and -1 if rows have no height.
 std::int32_t nvList::rowAt(double y, std::int32_t origin, std::int32_t height) {
   state_.LoopIndex = origin;
   if (height <= 0) return -1;
@@ -25,14 +25,15 @@ std::int32_t nvList::rowAt(double y, std::int32_t origin, std::int32_t height) {
   const double end = y < surfaceHeight ? y : surfaceHeight;
   if (!(end >= origin)) return -1;
   const double row = std::floor((end - origin) / height);
-  // LoopIndex ends at the top of the row below, or at that of the last row a number can name.
+  // LoopIndex becomes the top of the next row, as after a loop over the rows, or of the last row
+  // whose top is a 32-bit number.
   const double last = std::floor((double{INT32_MAX} - origin) / height);
   state_.LoopIndex = static_cast<std::int32_t>(origin + std::min(row + 1, last) * height);
   if (row + 1 > last) throw Failure::overflow();
   return static_cast<std::int32_t>(row);
 }
 
-/// Where the content of a row begins: the check zone of a press does.
+/// Left edge of the content of a row, where the check zone begins.
 std::int32_t nvList::contentLeft() const {
   const double scrolled = HScroll1.Visible() ? HScroll1.Value() : 0;
   return checked::nearest<std::int32_t>(state_.IndentLeft - scrolled);
@@ -69,7 +70,7 @@ void nvList::UserControl_MouseDown(std::int16_t Button, std::int16_t Shift, floa
   });
 }
 
-/// A press on an item; `x` counts from the left of the check zone.
+/// Handles a press on an item. `x` counts from the left edge of the check zone.
 void nvList::pressItem(Trap& on, std::int32_t hit, double x) {
   if (on.test([&] { return !item(hit).Enabled; })) {
     on.step([&] { ListIndex(-1); });
@@ -99,8 +100,8 @@ void nvList::pressItem(Trap& on, std::int32_t hit, double x) {
     on.step([&] { SetEdit(state_.ListIndex); });
 }
 
-/// Selects what lies between the anchor and the current item, both included; nothing where they are
-/// the same.
+/// Selects the enabled items from the anchor to the current item, both included; none if they are
+/// the same item.
 void nvList::selectRange(Trap& on) {
   if (state_.SelectAnchor == -1) state_.SelectAnchor = 0;
   on.step([&] { SetNoneSelected(); });
@@ -109,13 +110,13 @@ void nvList::selectRange(Trap& on) {
   for (std::int32_t i = last; i >= first; --i) {
     if (on.test([&] { return static_cast<bool>(item(i).Enabled); }))
       on.step([&] { state_.Selection.set(state_.Items, i, true); });
-    // Outside the list one failure is like all others.
+    // All indexes outside the list fail alike: one on either side is enough.
     if (i < 0) break;
     i = std::min(i, state_.Items.upperBound() + 1);
   }
 }
 
-/// The check mark of the current item changes, unless the host refuses: then it is false.
+/// Flips the check mark of the current item. Returns false if the host cancels it.
 bool nvList::flipChecked(Trap& on) {
   Boolean Cancel = false;
   on.step([&] {

@@ -36,14 +36,14 @@ void nvList::Wheel1_WheelScroll(std::int16_t& Rotation, std::int16_t&, float&, f
   });
 }
 
-/// Moves the bar. A bar's value raises nothing by itself; the list follows it here.
+/// Moves the bar and then the list: setting the value of a bar raises no event.
 void nvList::scrollBarTo(Trap& on, std::int32_t value) {
   const bool isOther = VScroll1.Value() != value;
   on.step([&] { VScroll1.Value(value); });
   if (isOther) on.step([&] { VScroll1_Change(); });
 }
 
-/// A turn of less than half a notch goes to the end, like one in the last stretch.
+/// A turn of less than half a notch scrolls to the end.
 void nvList::wheelScrollDown(Trap& on, std::int16_t rotation) {
   const auto hasRoom = [&] {
     return rotation < 0 && VScroll1.Visible() &&
@@ -116,7 +116,7 @@ void nvList::wheelIndexUp(Trap& on, std::int16_t rotation) {
     }
     on.step([&] { container_.DoEvents(); });
   } while (i != 0);
-  // Downward the current item comes into view by itself.
+  // wheelIndexDown needs no such step: there the current item scrolls into view by itself.
   if (state_.ListIndex < VScroll1.Value()) scrollBarTo(on, state_.ListIndex);
 }
 

@@ -21,14 +21,21 @@ class Files : public InUse<Files> {
 
   /// Whether a file or folder of that name exists. `*` and `?` in its last part match any others.
   virtual bool holdsFile(const std::string& path);
-  /// Deletes a file if it exists.
-  virtual void removeFile(const std::string& path);
-  /// Opens a file for reading, or creates it, replacing an old one, for writing. Throws on failure.
+  /// Opens a file. Throws on failure.
   virtual std::unique_ptr<File> openFile(const std::string& path, FileMode mode);
+
+  /// Whether lists are saved to a second file that replaces the old one when it is complete
+  /// (FileMode::saveBeside), so that an interrupted save leaves the old file intact. Default:
+  /// false, a save rewrites the file in place.
+  bool savesBeside() const { return savesBeside_; }
+  void savesBeside(bool value) { savesBeside_ = value; }
 
   /// Decodes the bytes of a picture file. Throws Failure 481 if they are no picture. Default: a
   /// picture of size 0 that keeps any bytes as its file.
   virtual Picture loadPicture(std::vector<std::byte> file);
+
+ private:
+  bool savesBeside_ = false;
 };
 
 }  // namespace norvane

@@ -14,7 +14,13 @@ UserControl::UserControl(std::unique_ptr<Container> place)
   container_.attach(this);
 }
 
-UserControl::~UserControl() { container_.attach(nullptr); }
+UserControl::~UserControl() {
+  try {
+    container_.attach(nullptr);
+  } catch (...) {
+    // A destructor must not throw.
+  }
+}
 
 void UserControl::UserControl_MouseDown(std::int16_t, std::int16_t, float, float) {}
 void UserControl::UserControl_MouseMove(std::int16_t, std::int16_t, float, float) {}

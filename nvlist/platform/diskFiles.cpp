@@ -4,8 +4,10 @@
 #include <filesystem>
 #include <fstream>
 #include <ios>
+#include <optional>
 #include <system_error>
 
+#include <nvlist/platform/FileLock.h>
 #include <nvlist/values/Failure.h>
 #include <nvlist/values/LikePattern.h>
 
@@ -22,18 +24,15 @@ constexpr bool ignoresCase = false;
 
 fs::path pathOf(const std::string& path) { return std::u8string(path.begin(), path.end()); }
 
-/// The system would silently ignore what follows a zero character.
-fs::path checkedPathOf(const std::string& path) {
-  if (path.find('\0') != std::string::npos) throw Failure(52, "Bad file name or number");
-  return pathOf(path);
-}
+/// The system would cut the path at a zero character.
+bool isCut(const std::string& path) { return path.find('\0') != std::string::npos; }
 
 std::string nameOf(const fs::path& path) {
   const std::u8string name = path.filename().u8string();
   return {name.begin(), name.end()};
 }
 
-/// A file name with wildcards as a pattern, in which # and [ are special too.
+/// A file name with wildcards as a LikePattern, whose other special characters are escaped.
 LikePattern patternOf(const std::string& name) {
   std::string pattern;
   for (const char c : name) {
@@ -73,7 +72,8 @@ void requireFolderOf(const fs::path& path) {
   if (!folder.empty() && !fs::is_directory(folder, error)) throw Failure(76, "Path not found");
 }
 
-/// Only regular files: others have no size, and opening them might block for ever.
+/// Returns the size of a regular file, and refuses all else: the size of a device means nothing,
+/// and opening a pipe may block.
 std::uint64_t sizeOf(const fs::path& path) {
   std::error_code error;
   const fs::file_status status = fs::status(path, error);
@@ -87,25 +87,44 @@ std::uint64_t sizeOf(const fs::path& path) {
   return size;
 }
 
-/// Unbuffered, since callers read and write in large blocks.
-class DiskFile final : public File {
+/// Returns the path. Throws if no list may be saved there: the file is read-only or not a regular
+/// file, or its folder is missing.
+const fs::path& savable(const fs::path& path) {
+  std::error_code error;
+  const fs::file_status status = fs::status(path, error);
+  if (status.type() == fs::file_type::not_found) {
+    requireFolderOf(path);
+    return path;
+  }
+  // Checked explicitly, because privileged users can open files that nobody may write.
+  constexpr auto anyWrite =
+      fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+  const bool isReadOnly = (status.permissions() & anyWrite) == fs::perms::none;
+  if (!fs::is_regular_file(status) || isReadOnly) throw accessFailure();
+  return path;
+}
+
+/// Follows symbolic links, whose last target may be missing.
+fs::path targetOf(fs::path path) {
+  while (fs::is_symlink(path)) path = path.parent_path() / fs::read_symlink(path);
+  return path;
+}
+
+/// Unbuffered: callers read and write large blocks.
+class DiskFile : public File {
  public:
   DiskFile(const fs::path& path, FileMode mode) {
     if (mode == FileMode::read)
       size_ = sizeOf(path);
     else
       requireFolderOf(path);
-    file_.pubsetbuf(nullptr, 0);
-    const auto direction = mode == FileMode::read ? std::ios::in : std::ios::out | std::ios::trunc;
-    errno = 0;
-    if (!file_.open(path, direction | std::ios::binary))
-      throw errno == ENOSPC ? writeFailure() : accessFailure();
+    open(path, mode == FileMode::read ? std::ios::in : std::ios::out | std::ios::trunc);
   }
 
   std::uint64_t size() override { return size_; }
 
   std::size_t read(char* bytes, std::size_t count) override {
-    // If a read fails, some standard libraries throw and others return the end of the file.
+    // If a read fails, some standard libraries throw, others return the end of the file.
     try {
       return static_cast<std::size_t>(file_.sgetn(bytes, static_cast<std::streamsize>(count)));
     } catch (const std::ios_base::failure&) {
@@ -124,14 +143,94 @@ class DiskFile final : public File {
     if (!file_.close()) throw writeFailure();
   }
 
+ protected:
+  DiskFile() = default;
+
+  void open(const fs::path& path, std::ios::openmode direction) {
+    file_.pubsetbuf(nullptr, 0);
+    errno = 0;
+    if (!file_.open(path, direction | std::ios::binary))
+      throw errno == ENOSPC ? writeFailure() : accessFailure();
+  }
+  /// Closes the file, whether or not everything has been written.
+  void abandon() { file_.close(); }
+
  private:
   std::filebuf file_;
   std::uint64_t size_ = 0;
 };
 
+/// FileMode::save. The file is locked before its old contents are dropped.
+class SavedFile final : public DiskFile {
+ public:
+  explicit SavedFile(const fs::path& path) : lock_(savable(path)) {
+    open(path, std::ios::out | std::ios::trunc);
+  }
+
+ private:
+  FileLock lock_;
+};
+
+/// FileMode::saveBeside. The old file is locked too, for writers that do not write beside it.
+class FileBeside final : public DiskFile {
+ public:
+  explicit FileBeside(const fs::path& path) : old_(targetOf(savable(path))), new_(old_) {
+    new_ += ".nvlist-new";
+    const bool hasOld = fs::exists(old_);
+    if (hasOld) oldLock_.emplace(old_);
+    newLock_.emplace(savable(new_));
+    try {
+      open(new_, std::ios::out | std::ios::trunc);
+      if (hasOld) fs::permissions(new_, fs::status(old_).permissions());
+    } catch (...) {
+      removeNew();
+      throw;
+    }
+  }
+  ~FileBeside() override {
+    if (!isReplaced_) removeNew();
+  }
+
+  void close() override {
+    DiskFile::close();
+    newLock_->flush();
+    // Windows does not replace a file that is open.
+    oldLock_.reset();
+    std::error_code error;
+    fs::rename(new_, old_, error);
+    if (error) throw accessFailure();
+    isReplaced_ = true;
+  }
+
+ private:
+  void removeNew() {
+    abandon();
+    std::error_code error;
+    fs::remove(new_, error);
+  }
+
+  const fs::path old_;
+  fs::path new_;
+  std::optional<FileLock> oldLock_;
+  std::optional<FileLock> newLock_;
+  bool isReplaced_ = false;
+};
+
+std::unique_ptr<File> opened(const fs::path& path, FileMode mode) {
+  switch (mode) {
+    case FileMode::save:
+      return std::make_unique<SavedFile>(path);
+    case FileMode::saveBeside:
+      return std::make_unique<FileBeside>(path);
+    default:
+      return std::make_unique<DiskFile>(path, mode);
+  }
+}
+
 }  // namespace
 
 bool holdsAny(const std::string& path) {
+  if (isCut(path)) return false;
   const fs::path place = pathOf(path);
   const std::string name = nameOf(place);
   if (name.find_first_of("*?") != std::string::npos) return anyMatches(place.parent_path(), name);
@@ -139,16 +238,13 @@ bool holdsAny(const std::string& path) {
   return !name.empty() && fs::exists(place, error);
 }
 
-void remove(const std::string& path) {
-  const fs::path place = checkedPathOf(path);
-  std::error_code error;
-  if (!fs::is_regular_file(place, error)) return;
-  fs::remove(place, error);
-  if (error) throw accessFailure();
-}
-
 std::unique_ptr<File> open(const std::string& path, FileMode mode) {
-  return std::make_unique<DiskFile>(checkedPathOf(path), mode);
+  if (isCut(path)) throw Failure(52, "Bad file name or number");
+  try {
+    return opened(pathOf(path), mode);
+  } catch (const fs::filesystem_error&) {
+    throw accessFailure();
+  }
 }
 
 }  // namespace norvane::disk

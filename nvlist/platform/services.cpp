@@ -66,8 +66,6 @@ void Program::MsgBox(std::string_view text, std::int32_t, std::string_view title
 
 bool Files::holdsFile(const std::string& path) { return disk::holdsAny(path); }
 
-void Files::removeFile(const std::string& path) { disk::remove(path); }
-
 std::unique_ptr<File> Files::openFile(const std::string& path, FileMode mode) {
   return disk::open(path, mode);
 }

@@ -6,25 +6,12 @@
 #include <vector>
 
 #include "../Lists.h"
+#include "FileBytes.h"
 #include "MemoryFiles.h"
 
 namespace norvane {
 
-// Bytes put together by hand.
-
-inline std::string little(int value, int size) {
-  std::string bytes;
-  for (int i = 0; i < size; ++i) bytes += static_cast<char>(value >> 8 * i);
-  return bytes;
-}
-inline std::string byte(int value) { return little(value, 1); }
-inline std::string int16(int value) { return little(value, 2); }
-inline std::string int32(int value) { return little(value, 4); }
-inline std::string zeros(std::size_t count) { return std::string(count, '\0'); }
-/// With its length in front.
-inline std::string text(const std::string& bytes) {
-  return int32(static_cast<int>(bytes.size())) + bytes;
-}
+using namespace bytes;
 
 /// A list and files in memory, with every event of list files written down.
 class FileTest : public ListTest, protected __nvList {
@@ -53,6 +40,12 @@ class FileTest : public ListTest, protected __nvList {
   void input(const std::string& bytes, bool properties = true) {
     memory.files["file"] = bytes;
     list.ListInput("file", properties);
+  }
+
+  void expectRefused(const std::string& bytes, const std::string& what) {
+    input(bytes);
+    EXPECT_EQ(events(), "input! ") << what;
+    EXPECT_EQ(list.ItemsCount(), 0) << what;
   }
 
   /// Runs `operation` with the first, the second, ... file operation failing, until none does any

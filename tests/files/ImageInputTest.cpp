@@ -3,11 +3,6 @@
 namespace norvane {
 namespace {
 
-// Properties as a store's contents hold them, and the file that holds the contents.
-
-std::string property(const std::string& name, int kind, const std::string& value) {
-  return int16(static_cast<int>(name.size())) + name + int16(kind) + value;
-}
 std::string number(const std::string& name, int value) { return property(name, 3, int32(value)); }
 std::string truth(const std::string& name, int value) { return property(name, 11, int16(value)); }
 std::string words(const std::string& name, const std::string& value) {
@@ -16,11 +11,6 @@ std::string words(const std::string& name, const std::string& value) {
 std::string picture(const std::string& name, const std::string& file) {
   return property(name, 9, text(file));
 }
-std::string image(const std::string& properties) {
-  return int16(0x2011) + int16(1) + int32(static_cast<int>(properties.size()) + 4) + int32(0) +
-         "PBAG" + properties;
-}
-
 const std::string full =
     property("count", 2, int16(2)) + truth("sip", -1) + words("i0Text", "\xC4") +
     words("i1Text", "b") + truth("i0AllowEdit", -1) + number("i0BackColor", 1) +

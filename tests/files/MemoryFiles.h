@@ -11,32 +11,35 @@
 
 namespace norvane {
 
-/// Files in memory, any of whose operations can be made to fail.
+/// Files in memory. Any operation can be made to fail.
 class MemoryFiles : public Files {
  public:
   std::map<std::string, std::string> files;
   int operations = 0;
-  /// Which operation fails, from 1; 0 none.
+  /// The operation that fails, counted from 1; 0: none.
   int failing = 0;
+  /// Number of files that are open.
   int open = 0;
-  /// Bytes that the largest read asked for.
+  /// The largest number of bytes requested by a read.
   std::size_t largestRead = 0;
-  /// By how much files are shorter than their size says.
+  /// Number of bytes by which files are shorter than their size says.
   std::uint64_t missing = 0;
 
   bool holdsFile(const std::string& path) override {
     operate();
     return files.contains(path);
   }
-  void removeFile(const std::string& path) override {
-    operate();
-    files.erase(path);
-  }
   std::unique_ptr<File> openFile(const std::string& path, FileMode mode) override {
     operate();
     if (mode == FileMode::read && !files.contains(path)) throw Failure(53, "File not found");
-    if (mode == FileMode::write) files[path].clear();
+    if (mode != FileMode::read) files[path].clear();
     return std::make_unique<MemoryFile>(*this, files[path]);
+  }
+
+ protected:
+  /// Runs before each operation.
+  virtual void operate() {
+    if (++operations == failing) throw Failure(57, "Device I/O error");
   }
 
  private:
@@ -66,10 +69,6 @@ class MemoryFiles : public Files {
     std::string& bytes_;
     std::size_t at_ = 0;
   };
-
-  void operate() {
-    if (++operations == failing) throw Failure(57, "Device I/O error");
-  }
 };
 
 }  // namespace norvane

@@ -1,10 +1,5 @@
-#include <filesystem>
-#include <fstream>
-#include <random>
-
 #include "FileTest.h"
 
-#include <nvlist/files/fileExists.h>
 #include <nvlist/files/windows1252.h>
 
 namespace norvane {
@@ -59,71 +54,6 @@ TEST(Windows1252, BringsEveryByteBack) {
   back.clear();
   windows1252::append(back, "\u0100 \u0080 \xE4 \U0001F600.");
   EXPECT_EQ(back, "? ? ? ?.");
-}
-
-/// Real files in a folder of their own.
-class Disk : public ListTest, protected __nvList {
- protected:
-  Disk() {
-    std::filesystem::create_directories(folder_ / "folder");
-    list.addSink(*this);
-  }
-  ~Disk() override {
-    list.removeSink(*this);
-    std::filesystem::remove_all(folder_);
-  }
-  void ErrorListSave() override { ++failures; }
-  void ErrorListInput() override { ++failures; }
-
-  std::string at(const std::string& name) { return (folder_ / name).string(); }
-
-  int failures = 0;
-
- private:
-  const std::filesystem::path folder_ =
-      std::filesystem::temp_directory_path() / ("nvlist" + std::to_string(std::random_device()()));
-};
-
-TEST_F(Disk, FindsFilesByWildcards) {
-  for (const char* name : {"one.txt", "two.list", "bare", "#[1]", "\u00fc.nvl"})
-    std::ofstream(at(name)) << name;
-  for (const char* there :
-       {"one.txt", "*.txt", "?ne.txt", "*.*", "bare.*", "fol*", "#[?]", "?.nvl"})
-    EXPECT_TRUE(FileExists(at(there))) << there;
-  for (const char* missing : {"one", "?one.txt", "bare.?", "folder/", "none/*", "[#][1]*"})
-    EXPECT_FALSE(FileExists(at(missing))) << missing;
-  EXPECT_FALSE(FileExists(""));
-  EXPECT_EQ(reports(), "");
-}
-
-TEST_F(Disk, HoldsTheList) {
-  add({"a", "\u00e4"});
-  const std::string path = at("\u00e4.nvl");
-  list.ListSave(path, true);
-  list.ItemsClear();
-  list.ListInput(path, true);
-  EXPECT_EQ(texts(), "a \u00e4");
-  EXPECT_EQ(failures, 0);
-}
-
-TEST_F(Disk, RefusesWhatIsNoFile) {
-  list.ItemsAdd("a");
-  std::ofstream(at("file")) << "kept";
-  for (const std::string& path :
-       {at("folder"), at("none/file"), std::string(), at("file") + '\0' + "s"})
-    list.ListSave(path);
-  for (const std::string& path : {at("folder"), at("fold*")}) list.ListInput(path);
-  EXPECT_EQ(failures, 6);
-  EXPECT_TRUE(std::filesystem::exists(at("file")));
-  EXPECT_TRUE(std::filesystem::is_directory(at("folder")));
-  // A device is neither deleted nor read without end.
-  if (std::filesystem::exists("/dev/full")) {
-    std::filesystem::create_symlink("/dev/full", at("device"));
-    list.ListSave(at("device"));
-    list.ListInput(at("device"));
-    EXPECT_EQ(failures, 8);
-    EXPECT_TRUE(std::filesystem::is_symlink(at("device")));
-  }
 }
 
 }  // namespace

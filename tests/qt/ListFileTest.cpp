@@ -55,5 +55,54 @@ TEST(QtListFileTest, bringsPicturesBack) {
             static_cast<const QtPicture&>(*drawn).image());
 }
 
+/// Few bytes that decode to many pixels: each side is 4096, one bit a pixel.
+QByteArray largePicture() {
+  QImage image(4096, 4096, QImage::Format_Mono);
+  image.fill(1);
+  QByteArray bytes;
+  QBuffer file(&bytes);
+  file.open(QIODevice::WriteOnly);
+  image.save(&file, "PNG");
+  return bytes;
+}
+
+long residentMegabytes() {
+  QFile statistics("/proc/self/statm");
+  if (!statistics.open(QIODevice::ReadOnly)) return 0;
+  return statistics.readAll().split(' ').value(1).toLong() * 4096 / 1'000'000;
+}
+
+TEST(QtListFileTest, keepsNoMorePixelsThanTheBudget) {
+  QtApplication application;
+  QTemporaryDir folder;
+  const std::string path = folder.filePath("large.nvl").toStdString();
+  const qsizetype budget = QtPicture::pixelBudget();
+  EXPECT_EQ(budget, 64'000'000);
+  const QByteArray bytes = largePicture();
+  QtPicture::pixelBudget(20'000'000);
+  NvListWidget widget;
+  widget.resize(200, 300);
+  nvList& list = widget.list();
+  list.Style(cIcons);
+  const long before = residentMegabytes();
+  for (int i = 0; i < 8; ++i) {
+    // Each is a picture of its own.
+    list.ItemsAdd({.aText = "a", .aIconSelected = QtPicture::fromBytes(bytes)});
+  }
+  list.ListSave(path, true);
+  list.ListInput(path, true);
+  ASSERT_TRUE(list.ItemIcon(7));
+  EXPECT_FALSE(widget.grab().isNull());
+  // One decoded picture takes 67 MB, all eight 537.
+  EXPECT_LT(residentMegabytes() - before, 250);
+
+  // A picture of more pixels than the budget is bad.
+  QtPicture::pixelBudget(4096 * 4096 - 1);
+  EXPECT_FALSE(QtPicture::fromBytes(bytes));
+  EXPECT_TRUE(static_cast<const QtPicture&>(*list.ItemIcon(7)).image().isNull());
+  widget.grab();
+  QtPicture::pixelBudget(budget);
+}
+
 }  // namespace
 }  // namespace norvane

@@ -21,7 +21,7 @@ constexpr int farOut = 1 << 24;
 /// a very long line.
 constexpr qsizetype pieceLength = 512;
 
-constexpr std::size_t maximumDecoded = 256;
+constexpr std::size_t maximumForeign = 256;
 
 constexpr unsigned firstPrintable = 0x20;
 constexpr unsigned lastPrintable = 0x7E;
@@ -251,29 +251,29 @@ void QtCanvas::DrawFocusRect(std::uintptr_t hDC, const Rectangle& rectangle) {
 
 // ---- pictures ----
 
-const QImage& QtCanvas::imageOf(const Picture& picture) {
+const QtPicture& QtCanvas::drawable(const Picture& picture) {
   if (!picture) throw Failure::invalidCall();
-  if (const auto* own = dynamic_cast<const QtPicture*>(picture.get())) return own->image();
+  if (const auto* own = dynamic_cast<const QtPicture*>(picture.get())) return *own;
 
-  const auto known = decoded_.find(picture.get());
-  if (known != decoded_.end()) return known->second.second;
+  const auto known = foreign_.find(picture.get());
+  if (known != foreign_.end()) return static_cast<const QtPicture&>(*known->second.second);
   const auto bytes = picture->fileBytes();
-  const Picture read = QtPicture::fromBytes(
-      QByteArray(reinterpret_cast<const char*>(bytes.data()), static_cast<int>(bytes.size())));
-  if (!read) throw Failure(481, "Invalid picture");
-  if (decoded_.size() >= maximumDecoded) decoded_.clear();
-  const QImage& image = static_cast<const QtPicture&>(*read).image();
-  return decoded_.emplace(picture.get(), std::pair(picture, image)).first->second.second;
+  const Picture read = QtPicture::fromBytes(QByteArray(reinterpret_cast<const char*>(bytes.data()),
+                                                       static_cast<qsizetype>(bytes.size())));
+  if (!read) throw Failure::invalidPicture();
+  if (foreign_.size() >= maximumForeign) foreign_.clear();
+  foreign_.emplace(picture.get(), std::pair(picture, read));
+  return static_cast<const QtPicture&>(*read);
 }
 
 void QtCanvas::PaintPicture(const Picture& picture, float x, float y) {
-  const QImage& image = imageOf(picture);
-  PaintPicture(picture, x, y, static_cast<float>(image.width()),
-               static_cast<float>(image.height()));
+  const QtPicture& drawn = drawable(picture);
+  PaintPicture(picture, x, y, drawn.width(), drawn.height());
 }
 
 void QtCanvas::PaintPicture(const Picture& picture, float x, float y, float width, float height) {
-  const QImage& image = imageOf(picture);
+  const QImage image = drawable(picture).image();
+  if (image.isNull()) return;
   const QRect target(nearestPixel(x), nearestPixel(y), nearestPixel(width), nearestPixel(height));
   if (target.width() <= 0 || target.height() <= 0) return;
   QPainter& on = painter();

@@ -17,6 +17,8 @@
 
 namespace norvane {
 
+class QtPicture;
+
 /// A surface that draws on a QImage at once; QtSurface puts that off. All coordinates are logical
 /// pixels; each of them covers the whole device pixels that the device pixel ratio gives it, so
 /// that edges stay sharp.
@@ -42,14 +44,15 @@ class QtCanvas final : public Surface {
   void setPalette(const QPalette& palette) { palette_ = palette; }
 
   /// Throws what PaintPicture would throw for a picture.
-  void requireDrawable(const Picture& picture) { imageOf(picture); }
+  void requireDrawable(const Picture& picture) { drawable(picture); }
 
   void Cls() override;
   /// Coordinates are rounded to the nearest pixel, halves to the even one.
   void Line(LineMode mode, float x1, float y1, float x2, float y2, Colour colour) override;
   void PSet(float x, float y, Colour colour) override;
   /// An empty reference throws Failure 5. The picture of another platform is decoded from the bytes
-  /// of its file; one that has none, or none that Qt knows, throws Failure 481.
+  /// of its file; if it has none, or none that Qt can decode, this throws Failure 481. A picture
+  /// whose pixels cannot be decoded again (QtPicture::image) is not painted.
   void PaintPicture(const Picture& picture, float x, float y) override;
   void PaintPicture(const Picture& picture, float x, float y, float width, float height) override;
   /// Whole pixels. A tab goes on to the next stop of eight characters.
@@ -117,7 +120,7 @@ class QtCanvas final : public Surface {
   void fill(int left, int top, int right, int bottom, QRgb colour);
   void drawLine(int x1, int y1, int x2, int y2, QRgb colour);
   void invert(int x, int y);
-  const QImage& imageOf(const Picture& picture);
+  const QtPicture& drawable(const Picture& picture);
   double widthWithTabs(const QString& line);
   void drawLine(const ShownLine& line, double x, double tabOrigin, double baseline,
                 const QRect& clip);
@@ -138,8 +141,8 @@ class QtCanvas final : public Surface {
   FontObject font_;
   unsigned flags_ = 0;
   std::array<std::optional<Face>, 8> faces_;
-  /// Pictures of other platforms, kept so that no other can take the address of one.
-  std::map<const PictureObject*, std::pair<Picture, QImage>> decoded_;
+  /// Pictures of other platforms with their conversions. The reference keeps the address unique.
+  std::map<const PictureObject*, std::pair<Picture, Picture>> foreign_;
 };
 
 }  // namespace norvane

@@ -1,0 +1,198 @@
+#include <filesystem>
+#include <fstream>
+#include <random>
+
+#ifndef _WIN32
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <csignal>
+#endif
+
+#include "../Lists.h"
+
+#include <nvlist/files/fileExists.h>
+#include <nvlist/platform/Files.h>
+
+namespace norvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Real files in a folder of their own.
+class Disk : public ListTest, protected __nvList {
+ protected:
+  Disk() {
+    fs::create_directories(folder_ / "folder");
+    list.addSink(*this);
+  }
+  ~Disk() override {
+    list.removeSink(*this);
+    fs::remove_all(folder_);
+  }
+  void ErrorListSave() override { ++failures; }
+  void ErrorListInput() override { ++failures; }
+  void ListSaving(Variant&) override {
+    std::exchange(onSaving, [] {})();
+  }
+
+  std::string at(const std::string& name) { return (folder_ / name).string(); }
+  static std::string contents(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+  /// Puts a file there whose first byte a saved list would change.
+  std::string oldFile(const std::string& name = "old") {
+    std::ofstream(at(name)) << "old contents";
+    return at(name);
+  }
+  /// Saves a list of one item; false if that raised ErrorListSave.
+  bool save(const std::string& path) {
+    list.ItemsClear();
+    list.ItemsAdd("a");
+    const int before = failures;
+    list.ListSave(path);
+    return failures == before;
+  }
+  const std::string saved = std::string("\0\0\0\0\0\x11\x01\1\0\0\0a", 12);
+
+  Files files;
+  int failures = 0;
+  /// Runs once.
+  std::function<void()> onSaving = [] {};
+
+ private:
+  const fs::path folder_ =
+      fs::temp_directory_path() / ("nvlist" + std::to_string(std::random_device()()));
+};
+
+TEST_F(Disk, FindsFilesByWildcards) {
+  for (const char* name : {"one.txt", "two.list", "bare", "#[1]", "\u00fc.nvl"})
+    std::ofstream(at(name)) << name;
+  for (const char* there :
+       {"one.txt", "*.txt", "?ne.txt", "*.*", "bare.*", "fol*", "#[?]", "?.nvl"})
+    EXPECT_TRUE(FileExists(at(there))) << there;
+  for (const char* missing : {"one", "?one.txt", "bare.?", "folder/", "none/*", "[#][1]*"})
+    EXPECT_FALSE(FileExists(at(missing))) << missing;
+  EXPECT_FALSE(FileExists(""));
+  // Not the file that the system would find, which cuts names at the zero.
+  for (const char* behind : {"", "x", "*"})
+    EXPECT_FALSE(FileExists(at("bare") + '\0' + behind)) << behind;
+  EXPECT_EQ(reports(), "");
+}
+
+TEST_F(Disk, HoldsTheList) {
+  add({"a", "\u00e4"});
+  const std::string path = at("\u00e4.nvl");
+  list.ListSave(path, true);
+  list.ItemsClear();
+  list.ListInput(path, true);
+  EXPECT_EQ(texts(), "a \u00e4");
+  EXPECT_EQ(failures, 0);
+}
+
+TEST_F(Disk, RefusesWhatIsNoFile) {
+  for (const bool isBeside : {false, true}) {
+    files.savesBeside(isBeside);
+    for (const std::string& path :
+         {at("folder"), at("none/file"), std::string(), oldFile() + '\0' + "s"})
+      EXPECT_FALSE(save(path)) << path;
+    EXPECT_EQ(contents(at("old")), "old contents");
+  }
+  failures = 0;
+  for (const std::string& path : {at("folder"), at("fold*")}) list.ListInput(path);
+  EXPECT_EQ(failures, 2);
+}
+
+#ifndef _WIN32
+
+TEST_F(Disk, KeepsWhatAFileIs) {
+  for (const bool isBeside : {false, true}) {
+    files.savesBeside(isBeside);
+    const fs::perms mode = fs::perms::owner_read | fs::perms::owner_write;
+    fs::permissions(oldFile(), mode);
+    EXPECT_TRUE(save(at("old")));
+    EXPECT_EQ(fs::status(at("old")).permissions(), mode);
+    EXPECT_EQ(contents(at("old")), saved);
+
+    fs::permissions(oldFile("read only"), fs::perms::owner_read);
+    EXPECT_FALSE(save(at("read only")));
+    EXPECT_EQ(contents(at("read only")), "old contents");
+
+    // Links: to a file, to no file yet, to a device, and hard.
+    fs::create_symlink(fs::path(oldFile("target")).filename(), at("link"));
+    fs::create_symlink("new target", at("dangling"));
+    fs::create_symlink("/dev/full", at("device"));
+    fs::create_hard_link(oldFile("first name"), at("second name"));
+    for (const char* link : {"link", "dangling"}) {
+      EXPECT_TRUE(save(at(link))) << link;
+      EXPECT_TRUE(fs::is_symlink(at(link))) << link;
+    }
+    EXPECT_FALSE(save(at("device")));
+    EXPECT_EQ(contents(at("target")) + contents(at("new target")), saved + saved);
+    EXPECT_TRUE(save(at("first name")));
+    EXPECT_EQ(contents(at("second name")), isBeside ? "old contents" : saved);
+
+    // A pipe that nobody reads would block, and a device be read without end.
+    ASSERT_EQ(mkfifo(at("pipe").c_str(), 0600), 0);
+    EXPECT_FALSE(save(at("pipe")));
+    failures = 0;
+    list.ListInput(at("pipe"));
+    list.ListInput(at("device"));
+    EXPECT_EQ(failures, 2);
+    for (const char* name : {"link", "dangling", "device", "second name", "pipe", "read only"})
+      fs::remove(at(name));
+  }
+}
+
+TEST_F(Disk, LocksAFileWhileItIsSaved) {
+  for (const bool isBeside : {false, true}) {
+    files.savesBeside(isBeside);
+    oldFile();
+    int inside = -1;
+    // In a process of its own, which sees the same files.
+    onSaving = [&] {
+      const pid_t child = fork();
+      if (child == 0) _exit(save(at("old")) ? 1 : 2);
+      ASSERT_EQ(waitpid(child, &inside, 0), child);
+    };
+    EXPECT_TRUE(save(at("old")));
+    EXPECT_EQ(WEXITSTATUS(inside), 2);
+    EXPECT_EQ(contents(at("old")), saved);
+    EXPECT_TRUE(save(at("old")));
+  }
+}
+
+TEST_F(Disk, OutlivesASaveThatIsKilled) {
+  for (const bool isBeside : {false, true}) {
+    files.savesBeside(isBeside);
+    oldFile();
+    const pid_t child = fork();
+    if (child == 0) {
+      onSaving = [] { raise(SIGKILL); };
+      save(at("old"));
+      _exit(0);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFSIGNALED(status));
+    EXPECT_EQ(contents(at("old")), isBeside ? "old contents" : "");
+    EXPECT_TRUE(save(at("old")));
+    EXPECT_EQ(contents(at("old")), saved);
+    EXPECT_FALSE(fs::exists(at("old.nvlist-new")));
+  }
+}
+
+TEST_F(Disk, KeepsTheOldFileIfSavingBesideItFails) {
+  files.savesBeside(true);
+  oldFile();
+  onSaving = [] { throw 1; };
+  EXPECT_FALSE(save(at("old")));
+  EXPECT_EQ(contents(at("old")), "old contents");
+  EXPECT_FALSE(fs::exists(at("old.nvlist-new")));
+}
+
+#endif
+
+}  // namespace
+}  // namespace norvane
