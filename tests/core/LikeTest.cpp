@@ -3,13 +3,14 @@
 #include <nvlist/platform/headless/HeadlessApplication.h>
 #include <nvlist/values/Failure.h>
 #include <nvlist/values/LikePattern.h>
-#include <nvlist/values/text.h>
 
 #include <gtest/gtest.h>
 
 #include <random>
 #include <string>
 #include <vector>
+
+#include "PlainMatcher.h"
 
 namespace norvane {
 namespace {
@@ -22,51 +23,18 @@ bool folded(std::string_view text, std::string_view pattern) {
   return LikePattern(pattern, true).matches(text);
 }
 
-/// The same answer from a plain walk over all possibilities.
-bool walked(std::u32string_view text, std::u32string_view pattern) {
-  if (pattern.empty()) return text.empty();
-  if (pattern[0] == U'*') {
-    return walked(text, pattern.substr(1)) || (!text.empty() && walked(text.substr(1), pattern));
-  }
-  const std::size_t width = pattern[0] == U'[' ? pattern.find(U']') + 1 : 1;
-  const std::u32string_view rest = pattern.substr(width);
-  if (width == 2) return walked(text, rest);
-  if (text.empty()) return false;
-  bool fits = pattern[0] == U'?' || pattern[0] == text[0];
-  if (pattern[0] == U'#') fits = text[0] >= U'0' && text[0] <= U'9';
-  if (width > 2) {
-    std::u32string_view set = pattern.substr(1, width - 2);
-    const bool isNegated = set.size() > 1 && set[0] == U'!';
-    if (isNegated) set.remove_prefix(1);
-    fits = (set.find(text[0]) != std::u32string_view::npos) != isNegated;
-  }
-  return fits && walked(text.substr(1), rest);
-}
-
-std::u32string decoded(std::string_view text) {
-  std::u32string result;
-  for (std::size_t at = 0; at < text.size();) result += decodeNext(text, at);
-  return result;
-}
-
 TEST(Like, MatchesTheWholeText) {
   const struct {
     std::string_view pattern;
     std::vector<std::string_view> hits;
     std::vector<std::string_view> misses;
   } cases[] = {
-      {"abc", {"abc"}, {"ab", "abcd", "xabc", "Abc"}},
       {"##", {"09"}, {"0", "0a", "123", "\xD9\xA1\xD9\xA2"}},
       {"[a-cx-z5]*", {"a", "b1", "y", "5"}, {"d", "w", "-", "B"}},
-      {"[!a-c]", {"d", "!", "\xC3\xA4", "\xFF"}, {"", "a", "dd"}},
-      {"[-a]", {"-", "a"}, {"b"}},
-      {"[a-]", {"-", "a"}, {"b", "]"}},
       {"[a-c-e]", {"b", "-", "e"}, {"d"}},
       {"[!]", {"!"}, {"", "a", "[!]"}},
-      {"[!!]", {"a"}, {"!"}},
       {"[?*#[]", {"?", "*", "#", "["}, {"a"}},
       {"[]]", {"]"}, {""}},
-      {"[\xC3\xA0-\xC3\xBC]", {"\xC3\xA4"}, {"\xC3\xBD", "\xC3", "\xA4", "a"}},
       {{"a\0*", 3}, {{"a\0b", 3}}, {"a"}},
   };
   for (const auto& [pattern, hits, misses] : cases) {
@@ -111,24 +79,24 @@ TEST(Like, RefusesMalformedPatternsAndReportsThemUnderItsNames) {
               std::string::npos);
 }
 
-TEST(Like, AgreesWithAPlainWalkAlsoOverStrayBytes) {
+TEST(Like, AgreesWithAPlainMatcherAlsoOverStrayBytes) {
   const std::string_view patternPieces[] = {
-      "a",  "b",    "*",    "*",    "?", "#",        "[ab]",        "[!ab]",
-      "[]", "\xE2", "\x82", "\xAC", "7", "\xC3\xA4", "[!\xC3\xA4]", "[\xE2\x82]"};
-  const std::string_view textPieces[] = {"a", "b", "7", "\xE2", "\x82", "\xAC", "\xC3\xA4", "a"};
+      "a",  "B",    "*",    "*",    "?", "#",        "[ab]",        "[!A-c]",     "[-a]", "[a-]",
+      "[]", "\xE2", "\x82", "\xAC", "7", "\xC3\xA4", "[!\xC3\xA4]", "[\xE2\x82]", "[!]",  "[!!]"};
+  const std::string_view textPieces[] = {"a", "b", "7", "\xE2", "\x82", "\xAC", "\xC3\x84", "-!"};
   std::mt19937 random(3);
   int hits = 0;
-  for (int round = 0; round < 200000; ++round) {
+  for (int round = 0; round < 40000; ++round) {
     std::string pattern, text;
-    std::u32string walkedPattern;
-    for (auto left = random() % 7; left > 0; --left) pattern += patternPieces[random() % 16];
+    for (auto left = random() % 7; left > 0; --left)
+      pattern += patternPieces[random() % std::size(patternPieces)];
     for (auto left = random() % 8; left > 0; --left) text += textPieces[random() % 8];
-    const bool expected = walked(decoded(text), decoded(pattern));
-    ASSERT_EQ(binary(text, pattern), expected)
-        << testing::PrintToString(pattern) << testing::PrintToString(text);
-    ASSERT_EQ(folded(text, pattern), expected)
-        << testing::PrintToString(pattern) << testing::PrintToString(text);
-    hits += expected;
+    for (const bool ignoreCase : {false, true}) {
+      const bool expected = PlainMatcher(pattern, ignoreCase).matches(charactersOf(text));
+      ASSERT_EQ(LikePattern(pattern, ignoreCase).matches(text), expected)
+          << testing::PrintToString(pattern) << testing::PrintToString(text) << ignoreCase;
+      hits += expected;
+    }
   }
   EXPECT_GT(hits, 2000);
 }
