@@ -4,9 +4,6 @@
 
 namespace norvane {
 
-void showAboutBox() {
-  constexpr std::int32_t informationWithOk = 64;
-  Program::inUse().MsgBox("nvList " NVLIST_VERSION, informationWithOk, "About nvList");
-}
+void showAboutBox() { Program::inUse().showAbout("nvList", NVLIST_VERSION); }
 
 }  // namespace norvane

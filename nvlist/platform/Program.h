@@ -80,6 +80,10 @@ class Program : public InUse<Program> {
   /// return and a line feed. Default: writes both texts to the standard error stream.
   virtual void MsgBox(std::string_view text, std::int32_t style, std::string_view title);
 
+  /// Shows the modal about box of the library and returns when it is closed. Default: a message box
+  /// with both texts.
+  virtual void showAbout(std::string_view name, std::string_view version);
+
  private:
   std::shared_ptr<ErrorHandler> handler_;
 };

@@ -64,6 +64,12 @@ void Program::MsgBox(std::string_view text, std::int32_t, std::string_view title
                static_cast<int>(text.size()), text.data());
 }
 
+void Program::showAbout(std::string_view name, std::string_view version) {
+  constexpr std::int32_t informationWithOk = 64;
+  const std::string title(name);
+  MsgBox(title + " " + std::string(version), informationWithOk, "About " + title);
+}
+
 bool Files::holdsFile(const std::string& path) { return disk::holdsAny(path); }
 
 std::unique_ptr<File> Files::openFile(const std::string& path, FileMode mode) {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include <nvlist/platform/windows/ErrorReporter.h>
+#include <nvlist/platform/windows/NorvaneAbout.h>
 #include <nvlist/platform/windows/OlePicture.h>
 #include <nvlist/platform/windows/WinTipWindow.h>
 #include <nvlist/values/Failure.h>
@@ -160,6 +161,10 @@ void WinProgram::MsgBox(std::string_view text, std::int32_t style, std::string_v
   // Without an owner the box could be hidden behind the window that waits for it.
   MessageBoxW(GetActiveWindow(), wide(text).c_str(), wide(title).c_str(),
               static_cast<UINT>(style) | MB_TASKMODAL);
+}
+
+void WinProgram::showAbout(std::string_view name, std::string_view version) {
+  if (!showNorvaneAbout(GetActiveWindow(), name, version)) Program::showAbout(name, version);
 }
 
 Picture WinFiles::loadPicture(std::vector<std::byte> file) {

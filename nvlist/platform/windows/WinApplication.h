@@ -21,6 +21,7 @@ class WinProgram final : public Program {
   std::string timeText() override;
   /// In front of the active window of the thread.
   void MsgBox(std::string_view text, std::int32_t style, std::string_view title) override;
+  void showAbout(std::string_view name, std::string_view version) override;
 };
 
 /// Files on the disk, with the pictures that OlePicture reads.

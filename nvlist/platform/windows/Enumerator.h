@@ -1,0 +1,75 @@
+#pragma once
+
+#include <new>
+#include <vector>
+
+#include <nvlist/platform/windows/ole.h>
+
+namespace norvane {
+
+// What an enumerator hands out carries references of its own.
+inline void retain(IConnectionPoint* item) { item->AddRef(); }
+inline void release(IConnectionPoint* item) { item->Release(); }
+inline void retain(const CONNECTDATA& item) { item.pUnk->AddRef(); }
+inline void release(const CONNECTDATA& item) { item.pUnk->Release(); }
+inline void retain(const FORMATETC&) {}
+inline void release(const FORMATETC&) {}
+
+/// One of COM's enumerators, over a copy of what there was when it was made.
+template <class Interface, class Item>
+class Enumerator final : public Interface {
+ public:
+  explicit Enumerator(std::vector<Item> items, std::size_t next = 0)
+      : items_(std::move(items)), next_(next) {
+    for (const Item& item : items_) retain(item);
+  }
+
+  STDMETHODIMP QueryInterface(REFIID id, void** out) override {
+    if (!out) return E_POINTER;
+    *out = id == IID_IUnknown || id == __uuidof(Interface) ? this : nullptr;
+    if (!*out) return E_NOINTERFACE;
+    AddRef();
+    return S_OK;
+  }
+  STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
+  STDMETHODIMP_(ULONG) Release() override {
+    const ULONG left = --references_;
+    if (left == 0) delete this;
+    return left;
+  }
+  STDMETHODIMP Next(ULONG count, Item* out, ULONG* got) override {
+    if (!out || (!got && count != 1)) return E_POINTER;
+    ULONG given = 0;
+    for (; given < count && next_ < items_.size(); ++given) {
+      out[given] = items_[next_++];
+      retain(out[given]);
+    }
+    if (got) *got = given;
+    return given == count ? S_OK : S_FALSE;
+  }
+  STDMETHODIMP Skip(ULONG count) override {
+    const bool isEnough = count <= items_.size() - next_;
+    next_ = isEnough ? next_ + count : items_.size();
+    return isEnough ? S_OK : S_FALSE;
+  }
+  STDMETHODIMP Reset() override {
+    next_ = 0;
+    return S_OK;
+  }
+  STDMETHODIMP Clone(Interface** out) override {
+    if (!out) return E_POINTER;
+    *out = new (std::nothrow) Enumerator(items_, next_);
+    return *out ? S_OK : E_OUTOFMEMORY;
+  }
+
+ private:
+  ~Enumerator() {
+    for (const Item& item : items_) release(item);
+  }
+
+  std::vector<Item> items_;
+  std::size_t next_;
+  ULONG references_ = 1;
+};
+
+}  // namespace norvane

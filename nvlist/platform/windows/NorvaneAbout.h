@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string_view>
+
+#include <nvlist/platform/windows/ole.h>
+
+namespace norvane {
+
+/// Shows the about form with the name and the version of the library, and returns when the user has
+/// closed it. Its link stays empty until the library has an address. `owner` may be 0. False if the
+/// form cannot be shown: only nvList.ocx contains it.
+bool showNorvaneAbout(HWND owner, std::string_view name, std::string_view version);
+
+}  // namespace norvane

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <nvlist/platform/windows/ole.h>
+
+namespace norvane {
+
+/// The HRESULT of the exception that is being handled. A Failure gets its number, as in
+/// 0x800A0000 + 13, and an error info with its text.
+HRESULT caughtFailure() noexcept;
+
+/// Runs the body of a COM method: nothing that it throws leaves it.
+template <class Body>
+HRESULT guarded(Body&& body) noexcept {
+  try {
+    body();
+    return S_OK;
+  } catch (...) {
+    return caughtFailure();
+  }
+}
+
+}  // namespace norvane
