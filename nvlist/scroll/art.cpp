@@ -14,6 +14,8 @@
 namespace norvane::art {
 namespace {
 
+using scroll::Axis;
+
 constexpr Pixel track = pixel(0xEFEFE7);
 
 // ---- buttons ----
@@ -176,39 +178,39 @@ constexpr int bodyAlong = 14;
 constexpr int gripAcross = 7;
 constexpr int gripAlong = 8;
 
-BodyColours bodyOf(Direction direction, std::size_t state) {
+BodyColours bodyOf(Axis axis, std::size_t state) {
   BodyColours colours = bodyColours[state];
-  if (direction == Direction::horizontal && state == silverPressed) colours.edge = 0xA5B5CE;
+  if (axis == Axis::horizontal && state == silverPressed) colours.edge = 0xA5B5CE;
   return colours;
 }
 
 /// A pressed olive thumb and one at rest have each other's grips in the horizontal bar.
-GripColours gripOf(Direction direction, std::size_t state) {
-  if (direction == Direction::horizontal && state == olivePressed)
+GripColours gripOf(Axis axis, std::size_t state) {
+  if (axis == Axis::horizontal && state == olivePressed)
     state = oliveNormal;
-  else if (direction == Direction::horizontal && state == oliveNormal)
+  else if (axis == Axis::horizontal && state == oliveNormal)
     state = olivePressed;
   return gripColours[state];
 }
 
 /// Draws a part of a thumb: `pixelAt` gives the pixel so far along the thumb and so far across it.
 template <class PixelAt>
-Picture drawPart(std::string name, Direction direction, int along, int across, PixelAt&& pixelAt) {
-  if (direction == Direction::vertical) return drawn(std::move(name), across, along, pixelAt);
+Picture drawPart(std::string name, Axis axis, int along, int across, PixelAt&& pixelAt) {
+  if (axis == Axis::vertical) return drawn(std::move(name), across, along, pixelAt);
   return drawn(std::move(name), along, across,
                [&](int row, int column) { return pixelAt(column, row); });
 }
 
-Picture drawBody(std::string name, Direction direction, const BodyColours& colours) {
-  return drawPart(std::move(name), direction, bodyAlong, bodyAcross, [&](int, int across) {
+Picture drawBody(std::string name, Axis axis, const BodyColours& colours) {
+  return drawPart(std::move(name), axis, bodyAlong, bodyAcross, [&](int, int across) {
     constexpr int middle = bodyAcross / 2;
     const Pixel edge = pixel(across < middle ? colours.edge : colours.farEdge);
     return mix(pixel(colours.centre), edge, std::abs(across - middle), middle);
   });
 }
 
-Picture drawGrip(std::string name, Direction direction, const GripColours& colours) {
-  return drawPart(std::move(name), direction, gripAlong, gripAcross, [&](int along, int across) {
+Picture drawGrip(std::string name, Axis axis, const GripColours& colours) {
+  return drawPart(std::move(name), axis, gripAlong, gripAcross, [&](int along, int across) {
     const Pixel line = pixel(along % 2 == 0 ? colours.light : colours.dark);
     return across == gripAcross - 1 ? mix(line, white, 1, 2) : line;
   });
@@ -217,14 +219,14 @@ Picture drawGrip(std::string name, Direction direction, const GripColours& colou
 constexpr std::size_t partCount = bodyColours.size() + gripColours.size();
 using ThumbPictures = std::array<Picture, partCount>;
 
-ThumbPictures drawThumbs(Direction direction, const std::string& name) {
+ThumbPictures drawThumbs(Axis axis, const std::string& name) {
   ThumbPictures pictures;
   for (std::size_t i = 0; i < partCount; ++i) {
     const std::size_t state = i / (2 * statesOfThumb) * statesOfThumb + i % statesOfThumb;
     const bool isGrip = i / statesOfThumb % 2 == 1;
     const std::string numbered = name + " thumb " + std::to_string(i + 1);
-    pictures[i] = isGrip ? drawGrip(numbered, direction, gripOf(direction, state))
-                         : drawBody(numbered, direction, bodyOf(direction, state));
+    pictures[i] = isGrip ? drawGrip(numbered, axis, gripOf(axis, state))
+                         : drawBody(numbered, axis, bodyOf(axis, state));
   }
   return pictures;
 }
@@ -246,10 +248,10 @@ Picture button(Arrow arrow, std::int32_t index) {
   return at(pictures[static_cast<std::size_t>(arrow)], index);
 }
 
-Picture thumb(Direction direction, std::int32_t index) {
-  static const std::array<ThumbPictures, 2> pictures = {
-      drawThumbs(Direction::vertical, "vertical"), drawThumbs(Direction::horizontal, "horizontal")};
-  return at(pictures[static_cast<std::size_t>(direction)], index);
+Picture thumb(Axis axis, std::int32_t index) {
+  static const std::array<ThumbPictures, 2> pictures = {drawThumbs(Axis::vertical, "vertical"),
+                                                        drawThumbs(Axis::horizontal, "horizontal")};
+  return at(pictures[static_cast<std::size_t>(axis)], index);
 }
 
 }  // namespace norvane::art

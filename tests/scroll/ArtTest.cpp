@@ -9,7 +9,7 @@ namespace norvane {
 namespace {
 
 using art::Arrow;
-using art::Direction;
+using scroll::Axis;
 
 using Row = std::vector<std::uint32_t>;
 using Pixels = std::vector<Row>;
@@ -67,9 +67,9 @@ TEST(Art, ChevronsAreEachOthersMirrorImages) {
 }
 
 TEST(Art, TheHorizontalThumbIsTheVerticalOneTurnedButForThreePictures) {
-  const auto vertical = [](int index) { return pixelsOf(art::thumb(Direction::vertical, index)); };
+  const auto vertical = [](int index) { return pixelsOf(art::thumb(Axis::vertical, index)); };
   const auto horizontal = [](int index) {
-    return pixelsOf(art::thumb(Direction::horizontal, index), true);
+    return pixelsOf(art::thumb(Axis::horizontal, index), true);
   };
   std::vector<int> others;
   for (int i = 1; i <= 18; ++i)
