@@ -2,8 +2,9 @@
 
 #include "../Lists.h"
 
-#include <algorithm>
 #include <functional>
+#include <memory>
+#include <sstream>
 #include <utility>
 
 #include <nvlist/scroll/nvHScroll.h>
@@ -11,7 +12,7 @@
 
 namespace norvane {
 
-/// What the last Cls filled a surface with.
+/// The colour with which the last Cls filled a surface.
 inline Colour background(HeadlessContainer& place) {
   struct Watcher : RecordingSurface {
     Watcher() : RecordingSurface(0, 0) {}
@@ -22,99 +23,117 @@ inline Colour background(HeadlessContainer& place) {
   return watcher.colour;
 }
 
-/// A bar of 200 pixels as its list has it, which writes down what it tells. Positions are given
-/// along and across the bar, so that one test serves both.
-template <class Bar>
-class BarTest : public ListTest, protected nvVScrollEvents, protected nvHScrollEvents {
+/// A bar of 200 pixels on a form, driven by scripts. Positions are along and across the bar, so
+/// that one script serves both bars.
+class BarTest : public ListTest, public nvVScrollEvents, public nvHScrollEvents {
  protected:
-  static constexpr bool isVertical = std::is_same_v<Bar, nvVScroll>;
-
-  BarTest() {
+  explicit BarTest(scroll::Axis along) : axis(along) {
     headless.resize(200, 200);
     bar.UserControl_InitProperties();
-    length(200);
+    scroll::length(axis, bar, 200);
     bar.Visible(true);
   }
 
-  void VScroll1_Change() override { tell("Change"); }
-  void VScroll1_Scroll() override { tell("Scroll"); }
-  void HScroll1_Change() override { tell("Change"); }
-  void HScroll1_Scroll() override { tell("Scroll"); }
+  template <class Value>
+  Value either(Value vertical, Value horizontal) const {
+    return axis == scroll::Axis::vertical ? vertical : horizontal;
+  }
 
-  void tell(const std::string& event) {
-    told += (told.empty() ? "" : ", ") + event + " " + std::to_string(bar.Value());
-    times += (times.empty() ? "" : " ") + std::to_string((clock().now() - start).count());
+  /// Runs the commands of a script, separated by semicolons, and returns their outputs.
+  std::string run(const std::string& script) {
+    std::istringstream commands(script);
+    std::string outputs;
+    for (std::string command; std::getline(commands, command, ';');) {
+      std::istringstream words(command);
+      std::string verb;
+      double a = 0;
+      double b = 8;
+      double c = 1;
+      words >> verb >> a >> b >> c;
+      const std::string output = perform(verb, a, b, c);
+      if (!output.empty()) outputs += (outputs.empty() ? "" : " | ") + output;
+    }
+    return outputs;
+  }
+
+  static std::string drawn(HeadlessContainer& place) { return place.ownSurface().image().text(); }
+  /// The name of the last picture of a surface.
+  static std::string picture(HeadlessContainer& place) {
+    const std::string calls = drawn(place);
+    const std::size_t name = calls.rfind(" \"") + 2;
+    return calls.substr(name, calls.find('"', name) - name);
+  }
+
+ private:
+  /// The mouse takes a position along, a position across and buttons, all else one number. Events
+  /// are output with the value, and times in milliseconds since their last output.
+  std::string perform(const std::string& verb, double a, double b, double c) {
+    const auto x = static_cast<float>(either(b, a));
+    const auto y = static_cast<float>(either(a, b));
+    const auto button = static_cast<std::int16_t>(c);
+    const auto whole = static_cast<std::int32_t>(a);
+    const bool on = whole != 0;
+    std::ostringstream output;
+    // clang-format off
+    if (verb == "press" || verb == "click") place.press(x, y, button);
+    if (verb == "release" || verb == "click") place.release(x, y, button);
+    else if (verb == "move") place.moveTo(x, y, button);
+    else if (verb == "hover") place.moveTo(x, y, 0);
+    else if (verb == "wait") form.clock().advance(std::chrono::milliseconds(whole));
+    else if (verb == "min") bar.Min(whole);
+    else if (verb == "max") bar.Max(whole);
+    else if (verb == "value") bar.Value(whole);
+    else if (verb == "small") bar.SmallChange(whole);
+    else if (verb == "large") bar.LargeChange(whole);
+    else if (verb == "active") bar.ActiveScrolling(on);
+    else if (verb == "gradient") bar.Gradient(on);
+    else if (verb == "enable") bar.Enabled(on);
+    else if (verb == "style") bar.ColorStyle(static_cast<cScrollColorStyle>(whole));
+    else if (verb == "length") scroll::length(axis, bar, static_cast<float>(a));
+    else if (verb == "breadth") scroll::breadth(axis, bar, static_cast<float>(a));
+    else if (verb == "show") bar.Visible(false), bar.Visible(true);
+    else if (verb == "paint") bar.UserControl_Paint();
+    else if (verb == "failing") onEvent = [] { throw Failure::overflow(); };
+    else if (verb == "slow") onEvent = [this] { run("wait 2000"); };
+    else if (verb == "events") output << '<' << std::exchange(events, {}) << '>';
+    else if (verb == "times") output << '<' << times << '>', times = {}, start = form.clock().now();
+    else if (verb == "reports") output << '<' << reports() << '>';
+    else if (verb == "thumb") output << scroll::along(axis, thumb.bounds().Left, thumb.bounds().Top)
+        << '+' << scroll::along(axis, thumb.bounds().Width, thumb.bounds().Height);
+    else if (verb == "visible") output << (thumb.isShown() ? "shown" : "hidden");
+    else if (verb == "size") output << bar.Width() << "x" << bar.Height();
+    else if (verb == "range") output << bar.Min() << ".." << bar.Max();
+    else if (verb == "direction") output << bar.state().PageDirection;
+    else if (verb == "near") output << picture(nearButton).substr(7);
+    else if (verb == "far") output << picture(farButton).substr(7);
+    else if (verb == "body") output << picture(thumb).substr(picture(thumb).find("thumb"));
+    else if (verb == "frames") output << thumb.ownSurface().frames();
+    else if (verb == "capture") output << thumb.hasCapture() << farButton.hasCapture();
+    else if (verb != "press") ADD_FAILURE() << "no verb " << verb;
+    // clang-format on
+    return output.str();
+  }
+
+  void VScroll1_Change() override { record("Change"); }
+  void VScroll1_Scroll() override { record("Scroll"); }
+  void HScroll1_Change() override { record("Change"); }
+  void HScroll1_Scroll() override { record("Scroll"); }
+  void record(const std::string& event) {
+    events += (events.empty() ? "" : ", ") + event + " " + std::to_string(bar.Value());
+    times += (times.empty() ? "" : " ") + std::to_string((form.clock().now() - start).count());
     std::exchange(onEvent, [] {})();
   }
 
-  /// The events since the last call, each with the value of its time.
-  std::string heard() { return std::exchange(told, {}); }
-  /// The times of the events since the last call, in milliseconds from then on.
-  std::string heardAt() {
-    start = clock().now();
-    told.clear();
-    return std::exchange(times, {});
+  std::unique_ptr<scroll::Bar> make() {
+    if (axis == scroll::Axis::vertical) return std::make_unique<nvVScroll>(form.addChild(), *this);
+    return std::make_unique<nvHScroll>(form.addChild(), *this);
   }
 
-  HeadlessClock& clock() { return form.clock(); }
-  void wait(int milliseconds) { clock().advance(std::chrono::milliseconds(milliseconds)); }
-
-  void length(float pixels) { isVertical ? bar.Height(pixels) : bar.Width(pixels); }
-  void range(std::int32_t min, std::int32_t max) {
-    bar.Min(std::min(bar.Min(), min));
-    bar.Max(max);
-    bar.Min(min);
-    bar.Value(min);
-  }
-  /// A new placement runs the bar's Show only if it was hidden.
-  void showAnew() {
-    bar.Visible(false);
-    bar.Visible(true);
-  }
-
-  static float along(const Bounds& bounds) { return isVertical ? bounds.Top : bounds.Left; }
-  static float lengthOf(const Bounds& bounds) { return isVertical ? bounds.Height : bounds.Width; }
-  float thumbAt() { return along(thumb.bounds()); }
-  float thumbLength() { return lengthOf(thumb.bounds()); }
-
-  void press(float along, float across = 8, std::int16_t button = 1) {
-    isVertical ? place.press(across, along, button) : place.press(along, across, button);
-  }
-  void moveTo(float along, float across = 8, std::int16_t buttons = 1) {
-    isVertical ? place.moveTo(across, along, buttons) : place.moveTo(along, across, buttons);
-  }
-  void release(float along = 0, float across = 8) {
-    isVertical ? place.release(across, along) : place.release(along, across);
-  }
-  void click(float along) {
-    press(along);
-    release();
-  }
-  /// Takes the thumb three pixels from its near end and moves it.
-  void drag(float by) {
-    press(thumbAt() + 3);
-    moveTo(thumbAt() + 3 + by);
-  }
-
-  std::string lastCall(HeadlessContainer& of) {
-    const std::string calls = "\n" + of.ownSurface().image().text();
-    return calls.substr(calls.rfind('\n', calls.size() - 2) + 1);
-  }
-  /// Of a button: the number of the picture it shows last.
-  int shown(HeadlessContainer& button) {
-    const std::string call = lastCall(button);
-    const std::size_t end = call.rfind("\" at (0, 0)");
-    return std::stoi(call.substr(call.rfind(' ', end - 1), end));
-  }
-
-  /// The colour of a surface that shows nothing but its background.
-  static Colour flatColour(HeadlessContainer& place) {
-    EXPECT_EQ(place.ownSurface().image().text(), "Cls\n");
-    return background(place);
-  }
-
+ protected:
+  const scroll::Axis axis;
   HeadlessContainer& form = headless.container();
-  Bar bar{form.addChild(), *this};
+  const std::unique_ptr<scroll::Bar> owned = make();
+  scroll::Bar& bar = *owned;
   HeadlessContainer& place = *form.children().back();
   HeadlessContainer& thumb = *place.children()[0];
   HeadlessContainer& nearButton = *place.children()[1];
@@ -122,11 +141,15 @@ class BarTest : public ListTest, protected nvVScrollEvents, protected nvHScrollE
 
   /// Runs with the next event only.
   std::function<void()> onEvent = [] {};
-  std::string told;
+  std::string events;
   std::string times;
   HeadlessClock::Time start;
 };
 
-using BothBars = testing::Types<nvVScroll, nvHScroll>;
+/// Runs each test with both bars.
+class Bars : public BarTest, public testing::WithParamInterface<scroll::Axis> {
+ protected:
+  Bars() : BarTest(GetParam()) {}
+};
 
 }  // namespace norvane
