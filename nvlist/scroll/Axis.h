@@ -6,8 +6,8 @@
 
 namespace norvane::scroll {
 
-/// The axis of a scroll bar. *Along* it run the value and the track: start, length. *Across* it lie
-/// offset and breadth.
+/// The axis of a scroll bar. A part has a start and a length along the axis, and an offset and a
+/// breadth across it.
 enum class Axis { vertical, horizontal };
 
 constexpr float along(Axis axis, float x, float y) { return axis == Axis::vertical ? y : x; }

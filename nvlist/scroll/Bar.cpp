@@ -165,7 +165,8 @@ void Bar::UserControl_ReadProperties(const PropertyBag& PropBag) {
   });
 }
 
-/// Reads what both ways of coming up set first; an empty store gives the defaults.
+/// Reads the properties that UserControl_InitProperties and UserControl_ReadProperties set first.
+/// An empty store gives the defaults.
 void Bar::read(Trap& on, const PropertyBag& bag) {
   on.step([&] { Min(bag.ReadProperty("Min", 0).toInt32()); });
   on.step([&] { Max(bag.ReadProperty("Max", 100).toInt32()); });

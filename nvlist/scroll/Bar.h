@@ -41,7 +41,8 @@ struct ScrollState {
 ///
 /// Buttons and track step by 1. The creator calls UserControl_InitProperties or
 /// UserControl_ReadProperties; until then all values are 0 and false. A new bar is hidden and 17
-/// pixels long. In what the two bars differ is in differences.h.
+/// pixels long. The file differences.h lists how the
+/// two bars differ.
 class Bar : public UserControl, protected ThumbEvents, protected ButtonEvents {
  public:
   /// The range. Default: 0 to 100. A minimum above the maximum and a maximum below the minimum are

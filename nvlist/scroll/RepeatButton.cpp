@@ -133,7 +133,7 @@ RepeatButton::State RepeatButton::mouseState() const {
   return PressState_ == Press::down ? State::pressed : State::hover;
 }
 
-/// Shows the state that a handler has chosen, if handlers choose in this kind of button.
+/// Shows the picture that a handler has chosen, or that of the state if the kind paints by state.
 void RepeatButton::show(State chosen) { kind_.paintsState ? PaintState() : paint(chosen); }
 
 void RepeatButton::paint(State state) {

@@ -20,7 +20,7 @@ constexpr Pixel track = pixel(0xEFEFE7);
 
 // ---- buttons ----
 
-/// As 0xRRGGBB; the face runs from `top` to `bottom`.
+/// As 0xRRGGBB. The face is a gradient from `top` to `bottom`.
 struct ButtonColours {
   std::uint32_t top, bottom, shade, chevron;
 };
@@ -44,9 +44,8 @@ constexpr std::array<ButtonColours, 12> buttonColours = {{
 
 constexpr int buttonSize = 17;
 
-/// A button of the vertical bar, from the track (.) on its left: the white line (w), the face (f)
-/// with its edges towards the light (e), away from it (d) and rounded off (c), and the shade that
-/// the button throws (s) with its soft ends (h).
+/// The parts of a button of the vertical bar: the track (.), the white line (w), the face (f) with
+/// its light edges (e), dark edges (d) and corners (c), and the shadow (s) with its soft ends (h).
 constexpr std::array<std::string_view, buttonSize> buttonForm = {"..wwwwwwwwwwwww..",  //
                                                                  ".wceeeeeeeeeeecwh",  //
                                                                  ".wefffffffffffdws",  //
@@ -65,7 +64,7 @@ constexpr std::array<std::string_view, buttonSize> buttonForm = {"..wwwwwwwwwwww
                                                                  ".hwwwwwwwwwwwwwhh",  //
                                                                  "..hssssssssssssh."};
 
-/// Pointing up and down; lying on its side in the horizontal bar.
+/// The chevron that points up; mirrored for down, and turned for left and right.
 constexpr std::array<std::string_view, 6> chevron = {"....#....",  //
                                                      "...###...",  //
                                                      "..#####..",  //
@@ -83,7 +82,8 @@ bool isChevron(int row, int column, bool isMirrored) {
   return chevron[isMirrored ? chevron.size() - 1 - line : line][place] == '#';
 }
 
-/// The face in a row and a column: the light comes from above and a little from the left.
+/// The colour of the face in a row and a column. The light comes from above and slightly from the
+/// left.
 Pixel shadeOfFace(const ButtonColours& colours, int row, int column) {
   constexpr int first = 3;
   constexpr int last = 13;
@@ -133,12 +133,12 @@ ButtonPictures drawButtons(Arrow arrow, const std::string& name) {
 
 // ---- thumbs ----
 
-/// As 0xRRGGBB: across the thumb.
+/// Across the thumb, as 0xRRGGBB.
 struct BodyColours {
   std::uint32_t edge, centre, farEdge;
 };
 
-/// As 0xRRGGBB: the two lines of a ridge.
+/// The two lines of a ridge, as 0xRRGGBB.
 struct GripColours {
   std::uint32_t light, dark;
 };
@@ -184,7 +184,7 @@ BodyColours bodyOf(Axis axis, std::size_t state) {
   return colours;
 }
 
-/// A pressed olive thumb and one at rest have each other's grips in the horizontal bar.
+/// In the horizontal bar the olive grips for pressed and normal are exchanged.
 GripColours gripOf(Axis axis, std::size_t state) {
   if (axis == Axis::horizontal && state == olivePressed)
     state = oliveNormal;
@@ -193,7 +193,7 @@ GripColours gripOf(Axis axis, std::size_t state) {
   return gripColours[state];
 }
 
-/// Draws a part of a thumb: `pixelAt` gives the pixel so far along the thumb and so far across it.
+/// Draws a part of a thumb. `pixelAt(along, across)` returns the colour of a pixel.
 template <class PixelAt>
 Picture drawPart(std::string name, Axis axis, int along, int across, PixelAt&& pixelAt) {
   if (axis == Axis::vertical) return drawn(std::move(name), across, along, pixelAt);
@@ -231,7 +231,7 @@ ThumbPictures drawThumbs(Axis axis, const std::string& name) {
   return pictures;
 }
 
-/// The picture of an index that counts from 1.
+/// The picture at an index that starts at 1.
 template <std::size_t count>
 Picture at(const std::array<Picture, count>& pictures, std::int32_t index) {
   if (index < 1 || index > static_cast<std::int32_t>(count))

@@ -6,6 +6,7 @@
 #include <nvlist/objects/Trap.h>
 #include <nvlist/scroll/Axis.h>
 #include <nvlist/scroll/art.h>
+#include <nvlist/scroll/gradient.h>
 
 /// Everything in which the vertical and the horizontal scroll bar differ beyond their axis. Each
 /// difference is part of the published behaviour.
@@ -28,12 +29,12 @@ struct BarKind {
   std::int32_t towardsNear;
   std::int32_t towardsFar;
 
-  /// The length from which the thumb gets its own: the bar's place, or its surface. The thumb is
-  /// longer or shorter by as much as a platform rounds the surface.
+  /// What the length of the thumb is calculated from: the bar's place, or its surface. A user sees
+  /// the difference only where a platform rounds the size of the surface.
   enum class LengthOf { place, surface } thumbSource;
 
-  /// The gradient of the track. The shade is on the left, or on the top, so it is the first colour
-  /// of a gradient from left to right, and the second one of a gradient from bottom to top.
+  /// The gradient of the track. A vertical bar is shaded on the left, a horizontal one at the top:
+  /// there the shade is the second colour, as the gradient runs from bottom to top.
   std::int32_t gradientDirection;
   bool beginsWithShade;
 
@@ -53,7 +54,7 @@ inline constexpr BarKind verticalBar = {
     .towardsNear = 1,
     .towardsFar = 2,
     .thumbSource = BarKind::LengthOf::place,
-    .gradientDirection = 0,
+    .gradientDirection = leftToRight,
     .beginsWithShade = true,
     .hasCustomStyle = false,
 };
@@ -70,7 +71,7 @@ inline constexpr BarKind horizontalBar = {
     .towardsNear = 2,
     .towardsFar = 1,
     .thumbSource = BarKind::LengthOf::surface,
-    .gradientDirection = 1,
+    .gradientDirection = bottomToTop,
     .beginsWithShade = false,
     .hasCustomStyle = true,
 };
@@ -79,8 +80,8 @@ struct ThumbKind {
   Axis axis;
   Module module;
 
-  /// How far the white box inside the edges ends from the right edge, in pixels. At 2 the body
-  /// shows between the box and the right edge.
+  /// The column of the right side of the white box, counted from the right edge. At 2 the last
+  /// column of the thumb stays in the background colour.
   float boxInset;
 
   /// Whether the picture is chosen before the surface is cleared. A style number too large for
@@ -133,7 +134,7 @@ struct ButtonKind {
   Module module;
   art::Arrow arrow;
 
-  /// Which event a step is: ValueUp of the button at the near end, ValueDown at the far one.
+  /// Whether a step raises ValueUp, as at the near end of a bar, or ValueDown.
   bool raisesValueUp;
 
   /// Milliseconds from the press to the first tick, which raises nothing. The second event comes

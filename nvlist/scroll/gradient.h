@@ -8,13 +8,16 @@
 
 namespace norvane {
 
-/// Fills the rectangle with a gradient: in direction 0 from `color1` at the left to `color2` at the
-/// right, in direction 1 from `color1` at the bottom to `color2` at the top. The last pixel stands
-/// one step short of `color2`. In any other direction nothing is drawn.
+/// The directions of DrawGradient.
+inline constexpr std::int32_t leftToRight = 0;
+inline constexpr std::int32_t bottomToTop = 1;
+
+/// Fills the rectangle with a gradient from `color1` to `color2`. The last pixel is one step short
+/// of `color2`. A direction other than the two above draws nothing. The lower three bytes of a
+/// system colour are used as a colour.
 ///
-/// Only the side along the gradient is calculated and then stretched over the other one. Where it
-/// has no length nothing is drawn and Failure 9, Subscript out of range, is reported. Of system
-/// colours the lower three bytes are taken as they are.
+/// One line of pixels is calculated along the gradient and stretched over the rectangle. If that
+/// side has no length, nothing is drawn and Failure 9, Subscript out of range, is reported.
 void DrawGradient(Surface& surface, const Rectangle& rectangle, Colour color1, Colour color2,
                   std::int32_t direction);
 
