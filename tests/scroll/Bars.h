@@ -46,9 +46,7 @@ class BarTest : public ListTest, public nvVScrollEvents, public nvHScrollEvents 
     for (std::string command; std::getline(commands, command, ';');) {
       std::istringstream words(command);
       std::string verb;
-      double a = 0;
-      double b = 8;
-      double c = 1;
+      double a = 0, b = 8, c = 1;
       words >> verb >> a >> b >> c;
       const std::string output = perform(verb, a, b, c);
       if (!output.empty()) outputs += (outputs.empty() ? "" : " | ") + output;

@@ -1,6 +1,5 @@
 #include "Bars.h"
 
-#include <ostream>
 #include <tuple>
 
 namespace norvane {
