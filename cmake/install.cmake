@@ -1,30 +1,44 @@
-# What `cmake --install` brings: the libraries that were built, their headers, and the package
-# nvList with the targets nvlist::nvlist, nvlist::qt and nvlist::qt_sql.
+# What `cmake --install` installs: the libraries with their public headers, the CMake package nvList
+# and a pkg-config file for each library but the one for databases.
 include(CMakePackageConfigHelpers)
 include(GNUInstallDirs)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/nvList)
-set(header_exclusions PATTERN qt EXCLUDE)
-set(libraries nvlist)
-set(package_qt_components)
+
+# Installs the library `target`, which is exported as nvlist::`name`.
+function(install_library target name)
+  set_target_properties(${target} PROPERTIES
+    EXPORT_NAME ${name} VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+  install(TARGETS ${target} EXPORT ${target}_targets FILE_SET HEADERS)
+  install(EXPORT ${target}_targets NAMESPACE nvlist:: DESTINATION ${package_dir})
+endfunction()
+
+# Installs the pkg-config file of the library `target`. Arguments: what it is for, and the other
+# packages its users need.
+function(install_pkg_config target description requires)
+  string(REPLACE _ - package ${target})
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/package.pc.in ${PROJECT_BINARY_DIR}/${package}.pc @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/${package}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+endfunction()
+
+file(RELATIVE_PATH prefix_from_pkgconfig
+  ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+
+set(components)
+install_library(nvlist nvlist)
+install_pkg_config(nvlist "${PROJECT_DESCRIPTION}" "")
 if(TARGET nvlist_qt)
-  set(header_exclusions)
-  list(APPEND libraries nvlist_qt)
-  set(package_qt_components Widgets)
-  set_target_properties(nvlist_qt PROPERTIES EXPORT_NAME qt)
+  list(APPEND components qt)
+  install_library(nvlist_qt qt)
+  install_pkg_config(nvlist_qt "nvList as a widget of Qt 6"
+    "nvlist = ${PROJECT_VERSION}, Qt6Widgets >= 6.2")
 endif()
 if(TARGET nvlist_qt_sql)
-  list(APPEND libraries nvlist_qt_sql)
-  list(APPEND package_qt_components Sql)
-  set_target_properties(nvlist_qt_sql PROPERTIES EXPORT_NAME qt_sql)
+  list(APPEND components qt_sql)
+  install_library(nvlist_qt_sql qt_sql)
 endif()
 
-install(TARGETS ${libraries} EXPORT nvListTargets)
-install(EXPORT nvListTargets NAMESPACE nvlist:: DESTINATION ${package_dir})
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/nvlist DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
-  FILES_MATCHING PATTERN "*.h" ${header_exclusions})
-
-configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/nvListConfig.cmake.in
+configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/nvListConfig.cmake.in
   ${PROJECT_BINARY_DIR}/nvListConfig.cmake INSTALL_DESTINATION ${package_dir})
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/nvListConfigVersion.cmake
   COMPATIBILITY SameMajorVersion)

@@ -44,6 +44,9 @@ void reportCurrent(ReportAs&& reportAs) {
 
 }  // namespace
 
+// Not inline: where the library is a DLL, each module has an inline counter of its own.
+bool Trap::anyRuns() { return depth > 0; }
+
 void Trap::failed(int line) const {
   try {
     throw;

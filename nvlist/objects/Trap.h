@@ -34,7 +34,7 @@ class Trap {
 
   /// Whether a procedure is running on this thread. If so, a platform must not destroy a control,
   /// which may be in use further up the stack.
-  static bool anyRuns() { return depth > 0; }
+  static bool anyRuns();
 
   /// Runs one statement.
   template <class Statement>
