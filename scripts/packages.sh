@@ -2,7 +2,7 @@
 
 # Installs those of the named packages that are missing, and says which.
 need() {
-  command -v dpkg-query >/dev/null || return 0 # not Debian: the user's own business
+  command -v dpkg-query >/dev/null || return 0 # not Debian: the user installs them
   local package missing=()
   for package in "$@"; do
     [[ $(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null) == installed ]] ||
@@ -28,6 +28,7 @@ need() {
 
 build_packages=(g++ cmake ninja-build)
 qt_packages=(qt6-base-dev qt6-qpa-plugins libqt6sql6-sqlite libgl-dev fonts-dejavu-core)
-test_packages=(libgtest-dev)
+test_packages=(libgtest-dev pkgconf)
+clang_packages=(clang libclang-rt-dev)
+windows_packages=(g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix)
 benchmark_packages=(libbenchmark-dev)
-fuzz_packages=(clang libclang-rt-dev)
