@@ -28,10 +28,13 @@ target_sources(nvlist PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FI
   nvlist/platform/Container.h
   nvlist/platform/Desktop.h
   nvlist/platform/File.h
+  nvlist/platform/FileLock.h
   nvlist/platform/Files.h
   nvlist/platform/HostWindow.h
   nvlist/platform/InUse.h
   nvlist/platform/ListBox.h
+  nvlist/platform/MouseDispatcher.h
+  nvlist/platform/Place.h
   nvlist/platform/Program.h
   nvlist/platform/TextBox.h
   nvlist/platform/Timer.h
@@ -47,18 +50,16 @@ target_sources(nvlist PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FI
   nvlist/render/BorderPiece.h
   nvlist/render/MeasuringLabel.h
   nvlist/render/colours.h
-  nvlist/scroll/HScrollBar.h
-  nvlist/scroll/HorizontalButton.h
-  nvlist/scroll/VBtnDown.h
-  nvlist/scroll/VBtnLeft.h
-  nvlist/scroll/VBtnRight.h
-  nvlist/scroll/VBtnUp.h
-  nvlist/scroll/VScrollBar.h
-  nvlist/scroll/VerticalButton.h
+  nvlist/scroll/Axis.h
+  nvlist/scroll/Bar.h
+  nvlist/scroll/RepeatButton.h
+  nvlist/scroll/Thumb.h
   nvlist/scroll/art.h
+  nvlist/scroll/differences.h
+  nvlist/scroll/gradient.h
   nvlist/scroll/nvHScroll.h
   nvlist/scroll/nvVScroll.h
-  nvlist/scroll/thumbEdges.h
+  nvlist/scroll/parts.h
   nvlist/scroll/values.h
   nvlist/values/Boolean.h
   nvlist/values/Colour.h
