@@ -29,17 +29,18 @@ struct StoredProperty;
 
 /// A visual list: items in rows that the control paints itself.
 ///
-/// The control needs a place to stand in, with a surface to draw on; a platform makes both together
-/// (platform/headless/HeadlessList.h, platform/qt/NvListWidget.h). The place must outlive it. One
-/// control belongs to one thread.
+/// The control is created in a Container, which supplies its surface; a platform makes both
+/// together (platform/headless/HeadlessList.h, platform/qt/NvListWidget.h). The container must
+/// outlive the control. A control is used from one thread only.
 ///
-/// No operation fails towards its caller: a failure is reported or passed over, as the switch
-/// SilentError says (objects/Error.h), and the result is then what is told at the operation. Only
-/// a failure of the reporter itself comes out, and one in setting Text. An index is a number, a
-/// truth value, nothing (0) or a text that reads as a number; it is rounded to the nearest whole
-/// number.
+/// Operations do not throw. A failure is reported, or ignored under SilentError (objects/Error.h);
+/// each operation documents its result in that case. The exceptions are a failure of the reporter
+/// itself and a failure in setting Text, which reach the caller.
 ///
-/// This header is the map of the house. Each group below names the file it is defined in.
+/// An index is a number, a Boolean, Empty (0) or a text that reads as a number. It is rounded to
+/// the nearest whole number.
+///
+/// This header is the map of the library: each group below names the file that defines it.
 class nvList final : public UserControl,
                      private nvVScrollEvents,
                      private nvHScrollEvents,
@@ -50,15 +51,15 @@ class nvList final : public UserControl,
 
   // ---- start, end and property store: core/lifecycle.cpp, core/persistence.cpp ----
 
-  /// Brings a new control to its defaults and paints it. The platform calls this or
-  /// UserControl_ReadProperties once, before anything else.
+  /// Sets all properties to their defaults and paints the control. The platform calls either this
+  /// or UserControl_ReadProperties once, before anything else.
   void UserControl_InitProperties() override;
-  /// Sets every property of this control to what is stored, or to its default. The list is empty
-  /// afterwards: items are not stored. A stored value that its property cannot take is a failure,
-  /// which ends the reading there; nothing is painted then until the properties are read again.
-  /// (Under SilentError the rest is read.)
+  /// Sets every property to its stored value, or to its default. The list is empty afterwards,
+  /// because items are not stored. A stored value that its property cannot take is a failure: the
+  /// remaining properties are not read, and the list does not paint until properties are read
+  /// again. Under SilentError the remaining properties are read.
   void UserControl_ReadProperties(const PropertyBag& PropBag) override;
-  /// Stores every property that differs from its default. core/storedProperties.h lists them.
+  /// Writes every property that differs from its default. core/storedProperties.h lists them.
   void UserControl_WriteProperties(PropertyBag& PropBag) override;
 
   void UserControl_Terminate() override;
@@ -73,7 +74,7 @@ class nvList final : public UserControl,
   void UserControl_KeyDown(std::int16_t& KeyCode, std::int16_t Shift) override;
   void UserControl_KeyPress(std::int16_t& KeyAscii) override;
   void UserControl_KeyUp(std::int16_t KeyCode, std::int16_t Shift) override;
-  // The focus and the name paint whatever AutoRedraw says.
+  // Changes of the focus and of the display name repaint regardless of AutoRedraw.
   void UserControl_EnterFocus() override;
   void UserControl_GotFocus() override;
   void UserControl_LostFocus() override;
@@ -81,31 +82,32 @@ class nvList final : public UserControl,
   void UserControl_AmbientChanged(std::string_view PropertyName) override;
   void Wheel1_WheelScroll(std::int16_t& Rotation, std::int16_t& Keys, float& X, float& Y) override;
 
-  /// The handle of the control's window; 0 where the platform has none.
+  /// The handle of the control's window, or 0 if the platform has no handles.
   std::int32_t hwnd();
   /// Shows a box with the name and the version of the control.
   void About();
 
   // ---- editing: input/edit.cpp ----
 
-  /// Opens the edit box with the text of an item, given that AllowEdit and the item allow it and
-  /// the item is enabled. It stands over the row where the mouse was last pressed, above the first
-  /// row where it never was. Return writes the text into the item that is current then; a press or
-  /// a scroll drops it. A bad index is a failure, which opens nothing.
+  /// Opens the edit box with the text of an item if AllowEdit is on, the item allows editing, and
+  /// the item is enabled. The box appears over the row of the last mouse press, whatever the index
+  /// is, or above the first row if there was no press. Return writes the text to the item that is
+  /// current at that time; a mouse press or a scroll discards it. A bad index is a failure, and no
+  /// box is opened.
   void SetEdit(const Variant& Index);
 
   // ---- items: core/items.cpp ----
 
-  /// Adds one item. `aIndex` is where it goes: -1, anything negative and anything from the number
-  /// of items up mean the end; a text counts as the number it reads as, and one that reads as none
-  /// is a failure, which leaves a blank item at the end (under SilentError the item itself). The
-  /// first item goes to 0 whatever `aIndex`. Of a fraction the items behind it make room, and then
-  /// it is rounded: 0.5 puts the new item in the place of item 0, which is lost, and item 1 stands
-  /// twice.
+  /// Adds one item. `aIndex` is where to insert it; a negative value, or one not less than the
+  /// number of items, appends it. The first item of an empty list is stored at 0 whatever `aIndex`
+  /// is. A text that does not read as a number is a failure, which leaves a blank item at the end;
+  /// under SilentError the item itself is appended. With a fractional index, items from the next
+  /// whole index up are shifted, but the new item is stored at the rounded index: 0.5 overwrites
+  /// item 0 and duplicates item 1.
   ///
-  /// With AutoRedraw on the selection is dropped and ListIndex becomes -1; with AutoRedraw off both
-  /// stay, even where an insert moves the items under them. The list is painted only while it holds
-  /// few enough items for the new one to be in view.
+  /// With AutoRedraw on, the selection is cleared and ListIndex becomes -1. With AutoRedraw off,
+  /// both are kept, and after an insertion may refer to other items. The list is repainted only
+  /// while it has few enough items for the new one to be visible.
   void ItemsAdd(Variant aText, Variant aIndex = -1, Picture aIcon = nullptr,
                 Picture aIconSelected = nullptr, Boolean aChecked = false,
                 Variant aForeColor = defaultMark, Variant aBackColor = defaultMark,
@@ -115,251 +117,261 @@ class nvList final : public UserControl,
                 Variant aForeColorDis = colours::greyText, Variant aBackColorDis = colours::light3D,
                 Boolean aBold = false, Boolean aItalic = false, Boolean aUnderline = false,
                 Variant aKey = "");
-  /// The same with the arguments by name.
+  /// The same with named arguments.
   void ItemsAdd(NewItem item);
 
-  /// Removes one item; `Index` is rewritten as the 32-bit number it counts as. A bad index does
-  /// nothing and is not reported; it is tested before it is rounded. ListIndex, TopIndex, NewIndex
-  /// and the anchor of a range stay as they are, and may name another item or none afterwards.
+  /// Removes one item and sets `Index` to the rounded 32-bit index. A bad index is ignored without
+  /// a report; the bounds are checked before rounding. ListIndex, TopIndex, NewIndex and the anchor
+  /// of a range selection are kept, and may afterwards refer to another item or to none.
   void ItemsRemove(Variant& Index);
   void ItemsRemove(Variant&& Index) { ItemsRemove(Index); }
 
   /// Removes all items. ListIndex becomes 0.
   void ItemsClear();
 
-  /// Removes every selected item and goes to the top of the list.
+  /// Removes every selected item and scrolls to the top.
   void ItemsSelectedRemove();
 
-  /// Number of items, from 0.
+  /// Number of items.
   std::int32_t ItemsCount() const;
-  /// Number of items that are selected, or checked. Pending events run once an item.
+  /// Number of selected or checked items. Waiting events are processed after each item, so handlers
+  /// may run during the call.
   std::int32_t ItemsSelectCount();
   std::int32_t ItemsCheckCount();
 
-  /// Where ItemsAdd last put an item; removing items leaves it as it is.
+  /// The index of the item last added by ItemsAdd. Removing items does not change it.
   std::int32_t NewIndex() const { return state_.NewIndex; }
 
   // ---- duplicates: core/duplicates.cpp ----
 
-  /// Removes all but the first of items whose text was there before; the case of letters counts
-  /// only if `IgnoreLetterSize` is false. A text was there if, with a comma behind it, it ends any
-  /// part of the texts kept so far, joined with commas: "bc" goes behind "abc", and "b,c" behind
-  /// the items "b" and "c".
+  /// Removes items whose text repeats an earlier one. Upper and lower case are distinguished only
+  /// if `IgnoreLetterSize` is false. The texts kept so far are joined with a comma after each; a
+  /// text counts as repeated if it, followed by a comma, occurs in them at the end of any part. So
+  /// "bc" is removed after "abc", and "b,c" after the items "b" and "c".
   ///
-  /// A duplicate past item 32767 is a failure, which ends the operation with AutoRedraw and
-  /// AutoCheckScroll left off; under SilentError such items stay.
+  /// A duplicate at an index above 32767 is a failure, which ends the operation and leaves
+  /// AutoRedraw and AutoCheckScroll off; under SilentError such items are kept.
   void ItemsRemoveDouble(Boolean IgnoreLetterSize = true);
 
   // ---- searching: core/search.cpp ----
 
-  /// The first item with the key, or -1. Texts are compared byte by byte. A number is compared with
-  /// each key's number: a key that reads as none is a failure, which gives -1 (under SilentError it
-  /// counts as found).
+  /// The index of the first item with the key, or -1. Texts are compared byte by byte. If `sKey` is
+  /// a number, it is compared with the numeric value of each key; a key that does not read as a
+  /// number is a failure and the result is -1 (under SilentError that item counts as found).
   std::int32_t IndexByKey(const Variant& sKey);
 
-  /// The first item whose text matches the pattern, or -1: ? is one character, * any run, # one
-  /// digit, [abc] or [a-c] one of a set, [!abc] none of it. A pattern without these matches the
-  /// whole text only. A pattern that is malformed in either comparison is a failure, which gives -1
-  /// (under SilentError it matches nothing where that is the one asked for).
+  /// The index of the first item whose text matches the pattern, or -1. In a pattern ? matches one
+  /// character, * any sequence, # one digit, [abc] or [a-c] one character of a set, and [!abc] one
+  /// character not in it. The pattern must match the whole text. Both comparisons are prepared: a
+  /// pattern that is malformed in either is a failure, and the result is -1. Under SilentError only
+  /// the requested comparison counts; a malformed pattern then matches nothing.
   std::int32_t IsInList(std::string_view sText, cFindCompare oCompare = cFindBinary);
 
   // ---- ordering: core/ordering.cpp ----
   //
-  // What an item holds travels with it, its mark of the selection too. ListIndex, TopIndex,
-  // NewIndex and the anchor of a range stay as numbers, but for what is said of ListIndex at the
-  // moves. No event is raised.
+  // Items are moved with all their values, including the selection mark. ListIndex, TopIndex,
+  // NewIndex and the anchor of a range selection keep their numbers, except that MoveItemUp and
+  // MoveItemDown change ListIndex. No event is raised.
 
-  /// Orders the items by text, byte by byte: upper-case letters stand before lower-case ones, and
-  /// "10" before "9". Any other mode leaves the order as it is. Equal texts may change places, in
-  /// the same way each time (core/partitionSort.h). Paints whatever AutoRedraw says. An empty list
-  /// is left alone.
+  /// Sorts the items by text, byte by byte: upper-case letters come before lower-case ones, and
+  /// "10" before "9". Any mode other than cAscending and cDescending keeps the order. The order of
+  /// equal texts is not preserved, but is the same every time (core/partitionSort.h). Repaints
+  /// regardless of AutoRedraw. Does nothing on an empty list.
   void Sort(cSortMode SortMode);
 
-  /// Moves an item `lCount` places towards 0, where it stops, and takes `lCount` off ListIndex,
-  /// whichever item is the current one. A bad `lItem` does nothing and is not reported. An `lCount`
-  /// of no number is a failure, which does nothing (under SilentError the item goes all the way).
+  /// Moves an item `lCount` positions towards 0, or to 0 if that is nearer, and subtracts the
+  /// distance moved from ListIndex, whichever item is current. A bad `lItem` is ignored without a
+  /// report. An `lCount` that is not a number is a failure, and nothing moves (under SilentError
+  /// the item moves as far as it can).
   ///
-  /// A negative `lCount` moves nothing along: the item then stands at the far place too, and the
-  /// one that stood there is lost. A far place outside the list is a failure, which changes nothing
-  /// (under SilentError it still changes ListIndex). Fractions are rounded slot by slot.
+  /// With a negative `lCount` no items are shifted: the item is also stored at the target position
+  /// and overwrites the item there. A target outside the list is a failure and nothing moves (under
+  /// SilentError ListIndex still changes). With fractions, each position involved is rounded
+  /// separately.
   void MoveItemUp(const Variant& lItem, const Variant& lCount);
-  /// The same in the other direction: away from 0, the last item being the end, and ListIndex grows
-  /// by `lCount`. Of two texts the far place is what they read as one behind the other: "1" and "2"
-  /// name item 12.
+  /// The same in the other direction: towards the last item, and the distance is added to
+  /// ListIndex. If both arguments are texts, they are concatenated to form the target index: "1"
+  /// and "2" mean item 12.
   void MoveItemDown(const Variant& lItem, const Variant& lCount);
 
   // ---- events: input/events.h ----
 
-  /// Registers a host for the events; it has to live until it is removed, or as long as the list.
+  /// Registers a receiver of events. It must live until it is removed, or as long as the list.
   void addSink(__nvList& sink) { sinks_.add(sink); }
   void removeSink(__nvList& sink) { sinks_.remove(sink); }
-  /// For a platform whose part of the list ends in the middle of an event: no host hears more.
+  /// For a platform that destroys its part of the list during an event: no sink receives further
+  /// events.
   void removeAllSinks() { sinks_.removeAll(); }
 
   // ---- the current item and the selection: core/selection.cpp ----
 
-  /// The current item: 0 on a new list, -1 after items were added. May name no item.
+  /// Index of the current item: 0 on a new list and after ItemsClear, -1 after an item was added
+  /// with AutoRedraw on. It may refer to no item.
   ///
-  /// Setting it selects that item alone and scrolls it into view. An index of no item, -1 among
-  /// them, and that of a disabled item are refused with ErrorWrongIndex. On an empty list nothing
-  /// happens.
+  /// Setting it selects only that item and scrolls it into view. An index outside the list
+  /// (including -1) or of a disabled item raises ErrorWrongIndex and changes nothing. On an empty
+  /// list nothing happens.
   std::int32_t ListIndex() const { return state_.ListIndex; }
   void ListIndex(std::int32_t value);
-  /// Whether an item is selected. Setting it leaves the other items as they are, and ListIndex at
-  /// -1 for true and 0 for false; an item selected outside the window becomes the top row. A bad
-  /// index is a failure: reading gives false, setting changes nothing (under SilentError all but
-  /// the mark).
+  /// Whether an item is selected. Setting it does not change the marks of other items, but sets
+  /// ListIndex to the number of `value`: -1 for true, 0 for false. If an item outside the visible
+  /// rows is selected, it is scrolled to the top row. A bad index is a failure: reading returns
+  /// false, setting changes nothing (under SilentError everything but the mark changes).
   Boolean ItemSelected(const Variant& Index);
   void ItemSelected(const Variant& Index, Boolean value);
 
   // ---- properties of items: core/itemProperties.cpp ----
   //
-  // `Index` is rounded to the nearest whole number; no key is looked up. One that is no number or
-  // outside the list is a failure: reading then gives the zero value of the type, setting changes
-  // nothing (under SilentError it still marks the property and repaints). Slot 0 of an empty list
-  // can be read and written. All but ItemTag and ItemKey repaint under AutoRedraw.
+  // `Index` is rounded to the nearest whole number; keys are not looked up. An index that is not a
+  // number or is outside the list is a failure: reading returns the zero value of the type, setting
+  // changes nothing (under SilentError the container is still notified and the list repainted).
+  // Slot 0 of an empty list can be read and written. Setters repaint if AutoRedraw is on, except
+  // those of ItemTag and ItemKey.
 
   /// The check mark. Setting it raises no event.
   Boolean ItemChecked(const Variant& Index);
   void ItemChecked(const Variant& Index, Boolean value);
-  /// Colours while selected; "def": the list's own.
+  /// Colours while the item is selected; "def" means that the item has no colour of its own.
   Variant ItemForeColorSelect(const Variant& Index);
   void ItemForeColorSelect(const Variant& Index, const Variant& value);
   Variant ItemBackColorSelect(const Variant& Index);
   void ItemBackColorSelect(const Variant& Index, const Variant& value);
-  /// A free value of the host.
+  /// A value that the host may use freely.
   Variant ItemTag(const Variant& Index);
   void ItemTag(const Variant& Index, const Variant& value);
-  /// The icon, shared by reference; empty: none.
+  /// The icon, shared by reference. Empty: no icon.
   Picture ItemIcon(const Variant& Index);
   void ItemIcon(const Variant& Index, const Picture& value);
-  /// The icon while selected; empty: ItemIcon serves.
+  /// The icon while the item is selected. Empty: ItemIcon is used.
   Picture ItemIconSelected(const Variant& Index);
   void ItemIconSelected(const Variant& Index, const Picture& value);
-  /// Where the text stands; an unknown value counts as cLeft.
+  /// The horizontal alignment of the text. An unknown value is treated as cLeft.
   cItemAlignment ItemAlignment(const Variant& Index);
   void ItemAlignment(const Variant& Index, cItemAlignment value);
-  /// Whether the user may edit the text, given the list's AllowEdit too.
+  /// Whether the user may edit the text. The list's AllowEdit must be on as well.
   Boolean ItemAllowEdit(const Variant& Index);
   void ItemAllowEdit(const Variant& Index, Boolean value);
-  /// The text. A `&` underlines the character behind it, two show one; what stands behind
-  /// "|right=", in any capitalisation, is a second column at the right. A wider text does not
-  /// change the horizontal range at once.
+  /// The text. `&` underlines the next character, and `&&` shows one &. The part after "|right="
+  /// (in any case) is shown as a second column at the right. A wider text does not change the
+  /// horizontal scroll range immediately.
   std::string ItemText(const Variant& Index);
   void ItemText(const Variant& Index, const std::string& value);
   /// Whether the item can become the current one.
   Boolean ItemEnabled(const Variant& Index);
   void ItemEnabled(const Variant& Index, Boolean value);
-  /// Flags of the font. A row is measured with the flags of the row painted before it, so a bold
-  /// text that is not left-aligned may stand a little to the side.
+  /// Font flags. A row is measured with the flags of the row painted before it, so a bold text that
+  /// is not left-aligned may be slightly off its position.
   Boolean ItemBold(const Variant& Index);
   void ItemBold(const Variant& Index, Boolean value);
   Boolean ItemItalic(const Variant& Index);
   void ItemItalic(const Variant& Index, Boolean value);
   Boolean ItemUnderline(const Variant& Index);
   void ItemUnderline(const Variant& Index, Boolean value);
-  /// The key, as a text.
+  /// The key; converted to a text when set.
   Variant ItemKey(const Variant& Index);
   void ItemKey(const Variant& Index, const Variant& value);
-  /// Own colours. Reading one that is still "def" is a failure, which gives 0; there is no way back
-  /// to "def".
+  /// The colours of the item itself. Reading one that is still "def" is a failure and returns 0. A
+  /// colour cannot be set back to "def".
   Colour ItemForeColor(const Variant& Index);
   void ItemForeColor(const Variant& Index, Colour value);
   Colour ItemBackColor(const Variant& Index);
   void ItemBackColor(const Variant& Index, Colour value);
-  /// Colours while disabled, as 32-bit numbers. A value that is no number is a failure, which keeps
-  /// the old one.
+  /// Colours while the item is disabled, as 32-bit numbers. Setting a value that is not a number is
+  /// a failure, and the old colour is kept.
   Variant ItemForeColorDis(const Variant& Index);
   void ItemForeColorDis(const Variant& Index, const Variant& value);
   Variant ItemBackColorDis(const Variant& Index);
   void ItemBackColorDis(const Variant& Index, const Variant& value);
 
-  /// The text of the current item; empty where there is none. Setting it makes the first item with
-  /// that text the current one, byte by byte, and changes no item; without one nothing happens. A
-  /// failure in setting it goes to the caller.
+  /// The text of the current item, or an empty text if no item is current. Setting it does not
+  /// change any item: it makes the first item with exactly that text the current one, or does
+  /// nothing if there is no such item. A failure in the setter is thrown to the caller.
   std::string Text();
   void Text(std::string_view value);
 
   // ---- position: core/position.cpp ----
 
-  /// The item in the top row. A value is brought into the range in which the last row shown is the
-  /// last item; on a list shorter than the window that is a negative number, which is kept.
+  /// Index of the item in the top row. A value is limited so that the list ends at the last visible
+  /// row; on a list shorter than the window the result is negative, and is kept.
   std::int32_t TopIndex() const { return state_.TopIndex; }
   void TopIndex(std::int32_t value);
 
   // ---- properties: core/properties.cpp ----
   //
-  // No value is refused. Each setter tells the container the name of its property; all but those
-  // that say otherwise then repaint under AutoRedraw. Truth values are read back as they were
-  // given. Lengths are pixels.
+  // Every value is accepted. Each setter notifies the container of the change (PropertyChanged)
+  // and, unless noted otherwise, repaints if AutoRedraw is on. A Boolean reads back the number it
+  // was set to. Lengths are in pixels.
 
-  /// Whether changes are painted, and added items measured, at once. Default: true. Turning it on
-  /// measures and paints.
+  /// Whether changes are painted, and added items measured, immediately. Default: true. Turning it
+  /// on measures and repaints.
   Boolean AutoRedraw() const { return state_.AutoRedraw; }
   void AutoRedraw(Boolean value);
-  /// Whether the scroll bars are fitted at once after each change of the items. Default: true.
-  /// Turning it on measures and fits them, and does not repaint.
+  /// Whether the scroll bars are adjusted immediately after each change of the items. Default:
+  /// true. Turning it on measures the items and adjusts the scroll bars, without a repaint.
   Boolean AutoCheckScroll() const { return state_.AutoCheckScroll; }
   void AutoCheckScroll(Boolean value);
-  /// The font of the list, by reference. The list keeps a clone of a font given to it. Default: the
+  /// The list's font; reading returns a reference to it. Setting stores a clone. Default: the
   /// ambient font.
   norvane::Font Font() const { return state_.Font; }
   void Font(const norvane::Font& value);
-  /// Text colour of items without one of their own. Default: black.
+  /// Text colour of items that have none of their own. Default: black.
   Colour ForeColor() const { return state_.ForeColor; }
   void ForeColor(Colour value);
-  /// Background of items without one of their own. Default: white.
+  /// Background colour of the list, and of items that have none of their own. Default: white.
   Colour BackColor() const { return state_.BackColor; }
   void BackColor(Colour value);
-  /// Default: true.
+  /// A value for the host: the list looks and behaves the same either way. Default: true.
   Boolean Enabled() const { return state_.Enabled; }
   void Enabled(Boolean value);
-  /// Whether Click comes where ListIndex is set while a press is selecting. Default: false.
+  /// Whether setting ListIndex while a mouse press is being handled raises Click, before the
+  /// change. Default: false.
   Boolean ClickOnIndexChange() const { return state_.ClickOnIndexChange; }
   void ClickOnIndexChange(Boolean value);
 
-  /// The family of selection, frame and scroll bars; all but cCustom set ScrollColorStyle too. In
-  /// an unknown style the selection is black and the frame stays as it was. Paints whatever
-  /// AutoRedraw says. Default: cXPBlue.
+  /// The colour scheme of selection, frame and scroll bars. Every value except cCustom also sets
+  /// ScrollColorStyle. With an unknown value the selection is black and the frame keeps its colour.
+  /// Repaints regardless of AutoRedraw. Default: cXPBlue.
   cColorStyle ColorStyle() const { return state_.ColorStyle; }
   void ColorStyle(cColorStyle value);
-  /// The family of the scroll bars alone. Does not repaint the list.
+  /// The colour scheme of the scroll bars. Does not repaint the list. Default: cXPScrollBlue.
   cScrollColorStyle ScrollColorStyle() const { return state_.ScrollColorStyle; }
   void ScrollColorStyle(cScrollColorStyle value);
-  /// The selection colour in cCustom. Default: blue, 0xFF0000.
+  /// The selection colour if ColorStyle is cCustom. Default: blue, 0xFF0000.
   Colour ValueColor() const { return state_.ValueColor; }
   void ValueColor(Colour value);
-  /// The colour of the frame in cCustom. Paints whatever AutoRedraw says. Default: black.
+  /// The frame colour if ColorStyle is cCustom. Repaints regardless of AutoRedraw. Default: black.
   Colour BorderColor() const { return state_.BorderColor; }
   void BorderColor(Colour value);
-  /// Whether there is a frame of one pixel. Paints whatever AutoRedraw says. Default: true.
+  /// Whether the list has a frame, one pixel wide. Repaints regardless of AutoRedraw. Default:
+  /// true.
   Boolean BorderVisible() const { return state_.BorderVisible; }
   void BorderVisible(Boolean value);
 
-  /// What stands before the text of each row. Default: cDefault, nothing. An unknown value shows no
-  /// pictures and puts the text at the very left.
+  /// What is shown before the text of each row. Default: cDefault, nothing. With an unknown value
+  /// no pictures are shown and the text starts at the very left.
   cListStyle Style() const { return state_.Style; }
   void Style(cListStyle value);
-  /// Whether the selection fills the row, or the text alone. The text alone stands out only where
-  /// the item has a BackColor of its own: "def" is the selection colour while an item is selected.
-  /// Default: true.
+  /// Whether the selection fills the row or only the text. The difference is visible only for items
+  /// with a BackColor of their own, because "def" is painted in the selection colour while an item
+  /// is selected. Default: true.
   Boolean FullRowSelect() const { return state_.FullRowSelect; }
   void FullRowSelect(Boolean value);
-  /// Whether the selection covers the check box and icon too; seen, like FullRowSelect, where the
-  /// item has a BackColor of its own. Default: true.
+  /// Whether the selection also covers the check box and icon. Like FullRowSelect, the difference
+  /// is visible only for items with a BackColor of their own. Default: true.
   Boolean IconSelect() const { return state_.IconSelect; }
   void IconSelect(Boolean value);
-  /// Whether selected rows have a dotted outline while the list has the focus. Does not repaint.
-  /// Default: false.
+  /// Whether selected rows have a dotted outline while the list has the focus. Setting it does not
+  /// repaint. Default: false.
   Boolean ShowFocusRect() const { return state_.ShowFocusRect; }
   void ShowFocusRect(Boolean value);
-  /// Lines between the rows; only true itself shows them, no other number. Default: false.
+  /// Whether lines are painted between the rows; only True (-1) shows them, other nonzero numbers
+  /// do not. Default: false.
   Boolean GridLines() const { return state_.GridLines; }
   void GridLines(Boolean value);
-  /// Default: 0xC0C0C0.
+  /// Colour of the grid lines. Default: 0xC0C0C0.
   Colour GridLineColor() const { return state_.GridLineColor; }
   void GridLineColor(Colour value);
-  /// The size that every icon is stretched to. Default: 16 each.
+  /// The size to which every icon is scaled. Default: 16 by 16.
   float IconW() const { return state_.IconW; }
   void IconW(float value);
   float IconH() const { return state_.IconH; }
@@ -372,61 +384,62 @@ class nvList final : public UserControl,
   void IndentTop(float value);
   float IndentLeft() const { return state_.IndentLeft; }
   void IndentLeft(float value);
-  /// Kept for the host; nothing is painted by them. Default: 3.
+  /// Values for the host; they have no effect on the list. Default: 3.
   float IndentRight() const { return state_.IndentRight; }
   void IndentRight(float value);
   float IndentBottom() const { return state_.IndentBottom; }
   void IndentBottom(float value);
-  /// Height of a row in pixels; 0, the default: the height of the font. Rows that are no pixel high
-  /// after rounding are not shown.
+  /// Height of a row. 0, the default, uses the height of the font. Rows whose height rounds to 0
+  /// are not shown.
   float MinHeight() const { return state_.MinHeight; }
   void MinHeight(float value);
-  /// Which scroll bars the list may show; counts from the next CheckScroll on. Default: vbVertical.
+  /// Which scroll bars the list may show; takes effect at the next CheckScroll. Default:
+  /// vbVertical.
   ScrollBarConstants ScrollBars() const { return state_.ScrollBars; }
   void ScrollBars(ScrollBarConstants value);
 
-  /// Whether the user may edit texts, given that the item allows it. Paints whatever AutoRedraw
-  /// says. Default: false.
+  /// Whether the user may edit texts. The item must allow it as well. Repaints regardless of
+  /// AutoRedraw. Default: false.
   Boolean AllowEdit() const { return state_.AllowEdit; }
   void AllowEdit(Boolean value);
-  /// Whether the user may select several items. Does not repaint; turning it off leaves a selection
-  /// of several as it is. Default: false.
+  /// Whether the user may select several items. Turning it off keeps an existing selection of
+  /// several items. Setting it does not repaint. Default: false.
   Boolean MultiSelect() const { return state_.MultiSelect; }
   void MultiSelect(Boolean value);
-  /// Whether dragging moves the current item. Does not repaint. Default: false.
+  /// Whether dragging moves the current item. Setting it does not repaint. Default: false.
   Boolean AllowItemMoving() const { return state_.AllowItemMoving; }
   void AllowItemMoving(Boolean value);
-  /// Kept for the host; the list does nothing with it. Default: false.
+  /// A value for the host; it has no effect on the list. Default: false.
   Boolean HoverSelect() const { return state_.HoverSelect; }
   void HoverSelect(Boolean value);
-  /// What the mouse wheel does. An unknown value does nothing. Does not repaint. Default:
-  /// cWheelScroll.
+  /// What the mouse wheel does; with an unknown value it does nothing. Setting it does not repaint.
+  /// Default: cWheelScroll.
   cWheelFunction WheelFunction() const { return state_.WheelFunction; }
   void WheelFunction(cWheelFunction value);
-  /// Rows that one message of the wheel scrolls. Does not repaint. Default: 1.
+  /// Number of rows scrolled by one wheel message. Setting it does not repaint. Default: 1.
   std::int32_t WheelScrollLines() const { return state_.WheelScrollLines; }
   void WheelScrollLines(std::int32_t value);
 
   // ---- painting: render/redraw.cpp, render/rows.cpp ----
 
-  /// Paints the whole list, whatever AutoRedraw says.
+  /// Repaints the whole list, regardless of AutoRedraw.
   void Redraw();
 
-  /// Number of whole rows that fit into the window, whether there are items for them or not. 0
-  /// where a row has no height.
+  /// Number of whole rows that fit into the window, whatever the number of items. 0 if the row
+  /// height is 0 or less.
   std::int32_t VisibleItems();
 
   // ---- size and scroll bars: render/scrollfit.cpp ----
 
   void UserControl_Resize() override;
   void UserControl_Paint() override { Redraw(); }
-  /// Fits the scroll bars to the items: which of them show, their ranges and their places.
+  /// Adjusts the scroll bars to the items: their visibility, ranges and positions.
   void CheckScroll();
 
   // ---- list files: files/listSave.cpp, files/listInput.cpp, files/imageInput.cpp ----
   //
-  // File names are UTF-8. docs/list-files.md describes what list files hold and what they lose. A
-  // file that fails is not reported but raises ErrorListSave or ErrorListInput, also under
+  // File names are UTF-8. docs/list-files.md describes the formats and what they do not preserve.
+  // An operation that fails is not reported but raises ErrorListSave or ErrorListInput, also under
   // SilentError. Only invalid colours and pictures are reported.
 
   /// Saves all items to a file. An existing file is rewritten in place and keeps its permissions;
@@ -466,19 +479,20 @@ class nvList final : public UserControl,
   // ---- data: files/recordset.cpp ----
 
   /// The object last assigned. Assigning a norvane::Recordset replaces all items by the first
-  /// fields of its rows, and paints. If it has no rows, or does not know how many, the items stay.
-  /// Later changes to the rows are not seen.
+  /// fields of its rows, and repaints. If it has no rows, or does not know their number, the items
+  /// are kept. Later changes of the rows have no effect.
   ///
-  /// A Null, and an object that is not a Recordset or lacks a member, is a failure, which ends the
-  /// fill; AutoRedraw and AutoCheckScroll stay off if it has begun. Under SilentError the item gets
-  /// an empty text and the fill goes on: a recordset without Eof is then read without end, for
-  /// as long as its other members can be called.
+  /// Null, an object that is not a Recordset, or one that lacks a member is a failure, which ends
+  /// the operation; if adding had begun, AutoRedraw and AutoCheckScroll stay off. Under SilentError
+  /// such an item gets an empty text and adding continues: a recordset without Eof is then read
+  /// endlessly, as long as its other members can be called.
   Ref<Object> Recordset() const { return state_.Recordset; }
   void Recordset(const Ref<Object>& value);
 
-  /// Everything the control knows, for a look from outside; it changes with every operation.
+  /// The whole state of the control, for inspection. The reference stays valid as long as the
+  /// control; every operation may change what it refers to.
   const ListState& state() const { return state_; }
-  /// The bars, which go up and down with the list.
+  /// The scroll bars. They exist as long as the list.
   const nvVScroll& verticalBar() const { return VScroll1; }
   const nvHScroll& horizontalBar() const { return HScroll1; }
 
@@ -513,7 +527,8 @@ class nvList final : public UserControl,
   // core/items.cpp
   bool WrongIndex(const Variant& Index) const;
   bool WrongIndex(std::int32_t Index) const { return !state_.Items.holds(Index); }
-  /// The item at an index; throws Failure 9 outside the bounds. Slot 0 of an empty list is in them.
+  /// The item at an index. Throws Failure 9 outside the bounds; slot 0 of an empty list is within
+  /// them.
   ListItem& item(std::int32_t index) { return state_.Items.touch(index); }
   void writeFields(Trap& on, ListItem& item, NewItem& values);
   void moveLastTo(double index);
@@ -526,7 +541,8 @@ class nvList final : public UserControl,
   }
 
   // core/search.cpp
-  /// The first item that fits, or -1. LoopIndex stops there, or behind the last one.
+  /// Returns the index of the first item that fits, or -1. LoopIndex is left there, or one past the
+  /// last item.
   template <class Fits>
   std::int32_t firstItem(Fits&& fits) {
     state_.LoopIndex = state_.Items.find(fits);
@@ -612,7 +628,7 @@ class nvList final : public UserControl,
   void inputImageItem(const PropertyImage& image, bool readsProperties);
 
   // files/pictures.cpp
-  /// The bytes of the picture's file, one a character, and how many they are.
+  /// The bytes of the picture as a file, one per character; `length` gets their number.
   std::string GetPictureString(const Picture& picture, std::int32_t& length);
   Picture GetStringPicture(std::string_view file);
 
@@ -621,12 +637,13 @@ class nvList final : public UserControl,
 
   // files/fileEvents.cpp
   void raise(Trap& on, void (__nvList::*event)());
-  /// Tells of an item by its position, and takes the position back.
+  /// Passes LoopIndex to the event and takes it back from the handler.
   void raiseAtLoopIndex(void (__nvList::*event)(Variant& Index));
-  /// The position never overflows: a host that sets it far behind the last item ends the loop.
+  /// Advances LoopIndex. It never overflows, so a host that sets it far past the last item ends the
+  /// loop.
   void toNextItem();
-  /// Runs a body that has a trap of its own: whatever fails in it ends it and raises the event,
-  /// also under SilentError. Whether nothing failed.
+  /// Runs a body that has a trap of its own. Any failure in it ends the body and raises the event,
+  /// also under SilentError. Returns whether the body succeeded.
   template <class Body>
   bool orRaise(Trap& on, void (__nvList::*event)(), Body&& body) {
     try {
@@ -641,7 +658,7 @@ class nvList final : public UserControl,
   EventSinks sinks_;
   ListState state_;
 
-  // What stands in the list, from the back to the front.
+  // The child controls, from back to front.
   nvVScroll VScroll1;
   nvHScroll HScroll1;
   static constexpr std::int32_t borderPieces = 4;

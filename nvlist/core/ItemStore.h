@@ -10,18 +10,18 @@
 
 namespace norvane {
 
-/// Makes the items of slots that have not been accessed yet, for example from a list file.
+/// Creates items for slots on first access, for example from a list file.
 class ItemSource {
  public:
   virtual ~ItemSource() = default;
-  /// Makes the item of a slot, or returns an empty reference if it has none for it. Called at most
-  /// once for each slot, unless it throws.
+  /// Creates the item of a slot. An empty reference means that the source has no item for it.
+  /// Called at most once for each slot, unless it throws.
   virtual Ref<ListItem> make(std::int32_t index) = 0;
 };
 
-/// The array of the list: references to items from 0 to upperBound(). There is always at least one
-/// slot. A slot may be empty; the first time it is accessed, it gets an item from the source, or a
-/// blank one. So a list of a million items that were loaded but never accessed costs little.
+/// The items of a list: an array of references, from 0 to upperBound(), with at least one slot. A
+/// slot may be empty; when first accessed, it gets an item from the source, or a blank one. So a
+/// list of a million items that were loaded but never accessed costs little.
 class ItemStore {
  public:
   ItemStore() = default;
@@ -31,19 +31,20 @@ class ItemStore {
 
   bool holds(std::int32_t index) const { return index >= 0 && index <= upperBound(); }
 
-  // These make the item of a slot that has none yet, and throw Failure 9 outside the bounds.
+  // The following functions create the item of an empty slot. They throw Failure 9 if the index is
+  // outside the bounds.
 
-  /// The item in a slot, for reading. It lives until the list changes.
+  /// The item in a slot, for reading. Valid until the list changes.
   const ListItem& at(std::int32_t index) const { return *peek(index); }
-  /// The item in a slot, for changing anything but its text.
+  /// The item in a slot, for changing anything except its text.
   ListItem& touch(std::int32_t index) { return *peek(index); }
   /// Changes the text of the item in a slot.
   void setText(std::int32_t index, std::string text);
-  /// The reference in a slot, to be replaced, or to be kept while the item is changed.
+  /// The reference in a slot, for replacing it, or for keeping the item alive while it is changed.
   Ref<ListItem>& slot(std::int32_t index);
 
-  /// The first index, from 0, whose item `fits`, or upperBound() + 1. `fits` must not change the
-  /// list.
+  /// The index of the first item for which `fits` returns true, or upperBound() + 1. `fits` must
+  /// not change the list.
   template <class Fits>
   std::int32_t find(Fits&& fits) {
     std::int32_t found = upperBound() + 1;
@@ -56,7 +57,7 @@ class ItemStore {
     return found;
   }
 
-  /// Calls `visit` with every item, from 0. It must not change the list.
+  /// Calls `visit` with every item, in order. It must not change the list.
   template <class Visit>
   void forEach(Visit&& visit) {
     find([&](ListItem& item) {
@@ -65,8 +66,9 @@ class ItemStore {
     });
   }
 
-  /// The widest of the texts from `index` on up to some index behind it, where a row of texts
-  /// begins there that all have been measured since they changed. Found without visiting each.
+  /// The widest of the texts from `index` up to some later index, found without visiting each item.
+  /// Empty if the width is not known: it is known only where a block of slots begins and all its
+  /// texts have been measured since they last changed.
   std::optional<SlotBlocks::Measured> measuredFrom(std::int32_t index) {
     return holds(index) ? slots_.measuredFrom(index) : std::nullopt;
   }
@@ -75,20 +77,22 @@ class ItemStore {
 
   /// Adds an empty slot at the end.
   void grow();
-  /// Drops the last slot with its reference.
+  /// Removes the last slot.
   void shrink();
-  /// Drops all references and leaves a single empty slot.
+  /// Removes all items and leaves one empty slot.
   void reset() { recreate(1); }
 
-  /// Drops all references and leaves `count` empty slots, at least one, whose items `source` makes.
+  /// Removes all items and leaves `count` empty slots (at least one), whose items `source` creates.
   void recreate(std::size_t count, std::shared_ptr<ItemSource> source = nullptr);
 
-  /// Moves the reference at `from` to `to`, and those on the way by one slot towards `from`.
+  /// Moves the reference at `from` to `to` and shifts the references between them by one slot
+  /// towards `from`.
   void move(std::int32_t from, std::int32_t to);
-  /// Moves the references behind `index` down by one slot, onto it. The last slot keeps its
-  /// reference, as it would if they were moved slot by slot.
+  /// Shifts all references after `index` down by one slot, overwriting the one at `index`. The last
+  /// slot keeps its reference, so the last item is then in two slots.
   void moveDownOnto(std::int32_t index);
-  /// Gives each slot the reference that stood at the index named for it. Every index is named once.
+  /// Moves to each slot the reference from the index that `order` names for it. `order` contains
+  /// every index exactly once.
   void reorder(std::span<const std::int32_t> order);
 
  private:
@@ -96,9 +100,9 @@ class ItemStore {
   void makeItem(Ref<ListItem>& reference, std::int32_t index) const;
   void makeAllItems();
 
-  /// Mutable, as callers cannot tell a slot that is still empty from one that has its item.
+  /// Mutable, because reading a slot may create its item.
   mutable SlotBlocks slots_{1};
-  /// Knows the slots by their first places, so all items are made before any reference moves.
+  /// Knows slots by their original indexes, so all items are created before any reference moves.
   std::shared_ptr<ItemSource> source_;
 };
 

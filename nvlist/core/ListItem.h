@@ -12,23 +12,23 @@
 
 namespace norvane {
 
-/// One entry of a list. It has no behaviour: every member may be read and written. A new record has
-/// every field in the zero state of its type; ItemsAdd then writes all of them.
+/// One item of a list. It has no behaviour: every member may be read and written. In a new record
+/// every field has the zero value of its type; ItemsAdd then sets all of them.
 ///
-/// The four variant colours hold a colour or the text "def", which says that the item has no colour
-/// of its own and takes what the style of the list gives. The two colours of the disabled state are
-/// plain numbers and cannot say so.
+/// Each of the four Variant colours holds a colour or the text "def": the item then has no colour
+/// of its own and takes it from the list's style. The two colours of the disabled state are plain
+/// numbers and cannot be "def".
 class ListItem final : public Shared {
  public:
-  // The small ones stand together, which keeps an item small.
+  // Small members come first, so that an item has little padding.
   Boolean Checked;    ///< the check mark
-  Boolean AllowEdit;  ///< may be edited in place, given the list's AllowEdit too
+  Boolean AllowEdit;  ///< may be edited in place if the list's AllowEdit is on as well
   Boolean Enabled;    ///< a disabled item cannot become the current one
   Boolean Selected;
   Boolean Bold;
   Boolean Italic;
   Boolean Underline;
-  /// Of the text in the list's font, in pixels, where it was measured; setText forgets it.
+  /// Width of the text in the list's font, in pixels, once measured. setText resets it.
   std::uint16_t textWidth = notMeasured;
   static constexpr std::uint16_t notMeasured = 0xFFFF;
   cItemAlignment Alignment = cLeft;
@@ -39,13 +39,13 @@ class ListItem final : public Shared {
   Variant ForeColorSelect;  ///< text colour while selected
   Variant BackColorSelect;  ///< background colour while selected
   Picture Icon;
-  Picture IconSelected;  ///< icon while selected; empty: Icon serves then too
+  Picture IconSelected;  ///< icon while selected; empty: Icon is used
   std::string Text;
-  Variant Tag;      ///< free value of the host
+  Variant Tag;      ///< a value that the host may use freely
   CompactText Key;  ///< the host's key; neither unique nor indexed
 };
 
-/// The way in which the list itself writes a text.
+/// Sets the text of an item and forgets its measured width.
 inline void setText(ListItem& item, std::string text) {
   item.Text = std::move(text);
   item.textWidth = ListItem::notMeasured;

@@ -13,27 +13,27 @@
 
 namespace norvane {
 
-/// Everything an nvList knows. A field with the name of a public property is what that property
-/// reads; the others have no public surface. Lengths are pixels.
+/// The state of an nvList. A field with the name of a public property holds its value; the other
+/// fields are internal. Lengths are in pixels.
 ///
-/// The loop variables stand here and not in the operations that loop: a call that comes back in
-/// through a handler of the host, while a loop yields, moves the outer loop on. They only ever hold
-/// whole numbers, but for InsertIndex, which takes whatever the host gave as index.
+/// Loop variables are members, not locals: if a handler called during a loop enters the control
+/// again, its call advances the outer loop. They hold whole numbers only, except InsertIndex, which
+/// holds the index as the host passed it.
 struct ListState {
-  std::int32_t TopIndex = 0;  ///< item in the top row; negative where the list is shorter than it
-  norvane::Font Font;         ///< a clone of its own
+  std::int32_t TopIndex = 0;  ///< item in the top row; negative if the list is too short
+  norvane::Font Font;         ///< a clone owned by the list
   Colour ForeColor = 0;
   Colour BackColor = colours::white;
   Boolean Enabled = true;
   Boolean ClickOnIndexChange = false;
-  std::int32_t ListIndex = 0;  ///< the current item; -1 none
+  std::int32_t ListIndex = 0;  ///< the current item; -1: none
   cColorStyle ColorStyle = cXPBlue;
   Colour BorderColor = 0;
   Boolean HoverSelect = false;
   cListStyle Style = cDefault;
   Boolean FullRowSelect = true;
   Boolean AllowEdit = false;
-  Colour ValueColor = 0xFF0000;  ///< selection colour
+  Colour ValueColor = 0xFF0000;  ///< selection colour in cCustom
   Boolean IconSelect = true;
   Boolean BorderVisible = true;
   float IndentTop = 3;
@@ -48,7 +48,7 @@ struct ListState {
   Boolean GridLines = false;
   Colour GridLineColor = 0xC0C0C0;
   Boolean MultiSelect = false;
-  std::int32_t NewIndex = 0;  ///< where ItemsAdd last put an item
+  std::int32_t NewIndex = 0;  ///< of the item last added by ItemsAdd
   Boolean ShowFocusRect = false;
   cWheelFunction WheelFunction = cWheelScroll;
   std::int32_t WheelScrollLines = 1;
@@ -61,14 +61,14 @@ struct ListState {
   Colour RowBackColor = 0;  ///< of the row being painted
   ItemStore Items;
   Boolean IsRedrawing = false;
-  std::int32_t HoverIndex = -1;  ///< where a dragged item would land; -1 none
+  std::int32_t HoverIndex = -1;  ///< where a dragged item would be dropped; -1: nowhere
   std::int32_t LoopIndex = 0;
   std::int32_t LoopIndex2 = 0;
-  Boolean TopIndexRepair = false;  ///< Redraw is setting a bad TopIndex right
+  Boolean TopIndexRepair = false;  ///< Redraw is correcting an invalid TopIndex
   std::int32_t SweepIndex = 0;
   Variant InsertIndex;
   Boolean HasFocus = false;
-  Boolean ItemsDimensioned = false;  ///< false: the list is empty and slot 0 is no item
+  Boolean ItemsDimensioned = false;  ///< false: the list is empty and slot 0 holds no item
   Picture PaintIcon;                 ///< check box of the row being painted
   Variant MouseDownX;
   Variant MouseDownY;
@@ -76,7 +76,7 @@ struct ListState {
   Boolean EditActive = false;
   Boolean ShiftDown = false;
   Boolean CtrlDown = false;
-  std::int32_t SelectAnchor = -1;  ///< where a range selection starts; -1 none
+  std::int32_t SelectAnchor = -1;  ///< where a range selection starts; -1: not set
   Boolean VisibleItemsChecked = false;
   Boolean SuppressRedraw = false;  ///< Redraw returns at once
   Boolean ClickPending = false;    ///< the next change of ListIndex scrolls it into view
@@ -86,7 +86,7 @@ struct ListState {
   std::int32_t MaxItemWidth = 0;  ///< widest item measured
   Boolean WheelMoved = false;
 
-  SelectionMarks Selection;  ///< writes the Selected marks
+  SelectionMarks Selection;  ///< sets and clears the Selected marks
 };
 
 }  // namespace norvane

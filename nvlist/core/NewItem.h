@@ -8,8 +8,8 @@ namespace norvane {
 ///
 ///     list.ItemsAdd({.aText = "Vienna", .aBold = true, .aKey = "AT-9"});
 struct NewItem {
-  Variant aText;        ///< shown text; converted to a string
-  Variant aIndex = -1;  ///< where to insert; -1 or past the end: append
+  Variant aText;        ///< the displayed text; converted to a string
+  Variant aIndex = -1;  ///< where to insert; negative or past the end: append
   Picture aIcon = nullptr;
   Picture aIconSelected = nullptr;
   Boolean aChecked = false;

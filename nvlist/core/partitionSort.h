@@ -9,14 +9,15 @@
 
 namespace norvane {
 
-/// The order in which a partition sort leaves the texts: for each place, where the text that ends
-/// up there stood before. Texts are compared byte by byte; cDescending puts the greatest first.
+/// Returns the order in which a partition sort leaves the texts: for each position, the original
+/// index of the text that ends there. Texts are compared byte by byte; cDescending puts the
+/// greatest first.
 ///
-/// Equal texts do not keep their order, but always end in the same one. It is that of this scheme:
-/// a range takes as pivot the text in its middle, with halves to the even place. A scan from the
-/// left stops at a text that does not come before the pivot, one from the right at one that does
-/// not come behind it; the two change places, until the scans have passed each other. What lies
-/// left of where they stop is sorted in the same way, and what lies right of it.
+/// Equal texts do not keep their relative order, but their order is defined by this scheme: the
+/// pivot of a range is the text in its middle; a middle between two positions is rounded to the
+/// even one. A scan from the left stops at a text that does not come before the pivot, a scan from
+/// the right at one that does not come after it; the two are swapped, until the scans have passed
+/// each other. The texts on either side of the meeting point are sorted in the same way.
 std::vector<std::int32_t> partitionOrder(std::span<const std::string_view> texts, cSortMode mode);
 
 }  // namespace norvane

@@ -7,11 +7,11 @@
 
 namespace norvane {
 
-/// The places of the texts that were seen before, in order.
+/// Returns the indexes of the texts that repeat earlier ones, in ascending order.
 ///
-/// A text counts as seen if it, with a comma behind it, occurs in the texts kept so far, written
-/// one behind the other with a comma behind each; otherwise it is kept. So "bc" is repeated behind
-/// "abc", "b,c" behind "b" and "c" kept side by side, and the empty text behind anything.
+/// A text counts as repeated if, followed by a comma, it occurs in the texts kept so far, joined
+/// with a comma after each; otherwise it is kept. So "bc" is repeated after "abc", "b,c" after "b"
+/// and "c" kept in succession, and the empty text after any text.
 std::vector<std::int32_t> repeatedTexts(std::span<const std::string_view> texts);
 
 }  // namespace norvane
