@@ -5,8 +5,8 @@
 
 namespace norvane {
 
-/// One edge of the frame: a control of its own, so that nothing the list paints and no scroll bar
-/// can cover it.
+/// One edge of the frame. It is a control of its own, so that neither the list nor a scroll bar can
+/// paint over it.
 class BorderPiece final : public UserControl {
  public:
   explicit BorderPiece(std::unique_ptr<Container> place) : UserControl(std::move(place)) {}
@@ -16,7 +16,7 @@ class BorderPiece final : public UserControl {
     surface_.Cls();
   }
   void UserControl_Resize() override { surface_.Cls(); }
-  /// In the name of the procedure of the list that has painted it.
+  /// A failure is reported under the name of the list's procedure.
   void UserControl_Paint() override {
     trapped(list, "DrawBorder", [&](Trap& on) { on.step([&] { surface_.Cls(); }); });
   }

@@ -4,8 +4,8 @@
 
 namespace norvane {
 
-/// A hidden control that tells how wide a text is in the list's font, whatever flags the rows have
-/// left on the list's own surface.
+/// A hidden control that measures text in the list's font. The list's own surface cannot be used
+/// for this, because painted rows change its font flags.
 class MeasuringLabel final : public UserControl {
  public:
   explicit MeasuringLabel(std::unique_ptr<Container> place) : UserControl(std::move(place)) {

@@ -7,13 +7,14 @@
 
 namespace norvane {
 
-/// Paints one row: the item at LoopIndex, from CurrentY down. CurrentY is then at the next row's
-/// top, and the font has the flags of this item: the next row is measured with them.
+/// Paints one row: the item at LoopIndex, with its top at CurrentY. Afterwards CurrentY is the top
+/// of the next row, and the surface keeps the font flags of this item: the next row is measured
+/// with them.
 class nvList::Row {
  public:
   Row(nvList& list, Trap& on, RepaintValues& repaint);
 
-  /// False where the properties began to be read anew in the middle of it.
+  /// Returns false if SuppressRedraw was set meanwhile, which ends the repaint.
   bool paint();
 
  private:
@@ -21,7 +22,7 @@ class nvList::Row {
   ListItem& item() { return list_.item(state_.LoopIndex); }
   float width() { return surface_.ScaleWidth(); }
   float height() const { return state_.ItemHeightValue; }
-  /// A copy: the surface may let the host in, and the item may go.
+  /// A copy, because a surface call may run host code that removes the item.
   const std::string& text() { return repaint_.text = item().Text; }
   float textWidth() { return surface_.TextWidth(text()); }
   float pictureColumn() const;
@@ -41,7 +42,7 @@ class nvList::Row {
   void selectWholeRow();
   void selectText();
   float selectionLeft();
-  /// Up to the right edge of the row, or of a text that stands at its left.
+  /// The right edge of the focus rectangle: that of the row, or the width of the text.
   enum class FocusRight { ofRow, ofText };
   void setFocusRect(float left, FocusRight right);
   void fillPictureColumn();

@@ -25,7 +25,7 @@ constexpr std::array<std::string_view, boxSize> checkMark = {".............",  /
                                                              ".............",  //
                                                              "............."};
 
-/// The inside of an enabled box: lighter from the top left to the bottom right.
+/// The interior of an enabled box: a gradient, lighter towards the bottom right.
 Pixel shade(int row, int column) {
   return mix(pixel(0xDEDED6), white, row - 1 + column - 1, 2 * (boxSize - 3));
 }

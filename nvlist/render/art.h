@@ -2,13 +2,13 @@
 
 #include <nvlist/values/Picture.h>
 
-/// The pictures the list brings along, each drawn once and shared by all lists of the program.
+/// Built-in pictures of the list, each drawn once and shared by all lists.
 namespace norvane::art {
 
 /// A check box of 13 by 13 pixels.
 Picture checkBox(bool isChecked, bool isEnabled);
 
-/// The 32 by 32 icon that stands for the host's icons in a designer.
+/// The icon of 32 by 32 pixels shown in a designer in place of the items' icons.
 Picture sampleIcon();
 
 }  // namespace norvane::art

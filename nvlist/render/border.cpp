@@ -2,11 +2,11 @@
 
 namespace norvane {
 
-/// The pieces are coloured and moved also while they are hidden.
+/// The pieces get their colour and position even while they are hidden.
 void nvList::DrawBorder() {
   trapped(here, "DrawBorder", [&](Trap& on) {
     for (state_.LoopIndex = 0; state_.LoopIndex < borderPieces; ++state_.LoopIndex) {
-      // Asked anew for each step: a platform that comes back in may move the loop.
+      // Evaluated again for each step, because host code run by the platform may change LoopIndex.
       const auto piece = [&]() -> BorderPiece& {
         return pBord.at(static_cast<std::size_t>(state_.LoopIndex));
       };

@@ -7,11 +7,12 @@
 
 namespace norvane {
 
-/// The background of selected rows: that of the style's palette, `valueColor` in cCustom, 0 in an
-/// unknown style.
+/// The background of selected rows: the colour of the style's palette, `valueColor` for cCustom, 0
+/// (black) for an unknown style.
 Colour selectionColour(cColorStyle style, Colour valueColor);
 
-/// The colour of the frame around the list, in the same way; an unknown style has none.
+/// The colour of the frame: that of the palette, or `borderColor` for cCustom. Empty for an unknown
+/// style.
 std::optional<Colour> borderColour(cColorStyle style, Colour borderColor);
 
 }  // namespace norvane

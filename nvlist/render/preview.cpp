@@ -3,8 +3,8 @@
 
 namespace norvane {
 
-/// What the list shows in a designer: one sample row with the name of the control. The margin of
-/// the pictures is a fixed one, that of the name is IndentLeft.
+/// Paints what the list shows in a designer: one sample row with the name of the control. The
+/// pictures have a fixed margin; the name is indented by IndentLeft.
 void nvList::paintPreview(Trap& on) {
   constexpr float margin = 3;
   constexpr float iconSize = 16;

@@ -56,8 +56,8 @@ void nvList::Redraw() {
       return;
     }
     if (!state_.SuppressRedraw) {
-      // A call from inside a repaint is dropped. So is every later one where a failure has left a
-      // repaint in the middle, until a key or the wheel moves the list.
+      // A nested call is ignored. If a failure ended a repaint early, all later calls are ignored
+      // too, until the wheel or a key moves the list.
       if (state_.IsRedrawing) return;
       state_.IsRedrawing = true;
       paintFace(on);
@@ -66,10 +66,10 @@ void nvList::Redraw() {
   });
 }
 
-/// Paints everything; ends early where the properties begin to be read anew in the middle of it.
+/// Paints the list. Ends early if SuppressRedraw is set meanwhile.
 void nvList::paintFace(Trap& on) {
   on.step([&] { surface_.Cls(); });
-  // On a list shorter than the window a negative TopIndex is not a bad one.
+  // On a list shorter than the window a negative TopIndex is valid.
   const auto isShort = [&] { return ItemsCount() < VisibleItems(); };
   if (WrongIndex(state_.TopIndex) && !(state_.TopIndex < 0 && on.test(isShort))) {
     state_.TopIndexRepair = true;
@@ -94,7 +94,7 @@ void nvList::paintFace(Trap& on) {
     on.step([&] { repaint.ItemLeft = nearest<std::int32_t>(state_.IndentLeft); });
   }
 
-  // Rows that would round to no height are none.
+  // Rows whose height rounds to 0 are not painted.
   const bool rowsHaveHeight = state_.ItemHeightValue > 0.5F;
   while (rowsHaveHeight && !on.test([&] {
     return state_.LoopIndex > state_.Items.upperBound() ||
@@ -106,13 +106,13 @@ void nvList::paintFace(Trap& on) {
     if (state_.SuppressRedraw) return;
   }
 
-  // Leaves its mark that the rows were counted; an unusable row height is told here.
+  // Sets VisibleItemsChecked; an invalid row height is reported here.
   on.step([&] { VisibleItems(); });
   on.step([&] { ItemHeight(); });
   paintCorner(on);
 }
 
-/// Closes the square that two scroll bars leave free.
+/// Fills the square between the two scroll bars.
 void nvList::paintCorner(Trap& on) {
   if (!HScroll1.Visible() || !VScroll1.Visible()) return;
   on.step([&] {

@@ -5,7 +5,7 @@ namespace norvane {
 
 using checked::nearest;
 
-/// False where the properties began to be read anew.
+/// Returns false if SuppressRedraw was set meanwhile.
 bool nvList::Row::paintBackground() {
   if (on_.test([&] { return !item().Enabled; })) {
     on_.step([&] { top_ = surface_.CurrentY(); });
@@ -39,7 +39,7 @@ bool nvList::Row::paintBackground() {
   if (state_.ShowFocusRect && state_.HasFocus)
     on_.step([&] { surface_.DrawFocusRect(surface_.hDC(), state_.FocusRect); });
   if (state_.SuppressRedraw) return false;
-  // Every way to here ended in a box, which left CurrentY at the row's foot.
+  // Both branches end with a filled box, which leaves CurrentY at the bottom of the row.
   on_.step([&] { top_ = surface_.CurrentY() - height(); });
   fillPictureColumn();
   toTop();
@@ -64,7 +64,7 @@ void nvList::Row::setFocusRect(float left, FocusRight right) {
 void nvList::Row::selectWholeRow() {
   const float left = pictureColumn();
   on_.step([&] { fill(left, width(), selectColour_.toInt32()); });
-  // With both pictures the focus rectangle leaves out the check box, the selection does not.
+  // With check box and icon, the selection includes the check box but the focus rectangle does not.
   const float focusLeft =
       state_.Style == cCheckBoxesIcons
           ? state_.IconW + static_cast<float>(repaint_.ItemLeft) + state_.DistPicText
@@ -72,8 +72,8 @@ void nvList::Row::selectWholeRow() {
   setFocusRect(focusLeft, FocusRight::ofRow);
 }
 
-/// Selects the text alone. The boxes follow neither a horizontal scroll nor the place that the
-/// pictures take from a centred text.
+/// Selects only the text. The boxes ignore horizontal scrolling, and the space that pictures take
+/// from a centred text.
 void nvList::Row::selectText() {
   float left = 0;
   on_.step([&] { left = selectionLeft(); });
@@ -88,7 +88,7 @@ void nvList::Row::selectText() {
     const float right = left + textWidth() + (isLeft ? 1.0F : 0.0F);
     fill(left, right, selectColour_.toInt32());
   });
-  // At the left edge, wherever the text stands.
+  // Starts at the left edge, whatever the alignment.
   setFocusRect(0, FocusRight::ofText);
 }
 

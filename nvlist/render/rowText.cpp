@@ -10,12 +10,12 @@ using checked::nearest;
 
 namespace {
 
-/// Parts the two columns of a row; its letters count in any capitalisation.
+/// Separates the two columns of a row; not case-sensitive.
 constexpr std::string_view columnMarker = "|right=";
 
 constexpr std::int32_t marginOfRightColumn = 3;
 
-/// Where the first marker stands, in bytes, or npos.
+/// The byte position of the first marker, or npos.
 std::size_t markerIn(std::string_view text) {
   const auto isSame = [](char inMarker, char inText) {
     const bool isLetter = inText >= 'A' && inText <= 'Z';
@@ -30,7 +30,8 @@ std::size_t markerIn(std::string_view text) {
   return std::string_view::npos;
 }
 
-/// What pictures take from the width of a centred text: fixed sizes, whatever theirs are.
+/// The space that pictures take from a centred text: fixed sizes, whatever the size of the
+/// pictures.
 float pictureAllowance(const ListState& state) {
   switch (state.Style) {
     case cCheckBoxes:
@@ -74,7 +75,7 @@ void nvList::Row::paintText() {
   });
   on_.step([&] { rect.Left = nearest<std::int32_t>(surface_.CurrentX()); });
   rect.Right = repaint_.ItemRight;
-  // Down to the foot of the surface: a text of several lines goes on over the rows below.
+  // Extends to the bottom of the surface: a text of several lines continues over the rows below.
   on_.step([&] { rect.Bottom = nearest<std::int32_t>(surface_.ScaleHeight()); });
 
   setFontFlags();
@@ -87,7 +88,7 @@ void nvList::Row::paintText() {
   on_.step([&] { surface_.DrawTextA(surface_.hDC(), text(), -1, rect, TextFormat::expandTabs); });
 }
 
-/// Only now: all measures of the row were taken with the flags of the row above.
+/// Set last, because the row is measured with the flags of the row above.
 void nvList::Row::setFontFlags() {
   on_.step([&] { surface_.FontBold(item().Bold); });
   on_.step([&] { surface_.FontItalic(item().Italic); });

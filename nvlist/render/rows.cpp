@@ -10,7 +10,7 @@ constexpr float gapBetweenPictures = 3;
 
 float checkBoxWidth() { return art::checkBox(true, true)->width(); }
 
-/// An empty reference and a picture object that holds no picture both have no handle.
+/// An empty reference and a picture object without a picture both count as no picture.
 bool isShown(const Picture& picture) { return picture && picture->handle() != 0; }
 
 }  // namespace
@@ -43,7 +43,7 @@ bool nvList::Row::paint() {
   return true;
 }
 
-/// Where the column of check box and icon ends.
+/// The right end of the column of check box and icon.
 float nvList::Row::pictureColumn() const {
   const auto left = static_cast<float>(repaint_.ItemLeft);
   switch (state_.Style) {
@@ -62,10 +62,11 @@ float nvList::Row::contentLeft() const {
   return state_.Style == cDefault ? static_cast<float>(repaint_.ItemLeft) : pictureColumn();
 }
 
-/// Asked anew for each row, and not of the bar: a list whose bar is switched off counts too.
+/// Computed for each row from the items, not from the bar, so that it is also true if ScrollBars
+/// disables the bar.
 bool nvList::Row::isScrollNeeded() { return list_.VisibleItems() < list_.ItemsCount(); }
 
-/// Fills a part of the row, over its whole height.
+/// Fills part of the row over its full height.
 void nvList::Row::fill(float left, float right, Colour colour) {
   surface_.Line(LineMode::filledBox, left, top_, right, top_ + height(), colour);
 }
@@ -74,7 +75,7 @@ void nvList::Row::toTop() {
   on_.step([&] { surface_.CurrentY(top_); });
 }
 
-/// A black bar where an item that is being moved would land.
+/// Draws a black bar where an item being dragged would be dropped.
 void nvList::Row::markMoveTarget() {
   on_.step([&] { top_ = surface_.CurrentY(); });
   if (state_.AllowItemMoving && state_.LoopIndex == state_.HoverIndex)
@@ -96,7 +97,7 @@ void nvList::Row::paintCheckBox() {
 
 void nvList::Row::paintIcon() {
   on_.ignoring([&] {
-    // Copies: asking a picture for its handle may let the host in.
+    // Copies, because Picture::handle may run host code.
     const bool isSelected = item().Selected && item().Enabled;
     const Picture chosen = item().IconSelected;
     const Picture icon = isSelected && isShown(chosen) ? chosen : item().Icon;
@@ -123,16 +124,17 @@ void nvList::Row::setTextColour() {
   });
 }
 
-/// The lines above and below the row, which is done: CurrentY is at the top of the next one.
+/// Draws the lines above and below the row. The row is finished: CurrentY is at the top of the next
+/// one.
 void nvList::Row::paintGridLines() {
   on_.step([&] { top_ = surface_.CurrentY(); });
   const auto line = [&](float y) {
     surface_.Line(LineMode::plainLine, 0, y, width(), y, state_.GridLineColor);
   };
-  // The first row shown has none.
+  // The first visible row has no line above.
   if (state_.LoopIndex > std::max(state_.TopIndex, 0)) on_.step([&] { line(top_ - height()); });
-  // Where the line above was drawn, CurrentY is at this row's own top; so the line below is there
-  // for one row more.
+  // The line above leaves CurrentY at the top of this row, so that the line below is then drawn for
+  // one row more.
   const auto isLineBelow = [&] {
     return surface_.ScaleHeight() - height() > surface_.CurrentY() &&
            state_.LoopIndex < state_.Items.upperBound();

@@ -10,14 +10,15 @@ using checked::nearest;
 
 namespace {
 
-/// A length turned into a whole number, as the range of a bar takes it.
+/// Rounds a length for the range of a bar.
 std::int32_t whole(double length) { return nearest<std::int32_t>(length); }
 
 }  // namespace
 
 // ---- the widest item ----
 
-/// Takes the widest of all items. A text is measured if it has changed since it last was.
+/// Finds the widest of all items. A text is measured only if it has changed since it was last
+/// measured.
 void nvList::CheckItemWidth() {
   trapped(here, "CheckItemWidth", [&](Trap& on) {
     if (!state_.ItemsDimensioned) return;
@@ -37,8 +38,8 @@ void nvList::CheckItemWidth() {
   });
 }
 
-/// Measures one item. The padding comes on top of a width that has some already, until all are
-/// measured again.
+/// Measures one item. The padding is added to a width that already includes padding, until all
+/// items are measured again.
 void nvList::CheckItemWidth(const Variant& Index) {
   trapped(here, "CheckItemWidth", [&](Trap& on) {
     if (!state_.ItemsDimensioned) return;
@@ -69,7 +70,7 @@ void nvList::addPadding(Trap& on) {
   });
 }
 
-// ---- which bars ----
+// ---- visibility and ranges ----
 
 void nvList::CheckScroll() {
   trapped(here, "CheckScroll", [&](Trap& on) {
@@ -99,8 +100,8 @@ void nvList::fitHorizontal(Trap& on) {
   HScroll1.Tag("True");
 }
 
-/// The rows are counted with the horizontal bar as just decided. That decision does not know of
-/// the width which the vertical bar takes: the range makes up for it.
+/// Counts the visible rows with the horizontal bar as just decided. That decision ignores the width
+/// of the vertical bar, so it is added to the horizontal range here.
 void nvList::fitVertical(Trap& on) {
   std::int32_t visible = 0;
   std::int32_t count = 0;
@@ -127,7 +128,7 @@ void nvList::fitVertical(Trap& on) {
   }
 }
 
-// ---- where they stand ----
+// ---- positions ----
 
 void nvList::CheckScrollPlacement() {
   trapped(here, "CheckScrollPlacement", [&](Trap& on) {
@@ -146,7 +147,7 @@ void nvList::CheckScrollPlacement() {
       on.step([&] { VScroll1.Left(surface_.ScaleWidth() - VScroll1.Width() - border); });
       on.step([&] { height = surface_.ScaleHeight() - 2 * border; });
     }
-    // The square between the two belongs to neither.
+    // The square between the two bars belongs to neither.
     const bool hasBoth = hasHorizontal && hasVertical;
     on.step([&] { VScroll1.Height(height - (hasBoth ? HScroll1.Height() : 0)); });
     on.step([&] { HScroll1.Width(width - (hasBoth ? VScroll1.Width() : 0)); });
@@ -175,7 +176,7 @@ void nvList::HScroll1_Change() {
   trapped(here, "HScroll1_Change", [&](Trap& on) { followBar(on); });
 }
 
-/// An open edit box goes without a commit: it would stand over another row.
+/// Closes an open edit box without saving its text, because it would be over another row.
 void nvList::followBar(Trap& on) {
   state_.EditActive = false;
   on.step([&] { Text1->Visible(false); });
