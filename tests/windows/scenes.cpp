@@ -30,7 +30,9 @@ void addItems(nvList& list, int count) {
                    .aChecked = i % 2 == 0,
                    .aBackColor = i % 5 == 2 ? Variant(rgb(255, 240, 200)) : Variant(defaultMark),
                    .aAlignment = static_cast<cItemAlignment>(i % 3),
-                   .aEnabled = i % 6 != 4});
+                   .aEnabled = i % 6 != 4,
+                   // The system's own colours differ.
+                   .aBackColorDis = rgb(225, 225, 225)});
 }
 
 struct Scene {

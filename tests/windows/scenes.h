@@ -25,8 +25,6 @@ struct Pixels {
   int width = 0;
   int height = 0;
   std::vector<std::uint32_t> values;
-
-  bool operator==(const Pixels&) const = default;
 };
 
 /// As a file of the form "P6", which picture viewers show. Both throw std::runtime_error on

@@ -1,10 +1,88 @@
 #include <nvlist/platform/windows/OlePicture.h>
 
 #include <algorithm>
+#include <array>
+#include <cstring>
+
+#include <wincodec.h>
 
 namespace norvane {
+namespace {
 
-OlePicture::OlePicture(ComPtr<IPicture> picture) : picture_(std::move(picture)) {
+HANDLE handleOf(OLE_HANDLE handle) {
+  return reinterpret_cast<HANDLE>(static_cast<std::uintptr_t>(handle));
+}
+
+/// The bitmap of a picture if it has 32 bits a pixel and a fourth channel that is not all zero.
+HBITMAP bitmapToBlend(IPicture& picture) {
+  SHORT type = PICTYPE_NONE;
+  OLE_HANDLE handle = 0;
+  DIBSECTION bitmap{};
+  if (FAILED(picture.get_Type(&type)) || type != PICTYPE_BITMAP ||
+      FAILED(picture.get_Handle(&handle)) ||
+      GetObjectW(handleOf(handle), sizeof bitmap, &bitmap) != sizeof bitmap ||
+      bitmap.dsBm.bmBitsPixel != 32 || !bitmap.dsBm.bmBits)
+    return nullptr;
+  GdiFlush();
+  const auto* pixels = static_cast<const std::uint32_t*>(bitmap.dsBm.bmBits);
+  const auto count = static_cast<std::ptrdiff_t>(bitmap.dsBm.bmWidth) * bitmap.dsBm.bmHeight;
+  const bool isUsed =
+      std::any_of(pixels, pixels + count, [](std::uint32_t pixel) { return pixel >> 24 != 0; });
+  return isUsed ? static_cast<HBITMAP>(handleOf(handle)) : nullptr;
+}
+
+bool isPng(std::span<const std::byte> file) {
+  constexpr std::array<unsigned char, 8> signature = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
+  return file.size() > signature.size() &&
+         std::memcmp(file.data(), signature.data(), signature.size()) == 0;
+}
+
+/// Decodes what OLE does not: Windows' own loader knows no png. Empty on failure.
+ComPtr<IPicture> decoded(IStream* stream) {
+  ComPtr<IWICImagingFactory> factory;
+  ComPtr<IWICBitmapDecoder> decoder;
+  ComPtr<IWICBitmapFrameDecode> frame;
+  ComPtr<IWICFormatConverter> converter;
+  UINT width = 0;
+  UINT height = 0;
+  if (FAILED(CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
+                              IID_IWICImagingFactory, factory.putVoid())) ||
+      FAILED(factory->CreateDecoderFromStream(stream, nullptr, WICDecodeMetadataCacheOnDemand,
+                                              decoder.put())) ||
+      FAILED(decoder->GetFrame(0, frame.put())) ||
+      FAILED(factory->CreateFormatConverter(converter.put())) ||
+      FAILED(converter->Initialize(frame.get(), GUID_WICPixelFormat32bppPBGRA,
+                                   WICBitmapDitherTypeNone, nullptr, 0,
+                                   WICBitmapPaletteTypeCustom)) ||
+      FAILED(converter->GetSize(&width, &height)))
+    return {};
+  BITMAPINFO info{};
+  info.bmiHeader.biSize = sizeof info.bmiHeader;
+  info.bmiHeader.biWidth = static_cast<LONG>(width);
+  info.bmiHeader.biHeight = -static_cast<LONG>(height);
+  info.bmiHeader.biPlanes = 1;
+  info.bmiHeader.biBitCount = 32;
+  void* pixels = nullptr;
+  const HBITMAP bitmap = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0);
+  if (!bitmap) return {};
+  PICTDESC description{};
+  description.cbSizeofstruct = sizeof description;
+  description.picType = PICTYPE_BITMAP;
+  description.bmp.hbitmap = bitmap;
+  ComPtr<IPicture> picture;
+  if (FAILED(converter->CopyPixels(nullptr, width * 4, width * height * 4,
+                                   static_cast<BYTE*>(pixels))) ||
+      FAILED(OleCreatePictureIndirect(&description, IID_IPicture, TRUE, picture.putVoid())))
+    DeleteObject(bitmap);
+  return picture;
+}
+
+}  // namespace
+
+OlePicture::OlePicture(ComPtr<IPicture> picture, std::vector<std::byte> file)
+    : picture_(std::move(picture)),
+      file_(std::move(file)),
+      blended_(bitmapToBlend(*picture_.get())) {
   picture_->get_Width(&size_.cx);
   picture_->get_Height(&size_.cy);
   pixels_ = pixelsOf(size_);
@@ -20,6 +98,10 @@ Picture OlePicture::fromBytes(std::span<const std::byte> file) {
     GlobalFree(memory);
     return nullptr;
   }
+  if (isPng(file))
+    if (ComPtr<IPicture> picture = decoded(stream.get()))
+      return makeRef<OlePicture>(std::move(picture),
+                                 std::vector<std::byte>(file.begin(), file.end()));
   ComPtr<IPicture> picture;
   // The file is kept with the picture, so that a list file gets the same bytes back.
   OleLoadPicture(stream.get(), static_cast<LONG>(file.size()), FALSE, IID_IPicture,
@@ -42,6 +124,7 @@ std::uintptr_t OlePicture::handle() const {
 }
 
 std::vector<std::byte> OlePicture::fileBytes() const {
+  if (!file_.empty()) return file_;
   ComPtr<IStream> stream;
   LONG size = 0;
   HGLOBAL memory = nullptr;
@@ -56,6 +139,17 @@ std::vector<std::byte> OlePicture::fileBytes() const {
 }
 
 void OlePicture::render(HDC dc, int x, int y, int width, int height) const {
+  if (blended_) {
+    BITMAP size{};
+    GetObjectW(blended_, sizeof size, &size);
+    const HDC from = CreateCompatibleDC(dc);
+    const HGDIOBJ before = SelectObject(from, blended_);
+    const BLENDFUNCTION blend{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
+    AlphaBlend(dc, x, y, width, height, from, 0, 0, size.bmWidth, size.bmHeight, blend);
+    SelectObject(from, before);
+    DeleteDC(from);
+    return;
+  }
   // The rows of a picture count from its bottom.
   picture_->Render(dc, x, y, width, height, 0, size_.cy, size_.cx, -size_.cy, nullptr);
 }

@@ -12,7 +12,8 @@ namespace norvane {
 /// A picture of the platform: what a host gives, and what is read from a list file.
 class OlePicture final : public PictureObject {
  public:
-  explicit OlePicture(ComPtr<IPicture> picture);
+  /// `file` is what fileBytes() returns; empty: what the picture makes of itself.
+  explicit OlePicture(ComPtr<IPicture> picture, std::vector<std::byte> file = {});
 
   /// A bmp, gif, png, jpg, ico or metafile; empty where the bytes are none of these.
   static Picture fromBytes(std::span<const std::byte> file);
@@ -25,13 +26,16 @@ class OlePicture final : public PictureObject {
   std::vector<std::byte> fileBytes() const override;
 
   IPicture* picture() const { return picture_.get(); }
-  /// Draws the whole picture into a rectangle of pixels.
+  /// Draws the whole picture into a rectangle of pixels. A bitmap of 32 bits that uses its fourth
+  /// channel is blended, with colours multiplied by it already.
   void render(HDC dc, int x, int y, int width, int height) const;
 
  private:
   ComPtr<IPicture> picture_;
   SIZEL size_{};  ///< in hundredths of a millimetre
   SIZE pixels_{};
+  std::vector<std::byte> file_;
+  HBITMAP blended_ = nullptr;  ///< the picture's own, if it is to be blended
 };
 
 /// The platform's object of a picture, with a reference for the caller; null for an empty one. A

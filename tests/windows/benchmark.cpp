@@ -1,0 +1,172 @@
+// Times of the list beside the list-view of the common controls, in the same run and on the same
+// desktop: nvlist_windows_benchmark. Only the quotients count.
+#include <nvlist/platform/windows/WinList.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include <commctrl.h>
+
+using namespace norvane;
+
+namespace {
+
+constexpr int itemCount = 10000;
+constexpr int runs = 7;
+
+std::vector<std::string> texts() {
+  std::vector<std::string> result;
+  unsigned seed = 1;
+  for (int i = 0; i < itemCount; ++i) {
+    seed = seed * 1664525 + 1013904223;
+    result.push_back("Item " + std::to_string(seed >> 8) + " of the list");
+  }
+  return result;
+}
+
+void pump() {
+  MSG message;
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+}
+
+/// Milliseconds of the quickest of some runs.
+double time(const std::function<void()>& prepare, const std::function<void()>& action) {
+  double best = 1e9;
+  for (int i = 0; i < runs; ++i) {
+    prepare();
+    pump();
+    const auto start = std::chrono::steady_clock::now();
+    action();
+    const std::chrono::duration<double, std::milli> passed =
+        std::chrono::steady_clock::now() - start;
+    best = std::min(best, passed.count());
+  }
+  return best;
+}
+
+void row(const char* what, double own, double common, double most) {
+  std::printf("%-34s %9.2f ms %9.2f ms   %.2f of it, at most %.2f: %s\n", what, own, common,
+              own / common, most, own <= common * most ? "ok" : "TOO SLOW");
+}
+
+struct ListView {
+  explicit ListView(HWND parent)
+      : window(CreateWindowExW(0, WC_LISTVIEWW, L"",
+                               WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_NOCOLUMNHEADER, 0, 0, 300,
+                               400, parent, nullptr, nullptr, nullptr)) {
+    LVCOLUMNW column{};
+    column.mask = LVCF_WIDTH;
+    column.cx = 250;
+    SendMessageW(window, LVM_INSERTCOLUMNW, 0, reinterpret_cast<LPARAM>(&column));
+  }
+  ~ListView() { DestroyWindow(window); }
+  ListView(const ListView&) = delete;
+  ListView& operator=(const ListView&) = delete;
+
+  void fill(const std::vector<std::wstring>& texts) {
+    SendMessageW(window, WM_SETREDRAW, FALSE, 0);
+    LVITEMW item{};
+    item.mask = LVIF_TEXT;
+    for (const std::wstring& text : texts) {
+      item.pszText = const_cast<wchar_t*>(text.c_str());
+      SendMessageW(window, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+      ++item.iItem;
+    }
+    SendMessageW(window, WM_SETREDRAW, TRUE, 0);
+  }
+
+  HWND window;
+};
+
+int CALLBACK compareTexts(LPARAM a, LPARAM b, LPARAM of) {
+  const auto& texts = *reinterpret_cast<const std::vector<std::wstring>*>(of);
+  return texts[static_cast<std::size_t>(a)].compare(texts[static_cast<std::size_t>(b)]);
+}
+
+}  // namespace
+
+int main() {
+  OleInitialize(nullptr);
+  InitCommonControls();
+  const HWND form = CreateWindowExW(0, L"STATIC", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 700,
+                                    450, nullptr, nullptr, nullptr, nullptr);
+  const std::vector<std::string> all = texts();
+  std::vector<std::wstring> allWide;
+  for (const std::string& text : all) allWide.push_back(wide(text));
+
+  std::optional<WinList> own;
+  std::optional<ListView> common;
+  const auto renewOwn = [&] {
+    own.reset();
+    own.emplace(form, RECT{310, 0, 610, 400});
+    own->list().ScrollBars(vbVertical);
+  };
+  const auto renewCommon = [&] { common.emplace(form); };
+  const auto fillOwn = [&] {
+    own->list().AutoRedraw(false);
+    own->list().AutoCheckScroll(false);
+    for (const std::string& text : all) own->list().ItemsAdd(text);
+    own->list().AutoCheckScroll(true);
+    own->list().AutoRedraw(true);
+  };
+  const auto fillCommon = [&] { common->fill(allWide); };
+
+  std::printf("%d items; quickest of %d runs       nvList     list-view\n", itemCount, runs);
+  const double ownFill = time(renewOwn, fillOwn);
+  const double commonFill = time(renewCommon, fillCommon);
+  row("filling", ownFill, commonFill, 0.5);
+
+  const auto nothing = [] {};
+  const double ownPaint = time(nothing, [&] {
+    own->list().Redraw();
+    UpdateWindow(own->window());
+    GdiFlush();
+  });
+  const double commonPaint = time(nothing, [&] {
+    RedrawWindow(common->window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+    GdiFlush();
+  });
+  row("one repaint", ownPaint, commonPaint, 1);
+
+  const auto prepareSort = [&](bool isOwn) {
+    return [&, isOwn] {
+      if (isOwn) {
+        renewOwn();
+        fillOwn();
+      } else {
+        renewCommon();
+        fillCommon();
+        LVITEMW item{};
+        item.mask = LVIF_PARAM;
+        for (; item.iItem < itemCount; ++item.iItem) {
+          item.lParam = item.iItem;
+          SendMessageW(common->window, LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+        }
+      }
+    };
+  };
+  const double ownSort = time(prepareSort(true), [&] { own->list().Sort(cAscending); });
+  const double commonSort = time(prepareSort(false), [&] {
+    SendMessageW(common->window, LVM_SORTITEMS, reinterpret_cast<WPARAM>(&allWide),
+                 reinterpret_cast<LPARAM>(&compareTexts));
+  });
+  row("sorting", ownSort, commonSort, 1);
+
+  own.reset();
+  common.reset();
+  const double ownLife = time(nothing, [&] {
+    for (int i = 0; i < 20; ++i) WinList(form, RECT{310, 0, 610, 400});
+  });
+  const double commonLife = time(nothing, [&] {
+    for (int i = 0; i < 20; ++i) ListView one(form);
+  });
+  row("making and ending 20", ownLife, commonLife, 4);
+
+  DestroyWindow(form);
+  OleUninitialize();
+  return 0;
+}
