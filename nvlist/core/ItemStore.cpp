@@ -51,8 +51,8 @@ void ItemStore::grow() {
   slots_.insert(slots_.size(), nullptr);
 }
 
-// Room is made before anything moves, so that a lack of memory loses no item. References are
-// released last, since an item's objects may run host code when they are destroyed.
+// Memory is allocated before anything moves, so that running out of it loses no item. References
+// are released last, because destroying the objects of an item may run host code.
 
 void ItemStore::shrink() {
   makeAllItems();

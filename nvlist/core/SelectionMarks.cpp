@@ -12,7 +12,7 @@ void SelectionMarks::set(ItemStore& items, std::int32_t index, Boolean selected)
 }
 
 void SelectionMarks::clear(ItemStore& items) {
-  // An item that was moved since then is looked for like the marks of several.
+  // If the marked item has moved to an unknown index, all items are visited.
   if (marksSet_ == 1 && items.holds(lastIndex_) && items.at(lastIndex_).Selected) {
     items.touch(lastIndex_).Selected = false;
   } else if (marksSet_ > 0) {

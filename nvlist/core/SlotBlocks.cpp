@@ -28,7 +28,7 @@ SlotBlocks::Place SlotBlocks::find(std::int32_t index) const {
   const auto holds = [&](std::size_t block) {
     return block < blocks_.size() && offsetIn(block) < blocks_[block].entries.size();
   };
-  // Most calls ask for the slot beside the last one.
+  // Most calls are for a slot near the last one.
   if (!holds(lastFound_)) {
     const auto behind = std::ranges::upper_bound(blocks_, index, {}, &Block::first);
     lastFound_ = static_cast<std::size_t>(behind - blocks_.begin()) - 1;
@@ -77,7 +77,7 @@ SlotBlocks::Block& SlotBlocks::addBlock(std::size_t place, std::int32_t first) {
   return block;
 }
 
-/// Moves the upper half of a full block to a new one behind it.
+/// Moves the upper half of a full block to a new block after it.
 void SlotBlocks::split(std::size_t block) {
   std::vector<Slot> upper;
   upper.reserve(blockSize);
@@ -94,8 +94,8 @@ void SlotBlocks::moveFirsts(std::size_t behindBlock, std::int32_t difference) {
     blocks_[block].first += difference;
 }
 
-/// Keeps a list that has shrunk from consisting of nearly empty blocks. A lack of memory leaves
-/// them as they are.
+/// Prevents a list that has shrunk from consisting of nearly empty blocks. If memory runs out, the
+/// blocks stay as they are.
 void SlotBlocks::removeOrMerge(std::size_t block) {
   std::vector<Slot>& slots = blocks_[block].entries;
   if (slots.empty()) {
@@ -122,7 +122,7 @@ std::optional<SlotBlocks::Measured> SlotBlocks::measuredFrom(std::int32_t index)
   return result;
 }
 
-/// Whether all texts of a block have been measured.
+/// Returns whether all texts of the block have been measured.
 bool SlotBlocks::measure(Block& block) {
   if (block.isMeasured) return true;
   std::uint16_t widest = 0;

@@ -9,11 +9,13 @@
 
 namespace norvane {
 
-/// A sequence of references to items, kept in blocks of at most 512, so that inserting or removing
-/// one in the middle of a million costs little more than at the end. A reference may be empty.
+/// A sequence of references to items, stored in blocks of at most 512, so that inserting or
+/// removing one in the middle of a million costs little more than at the end. A reference may be
+/// empty.
 ///
-/// Each block also keeps the widest text of its items, so that the widest of all is found without
-/// visiting a million items. It is forgotten when a reference of the block may have changed.
+/// Each block also caches the width of its widest text, so that the widest of all is found without
+/// visiting a million items. The cached width is dropped when a reference of the block may have
+/// changed.
 class SlotBlocks {
  public:
   using Slot = Ref<ListItem>;
@@ -23,22 +25,22 @@ class SlotBlocks {
 
   std::int32_t size() const { return size_; }
 
-  /// The reference at an index below size(), for reading. It lives until a slot is inserted or
-  /// taken out. An empty one may be filled.
+  /// The reference at an index below size(), for reading. Valid until a slot is inserted or
+  /// removed. An empty reference may be filled.
   Slot& peek(std::int32_t index) {
     const Place place = find(index);
     return blocks_[place.block].entries[place.offset];
   }
-  /// The same for writing.
+  /// The same, for writing.
   Slot& write(std::int32_t index) {
     const Place place = find(index);
     blocks_[place.block].isMeasured = false;
     return blocks_[place.block].entries[place.offset];
   }
 
-  /// Inserts a reference before `index`, or at the end. A lack of memory changes nothing.
+  /// Inserts a reference before `index`, or at the end. If memory runs out, nothing changes.
   void insert(std::int32_t index, Slot slot);
-  /// Takes the reference at `index` out.
+  /// Removes the slot at `index` and returns its reference.
   Slot take(std::int32_t index);
 
   /// Calls `visit(slot, index)` for each slot in order until it returns true.
@@ -50,14 +52,15 @@ class SlotBlocks {
         if (visit(slot, index++)) return;
   }
 
-  /// Texts of neighbouring blocks that have all been measured.
+  /// The measured texts of consecutive blocks.
   struct Measured {
-    std::uint16_t widest;  ///< of their texts, in pixels
-    std::int32_t end;      ///< the index behind them
+    std::uint16_t widest;  ///< width of the widest text, in pixels
+    std::int32_t end;      ///< one past the index of the last one
   };
-  /// Those from `index` on, where a block begins there and all its texts have been measured.
+  /// The texts from `index` on. Empty unless a block begins at `index` and all its texts have been
+  /// measured.
   std::optional<Measured> measuredFrom(std::int32_t index);
-  /// To be called when a text has changed that may stand in any block.
+  /// To be called when a text may have changed in any block.
   void forgetWidest();
 
  private:

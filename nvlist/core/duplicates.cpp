@@ -31,7 +31,7 @@ void nvList::ItemsRemoveDouble(Boolean IgnoreLetterSize) {
       doomed = repeatedTexts(texts);
     });
 
-    // From the back, so that the indexes in front stay what they are.
+    // From the end, so that the remaining indexes stay valid.
     if (!doomed.empty()) {
       for (state_.LoopIndex2 = static_cast<std::int32_t>(doomed.size()) - 1; state_.LoopIndex2 >= 0;
            --state_.LoopIndex2) {

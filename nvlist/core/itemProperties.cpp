@@ -2,7 +2,7 @@
 
 namespace norvane {
 
-/// Every property of items, said once: what differs from it stands below the table.
+/// The common part of all item properties.
 template <class Value>
 Value nvList::readItem(const char* name, const Variant& Index, Value ListItem::*field) {
   Value value{};
@@ -132,7 +132,7 @@ void nvList::ItemUnderline(const Variant& Index, Boolean value) {
             [&](ListItem& item) { item.Underline = value; });
 }
 
-// A key is read as a text, whatever it was given as.
+// A key reads back as a text, whatever type was set.
 
 Variant nvList::ItemKey(const Variant& Index) {
   Variant value;
@@ -145,7 +145,7 @@ void nvList::ItemKey(const Variant& Index, const Variant& value) {
   writeItem("ItemKey", Index, ItemRepaint::no, [&](ListItem& item) { item.Key = value.toText(); });
 }
 
-// The colours of the normal state pass as numbers, though the item may hold "def".
+// The colours of the normal state are read as numbers, although the item may hold "def".
 
 Colour nvList::ownColour(const char* name, const Variant& Index, Variant ListItem::*field) {
   Colour colour = 0;
@@ -172,7 +172,7 @@ void nvList::ItemBackColor(const Variant& Index, Colour value) {
             [&](ListItem& item) { item.BackColor = value; });
 }
 
-// Those of the disabled state are numbers in the item and variants to the host.
+// The colours of the disabled state are numbers in the item and Variants in the interface.
 
 Variant nvList::colourOfDisabled(const char* name, const Variant& Index, Colour ListItem::*field) {
   Variant colour;
@@ -211,7 +211,7 @@ std::string nvList::Text() {
   return text;
 }
 
-// No trap: a failure in here is the caller's.
+// No trap: a failure is thrown to the caller.
 void nvList::Text(std::string_view value) {
   if (ItemsCount() == 0) return;
   const std::int32_t found = firstItem([&](const ListItem& item) { return item.Text == value; });

@@ -42,7 +42,8 @@ void nvList::ItemsAdd(NewItem values) {
       state_.InsertIndex = 0;
     }
 
-    // Held, as dropping what stood in a field may let the host remove the item.
+    // Kept alive, because releasing the old value of a field may run host code that removes the
+    // item.
     Ref<ListItem> added;
     on.step([&] { items.setText(items.upperBound(), std::move(values.aText).toText()); });
     on.step([&] { added = items.slot(items.upperBound()); });
@@ -62,8 +63,8 @@ void nvList::ItemsAdd(NewItem values) {
 
     if (state_.AutoRedraw) on.step([&] { CheckItemWidth(state_.InsertIndex); });
 
-    // A row count plus a height: more rows than can be in view, and cheap to tell. Past it an added
-    // item costs no repaint.
+    // A row count plus a height: more than the number of visible rows, and cheap to compute. Above
+    // this limit an added item causes no repaint.
     float repaintLimit = 0;
     on.step([&] {
       const float height = surface_.TextHeight("A");
@@ -99,8 +100,8 @@ void nvList::writeFields(Trap& on, ListItem& item, NewItem& values) {
   });
 }
 
-/// Moves the references from the next whole number on up by one, slot by slot, and stores the last
-/// item at the index. A fraction that is rounded down stores it over an item that made no room.
+/// Shifts the references from the next whole index on up by one slot, and stores the last item at
+/// the rounded index. A fraction that is rounded down overwrites an item that was not shifted.
 void nvList::moveLastTo(double index) {
   ItemStore& items = state_.Items;
   const auto first = checked::nearest<std::int32_t>(std::ceil(index));
@@ -126,8 +127,8 @@ void nvList::ItemsRemove(Variant& Index) {
   });
 }
 
-/// Moves the references behind `index` down by one, with a yield after each. Where nothing waits,
-/// a yield does nothing and the rest moves in one go.
+/// Shifts the references after `index` down by one, and processes waiting events after each. If no
+/// events are waiting, the rest is shifted at once.
 void nvList::moveDownOnto(Trap& on, std::int32_t index) {
   ItemStore& items = state_.Items;
   if (index >= items.upperBound()) return;
@@ -205,7 +206,7 @@ std::int32_t nvList::countItems(const char* procedure, Boolean ListItem::*mark) 
   return count;
 }
 
-/// What every change of the items ends with.
+/// Called at the end of every change of the items.
 void nvList::updateAfterChange(Trap& on) {
   if (state_.AutoRedraw) on.step([&] { CheckItemWidth(); });
   if (state_.AutoCheckScroll) on.step([&] { CheckScroll(); });

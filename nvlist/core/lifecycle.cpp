@@ -4,8 +4,8 @@
 namespace norvane {
 namespace {
 
-/// Where the text of a row begins while nobody has changed its margins: the edit box stands there
-/// in a list with both pictures.
+/// The initial bounds of the edit box: the text position of a row in a list with check boxes and
+/// icons and default margins.
 constexpr Bounds newEditBox{37, 3, 100, 14};
 
 /// For destructors and timers, which must not throw even if the reporter of a failure fails.
@@ -14,7 +14,7 @@ void ignoringFailures(Statement&& statement) {
   try {
     statement();
   } catch (...) {
-    // There is nothing left to report it with.
+    // The failure cannot be reported.
   }
 }
 

@@ -6,11 +6,11 @@
 
 namespace norvane {
 
-/// Whether the text matches the pattern (LikePattern), upper and lower case being different. A
-/// malformed pattern is reported and matches nothing.
+/// Returns whether the text matches the pattern (LikePattern), case-sensitively. A malformed
+/// pattern is reported and matches nothing.
 Boolean LikeCompBinary(std::string_view text, std::string_view pattern);
 
-/// The same, upper and lower case being equal.
+/// The same, ignoring case.
 Boolean LikeCompText(std::string_view text, std::string_view pattern);
 
 }  // namespace norvane

@@ -51,7 +51,7 @@ void nvList::MoveItemUp(const Variant& lItem, const Variant& lCount) {
 
 namespace {
 
-/// Adds as hosts do: two texts are joined, and the result is read as a number.
+/// Adds as the + of host languages does: two texts are joined, and the result is read as a number.
 double sumOf(const Variant& a, const Variant& b) {
   if (!a.isText() || !b.isText()) return a.toNumber() + b.toNumber();
   return Variant(std::string(a.text()).append(b.text())).toNumber();
@@ -81,8 +81,8 @@ void nvList::MoveItemDown(const Variant& lItem, const Variant& lCount) {
   });
 }
 
-/// Takes the references on the way along, slot by slot, and stores the item at the far place. A
-/// negative count takes none along.
+/// Shifts the references between the two positions, slot by slot, and stores the item at the
+/// target. With a negative count nothing is shifted.
 void nvList::moveItem(double from, double count, int direction) {
   const auto place = [&](double steps) {
     return checked::nearest<std::int32_t>(from + direction * steps);
@@ -93,7 +93,7 @@ void nvList::moveItem(double from, double count, int direction) {
     items.move(place(0), place(count));
     state_.LoopIndex = place(direction > 0 ? passes + 1 : passes);
   } else {
-    // Of two places that are halves, one may be rounded onto the other.
+    // Two fractional positions may be rounded to the same slot.
     const Ref<ListItem> held = items.slot(place(0));
     for (double pass = 0; pass < passes; ++pass)
       items.slot(place(pass)) = items.slot(place(pass + 1));

@@ -10,8 +10,8 @@ namespace norvane {
 
 namespace {
 
-/// Sorts entries of sixteen bytes that tell nearly every comparison by themselves, so that the
-/// texts are hardly looked at.
+/// Sorts entries of sixteen bytes that decide nearly every comparison by themselves, so that the
+/// texts are rarely read.
 class PartitionSort {
  public:
   PartitionSort(std::span<const std::string_view> texts, bool isDescending)
@@ -20,31 +20,33 @@ class PartitionSort {
   std::vector<std::int32_t> run();
 
  private:
-  /// Places in the whole, as the middle of a range depends on where it lies. The scans may leave a
-  /// range that ends before it begins.
+  /// Positions in the whole sequence, because the middle of a range depends on them. After a
+  /// partition, a range may end before it begins.
   struct Range {
     std::int64_t first;
     std::int64_t last;
     std::int64_t size() const { return last - first + 1; }
   };
 
-  /// The next seven bytes of a text, zeros where it has ended, and below them how many bytes were
-  /// left, eight standing for more than seven. So keys compare as the texts do; only two that are
-  /// the same and leave out bytes may stand for different texts. Descending keys are inverted.
+  /// The key holds the next seven bytes of the text, padded with zeros, and in its lowest byte the
+  /// number of bytes left, where eight means more than seven. So keys compare as the texts do; only
+  /// equal keys that leave out bytes may belong to different texts. Descending keys are inverted.
   struct Entry {
     std::uint64_t key;
     std::int32_t text;
   };
   static constexpr std::size_t keyBytes = 7;
 
-  /// A range, and how many bytes its texts are known to share; keys begin behind these.
+  /// Sorts a range. `shared` is the number of bytes its texts are known to share; the keys begin
+  /// after these.
   void sort(Range range, std::size_t shared);
-  /// The two ranges that are left to be sorted.
+  /// Partitions a range; returns the two ranges that remain to be sorted.
   std::pair<Range, Range> partition(Range range, std::size_t shared);
-  /// Sorts a range in another way, if its texts all differ: there is but one order then.
+  /// Sorts a range by another algorithm if all its texts differ, because their order is then
+  /// unique. Returns false, and changes nothing, if some are equal.
   bool sortDistinct(Range range, std::size_t shared);
 
-  /// New keys where all the keys of a range have become the same; both answer how many bytes the
+  /// Computes new keys if all keys of a range are equal. Both return the number of bytes that the
   /// texts are known to share.
   std::size_t sharpen(Range range, std::size_t shared);
   std::size_t readKeys(Range range, std::size_t shared);
@@ -53,7 +55,7 @@ class PartitionSort {
 
   bool comesBefore(const Entry& a, const Entry& b, std::size_t shared) const {
     if (a.key != b.key || isWhole(a.key)) return a.key < b.key;
-    // The scans run into the pivot itself all the time.
+    // The scans often compare the pivot with itself.
     return a.text != b.text && restComesBefore(a, b, shared + keyBytes);
   }
   bool restComesBefore(const Entry& a, const Entry& b, std::size_t from) const;
@@ -67,12 +69,12 @@ class PartitionSort {
                                        static_cast<std::size_t>(range.size()));
   }
 
-  /// How often a range may be split before that is thought to go badly: splits into halves would
-  /// take a quarter of it.
+  /// How often a range may be split before the splits are considered too uneven. Even splits need a
+  /// quarter of this.
   static int patienceWith(Range range) {
     return 4 * static_cast<int>(std::bit_width(static_cast<std::uint64_t>(range.size())));
   }
-  /// Halves go to the even place.
+  /// Halves are rounded to the even position.
   static std::int64_t middle(Range range) {
     const std::int64_t sum = range.first + range.last;
     return (sum + (sum >> 1 & 1)) >> 1;
@@ -105,8 +107,8 @@ void PartitionSort::sort(Range range, std::size_t shared) {
     }
     shared = sharpen(range, shared);
     auto [left, right] = partition(range, shared);
-    // Neither part sees the other, so either may come first. The smaller one is at most half of the
-    // range, which bounds the stack by the logarithm of the number of texts.
+    // The parts are independent, so either may be sorted first. The smaller one is at most half of
+    // the range, which bounds the stack depth by the logarithm of the number of texts.
     if (left.size() > right.size()) std::swap(left, right);
     sort(left, shared);
     range = right;

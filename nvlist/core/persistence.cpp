@@ -61,7 +61,7 @@ constexpr StoredProperty single(const char* name, float defaultValue) {
   return stored<float, getter, setter>(name, PropertyType::Single, defaultValue);
 }
 
-/// The defaults of enumerations are stored with 16 bits.
+/// The defaults of enumerations have the 16-bit integer type.
 template <class Value, Getter<Value> getter, Setter<Value> setter>
 constexpr StoredProperty choice(const char* name, PropertyType type) {
   return stored<Value, getter, setter>(name, type, std::int16_t{0});
@@ -117,7 +117,7 @@ const StoredProperty* storedProperty(std::string_view name) {
   return found == std::end(properties) ? nullptr : found;
 }
 
-/// The default of one of this list's properties.
+/// The default of a property for this list.
 Variant nvList::storedDefault(const StoredProperty& property) const {
   return property.type == PropertyType::Font ? Variant(Ref<Object>(lblFont))
                                              : property.defaultValue;
@@ -157,7 +157,7 @@ void nvList::UserControl_WriteProperties(PropertyBag& PropBag) {
   trapped(here, "UserControl_WriteProperties", [&](Trap& on) {
     for (const StoredProperty& property : properties)
       on.step([&] {
-        // A copy, which does not change with the list's font.
+        // A copy, which later changes of the list's font do not affect.
         const Variant value = property.type == PropertyType::Font
                                   ? Variant(Ref<Object>(CloneFont(Font())))
                                   : property.get(*this);

@@ -10,7 +10,7 @@ void nvList::TopIndex(std::int32_t value) {
     if (value < 0) value = 0;
     if (on.test([&] { return checked::add(value, visible) > ItemsCount(); }))
       on.step([&] { value = checked::subtract(ItemsCount(), visible); });
-    // A repair ends at 0 on a short list too.
+    // When correcting an invalid TopIndex, a short list gets 0.
     if (state_.TopIndexRepair && value < 0) value = 0;
     state_.TopIndex = value;
     on.step([&] { container_.PropertyChanged("TopIndex"); });

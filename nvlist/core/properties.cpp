@@ -2,7 +2,7 @@
 
 namespace norvane {
 
-/// The first half of every setter: stores the value and tells the container.
+/// The first part of every setter: stores the value and notifies the container.
 template <class Value>
 void nvList::assign(Trap& on, const char* name, Value ListState::*field, const Value& value) {
   state_.*field = value;
@@ -26,7 +26,7 @@ void nvList::repaint(Trap& on) {
   if (state_.AutoRedraw) on.step([&] { Redraw(); });
 }
 
-// The uniform ones.
+// Properties without further effects.
 
 void nvList::Enabled(Boolean value) { assignAndRepaint("Enabled", &ListState::Enabled, value); }
 void nvList::ForeColor(Colour value) {
@@ -89,12 +89,12 @@ void nvList::AllowItemMoving(Boolean value) {
   assignOnly("AllowItemMoving", &ListState::AllowItemMoving, value);
 }
 
-// Those with more behind them.
+// Properties with further effects.
 
 void nvList::BackColor(Colour value) {
   trapped(here, "BackColor", [&](Trap& on) {
     assign(on, "BackColor", &ListState::BackColor, value);
-    // The face below the last row belongs to the list too.
+    // Cls also fills the area below the last row.
     on.step([&] { surface_.BackColor(value); });
     repaint(on);
   });

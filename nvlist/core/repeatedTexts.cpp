@@ -17,7 +17,7 @@ constexpr std::size_t blockSize = 64;
 
 constexpr std::uint64_t inverse(std::uint64_t odd) {
   std::uint64_t result = odd;
-  // Each round doubles the number of right bits, which are three to begin with.
+  // Each round doubles the number of correct bits; three are correct at the start.
   for (int round = 0; round < 5; ++round) result *= 2 - odd * result;
   return result;
 }
@@ -31,15 +31,15 @@ constexpr auto powersOf(std::uint64_t number) {
 constexpr auto powers = powersOf(base);
 constexpr auto inversePowers = powersOf(inverse(base));
 
-/// The hash of the text with, behind it, the text that has the given hash. It is the sum of the
-/// bytes, each times its power of the base, the first byte having the lowest; so it is easily
-/// carried on to the left. A byte counts one more than it is, or zero bytes would not show.
+/// Returns the hash of `text` followed by the text whose hash is `hash`. The hash is the sum of the
+/// bytes, each multiplied by a power of the base; the first byte has the lowest power, so a hash is
+/// easily extended to the left. Each byte counts as its value plus one, so that zero bytes matter.
 std::uint64_t hashBefore(std::uint64_t hash, std::string_view text) {
   const auto weight = [&](std::size_t at) -> std::uint64_t {
     return static_cast<unsigned char>(text[at]) + 1u;
   };
   std::size_t at = text.size();
-  // Four at once, for the sake of long texts: four products need not wait for each other.
+  // Four bytes at once: the four products are independent, which is faster for long texts.
   for (; at >= 4; at -= 4) {
     hash = hash * powers[4] + weight(at - 1) * powers[3] + weight(at - 2) * powers[2] +
            weight(at - 3) * powers[1] + weight(at - 4);
@@ -50,7 +50,7 @@ std::uint64_t hashBefore(std::uint64_t hash, std::string_view text) {
 
 std::uint64_t mixed(std::uint64_t hash) { return (hash ^ hash >> 32) * base; }
 
-/// A set of hashes that may claim to hold some it does not. Small enough to stay close at hand.
+/// A set of hashes with false positives, small enough to stay in the cache.
 class Filter {
  public:
   explicit Filter(std::size_t count)
@@ -69,13 +69,13 @@ class Filter {
   int shift_;
 };
 
-/// Finds repeated texts without searching all that was kept for each of them.
+/// Finds repeated texts without searching everything that was kept for each text.
 ///
-/// The texts asked for are all known beforehand, so it goes the other way: whenever a comma is
-/// written, every text that ends right before it is looked up in a table and marked as seen. Of
-/// those only the ones matter whose number of commas and length some text has. One with commas
-/// consists of a tail, which is all behind its first comma, and of the end of the part before; it
-/// is looked for only where the tail is the tail of some text.
+/// All texts are known in advance, so the search is reversed: whenever a comma is appended, every
+/// text that ends right before it is looked up in a table and marked as seen. Only endings with the
+/// length and number of commas of some text are looked up. A text with commas consists of a tail
+/// (everything after its first comma) and the end of the part before it; it is looked up only if
+/// the tail is the tail of some text.
 class RepeatedTexts {
  public:
   explicit RepeatedTexts(std::span<const std::string_view> texts);
@@ -91,21 +91,21 @@ class RepeatedTexts {
     std::uint32_t wasSeen : 1 = 0;
   };
 
-  /// The lengths of all texts with the same number of commas.
+  /// The distinct lengths of the texts with the same number of commas.
   struct Group {
     std::size_t commas;
     std::vector<std::size_t> lengths;
   };
 
-  /// Where a part begins, and what it takes to hash from there: the hash of all that was kept
-  /// before, and the inverse of the power that its first byte has in such a hash.
+  /// The beginning of a part, and what is needed to compute hashes from there: the hash of
+  /// everything kept before it, and the inverse of the power that its first byte has in that hash.
   struct Part {
     std::size_t begin = 0;
     std::uint64_t hashUpTo = 0;
     std::uint64_t inversePower = 1;
   };
 
-  /// The slot of the text, or the empty one where it would stand.
+  /// Returns the slot of the text, or the empty slot where it belongs.
   std::size_t find(std::uint64_t mix, std::string_view text) const;
   void addTails(std::string_view text);
   void keep(std::string_view text);
@@ -116,17 +116,17 @@ class RepeatedTexts {
   std::span<const std::string_view> texts_;
   std::vector<Slot> slots_;
   int shift_;
-  /// Where each text stands in the table.
+  /// The slot of each text.
   std::vector<std::uint32_t> slotOfText_;
   std::vector<Group> groups_;
   Filter filter_;
   Filter tails_;
 
   std::string seen_;
-  /// The last parts, as many as the texts can reach back; a ring.
+  /// The last parts, as many as a text can span; a ring buffer.
   std::vector<Part> parts_;
   std::size_t lastPart_ = 0;
-  /// The hash of all that was kept, and the power that its next byte gets.
+  /// The hash of everything kept, and the power for its next byte.
   std::uint64_t hash_ = 0;
   std::uint64_t power_ = 1;
   std::uint64_t inversePower_ = 1;
@@ -162,8 +162,8 @@ RepeatedTexts::RepeatedTexts(std::span<const std::string_view> texts)
   }
 }
 
-/// Adds the tail of the text, and those shorter ends of it that are tails for some other number of
-/// commas, so that a search from short to long tails can stop at the first that is missing.
+/// Adds the tail of the text, and those shorter endings that may be tails of texts with fewer
+/// commas, so that a search from short to long tails can stop at the first one missing.
 void RepeatedTexts::addTails(std::string_view text) {
   std::uint64_t hash = 0;
   std::size_t commas = 0;
@@ -226,7 +226,7 @@ void RepeatedTexts::extendHash(std::string_view text) {
   }
 }
 
-/// Marks the texts that end where the last part does.
+/// Marks the texts that end at `end`, where the last part ends.
 void RepeatedTexts::markEndings(std::size_t end) {
   const std::string_view seen = seen_;
   for (const Group& group : groups_) {

@@ -29,7 +29,7 @@ std::int32_t nvList::IsInList(std::string_view sText, cFindCompare oCompare) {
   trapped(here, "IsInList", [&](Trap& on) {
     if (!state_.ItemsDimensioned) return;
     state_.LoopIndex = 0;
-    // Both comparisons are made, whichever counts.
+    // Both patterns are compiled, whichever comparison is requested.
     std::optional<LikePattern> binary, text;
     on.step([&] { binary.emplace(sText, false); });
     on.step([&] { text.emplace(sText, true); });

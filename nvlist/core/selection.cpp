@@ -15,7 +15,7 @@ void nvList::ListIndex(std::int32_t value) {
       });
       return;
     }
-    // Before the change: a handler still reads the old index.
+    // Raised before the change: a handler still reads the old index.
     if (state_.ClickOnIndexChange.isTrue() && state_.MouseDownActive.isTrue())
       on.step([&] { sinks_.raise([](__nvList& sink) { sink.Click(); }); });
 
@@ -30,8 +30,8 @@ void nvList::ListIndex(std::int32_t value) {
   });
 }
 
-/// Brings the current item into the window: one below it to the top row, where the list is long
-/// enough behind it, else to the last row; one above it to the top row.
+/// Scrolls the current item into view. An item above the visible rows is scrolled to the top row;
+/// an item below them to the top row if enough items follow it, and otherwise to the last row.
 void nvList::scrollIntoView(Trap& on) {
   std::int32_t visible = 0;
   on.step([&] { visible = VisibleItems(); });

@@ -42,7 +42,7 @@ struct StoredProperty {
 /// setting ColorStyle also sets ScrollColorStyle, whose own stored value follows.
 std::span<const StoredProperty> storedProperties();
 
-/// The stored property of exactly this name, or nullptr.
+/// Returns the stored property with exactly this name, or nullptr.
 const StoredProperty* storedProperty(std::string_view name);
 
 }  // namespace norvane
