@@ -7,7 +7,8 @@
 namespace norvane {
 namespace {
 
-/// More calls than a large window full of rows takes. A host that never clears is drawn in pieces.
+/// More calls than a large window full of rows needs. If a host never clears the surface, drawing
+/// is flushed at this many calls.
 constexpr std::size_t maximumWaiting = 20000;
 
 }  // namespace
@@ -21,7 +22,7 @@ void DeferredSurface::drawWaiting() {
   try {
     waiting_.replay(canvas_);
   } catch (...) {
-    // Memory has run out in the middle of a frame. The next frame may fare better.
+    // Memory ran out within a frame. The next frame may succeed.
   }
   waiting_.forget();
   isChangeReported_ = false;
@@ -71,7 +72,7 @@ void DeferredSurface::BackColor(Colour colour) {
 }
 
 void DeferredSurface::Font(const norvane::Font& font) {
-  // A copy, as the host may change its own before it is drawn with.
+  // A copy, because the host may change its font before the calls are drawn.
   const norvane::Font own = CloneFont(font);
   canvas_.Font(own);
   waiting_.Font(own);
@@ -115,7 +116,7 @@ void DeferredSurface::StretchDIBits(std::uintptr_t hDC, const Rectangle& target,
 void DeferredSurface::Print(std::string_view text) {
   const float top = CurrentY();
   waiting_.Print(text);
-  // The recording measures with characters of its own.
+  // The recording uses a fixed character size instead of measuring the font.
   waiting_.CurrentY(top + TextHeight(text));
   drawn();
 }

@@ -6,25 +6,22 @@
 
 namespace norvane {
 
-/// Defers drawing until the image is needed. A host that adds a hundred items makes a list repaint
-/// itself a hundred times, and only the last repaint is drawn.
-///
-/// The calls wait in a recording, which the next Cls drops. Texts are measured at once, and
-/// pictures are checked at once.
+/// The calls are kept in a recording, which the next Cls discards. Texts are measured, and pictures
+/// checked, immediately.
 class DeferredSurface : public Surface {
  public:
-  /// Called at the first change since the last drawWaiting(). It must not draw on this surface.
-  /// Default: none.
+  /// Called on the first change after each drawWaiting(). It must not draw on this surface.
+  /// Default: empty.
   std::function<void()> onDrawn;
 
-  /// Draws what waits onto the canvas. A failure leaves that frame incomplete; a window that is
-  /// painting itself has no caller that could handle it.
+  /// Draws the pending calls onto the canvas. A failure leaves that frame incomplete and is not
+  /// reported: a window that is painting itself has no caller that could handle it.
   void drawWaiting();
 
   void Cls() override;
   void Line(LineMode mode, float x1, float y1, float x2, float y2, Colour colour) override;
   void PSet(float x, float y, Colour colour) override;
-  /// An empty reference throws Failure 5, a picture that cannot be decoded Failure 481.
+  /// Throws Failure 5 for an empty reference, and Failure 481 for a picture that cannot be decoded.
   void PaintPicture(const Picture& picture, float x, float y) override;
   void PaintPicture(const Picture& picture, float x, float y, float width, float height) override;
   float TextWidth(std::string_view text) override { return canvas_.TextWidth(text); }
@@ -41,7 +38,7 @@ class DeferredSurface : public Surface {
   void FontBold(Boolean on) override;
   void FontItalic(Boolean on) override;
   void FontUnderline(Boolean on) override;
-  /// The calls that take a handle throw Failure 5 for any other.
+  /// Calls that take a handle throw Failure 5 for any other handle.
   std::uintptr_t hDC() const override { return canvas_.hDC(); }
   void DrawTextA(std::uintptr_t hDC, std::string_view text, std::int32_t length,
                  const Rectangle& rectangle, TextFormat format) override;
@@ -50,12 +47,12 @@ class DeferredSurface : public Surface {
   void Print(std::string_view text) override;
 
  protected:
-  /// `canvas` draws at once. It may be a member of the derived class.
+  /// `canvas` draws immediately. It may be a member of the derived class.
   explicit DeferredSurface(Surface& canvas) : canvas_(canvas) {}
 
-  /// Throws what the canvas would throw for a picture.
+  /// Throws the failure that the canvas would throw for the picture.
   virtual void requireDrawable(const Picture& picture) = 0;
-  /// What waits is of no use: the image has another size.
+  /// Discards the pending calls, because the size of the image has changed.
   void dropWaiting();
 
  private:

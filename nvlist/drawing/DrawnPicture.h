@@ -21,7 +21,7 @@ constexpr Pixel pixel(std::uint32_t rgb) {
           static_cast<std::uint8_t>(rgb)};
 }
 
-/// The colour `step` of `steps` on the way from one colour to another, to the nearest.
+/// The colour `step` of `steps` between two colours, rounded to the nearest.
 constexpr Pixel mix(Pixel from, Pixel to, int step, int steps) {
   const auto between = [&](int first, int last) {
     return static_cast<std::uint8_t>((first * (steps - step) + last * step + steps / 2) / steps);
@@ -31,10 +31,10 @@ constexpr Pixel mix(Pixel from, Pixel to, int step, int steps) {
 
 constexpr Pixel white = pixel(0xFFFFFF);
 
-/// A picture in memory; its file is an uncompressed bitmap of 24 bits, which every platform reads.
+/// A picture in memory. Its file is an uncompressed 24-bit bitmap, which every platform can read.
 class DrawnPicture final : public PictureObject {
  public:
-  /// A black picture of so many pixels, of at least one each way. `name` is its description.
+  /// Creates a black picture. The size is in pixels, at least 1 by 1. `name` is its description.
   DrawnPicture(std::string name, int width, int height);
 
   float width() const override { return static_cast<float>(width_); }
@@ -42,7 +42,7 @@ class DrawnPicture final : public PictureObject {
   std::vector<std::byte> fileBytes() const override;
   std::string description() const override { return name_; }
 
-  /// The pixel in a row, from the top, and a column; both have to be inside.
+  /// The pixel in a row (counted from the top) and column; both must be inside the picture.
   Pixel& at(int row, int column) { return pixels_[index(row, column)]; }
   const Pixel& at(int row, int column) const { return pixels_[index(row, column)]; }
 
@@ -58,7 +58,7 @@ class DrawnPicture final : public PictureObject {
   std::vector<Pixel> pixels_;
 };
 
-/// Draws a picture pixel by pixel: `pixelAt` gives the one in a row and a column.
+/// Draws a picture pixel by pixel: `pixelAt(row, column)` returns each pixel.
 template <class PixelAt>
 Picture drawn(std::string name, int width, int height, PixelAt&& pixelAt) {
   auto picture = makeRef<DrawnPicture>(std::move(name), width, height);

@@ -9,7 +9,7 @@
 
 namespace norvane {
 
-/// The calls that a surface takes, each as a small value.
+/// The drawing calls of a surface as values.
 namespace calls {
 
 struct Cls {};
@@ -26,7 +26,7 @@ struct PaintPicture {
   Picture picture;
   float x, y;
   bool isScaled;
-  float width, height;  ///< only where it is scaled
+  float width, height;  ///< used only if it is scaled
 };
 struct CurrentX {
   float x;
@@ -76,18 +76,18 @@ using SurfaceCall =
                  calls::FontBold, calls::FontItalic, calls::FontUnderline, calls::DrawTextA,
                  calls::DrawFocusRect, calls::StretchDIBits, calls::Print>;
 
-/// Drawing calls in their order. Copies share pictures and fonts, nothing else.
+/// A sequence of drawing calls. Copies share pictures and fonts.
 class Recording {
  public:
   std::vector<SurfaceCall> calls;
 
-  /// One line a call, such as `Line 38 (0, 3)-(200, 16) #FFFFFF`. Colours are #RRGGBB, system
-  /// colours `system 17`; what is not printable in a text is escaped as \xNN. Of a picture the size
-  /// is told, and its description where it has one; of a bitmap the size, the first pixel of its
-  /// lowest row and the last one of its highest row.
+  /// One line per call, such as `Line 38 (0, 3)-(200, 16) #FFFFFF`. Colours are written as #RRGGBB,
+  /// system colours as `system 17`; unprintable bytes of texts as \xNN. A picture is written as its
+  /// size and its description, if it has one; a bitmap as its size, the first pixel of its lowest
+  /// row and the last pixel of its highest row.
   std::string text() const;
 
-  /// Makes the same calls on another surface.
+  /// Repeats the calls on another surface.
   void replay(Surface& onto) const;
 };
 

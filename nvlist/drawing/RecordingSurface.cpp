@@ -35,7 +35,8 @@ void RecordingSurface::replay(Surface& onto) const {
 
 void RecordingSurface::forget() {
   settingsOfImage_ = settings_;
-  // Aside, as a picture that goes may let the host draw. The room is used again.
+  // Swapped out first, because destroying a picture may run host code that draws. The memory is
+  // reused.
   std::vector<SurfaceCall> old;
   old.swap(image_.calls);
   old.clear();

@@ -6,7 +6,7 @@
 
 namespace norvane {
 
-/// Size of a character of every font, in pixels.
+/// The size of a character in every font, in pixels.
 struct FontMeasure {
   float width = 7;
   float boldWidth = 8;
@@ -15,26 +15,27 @@ struct FontMeasure {
 
 /// A surface without a screen: it records the calls instead of drawing them.
 ///
-/// Its image is the recording of what was drawn since the last Cls, which covers all that went
-/// before; so a program may run for long without the recording growing.
+/// Its image is the recording of the calls since the last Cls, which covers everything before it.
+/// So the recording does not keep growing.
 class RecordingSurface : public Surface {
  public:
   /// Size in pixels.
   RecordingSurface(float width, float height) : width_(width), height_(height) {}
 
   void resize(float width, float height);
-  /// How texts are measured from now on.
+  /// Sets the character size by which texts are measured from now on.
   void fontMeasure(const FontMeasure& measure) { measure_ = measure; }
 
-  /// The calls since the last Cls, that one included.
+  /// The calls since the last Cls, including the Cls. Calls beforeLook first.
   const Recording& image() const;
-  /// Called before the image is looked at, if set: the last moment to draw.
+  /// If set, called before the image is read, so that pending changes can be drawn.
   std::function<void()> beforeLook;
-  /// Begins the image anew with what is drawn from now on, as after a Cls that draws nothing.
+  /// Clears the recording without recording a Cls.
   void forget();
-  /// Draws the image onto another surface, with the colours and the font it began with.
+  /// Draws the image onto another surface, starting with the colours and the font that were set
+  /// when the image began.
   void replay(Surface& onto) const;
-  /// How many times the whole image was cleared; a repaint clears it once.
+  /// How many times the image was cleared; a repaint clears it once.
   int frames() const;
 
   void Cls() override;
@@ -64,7 +65,7 @@ class RecordingSurface : public Surface {
   void Print(std::string_view text) override;
 
  private:
-  /// What stays until it is set again.
+  /// The settings that persist until they are changed.
   struct Settings {
     Colour backColor = colours::white;
     Colour foreColor = 0;

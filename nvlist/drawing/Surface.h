@@ -15,25 +15,25 @@ namespace norvane {
 
 /// How Surface::Line draws.
 enum class LineMode : std::int32_t {
-  plainLine = 6,    ///< a line from the first point up to the second, which is left out
+  plainLine = 6,    ///< a line from the first point to the second, excluding the second
   outlineBox = 22,  ///< the outline of the rectangle between the points
   filledBox = 38    ///< that rectangle filled, outline included
 };
 
-/// How Surface::DrawTextA lays a text out. Neither is single-line.
+/// How Surface::DrawTextA lays out a text. Both allow several lines.
 enum class TextFormat : std::uint32_t {
-  right = 2,       ///< each line ends at the rectangle's right; tabs are not expanded
-  expandTabs = 64  ///< from the left; a tab goes on to the next stop of eight characters
+  right = 2,       ///< right-aligned; tabs are not expanded
+  expandTabs = 64  ///< left-aligned; a tab advances to the next stop of eight characters
 };
 
-/// A picture made up on the spot: three bytes a pixel, blue, green and red, rows from the bottom
-/// up. Each row is padded to a multiple of four bytes, but the only row of a bitmap is not.
+/// A 24-bit bitmap: three bytes per pixel (blue, green, red), rows from the bottom up. Each row is
+/// padded to a multiple of four bytes, except that a bitmap of one row is not padded.
 struct Bitmap24 {
   std::int32_t width = 0;
   std::int32_t height = 0;
   std::vector<std::uint8_t> bytes;
 
-  /// Whether there are pixels and bytes for all of them.
+  /// Whether the bitmap has pixels, and enough bytes for all of them.
   bool isComplete() const {
     return width > 0 && height > 0 &&
            bytes.size() / rowLength() >= static_cast<std::size_t>(height);
@@ -55,10 +55,10 @@ struct Bitmap24 {
 };
 
 /// What the list draws on: an image that persists between calls, with a current position, a font
-/// and a text colour that stay until they are set again. All lengths are pixels; texts are UTF-8,
-/// and a platform draws a replacement character for bytes that are no UTF-8.
+/// and a text colour that persist until they are changed. All lengths are in pixels; texts are
+/// UTF-8, and a platform draws a replacement character for invalid bytes.
 ///
-/// Nothing asks for a refresh: the platform shows the image whenever the window needs it. Any call
+/// There is no refresh call: the platform shows the image whenever the window needs it. Any call
 /// may throw; the list then reports the failure (objects/Trap.h).
 class Surface {
  public:
@@ -67,19 +67,19 @@ class Surface {
   /// Fills the whole image with the background colour; the current position becomes (0, 0).
   virtual void Cls() = 0;
 
-  /// Draws one pixel wide and leaves the current position at (x2, y2).
+  /// Draws lines one pixel wide, or a filled box, and leaves the current position at (x2, y2).
   virtual void Line(LineMode mode, float x1, float y1, float x2, float y2, Colour colour) = 0;
   /// Draws one pixel and leaves the current position there.
   virtual void PSet(float x, float y, Colour colour) = 0;
 
-  /// Draws a picture with its top left at (x, y), at its natural size or scaled to fit exactly. The
-  /// current position stays.
+  /// Draws a picture with its top left corner at (x, y), in its natural size or scaled to the given
+  /// size. Does not change the current position.
   virtual void PaintPicture(const Picture& picture, float x, float y) = 0;
   virtual void PaintPicture(const Picture& picture, float x, float y, float width,
                             float height) = 0;
 
-  /// Size of a text in the current font with its current flags; of several lines the widest and
-  /// all together. The empty text is one line high.
+  /// The size of a text in the current font with its current flags: the width of the widest line,
+  /// and the height of all lines. The empty text has the height of one line.
   virtual float TextWidth(std::string_view text) = 0;
   virtual float TextHeight(std::string_view text) = 0;
 
@@ -97,31 +97,31 @@ class Surface {
   /// The colour in which texts are written. Default: black.
   virtual void ForeColor(Colour colour) = 0;
 
-  /// The font with its own flags; an empty reference keeps the font there is.
+  /// Sets the font, including its flags. An empty reference changes nothing.
   virtual void Font(const norvane::Font& font) = 0;
   virtual void FontBold(Boolean on) = 0;
   virtual void FontItalic(Boolean on) = 0;
   virtual void FontUnderline(Boolean on) = 0;
 
-  /// The image's handle, for the three calls below.
+  /// The handle of the image, for the three calls below.
   virtual std::uintptr_t hDC() const = 0;
 
-  /// Writes the first `length` bytes of the text, all of it for -1, on a transparent background
-  /// into the rectangle, which clips it. A `&` underlines the character behind it and is not shown
-  /// itself; two of them show one. Line breaks begin a new line.
+  /// Writes the first `length` bytes of the text (-1: all) into the rectangle, which clips it, on a
+  /// transparent background. `&` is not shown but underlines the next character; `&&` shows one &.
+  /// Line breaks start a new line.
   virtual void DrawTextA(std::uintptr_t hDC, std::string_view text, std::int32_t length,
                          const Rectangle& rectangle, TextFormat format) = 0;
 
-  /// Inverts a dotted outline along the rectangle; a second call at the same place undoes it.
+  /// Inverts a dotted outline along the rectangle. Drawing it again at the same place removes it.
   virtual void DrawFocusRect(std::uintptr_t hDC, const Rectangle& rectangle) = 0;
 
-  /// Stretches the whole bitmap over the rectangle. Each pixel shows the colour of the nearest one
-  /// of the bitmap; nothing is blended. A rectangle without area shows nothing. A bitmap that is
-  /// not complete throws Failure 5.
+  /// Scales the bitmap to the rectangle. Each pixel gets the colour of the nearest bitmap pixel;
+  /// nothing is blended. An empty rectangle shows nothing. Throws Failure 5 if the bitmap is not
+  /// complete.
   virtual void StretchDIBits(std::uintptr_t hDC, const Rectangle& target,
                              const Bitmap24& bitmap) = 0;
 
-  /// Writes the text at the current position, which goes to the start of the next line.
+  /// Writes the text at the current position, which then moves to the start of the next line.
   virtual void Print(std::string_view text) = 0;
 };
 

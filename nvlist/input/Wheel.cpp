@@ -12,8 +12,8 @@ constexpr Module wheelControl{kinds::control, "Wheel"};
 constexpr Module basWheel{kinds::module, "basWheel"};
 constexpr double turnOfOneNotch = 120;
 
-// The halves of a 32-bit number, as signed ones. They are no members of the header: the headers of
-// Windows have macros of these names.
+// The halves of a 32-bit number, signed. Defined here and not in the header, because Windows
+// headers define macros of these names.
 std::int16_t LOWORD(std::int32_t value) { return static_cast<std::int16_t>(value & 0xFFFF); }
 std::int16_t HIWORD(std::int32_t value) { return static_cast<std::int16_t>(value >> 16); }
 

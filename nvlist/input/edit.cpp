@@ -38,7 +38,7 @@ void nvList::SetEdit(const Variant& Index) {
     move([&](Bounds& place) { place.Height = surface_.TextHeight("A") + 1; });
     on.step([&] { Text1->Text(item(index).Text); });
     move([&](Bounds& place) { place.Left = editLeft(place.Left); });
-    // Counts rows of the height of the text, although the rows of the list may be higher.
+    // Uses the text height, although the rows of the list may be higher.
     move([&](Bounds& place) {
       place.Top = static_cast<float>(row) * surface_.TextHeight("A") + state_.IndentTop;
     });
@@ -52,7 +52,7 @@ void nvList::SetEdit(const Variant& Index) {
   });
 }
 
-/// The left edge of the box. With check boxes and icons it stays where it was, at `before`.
+/// The left edge of the box. With both check boxes and icons it stays at `before`.
 float nvList::editLeft(float before) const {
   switch (state_.Style) {
     case cDefault:
@@ -69,7 +69,8 @@ float nvList::editLeft(float before) const {
 void nvList::Text1_KeyPress(std::int16_t& KeyAscii) {
   trapped(here, "Text1_KeyPress", [&](Trap& on) {
     if (KeyAscii != keyReturn || !state_.EditActive) return;
-    // Goes to the item that is current now, without the repaint of the property ItemText.
+    // Written to the item that is current now, without the PropertyChanged notification of
+    // ItemText.
     on.step([&] { state_.Items.setText(state_.ListIndex, Text1->Text()); });
     state_.EditActive = false;
     on.step([&] { Text1->Visible(false); });

@@ -9,7 +9,7 @@
 
 namespace norvane {
 
-/// The published member ids of the events, by which hosts bind them.
+/// The published ids of the events, which hosts use to bind them.
 enum class EventId : std::int32_t {
   Click = 1,
   DblClick = 2,
@@ -56,13 +56,13 @@ class __nvList {  // NOLINT(bugprone-reserved-identifier): the published name of
   /// EventId::DblClick. Raised by a double click, after its effects on the item; not raised below
   /// the last item if there is a current one.
   virtual void DblClick() {}
-  /// EventId::ItemCheck. Raised before the user changes a check mark, with `Item`, the current
-  /// item. `Cancel` starts as false and is read back: true keeps the mark as it is.
+  /// EventId::ItemCheck. Raised before the user changes the check mark of `Item`, the current item.
+  /// `Cancel` is initially false and is read back: true keeps the mark unchanged.
   virtual void ItemCheck(std::int32_t& Item, Boolean& Cancel);
   /// EventId::MouseUp. Raised by the release of a button, after a dragged item has moved.
   virtual void MouseUp(std::int16_t& Button, std::int16_t& Shift, float& X, float& Y);
-  /// EventId::MouseMove. Raised by each move of the mouse. `IndexUnderMouse` is not clipped to the
-  /// items; `TextUnderMouse` is empty where there is no item.
+  /// EventId::MouseMove. Raised by each move of the mouse. `IndexUnderMouse` is not limited to
+  /// existing items; `TextUnderMouse` is empty where there is no item.
   virtual void MouseMove(Variant& TextUnderMouse, std::int32_t& IndexUnderMouse,
                          std::int16_t& Button, std::int16_t& Shift, float& X, float& Y);
   /// EventId::MouseDown. Raised by the press of a button, before the list reacts. `Button` is read
@@ -72,20 +72,20 @@ class __nvList {  // NOLINT(bugprone-reserved-identifier): the published name of
   virtual void ErrorListInput() {}
   /// EventId::ErrorListSave. Raised when a list file could not be saved.
   virtual void ErrorListSave() {}
-  /// EventId::ListSaving. Raised after each item that ListSave has written. `Index`, the item's
-  /// position, is read back: saving goes on behind it.
+  /// EventId::ListSaving. Raised after ListSave has written an item. `Index`, the item's index, is
+  /// read back: saving continues with the next index.
   virtual void ListSaving(Variant& Index);
-  /// EventId::ListReading. Raised after each item that ListInput has read. `Index`, the item's
-  /// position, is read back: loading goes on behind it.
+  /// EventId::ListReading. Raised after ListInput has read an item. `Index`, the item's index, is
+  /// read back: loading continues with the next index.
   virtual void ListReading(Variant& Index);
   /// EventId::Scroll. Raised after a scroll bar or the mouse wheel has scrolled the list.
   virtual void Scroll() {}
-  /// EventId::KeyDown. Raised by the press of a key, before the list reacts. `KeyCode` is read
-  /// back: 0 swallows the key, another code replaces it.
+  /// EventId::KeyDown. Raised when a key is pressed, before the list reacts. `KeyCode` is read
+  /// back: 0 suppresses the key, another code replaces it.
   virtual void KeyDown(std::int16_t& KeyCode, std::int16_t& Shift);
-  /// EventId::KeyPress. Raised by each typed character.
+  /// EventId::KeyPress. Raised for each typed character.
   virtual void KeyPress(std::int16_t& KeyAscii);
-  /// EventId::KeyUp. Raised by the release of a key.
+  /// EventId::KeyUp. Raised when a key is released.
   virtual void KeyUp(std::int16_t& KeyCode, std::int16_t& Shift);
 
   // The list never raises the drag-and-drop events, from OLECompleteDrag to OLEStartDrag. They
@@ -99,7 +99,8 @@ class __nvList {  // NOLINT(bugprone-reserved-identifier): the published name of
   virtual void OLESetData(Ref<Object>& Data, std::int16_t& DataFormat);
   virtual void OLEStartDrag(Ref<Object>& Data, std::int32_t& AllowedEffects);
 
-  /// EventId::ErrorWrongIndex. Raised when ListIndex refuses a value, `Index`, and keeps its own.
+  /// EventId::ErrorWrongIndex. Raised when ListIndex is set to an invalid value, `Index`; it keeps
+  /// its old value.
   virtual void ErrorWrongIndex(Variant& Index);
 };
 

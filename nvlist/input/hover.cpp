@@ -64,7 +64,7 @@ void nvList::tmrMouseAction_Timer() {
       autoScroll_ = AutoScroll::none;
       return;
     }
-    // Scrolling up ends at row 1; hosts rely on row 0 being out of reach.
+    // Scrolling up ends at row 1; it is part of the published behaviour that row 0 is not reached.
     if (autoScroll_ == AutoScroll::up && state_.TopIndex - 1 > 0) {
       if (state_.AllowItemMoving) state_.HoverIndex = state_.TopIndex - 1;
       on.step([&] { TopIndex(state_.TopIndex - 1); });

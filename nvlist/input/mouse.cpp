@@ -16,8 +16,8 @@ constexpr std::int32_t pressOrigin = 4;
 
 }  // namespace
 
-/// The row at position `y`, if row 0 begins at `origin`; -1 above it. Below the surface it is the
-/// last row there, and -1 if rows have no height.
+/// The row at position `y` if row 0 begins at `origin`; -1 above it or if rows have no height.
+/// Positions below the surface give the last row on it.
 std::int32_t nvList::rowAt(double y, std::int32_t origin, std::int32_t height) {
   state_.LoopIndex = origin;
   if (height <= 0) return -1;
@@ -110,7 +110,7 @@ void nvList::selectRange(Trap& on) {
   for (std::int32_t i = last; i >= first; --i) {
     if (on.test([&] { return static_cast<bool>(item(i).Enabled); }))
       on.step([&] { state_.Selection.set(state_.Items, i, true); });
-    // All indexes outside the list fail alike: one on either side is enough.
+    // All indexes outside the list fail in the same way: one failure on either side is enough.
     if (i < 0) break;
     i = std::min(i, state_.Items.upperBound() + 1);
   }

@@ -36,7 +36,7 @@ void nvList::Wheel1_WheelScroll(std::int16_t& Rotation, std::int16_t&, float&, f
   });
 }
 
-/// Moves the bar and then the list: setting the value of a bar raises no event.
+/// Moves the bar and then the list, because setting the value of a bar raises no event.
 void nvList::scrollBarTo(Trap& on, std::int32_t value) {
   const bool isOther = VScroll1.Value() != value;
   on.step([&] { VScroll1.Value(value); });
