@@ -43,8 +43,8 @@ void addHidden(int count) {
       });
 }
 
-/// One round of filling a list that is on the screen, with the events that follow from it. Their
-/// part of the time is told apart.
+/// One round of filling a visible list and processing the events that result. The time for the
+/// events is also reported on its own.
 template <class Widget, class Fill>
 void fillShown(benchmark::State& state, Widget make, Fill fillList) {
   double eventTime = 0;

@@ -10,7 +10,7 @@ void addDistinct(int count, bool ignoresCase) {
   const std::string work =
       std::string(ignoresCase ? "ItemsRemoveDouble" : "ItemsRemoveDouble by case") + '/' +
       std::to_string(count);
-  // Nothing is removed, so that every round finds the same list.
+  // Nothing is removed, so every round has the same list.
   addShared(
       work, subject::nvList, true,
       [count] {

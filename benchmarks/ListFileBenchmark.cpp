@@ -11,7 +11,7 @@
 
 namespace {
 
-/// What a list file holds of an item, in the types that QDataStream knows.
+/// The fields of an item in a list file, in types that QDataStream supports.
 struct QtItem {
   QString text;
   QString key;
@@ -30,7 +30,7 @@ std::string path(const char* name) {
   return folder.filePath(name).toStdString();
 }
 
-// Every item has a key, a tag and a colour of its own; the other colours are the list's.
+// Every item has a key, a tag and one colour of its own; the other colours are the list's.
 
 void addItems(norvane::nvList& list, int count) {
   for (int i = 0; i < count; ++i)

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-/// Who does the work; the table has a column for each.
+/// What is measured; each has a column of the table.
 namespace subject {
 inline constexpr const char* nvList = "nvList";
 inline constexpr const char* headless = "headless";
@@ -17,22 +17,22 @@ inline constexpr const char* dataStream = "QDataStream";
 inline constexpr const char* floor = "floor";
 }  // namespace subject
 
-/// Seconds of processor time of this process: what else the machine does leaves it alone.
+/// Seconds of processor time of this process, which other load hardly changes.
 inline double processorTime() {
   timespec time{};
   clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
   return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
 }
 
-/// Work on so many items is long and touches fresh memory.
+/// From this number of items on, a round is long and uses fresh memory.
 constexpr int manyItems = 100'000;
 
-/// Times `work(subject)` alone; `prepare()` makes the subject, which goes after the time is taken.
+/// Times `work(subject)` only; making the subject by `prepare()` and destroying it is not timed.
 template <class Prepare, class Work>
 void measure(benchmark::State& state, bool givesMemoryBack, Prepare&& prepare, Work&& work) {
   for (auto _ : state) {
     auto prepared = prepare();
-    // Whoever runs later would otherwise find the memory of those before him already paged in.
+    // Otherwise later rounds would reuse memory that earlier ones have already paged in.
     if (givesMemoryBack) malloc_trim(0);
     const double start = processorTime();
     work(prepared);
@@ -40,11 +40,11 @@ void measure(benchmark::State& state, bool givesMemoryBack, Prepare&& prepare, W
   }
 }
 
-/// The rows of the table from top to bottom.
+/// The rows of the table in order.
 inline std::vector<std::string> works;
 
-/// Adds one benchmark: `work` is the row of the table, `who` the column. With `once` a repetition
-/// is one round of work, otherwise as many as fill the least time.
+/// Adds one benchmark: `work` is the row of the table, `who` the column. With `once`, a repetition
+/// is one round; otherwise as many rounds as fill the minimum time.
 template <class Function>
 void add(const std::string& work, const char* who, bool once, Function&& function) {
   if (std::ranges::find(works, work) == works.end()) works.push_back(work);
@@ -55,14 +55,14 @@ void add(const std::string& work, const char* who, bool once, Function&& functio
   if (once) added->Iterations(1);
 }
 
-/// The same where every round starts from new; `count` is the number of items.
+/// The same with a new subject for every round; `count` is the number of items.
 template <class Prepare, class Work>
 void addFresh(const std::string& work, const char* who, int count, Prepare prepare, Work body) {
   const bool isLong = count >= manyItems;
   add(work, who, isLong, [=](benchmark::State& state) { measure(state, isLong, prepare, body); });
 }
 
-/// The same where all rounds share what `prepare` made.
+/// The same with one subject for all rounds.
 template <class Prepare, class Work>
 void addShared(const std::string& work, const char* who, bool once, Prepare prepare, Work body) {
   add(work, who, once, [=](benchmark::State& state) {

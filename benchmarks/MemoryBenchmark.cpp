@@ -14,7 +14,7 @@ double allocatedBytes() {
   return static_cast<double>(info.uordblks) + static_cast<double>(info.hblkhd);
 }
 
-/// Bytes that an item takes from the heap, with a copy of its text that it shares with nobody.
+/// Heap bytes per item, including an unshared copy of its text.
 template <class Make, class Fill>
 void addBytes(const char* who, Make make, Fill fillList) {
   add("Memory/1000000", who, true, [=](benchmark::State& state) {

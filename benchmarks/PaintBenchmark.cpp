@@ -25,7 +25,7 @@ std::unique_ptr<QListWidget> shownListWidget(int count) {
   return widget;
 }
 
-/// The bare calls behind one repaint: the rows that fit, each with a background and a text.
+/// The minimum of one repaint: the visible rows, each with a background and a text.
 void paintRows(QImage& image) {
   QPainter painter(&image);
   const QFontMetrics metrics = painter.fontMetrics();
@@ -73,7 +73,7 @@ void addWindow(int count) {
       [](auto& widget) { widget->viewport()->repaint(); });
 }
 
-/// A frame with check boxes, icons and a selection: 400 by 300, a thousand items.
+/// One repaint with check boxes, icons and a selection: 400 by 300 pixels, a thousand items.
 void addFrame() {
   const std::string work = "Frame with pictures/1000";
   static QImage iconImage(16, 16, QImage::Format_ARGB32_Premultiplied);

@@ -34,7 +34,7 @@ struct ScrolledList {
   norvane::QtPlace& bar = static_cast<norvane::QtPlace&>(*widget->place().places().at(0));
 };
 
-/// One repaint of the list and one of the track, seen on the screen.
+/// One repaint of the list and one of the track, shown on the screen.
 void repaintOnce(ScrolledList& list) {
   list.widget->list().Redraw();
   list.widget->update(list.bar.geometry());
@@ -45,7 +45,7 @@ void addScrollByOneRow(int count) {
   const std::string work = "ScrollRow/" + std::to_string(count);
   const auto prepare = [count] { return std::make_unique<ScrolledList>(count); };
   addShared(work, subject::nvList, false, prepare, [](auto& list) {
-    // There and back again would be two; the buttons take turns.
+    // One press per round; the two buttons alternate.
     static bool isDown = false;
     isDown = !isDown;
     const QPoint button(8, isDown ? list->bar.geometry().height() - 8 : 8);
@@ -59,7 +59,7 @@ void addScrollByOneRow(int count) {
 void addDrag(int count) {
   const std::string work = "DragThumb/" + std::to_string(count);
   const auto prepare = [count] { return std::make_unique<ScrolledList>(count); };
-  // End to end and back, a pixel at a time, each with a repaint on the screen.
+  // From end to end and back, one pixel at a time, each with a repaint on the screen.
   constexpr int length = 240;
   addShared(work, subject::nvList, false, prepare, [](auto& list) {
     const auto to = [&](int y) { list->send(QEvent::MouseMove, {8, y}); };
@@ -73,7 +73,7 @@ void addDrag(int count) {
   });
 }
 
-/// The first fit of a list that was filled without one.
+/// The first CheckScroll of a list that was filled with AutoCheckScroll off.
 void addMeasuring(int count) {
   const std::string work = "CheckItemWidth/" + std::to_string(count);
   addFresh(
@@ -94,7 +94,7 @@ void addMeasuring(int count) {
       });
 }
 
-/// One item out of many that were measured, with the fit that follows.
+/// Removing one of many measured items, including the CheckScroll that follows.
 void addRemoveMeasured(int count) {
   const std::string work = "RemoveMeasured/" + std::to_string(count);
   addFresh(

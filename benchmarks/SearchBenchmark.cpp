@@ -43,7 +43,7 @@ void addWildcard(const std::string& work, norvane::cFindCompare compare, Qt::Mat
 }
 
 void addByKey() {
-  // As long as the keys there are, so that the length alone tells nothing.
+  // As long as the existing keys, so that comparing lengths is not enough.
   static const std::string missing = "key 12345x";
   static const QString qtMissing = QString::fromStdString(missing);
   addShared("IndexByKey/1000000", subject::nvList, false, filledNvList,

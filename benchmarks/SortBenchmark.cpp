@@ -9,14 +9,14 @@
 
 namespace {
 
-/// Eight to twenty letters; short ones stand in the string itself, long ones on the heap.
+/// Eight to twenty letters: short ones fit into the string object, long ones need the heap.
 std::string randomText(std::mt19937& random) {
   std::string text(8 + random() % 13, ' ');
   for (char& letter : text) letter = static_cast<char>('a' + random() % 26);
   return text;
 }
 
-/// Texts as a list finds them, `different` of them at most; made once.
+/// Random texts, at most `different` distinct ones.
 struct Texts {
   Texts(int count, int different) : plain(static_cast<std::size_t>(count)) {
     std::mt19937 random(7);

@@ -14,12 +14,12 @@ std::string textOf(int number);
 /// "key 123456"
 std::string keyOf(int number);
 
-/// The texts 0 to count - 1 as each host has them; made once for each count.
+/// The texts 0 to count - 1 in the types of each subject, made once for each count.
 const std::vector<std::string>& texts(int count);
 const std::vector<QString>& qtTexts(int count);
 const std::vector<std::string>& keys(int count);
 
-/// What a list item carries, written the way one would without a control.
+/// The data of an item in plain C++.
 struct PlainItem {
   std::string text;
   std::string key;
@@ -44,7 +44,7 @@ struct PlainItem {
 
 using PlainList = std::vector<std::shared_ptr<PlainItem>>;
 
-/// Both stand alone, 400 by 300 pixels, without frame and scroll bars. A hidden one paints nothing.
+/// Windows of 400 by 300 pixels without frame and scroll bars. A hidden one paints nothing.
 std::unique_ptr<norvane::NvListWidget> makeNvList(bool isShown);
 std::unique_ptr<QListWidget> makeListWidget(bool isShown);
 std::unique_ptr<norvane::HeadlessList> makeHeadlessList();

@@ -16,7 +16,7 @@ struct Aim {
   double ratio;
 };
 
-/// A kind of work may have several.
+/// A row may have several aims.
 constexpr Aim aims[] = {
     {"Add/", subject::listWidget, 0.4},         {"AddShown/", subject::listWidget, 0.3},
     {"InsertFront/", subject::listWidget, 1.0}, {"RemoveFront/", subject::listWidget, 1.0},
@@ -82,7 +82,7 @@ void TableReporter::Finalize() {
                "nvList / floor | aim | |\n"
                "|---|--:|--:|--:|--:|--:|--:|---|---|\n";
   for (const std::string& work : works) {
-    // A filter may have left it out.
+    // Absent if a filter excludes it.
     if (!results_.contains(work)) continue;
     const auto median = [&](const char* who) -> std::optional<double> {
       std::vector<double>& values = results_[work][who];

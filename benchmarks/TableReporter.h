@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-/// Writes each result to the standard error stream as it comes, and at the end one table of ratios
-/// to the standard output. Of several repetitions the median counts.
+/// Writes each result to standard error as it arrives, and at the end a table of ratios to standard
+/// output. Each result is the median of its repetitions.
 class TableReporter : public benchmark::ConsoleReporter {
  public:
   TableReporter() : ConsoleReporter(OO_None) {}

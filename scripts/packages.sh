@@ -1,6 +1,6 @@
-# Sourced by the other scripts: installs the Debian packages they need.
+# Sourced by the other scripts. Installs the Debian packages they need.
 
-# Installs those of the named packages that are missing, and says which.
+# Installs the named packages that are missing and lists them.
 need() {
   command -v dpkg-query >/dev/null || return 0 # not Debian: the user installs them
   local package missing=()

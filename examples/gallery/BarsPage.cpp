@@ -1,4 +1,4 @@
-// The page of the scroll bars: every look of theirs, enlarged, and some to use.
+// The page of the scroll bars: enlarged pictures of all their states, and bars to use.
 
 #include <QGridLayout>
 #include <QLabel>
@@ -42,7 +42,7 @@ constexpr NamedState states[] = {{"normal", State::normal},
                                  {"pressed", State::pressed},
                                  {"disabled", State::disabled}};
 
-/// The colours of the horizontal bar's own style.
+/// The colours of the horizontal bar's custom style.
 struct NamedColour {
   const char* name;
   QRgb rgb;
@@ -65,7 +65,7 @@ void setStyle(nvHScroll& bar, const Family& family) {
   bar.SetNewProperty(bag);
 }
 
-/// A real bar, enlarged; each of its parts gets a mouse of its own.
+/// An enlarged picture of a real bar, with all parts in the same state.
 template <class Bar>
 QPixmap specimen(const Family& family, State state) {
   NvScrollWidget<Bar> widget;
@@ -94,7 +94,7 @@ QLabel* shown(const QPixmap& pixmap) {
   return label;
 }
 
-/// All families beside each other, each in all states.
+/// All colour families side by side, each in all states.
 QWidget* verticalSpecimens() {
   auto* result = new QWidget;
   auto* grid = new QGridLayout(result);
@@ -114,7 +114,7 @@ QWidget* verticalSpecimens() {
   return result;
 }
 
-/// A family a row, a state a column.
+/// One row for each family, one column for each state.
 QWidget* horizontalSpecimens() {
   auto* result = new QWidget;
   auto* grid = new QGridLayout(result);
@@ -136,7 +136,7 @@ QWidget* horizontalSpecimens() {
   return result;
 }
 
-/// A bar to use, and a label that tells of it: its value and how often each event came.
+/// A bar to use, and a label that shows its value and how often each event was raised.
 template <class Bar>
 std::pair<QWidget*, QLabel*> live(const Family& family, int max, const char* separator) {
   auto* widget = new NvScrollWidget<Bar>;
@@ -190,7 +190,7 @@ QWidget* liveBars() {
 
 }  // namespace
 
-/// Scrolls where the window is small, so that it makes no demands on the window.
+/// In a scroll area, so that it does not limit how small the window can be.
 void fillBars(Stage& stage) {
   auto* content = new QWidget;
   auto* column = new QVBoxLayout(content);

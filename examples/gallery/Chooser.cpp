@@ -28,9 +28,9 @@ Chooser::Chooser(const QList<Page>& pages) {
 
 Chooser::~Chooser() { list().removeSink(*this); }
 
-/// Later, as the list is in the middle of its own work.
+/// Delayed, because the list is still handling its own event.
 void Chooser::tell() {
-  // A drag past the bottom of a list as short as this one leaves its bar below 0.
+  // Dragging past the end of a list as short as this one leaves its scroll bar below 0.
   list().CheckScroll();
   QTimer::singleShot(0, this, [this] {
     if (onChosen && list().ListIndex() >= 0) onChosen(list().ListIndex());

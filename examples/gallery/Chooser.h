@@ -8,13 +8,13 @@
 
 namespace gallery {
 
-/// The pages to choose from. It is such a list itself.
+/// The list of pages, itself an nvList.
 class Chooser : public norvane::NvListWidget, private norvane::__nvList {
  public:
   explicit Chooser(const QList<Page>& pages);
   ~Chooser() override;
 
-  /// Told of the index of the current page after each click, and after each key let go.
+  /// Called with the index of the current page after each click and each key release.
   std::function<void(int index)> onChosen;
 
  private:

@@ -16,7 +16,7 @@ using norvane::nvList;
 namespace gallery {
 namespace {
 
-/// The last one shows what a database refuses, the one before what a Null does.
+/// The last one shows an error of the database, the one before it a Null.
 constexpr const char* queries[] = {
     "SELECT country || '|right=' || count(*) FROM places GROUP BY country",
     "SELECT country || '|right=' || count(*) FROM places GROUP BY country ORDER BY count(*) DESC",
@@ -26,13 +26,13 @@ constexpr const char* queries[] = {
     "SELECT name FROM cities",
 };
 
-/// The sample, copied to where a driver can open it. Whatever holds a query has to go first.
+/// The sample database, copied to a file that a driver can open. It must outlive all its queries.
 class Database : public QObject {
  public:
   Database();
   ~Database() override;
 
-  /// Why it cannot be read; empty where it can.
+  /// Why it cannot be read; empty if it can.
   QString problem() const;
   QSqlQuery run(const QString& statement) const;
 
@@ -63,7 +63,7 @@ QSqlQuery Database::run(const QString& statement) const {
   return result;
 }
 
-/// Where the fill ends early, it leaves both switches off.
+/// A fill that ends early leaves AutoCheckScroll and AutoRedraw off.
 void fillFrom(nvList& list, QSqlQuery query) {
   list.Recordset(norvane::makeRef<norvane::QtRecordset>(std::move(query)));
   list.AutoCheckScroll(true);
@@ -108,11 +108,11 @@ void fillDatabase(Stage& stage) {
     line->setCursorPosition(0);
     fill();
   });
-  // The box itself tells of Return on its own queries only.
+  // The box reports Return only for the queries it contains.
   QObject::connect(box->lineEdit(), &QLineEdit::returnPressed, &stage, [fill, box] {
     if (box->findText(box->currentText()) < 0) fill();
   });
-  // Ends behind the list, which holds a query.
+  // Children are destroyed in order, so the list and its query go first.
   database.release()->setParent(&stage);
 }
 

@@ -31,7 +31,7 @@ namespace {
 
 constexpr int swatchSize = 14;
 
-/// Shows lengths without the zeros behind the point.
+/// Shows lengths without trailing zeros.
 class LengthBox final : public QDoubleSpinBox {
  public:
   QString textFromValue(double value) const override { return locale().toString(value, 'g', 9); }
@@ -39,7 +39,7 @@ class LengthBox final : public QDoubleSpinBox {
 
 QString quoted(const QString& text) { return '"' + text + '"'; }
 
-/// The palette of the program knows what a system colour looks like; the list's own surface does.
+/// The colour to show, if it is known: a system colour depends on the list's surface.
 std::optional<QColor> shownColour(const Variant& value) {
   if (!value.isNumeric()) return std::nullopt;
   const Colour colour = value.toInt32();
@@ -57,7 +57,7 @@ QString nameOf(const Variant& value) {
   return QString::fromStdString(value.toText());
 }
 
-/// What such a name stands for; nothing for any other text.
+/// The colour with such a name; nothing for any other text.
 std::optional<Variant> colourNamed(const QString& name) {
   const QString word = name.trimmed();
   bool isNumber = false;
@@ -78,7 +78,7 @@ QIcon swatch(const std::optional<QColor>& colour) {
   return pixmap;
 }
 
-/// A line with a swatch, which opens the dialog of the colours.
+/// A line edit with a swatch that opens the colour dialog.
 Editor<Variant> colourEditor(Default mark, Edited<Variant> edited) {
   auto* line = new QLineEdit;
   QAction* pick = line->addAction(swatch({}), QLineEdit::LeadingPosition);

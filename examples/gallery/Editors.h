@@ -14,11 +14,11 @@
 
 namespace gallery {
 
-/// Called with each value that the user has given, and with the value as a text.
+/// Called with each value that the user enters, and with its text.
 template <class Value>
 using Edited = std::function<void(const Value& value, const QString& text)>;
 
-/// A widget for one value. `show` gives it another one, which does not count as an edit.
+/// A widget for one value. `show` changes the value without reporting an edit.
 template <class Value>
 struct Editor {
   QWidget* widget;
@@ -32,14 +32,14 @@ MakeEditor<norvane::Boolean> flag();
 MakeEditor<std::int32_t> number();
 MakeEditor<float> length();
 MakeEditor<std::string> text();
-/// A text, whatever the value was before.
+/// Always returns a text, whatever type the value had before.
 MakeEditor<norvane::Variant> value();
 MakeEditor<norvane::Font> font();
 MakeEditor<norvane::Picture> picture();
 
 /// Written as #RRGGBB, or as "system 17" for a system colour.
 MakeEditor<norvane::Colour> colour();
-/// The same for a colour that may be "def", if only to look at.
+/// The same for a colour that may be "def", which can be entered only if `accepted`.
 enum class Default { accepted, shown };
 MakeEditor<norvane::Variant> itemColour(Default mark);
 
@@ -49,7 +49,7 @@ struct Choice {
 };
 MakeEditor<int> choiceOf(std::vector<Choice> choices);
 
-/// One of the values of an enumeration.
+/// A choice between the values of an enumeration.
 template <class Value>
 MakeEditor<Value> choice(std::vector<Choice> choices) {
   return [make = choiceOf(std::move(choices))](Edited<Value> edited) {

@@ -10,9 +10,9 @@
 
 namespace gallery {
 
-/// A running log, one line an entry: the events of the lists it listens to with their arguments,
-/// every failure of the program's lists, and what others write. Entries that come again and again
-/// are counted in one line. It has to outlive those lists.
+/// A log with one line per entry: the events of the lists it is a sink of, with their arguments,
+/// every failure of the program's lists, and the lines that others write. Equal entries in a row
+/// are counted in one line. It must outlive those lists.
 class EventLog : public QPlainTextEdit, public norvane::__nvList {
  public:
   using DataObject = norvane::Ref<norvane::Object>;
@@ -22,7 +22,7 @@ class EventLog : public QPlainTextEdit, public norvane::__nvList {
 
   void write(const QString& line);
 
-  // The events of the list, all of them.
+  // All events of the list.
 
   void Click() override { logEvent("Click"); }
   void DblClick() override { logEvent("DblClick"); }
@@ -32,7 +32,7 @@ class EventLog : public QPlainTextEdit, public norvane::__nvList {
   void MouseUp(std::int16_t& Button, std::int16_t& Shift, float& X, float& Y) override {
     logEvent("MouseUp", {{"Button", Button}, {"Shift", Shift}, {"X", X}, {"Y", Y}});
   }
-  /// The last one of several in a row is all that is kept.
+  /// Only the last of several in a row is kept.
   void MouseMove(norvane::Variant& TextUnderMouse, std::int32_t& IndexUnderMouse,
                  std::int16_t& Button, std::int16_t& Shift, float& X, float& Y) override;
   void MouseDown(std::int16_t& Button, std::int16_t& Shift, float& X, float& Y) override {
@@ -78,14 +78,14 @@ class EventLog : public QPlainTextEdit, public norvane::__nvList {
   };
 
   void logEvent(const char* name, std::initializer_list<Argument> arguments = {});
-  /// An event that comes once an item. The last one of several in a row is all that is kept.
+  /// An event that is raised for every item. Only the last of several in a row is kept.
   void progress(const char* name, const norvane::Variant& index);
   void showProgress();
   void removeLastLine();
 
   QString lastLine_;
-  int times_ = 0;                   ///< how often it came in a row
-  const char* progress_ = nullptr;  ///< name of an event that is still to be shown
+  int times_ = 0;                   ///< how often it was written in a row
+  const char* progress_ = nullptr;  ///< name of an event that is not shown yet
   norvane::Variant reached_;
   QTimer showingProgress_;
   std::shared_ptr<Failures> failures_;

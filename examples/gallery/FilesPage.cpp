@@ -28,13 +28,13 @@ struct Delimiter {
 constexpr Delimiter delimiters[] = {{"lines", "\n"},     {"empty lines", "\n\n"}, {"commas", ","},
                                     {"semicolons", ";"}, {"tabulators", "\t"},    {"blanks", " "}};
 
-/// What the buttons of the page act on.
+/// The objects that the buttons of the page work with.
 struct Desk {
   Stage* stage;
   nvList* list;
   QCheckBox* keeps;
   QComboBox* parted;
-  /// An action is under way; it may let others in, and last longer than the page.
+  /// True while an action runs. An action may process events and may outlive the page.
   std::shared_ptr<bool> isBusy = std::make_shared<bool>(false);
 
   Properties properties() const { return keeps->isChecked() ? Properties::kept : Properties::left; }
@@ -50,11 +50,11 @@ void open(const Desk& desk) {
   const QString kinds = QString("%1;;%2").arg(listKind, anyKind);
   const QString path = QFileDialog::getOpenFileName(desk.stage, "Open a list", {}, kinds);
   if (path.isEmpty()) return;
-  // Older files alone tell it before they are read.
+  // Only files in the older format can be counted before they are read.
   const std::int32_t count = desk.list->ListFileItemsCount(path.toStdString());
   desk.stage->tell(count > 0 ? QString("Opening %1: %2 items").arg(path).arg(count)
                              : "Opening " + path);
-  // Their items come one by one, and those to come would be seen.
+  // Their items are read one by one, and the remaining old ones would be visible meanwhile.
   if (count > 0) desk.list->ItemsClear();
   openListFile(*desk.list, path, desk.properties());
 }
@@ -116,7 +116,7 @@ void fillItems(nvList& list) {
                            {"Cups, three of them", cup, true}};
   for (const auto& [text, glyph, isPacked] : entries) {
     const norvane::Picture picture = icon(glyph, iconSize);
-    // A list file brings the picture of selected items back, as the one of all.
+    // A list file restores IconSelected as Icon, so both are the same picture.
     list.ItemsAdd({.aText = text,
                    .aIcon = picture,
                    .aIconSelected = picture,

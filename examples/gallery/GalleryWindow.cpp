@@ -30,7 +30,7 @@ constexpr int hintTime = 8000;   // milliseconds
 constexpr int timeToRead = 400;  // milliseconds
 constexpr int hintWidth = 240;
 
-/// A part of the window below its caption, which may have buttons at its right.
+/// A part of the window under a caption, which may have buttons on its right.
 QWidget* panel(QLabel* caption, QWidget* content, const QList<QToolButton*>& buttons = {}) {
   auto* result = new QWidget;
   auto* column = new QVBoxLayout(result);
@@ -40,7 +40,7 @@ QWidget* panel(QLabel* caption, QWidget* content, const QList<QToolButton*>& but
   top->addWidget(caption, 1);
   for (QToolButton* button : buttons) top->addWidget(button);
   caption->setFixedHeight(captionHeight);
-  // A caption too long for its place is cut and does not widen the window.
+  // A long caption is cut off instead of widening the window.
   caption->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   column->addLayout(top);
   column->addWidget(content, 1);
@@ -59,7 +59,7 @@ QSplitter* splitter(Qt::Orientation orientation, QWidget* first, QWidget* second
   return result;
 }
 
-/// The current item; where there is none, the first selected one; -1 where there is neither.
+/// The current item, or else the first selected one, or else -1.
 int shownItem(nvList& list) {
   if (list.ListIndex() >= 0 && list.ListIndex() < list.ItemsCount()) return list.ListIndex();
   for (int i = 0; i < list.ItemsCount(); ++i)
@@ -101,7 +101,7 @@ GalleryWindow::GalleryWindow(QList<Page> pages)
   connectParts();
 }
 
-/// The lists go before the log, which hears them.
+/// The lists are destroyed before the log, which is one of their sinks.
 GalleryWindow::~GalleryWindow() { delete stack_; }
 
 void GalleryWindow::layOut() {
@@ -166,7 +166,7 @@ QToolButton* GalleryWindow::button(const QString& text, const char* hint) {
   return result;
 }
 
-/// Through the library's own tool tips. The widgets stand in the window by now.
+/// With the library's own tool tips. Call it once the widgets are in the window.
 void GalleryWindow::showHints() {
   const norvane::Variant form = norvane::QtWindow::of(*this);
   for (const auto& [widget, hint] : hints_)
@@ -272,8 +272,8 @@ void GalleryWindow::load() {
   }
 }
 
-/// At once, as what it tells of may leave no time for events. Where it does, the line stays for
-/// a while all the same.
+/// Repaints at once, since the work it announces may not process events. If it does, the line still
+/// stays for a while.
 void GalleryWindow::tell(const QString& what) {
   rows_->setText(what);
   rows_->repaint();
@@ -286,13 +286,13 @@ void GalleryWindow::setSubject(NvListWidget* widget) {
   refresh();
 }
 
-/// Whatever changes a list either tells the name of a property or paints the list.
+/// Every change of a list either reports a property or paints the list.
 bool GalleryWindow::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Paint) refreshSoon();
   return QMainWindow::eventFilter(watched, event);
 }
 
-/// Later, as a list may be in the middle of its own work.
+/// Delayed, because a list may be in the middle of an operation.
 void GalleryWindow::refreshSoon() { refreshing_.start(0); }
 
 void GalleryWindow::refresh() {

@@ -21,17 +21,17 @@ class QToolButton;
 
 namespace gallery {
 
-/// The pages at the left, the lists of one in the middle with a row of tools, the sheets of their
-/// properties at the right, and the log of what happens below.
+/// The main window: the pages on the left, the lists of the current page and a row of tools in the
+/// middle, the property sheets on the right, and the event log at the bottom.
 class GalleryWindow : public QMainWindow {
  public:
   explicit GalleryWindow(QList<Page> pages);
   ~GalleryWindow() override;
 
-  /// Shows a page, which is filled the first time.
+  /// Shows a page and fills it the first time.
   void showPage(int index);
 
-  /// What the window shows once it is laid out, without a screen too.
+  /// A picture of the window. Works without a screen.
   QPixmap picture();
 
  protected:
@@ -59,12 +59,12 @@ class GalleryWindow : public QMainWindow {
   const QList<Page> pages_;
   QList<Stage*> stages_;
   int shown_ = -1;
-  norvane::NvListWidget* subject_ = nullptr;  ///< whose properties are shown
+  norvane::NvListWidget* subject_ = nullptr;  ///< the list whose properties are shown
   std::vector<std::pair<QWidget*, const char*>> hints_;
   norvane::QI tips_;
   Progress progress_;
   QTimer refreshing_;
-  QTimer telling_;  ///< runs while what was told stands in the place of the rows
+  QTimer telling_;  ///< runs while a message replaces the row numbers
 
   EventLog* log_;
   Chooser* chooser_;
@@ -75,7 +75,7 @@ class GalleryWindow : public QMainWindow {
   Sheet* itemSheet_;
   QLabel* listCaption_;
   QLabel* itemCaption_;
-  QList<QWidget*> aboutLists_;  ///< what is of no use on a page without a list
+  QList<QWidget*> aboutLists_;  ///< hidden on a page without lists
   QLabel* rows_;
 };
 

@@ -25,7 +25,7 @@ QLinearGradient downwards(const QColor& top, const QColor& bottom) {
   return gradient;
 }
 
-/// A shape with an edge of one unit inside of it; both stay sharp where a unit is whole pixels.
+/// A rectangle with an edge one unit wide inside it, sharp if a unit is a whole number of pixels.
 void box(QPainter& on, const QRectF& outer, const QColor& edgeColour, const QBrush& inside) {
   on.fillRect(outer, edgeColour);
   on.fillRect(outer.adjusted(1, 1, -1, -1), inside);
@@ -50,7 +50,7 @@ void disc(QPainter& on, const QPointF& centre, double radius, const QColor& edge
   on.drawEllipse(centre, radius, radius);
 }
 
-/// A sheet of paper with its corner folded.
+/// A sheet of paper with a folded corner.
 void sheet(QPainter& on) {
   shape(on, {{2.5, 0.5}, {9.5, 0.5}, {13.5, 4.5}, {13.5, 15.5}, {2.5, 15.5}}, edge,
         downwards(paper, shadow));

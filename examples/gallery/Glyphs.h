@@ -6,7 +6,7 @@
 
 class QPainter;
 
-/// The icons of the gallery. It draws them itself, in whatever size they are wanted.
+/// The icons of the gallery, drawn in any size.
 namespace gallery {
 
 /// Draws a square icon of 16 by 16 units.
@@ -29,7 +29,7 @@ void music(QPainter& on);
 void photo(QPainter& on);
 void spreadsheet(QPainter& on);
 
-// What a day is made of.
+// Everyday things.
 void clock(QPainter& on);
 void cup(QPainter& on);
 void letter(QPainter& on);

@@ -1,4 +1,4 @@
-// The properties of an item: one row each.
+// The sheet of the properties of an item.
 
 #include "Sheet.h"
 
@@ -8,7 +8,7 @@ using norvane::Variant;
 namespace gallery {
 namespace {
 
-/// A pair of accessors as the list has them.
+/// A property with a pair of accessors in the list.
 template <class Value, class Argument>
 Property row(const char* name, MakeEditor<Value> make, Value (nvList::*read)(const Variant&),
              void (nvList::*write)(const Variant&, Argument)) {
@@ -17,7 +17,7 @@ Property row(const char* name, MakeEditor<Value> make, Value (nvList::*read)(con
       [write](const Subject& on, const Value& value) { (on.list().*write)(on.item, value); });
 }
 
-/// A colour that the list gives as a number only, and not while it is "def".
+/// A colour whose accessor returns a number and fails for "def"; read from the item instead.
 Property ownNumber(const char* name, Variant norvane::ListItem::*field,
                    void (nvList::*write)(const Variant&, norvane::Colour)) {
   return property<Variant>(

@@ -10,7 +10,7 @@ using norvane::nvList;
 namespace gallery {
 namespace {
 
-/// Names and values in the order of the older form: all that it takes to keep texts.
+/// Writes a file in the older format, as far as texts need it.
 class Store {
  public:
   Store() {
@@ -50,11 +50,11 @@ class Store {
   QDataStream out_{&bytes_, QIODevice::WriteOnly};
 };
 
-/// A list file brings the marks of its items, and leaves the current item to its host.
+/// A list file restores which items are selected, but not the current item.
 void takeCurrentFromMarks(nvList& list) {
   for (std::int32_t i = 0; i < list.ItemsCount(); ++i) {
     if (!list.state().Items.at(i).Selected) continue;
-    // Making one item current takes the marks off the others.
+    // Setting ListIndex deselects all other items.
     return list.MultiSelect() ? list.ItemSelected(i, true) : list.ListIndex(i);
   }
   if (list.ItemsCount() > 0) list.ItemSelected(0, false);
@@ -79,7 +79,7 @@ QString saveOlderFile(const nvList& list, const QString& path) {
   return QString("Cannot write %1: %2").arg(path, file.errorString());
 }
 
-/// Place and scroll bars are the host's after this.
+/// ListInput leaves the position and the scroll bars to the host.
 void openListFile(nvList& list, const QString& path, Properties properties) {
   list.ListInput(path.toStdString(), properties == Properties::kept);
   takeCurrentFromMarks(list);
@@ -87,7 +87,7 @@ void openListFile(nvList& list, const QString& path, Properties properties) {
   list.CheckScroll();
 }
 
-/// Both switches are off afterwards, and a host's own to turn on.
+/// ListInput2 leaves AutoCheckScroll and AutoRedraw off.
 void importText(nvList& list, const QString& path, const QString& delimiter) {
   list.ListInput2(path.toStdString(), delimiter.toStdString());
   list.AutoCheckScroll(true);

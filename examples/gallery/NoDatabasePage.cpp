@@ -2,7 +2,7 @@
 
 namespace gallery {
 
-/// In the place of DatabasePage.cpp where there is nothing to read a database with.
+/// Replaces DatabasePage.cpp in builds without Qt Sql.
 void fillDatabase(Stage& stage) { stage.say("This gallery was built without Qt's module Sql."); }
 
 }  // namespace gallery

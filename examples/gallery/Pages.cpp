@@ -17,7 +17,7 @@ using norvane::Picture;
 namespace gallery {
 namespace {
 
-/// Rows of their own height: where MinHeight says another one, the edit box stands off its row.
+/// Sets the height of the rows by their font: with MinHeight, the edit box would not cover its row.
 void setFontSize(nvList& list, float points) {
   const norvane::Font font = norvane::CloneFont(list.Font());
   font->Size = points;
@@ -78,7 +78,7 @@ void fillChecks(Stage& stage) {
     item.aAllowEdit = true;
     list.ItemsAdd(item);
   }
-  // On a row with a background of its own FullRowSelect and IconSelect make a difference.
+  // FullRowSelect and IconSelect are visible on a row with its own background.
   list.ListIndex(9);
 }
 
@@ -113,7 +113,7 @@ void fillIcons(Stage& stage) {
                    .aIcon = icon(glyph, size),
                    .aIconSelected = selected ? icon(selected, size) : nullptr,
                    .aAllowEdit = true});
-  // Whatever an icon's own size, it is stretched to IconW by IconH.
+  // Icons of any size are stretched to IconW by IconH.
   for (const int own : {16, 32, 48, 64})
     list.ItemsAdd({.aText = QString("clock-%1.png|right=%1 x %1").arg(own).toStdString(),
                    .aIcon = norvane::QtPicture::fromImage(drawn(clock, own)),

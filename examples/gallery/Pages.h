@@ -17,29 +17,29 @@ class QHBoxLayout;
 
 namespace gallery {
 
-/// Where a page stands: its lists, two in a row, or whatever else it shows.
+/// The area of a page: its lists, two in a row, or other content.
 class Stage : public QWidget {
  public:
-  /// `sink` hears every list; it has to outlive the stage.
+  /// `sink` receives the events of every list and must outlive the stage.
   explicit Stage(norvane::__nvList& sink) : sink_(sink) {}
 
-  /// A new list to fill, with AutoRedraw off until the stage is ready. A caption stands above the
-  /// list, and none where it is empty.
+  /// Adds a list to fill, with AutoRedraw off until ready() is called. A caption that is not empty
+  /// is shown above it.
   norvane::nvList& addList(const QString& name, const QString& caption = {});
 
-  /// A new row above the lists that there are by now, for what the page has of its own.
+  /// Adds a row for other widgets of the page above the lists added so far.
   QHBoxLayout* addRow();
 
-  /// Shows a line in the place of lists.
+  /// Shows a message instead of lists.
   void say(const QString& line);
 
-  /// Told of work that takes its time, just before it begins.
+  /// Called before work that takes long.
   std::function<void(const QString& what)> onTold;
   void tell(const QString& what) {
     if (onTold) onTold(what);
   }
 
-  /// Ends the filling: the lists are painted, from the top.
+  /// Call it once the lists are filled: paints them from the top.
   void ready();
 
   const std::vector<norvane::NvListWidget*>& lists() const { return lists_; }
@@ -58,9 +58,9 @@ struct SampleText {
 };
 
 struct Page {
-  const char* name;   ///< that --page takes
-  const char* title;  ///< in the chooser and, unless the stage has one, of the window
-  const char* about;  ///< what there is to see
+  const char* name;   ///< for --page
+  const char* title;  ///< in the chooser, and of the window unless the stage has its own
+  const char* about;  ///< one line above the lists
   Glyph icon;
   /// Adds lists to the stage and fills them.
   std::function<void(Stage&)> fill;
@@ -68,10 +68,10 @@ struct Page {
 
 QList<Page> allPages(const SampleText& text);
 
-/// An icon for a place of `size`: on a dense screen with the pixels that it has there.
+/// An icon of `size` logical pixels, drawn at the resolution of the screen.
 norvane::Picture icon(const Glyph& glyph, int size = 16);
 
-/// A colour as the lists have it.
+/// Converts a colour to the list's format.
 norvane::Colour hostColour(QRgb rgb);
 
 /// The page of the scroll bars, which has no list.
@@ -80,7 +80,7 @@ void fillBars(Stage& stage);
 /// The page of list files and text files.
 void fillFiles(Stage& stage);
 
-/// The page of a database, which says so where none can be read.
+/// The page of a database. Shows a message if the database cannot be read.
 void fillDatabase(Stage& stage);
 
 }  // namespace gallery

@@ -7,8 +7,8 @@
 
 namespace gallery {
 
-/// Hears how far lists are with saving and reading files, and tells it now and then: a list raises
-/// an event for each item.
+/// Reports the progress of saving and reading files. A list raises an event for each item, so it is
+/// reported only every `interval`.
 class Progress : public norvane::__nvList {
  public:
   std::function<void(const char* doing, std::int32_t item)> onTold;

@@ -1,4 +1,4 @@
-// The properties of the list: one row each.
+// The sheet of the properties of the list.
 
 #include <nvlist/core/storedProperties.h>
 #include <nvlist/objects/Error.h>
@@ -84,7 +84,7 @@ Property row(const char* name, MakeEditor<Value> make, Value (nvList::*read)() c
       [write](const Subject& on, const Value& value) { (on.list().*write)(value); });
 }
 
-/// The list applies a new choice of scroll bars at the next CheckScroll, which is up to the host.
+/// The list applies a new value at the next CheckScroll, which the host must call.
 Property scrollBars() {
   const char* const name = "ScrollBars";
   return property<int>(
@@ -111,7 +111,7 @@ Property designMode() {
       });
 }
 
-/// One value for the whole program.
+/// Applies to all lists of the program.
 Property silentError() {
   return property<norvane::Boolean>(
       "SilentError", flag(), [](const Subject&) { return norvane::Error().SilentError(); },

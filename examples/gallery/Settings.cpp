@@ -34,7 +34,7 @@ class WatchedBag final : public PropertyBag {
   mutable std::string lastRead_;
 };
 
-/// The items, selection and position of a list, which loading its properties resets.
+/// The items, selection and position of a list. Loading its properties resets them.
 class Content {
  public:
   explicit Content(nvList& list) : current_(list.ListIndex()), top_(list.TopIndex()) {

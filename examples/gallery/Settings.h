@@ -7,15 +7,15 @@
 
 namespace gallery {
 
-/// Stores the properties of a list as a text file. Throws a message for the user where the file
-/// cannot be written.
+/// Saves the properties of a list to a text file. Throws a message for the user if the file cannot
+/// be written.
 void saveSettings(norvane::nvList& list, const QString& path);
 
-/// Gives a list the properties of such a file and its own items again. Throws a message for the
-/// user where the file cannot be read. A value that its property cannot take is reported by the
-/// list, which then has the properties it had before.
+/// Loads the properties of a list from such a file and keeps its items. Throws a message for the
+/// user if the file cannot be read. If a value is invalid for its property, the list reports it and
+/// keeps all its properties.
 ///
-/// The result tells what in the file was of no use, a line each.
+/// Returns a line for each entry of the file that could not be used.
 QStringList loadSettings(norvane::nvList& list, const QString& path);
 
 }  // namespace gallery

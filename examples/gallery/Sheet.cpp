@@ -46,7 +46,7 @@ void Sheet::addField(const Property& property) {
   grid_->setRowMinimumHeight(row, 20);
 }
 
-/// The wheel scrolls the sheet rather than change the value under the pointer.
+/// Makes the wheel scroll the sheet instead of changing the value under the pointer.
 bool Sheet::eventFilter(QObject* watched, QEvent* event) {
   const bool isField = watched->parent() == widget();
   if (event->type() != QEvent::Wheel || !isField || static_cast<QWidget*>(watched)->hasFocus())

@@ -20,7 +20,7 @@ struct Command {
   const char* name;
   const char* hint;
   bool (*isPossible)(nvList&);
-  /// What the log shows of it.
+  /// The line in the log.
   QString (*call)(nvList&);
   void (*run)(nvList&);
 };
@@ -41,7 +41,7 @@ constexpr Switch switches[] = {
      &nvList::MultiSelect, &nvList::MultiSelect},
 };
 
-/// The mark of the selection travels with its item and ListIndex does not: it is sent after it.
+/// Sorting moves the selection with its item but not ListIndex, which is corrected here.
 void sort(nvList& list, norvane::cSortMode mode) {
   list.Sort(mode);
   if (list.MultiSelect() || list.ListIndex() < 0) return;
@@ -50,7 +50,7 @@ void sort(nvList& list, norvane::cSortMode mode) {
 }
 
 bool hasItems(nvList& list) { return list.ItemsCount() > 0; }
-/// A list that has lost its items keeps its ListIndex.
+/// ListIndex may be past the end, since removing items does not change it.
 bool isUpPossible(nvList& list) {
   return list.ListIndex() > 0 && list.ListIndex() < list.ItemsCount();
 }

@@ -11,16 +11,16 @@ namespace gallery {
 struct Switch;
 struct Command;
 
-/// A row of buttons for what one does to a list: the switches of editing, moving and selecting, the
-/// wheel, the order of the items.
+/// A row of buttons that act on a list: switches for editing, moving and multiple selection, the
+/// function of the wheel, and the order of the items.
 class Tools : public QWidget {
  public:
   Tools();
 
-  /// Told of each use, just before it takes effect.
+  /// Called before each action.
   std::function<void(const QString& what)> onUsed;
 
-  /// Shows what is switched on and what can be done now.
+  /// Updates the switches and disables the actions that are not possible now.
   void show(const Subject& subject);
 
  private:

@@ -26,7 +26,7 @@ int fail(const QString& message, int status) {
   return status;
 }
 
-/// The lines of a text file; throws its error message where it cannot be read.
+/// The lines of a text file. Throws a message if it cannot be read.
 QStringList linesOf(const QString& path) {
   if (QFileInfo(path).isDir()) throw QString("%1 is a folder, not a text file").arg(path);
   QFile file(path);
@@ -46,7 +46,7 @@ gallery::SampleText sampleText(const QStringList& files) {
   return {QFileInfo(files.first()).fileName(), linesOf(files.first())};
 }
 
-/// The index of a page by its name; throws a message that lists the names where there is none.
+/// The index of the page with this name. If none has it, throws a message that lists all names.
 int pageNamed(const QString& name, const QList<gallery::Page>& pages) {
   QStringList names;
   for (const gallery::Page& page : pages) names << page.name;
@@ -76,7 +76,7 @@ int main(int argumentCount, char** arguments) {
   const QCommandLineOption page("page", "Open this page; the first one without it.", "name");
   options.addOption(page);
 
-  // The file is read before anything of a window exists, so that a bad one is told in one line.
+  // The file is read first, so that a failure prints one line and opens no window.
   QStringList words;
   for (int i = 0; i < argumentCount; ++i) words << QString::fromLocal8Bit(arguments[i]);
   options.parse(words);
@@ -98,7 +98,7 @@ int main(int argumentCount, char** arguments) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argumentCount, arguments);
   application.setApplicationName("gallery");
-  application.setApplicationVersion("1.0.0");
+  application.setApplicationVersion(NVLIST_VERSION);
   options.process(application);
 
   gallery::GalleryWindow window(std::move(pages));

@@ -10,7 +10,6 @@ int main() {
   list.ItemsAdd("Linz", 0);
 
   std::cout << list.ItemsCount() << " items, " << list.VisibleItems() << " rows\n"
-            << "AT-6 stands at " << list.IndexByKey("AT-6") << ", V* at " << list.IsInList("V*")
-            << "\n"
+            << "AT-6 is at " << list.IndexByKey("AT-6") << ", V* at " << list.IsInList("V*") << "\n"
             << form.picture();
 }
