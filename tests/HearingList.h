@@ -10,8 +10,8 @@
 
 namespace norvane {
 
-/// A list of ten rows of 13 pixels that writes down what it tells its host. The arguments of events
-/// that the list does not read back are spoilt each time.
+/// A list of ten rows of 13 pixels that records its events and notifications. After each event it
+/// overwrites the arguments that the list does not read back.
 class HearingListTest : public ListTest, public __nvList {
  protected:
   HearingListTest() {
@@ -61,14 +61,14 @@ class HearingListTest : public ListTest, public __nvList {
     onWrongIndex(Index);
   }
 
-  /// What came since the last call, in its order: events, properties marked, refused indexes in
-  /// brackets, a * for each repaint.
+  /// Returns what was recorded since the last call, in order: events, changed properties, rejected
+  /// indexes in brackets, and a * for each repaint.
   std::string heard() {
     hearRepaints();
     return std::exchange(told, {});
   }
 
-  /// Empties the list and adds items with the texts 0, 1, ..., none of them current.
+  /// Clears the list and adds items with the texts 0, 1, ..., none of them current.
   void fill(int count) {
     list.AutoRedraw(false);
     list.ItemsClear();
@@ -92,14 +92,14 @@ class HearingListTest : public ListTest, public __nvList {
     return result;
   }
   std::string selected() { return marked(&ListItem::Selected); }
-  /// "current: selected", and what is out of the ordinary: the item on top, what is checked.
+  /// "current: selected", and anything unusual: the top item, checked items.
   std::string now() {
     std::string result = std::to_string(list.ListIndex()) + ": " + selected();
     if (list.TopIndex() > 0) result += ", top " + std::to_string(list.TopIndex());
     const std::string checked = marked(&ListItem::Checked);
     return checked.empty() ? result : result + ", checked " + checked;
   }
-  /// What came, and how it stands.
+  /// What was recorded, followed by the state.
   std::string outcome() {
     const std::string events = heard();
     return events + " | " + now();
@@ -142,10 +142,10 @@ class HearingListTest : public ListTest, public __nvList {
   std::function<void()> onPropertyChanged = [] {};
   std::function<void(Variant&)> onWrongIndex = [](Variant&) {};
   std::function<void(const std::string& event)> onEvent = [](const std::string&) {};
-  std::optional<std::int16_t> newButton;   ///< what a handler makes of the button
-  std::optional<std::int16_t> newKeyCode;  ///< and of the key
+  std::optional<std::int16_t> newButton;   ///< the button set by the MouseDown handler
+  std::optional<std::int16_t> newKeyCode;  ///< the key code set by the KeyDown handler
   Boolean cancel;
-  std::string arguments;  ///< of the last event of the mouse
+  std::string arguments;  ///< of the last mouse event
 
  private:
   void hearRepaints() {

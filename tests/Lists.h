@@ -12,7 +12,7 @@
 
 namespace norvane {
 
-/// A list without a screen in a program that collects every report.
+/// A headless list in a program that collects all reports.
 class ListTest : public testing::Test {
  protected:
   ~ListTest() override { Error().SilentError(false); }
@@ -23,7 +23,7 @@ class ListTest : public testing::Test {
     for (const std::string& text : texts) list.ItemsAdd(text);
   }
 
-  /// The texts of all items, parted by blanks.
+  /// The texts of all items, separated by blanks.
   std::string texts() {
     std::string result;
     for (int i = 0; i < list.ItemsCount(); ++i) result += (i ? " " : "") + item(i).Text;
@@ -32,7 +32,7 @@ class ListTest : public testing::Test {
 
   const ListItem& item(int index) { return list.state().Items.at(index); }
 
-  /// "number procedure" of each report so far, parted by commas; forgets them.
+  /// "number procedure" of each report since the last call, separated by commas.
   std::string reports() {
     std::string result;
     for (const auto& box : application.boxes) {

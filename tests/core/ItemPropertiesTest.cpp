@@ -20,7 +20,7 @@ struct Drawing : PictureObject {
   std::string name;
 };
 
-/// One property of an item, with a value that no new item has.
+/// One item property, with a value that new items do not have.
 struct Accessor {
   std::string name, zero, value;
   std::function<std::string(nvList&, const Variant& index)> read;

@@ -158,7 +158,7 @@ TEST_F(Items, CountsYieldOnceAnItemAndSeeTheListChange) {
   list.ItemsAdd({.aText = "c", .aChecked = true});
   headless.container().post([&] { list.ItemsAdd({.aText = "d", .aChecked = true}); });
   EXPECT_EQ(list.ItemsCheckCount(), 2);
-  // A count inside a count shares its position: the outer one goes on behind it.
+  // A nested count shares LoopIndex: the outer count continues after it.
   headless.container().post([&] { EXPECT_EQ(list.ItemsCheckCount(), 2); });
   EXPECT_EQ(list.ItemsCheckCount(), 2);
   headless.container().post([&] { list.ItemsClear(); });
@@ -208,7 +208,7 @@ TEST_F(Items, FindsByKeyAndByPattern) {
   EXPECT_EQ(list.IsInList("a*"), 0);
   EXPECT_EQ(list.IsInList("A*"), 1);
   EXPECT_EQ(list.IsInList("A*", cFindText), 0);
-  // Well-formed in one comparison alone.
+  // Well-formed in only one of the comparisons.
   EXPECT_EQ(list.IsInList("[Z-a]bc"), -1);
   EXPECT_EQ(list.IsInList("[a-Z]bc", cFindText), -1);
   EXPECT_EQ(reports(), "93 IsInList, 93 IsInList");

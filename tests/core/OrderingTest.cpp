@@ -13,7 +13,7 @@ namespace {
 using Order = std::vector<std::int32_t>;
 using Texts = std::vector<std::string>;
 
-/// The scheme word by word.
+/// The scheme, implemented literally.
 void sortPlainly(const std::string* texts, cSortMode mode, std::int32_t* order, int lo, int hi) {
   const auto isBefore = [&](int a, int b) {
     return mode == cAscending ? texts[a] < texts[b] : texts[a] > texts[b];
@@ -74,7 +74,7 @@ TEST(PartitionSort, LeavesEqualTextsWhereTheSchemeDoes) {
 
 TEST(PartitionSort, TakesHostileTextsInItsStride) {
   const Texts texts = hostileTexts(300000, 0);
-  // Splitting off one at a time would take longer than a test may, and overrun the stack.
+  // Splitting off one text at a time would exceed the time limit and overflow the stack.
   const Order order = orderOf(texts, cAscending);
   for (std::size_t i = 1; i < order.size(); ++i)
     ASSERT_LT(texts.data()[order[i - 1]], texts.data()[order[i]]);
@@ -151,16 +151,16 @@ TEST_F(Ordering, MovesTakeTheItemsOnTheWayAlong) {
       {down, 4, 1, "a b c d e", 2, 0},
       // A bad index.
       {up, "x", 1, "a b c d e", 2, 0},
-      // A negative count loses the item at the far place.
+      // A negative count loses the item at the target.
       {up, 1, -3, "a b c d b", 5, 1},
       {down, 2, -2, "c b c d e", 0, 1},
-      // Two texts are joined: past the end, and to place 3.
+      // Two texts are concatenated: past the end, and index 3.
       {down, "1", "2", "a c d e b", 5, 1},
       {down, "0", "3", "b c d a e", 5, 1},
-      // Each place is rounded by itself.
+      // Each position is rounded separately.
       {up, 3.5, 2, "a b e d c", 0, 1},
       {up, 3, 2.5, "d b b c e", 0, 1},
-      // A failure leaves the list as it was.
+      // A failure leaves the list unchanged.
       {up, 2, "x", "a b c d e", 2, 0, "13 MoveItemUp"},
       {up, 2, -3, "a b c d e", 2, 0, "9 MoveItemUp"},
       {down, 2, -1e10, "a b c d e", 2, 0, "6 MoveItemDown"},
@@ -187,7 +187,7 @@ TEST_F(Ordering, MovesLeaveMarksAndTheSharedPositionRight) {
   list.MoveItemDown(0, 3);
   EXPECT_EQ(list.state().LoopIndex, 4);
   list.MoveItemDown(1, -1);
-  // The item that stands twice is one.
+  // Both slots hold the same item.
   list.ItemText(1, "z");
   list.ListIndex(0);
   EXPECT_EQ(texts(), "z z d c e");

@@ -7,7 +7,7 @@ namespace {
 
 using Persistence = ListTest;
 
-/// Every property but the font, in the order of storing, with a value that is not its default.
+/// Every property except the font, in stored order, with a value that is not its default.
 const std::pair<std::string, Variant> otherValues[] = {
     {"ForeColor", 1},           {"BackColor", systemColour(5)},
     {"Enabled", false},         {"ClickOnIndexChange", 1},
@@ -53,7 +53,7 @@ TEST_F(Persistence, EveryPropertyComesBackInItsOrder) {
     const bool isFlag = property.type == PropertyType::Boolean;
     const double number = isFlag ? value.toBoolean().number() : value.toNumber();
     EXPECT_EQ(written.properties()[i + 1].value.toNumber(), number) << name;
-    // The table by itself, on a list with its defaults.
+    // The table alone, on a list with default values.
     EXPECT_EQ(property.get(list).toNumber(), property.defaultValue.toNumber()) << name;
     property.set(list, value);
     EXPECT_EQ(property.get(list).toNumber(), number) << name;
@@ -65,7 +65,7 @@ TEST_F(Persistence, EveryPropertyComesBackInItsOrder) {
   font.set(list, font.get(other.list()));
   EXPECT_EQ(list.Font()->Name, "Sans \"x\"");
 
-  // As text and back, twice the same.
+  // To text and back, with the same result twice.
   const std::string text = propertyText(written);
   list.UserControl_ReadProperties(propertiesOf(text));
   PropertyBag again;
@@ -80,7 +80,7 @@ TEST_F(Persistence, DefaultsAreNotStored) {
   PropertyBag bag;
   list.UserControl_WriteProperties(bag);
   EXPECT_EQ(propertyText(bag), "");
-  // What was stored before goes.
+  // Values stored before are removed.
   bag = otherBag();
   list.UserControl_WriteProperties(bag);
   EXPECT_EQ(propertyText(bag), "");

@@ -65,7 +65,7 @@ TEST(RepeatedTexts, TakesManyAndLongTextsInItsStride) {
     letters += static_cast<char>('a' + i % 26);
   }
   texts.insert(texts.end(), {commas, letters, commas.substr(1), letters.substr(1), " John"});
-  // A search through all that was kept would take longer than a test may.
+  // A linear search would exceed the time limit of a test.
   EXPECT_EQ(repeatedTexts(viewsOf(texts)), (Places{300002, 300003, 300004}));
 }
 

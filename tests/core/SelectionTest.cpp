@@ -117,7 +117,7 @@ TEST_F(Selection, SelectingAnItemStoresTheTruthValueAsListIndex) {
     list.ItemSelected(c.index, c.value);
     EXPECT_EQ(list.TopIndex(), c.newTop) << c.top << " " << c.index.toText();
   }
-  // The window is that of the bar, which a repaired TopIndex leaves behind.
+  // The visible rows follow the bar, whose value a corrected TopIndex does not change.
   list.AutoCheckScroll(false);
   fill(20);
   select({3});
@@ -167,7 +167,7 @@ TEST_F(Selection, RemovingTheSelectedLeavesTheOthersAndGoesToTheTop) {
   fill(40);
   list.TopIndex(20);
   select({24, 25});
-  // Of the yields those of a removal come first, and then one for each item and two at the end.
+  // The yields of a removal come first, then one for each item and two at the end.
   for (int i = 0; i < 15 + 14 + 40 + 2 + 1; ++i) headless.container().post({});
   heard();
   list.ItemsSelectedRemove();

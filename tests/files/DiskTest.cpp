@@ -19,7 +19,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Real files in a folder of their own.
+/// Real files in a temporary folder.
 class Disk : public ListTest, protected __nvList {
  protected:
   Disk() {
@@ -41,12 +41,12 @@ class Disk : public ListTest, protected __nvList {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
   }
-  /// Puts a file there whose first byte a saved list would change.
+  /// Creates a file whose first byte changes when a list is saved to it.
   std::string oldFile(const std::string& name = "old") {
     std::ofstream(at(name)) << "old contents";
     return at(name);
   }
-  /// Saves a list of one item; false if that raised ErrorListSave.
+  /// Saves a list of one item. Returns false if that raised ErrorListSave.
   bool save(const std::string& path) {
     list.ItemsClear();
     list.ItemsAdd("a");
@@ -75,7 +75,7 @@ TEST_F(Disk, FindsFilesByWildcards) {
   for (const char* missing : {"one", "?one.txt", "bare.?", "folder/", "none/*", "[#][1]*"})
     EXPECT_FALSE(FileExists(at(missing))) << missing;
   EXPECT_FALSE(FileExists(""));
-  // Not the file that the system would find, which cuts names at the zero.
+  // Not the file that the system would find by cutting the name at the zero.
   for (const char* behind : {"", "x", "*"})
     EXPECT_FALSE(FileExists(at("bare") + '\0' + behind)) << behind;
   EXPECT_EQ(reports(), "");
@@ -119,7 +119,7 @@ TEST_F(Disk, KeepsWhatAFileIs) {
     EXPECT_FALSE(save(at("read only")));
     EXPECT_EQ(contents(at("read only")), "old contents");
 
-    // Links: to a file, to no file yet, to a device, and hard.
+    // Symbolic links to a file, a missing file and a device, and a hard link.
     fs::create_symlink(fs::path(oldFile("target")).filename(), at("link"));
     fs::create_symlink("new target", at("dangling"));
     fs::create_symlink("/dev/full", at("device"));
@@ -133,7 +133,7 @@ TEST_F(Disk, KeepsWhatAFileIs) {
     EXPECT_TRUE(save(at("first name")));
     EXPECT_EQ(contents(at("second name")), isBeside ? "old contents" : saved);
 
-    // A pipe that nobody reads would block, and a device be read without end.
+    // A pipe without a reader would block, and a device would be read endlessly.
     ASSERT_EQ(mkfifo(at("pipe").c_str(), 0600), 0);
     EXPECT_FALSE(save(at("pipe")));
     failures = 0;
@@ -150,7 +150,7 @@ TEST_F(Disk, LocksAFileWhileItIsSaved) {
     files.savesBeside(isBeside);
     oldFile();
     int inside = -1;
-    // In a process of its own, which sees the same files.
+    // In a separate process that sees the same files.
     onSaving = [&] {
       const pid_t child = fork();
       if (child == 0) _exit(save(at("old")) ? 1 : 2);

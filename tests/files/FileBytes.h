@@ -14,7 +14,7 @@ inline std::string byte(int value) { return little(value, 1); }
 inline std::string int16(int value) { return little(value, 2); }
 inline std::string int32(int value) { return little(value, 4); }
 inline std::string zeros(std::size_t count) { return std::string(count, '\0'); }
-/// A text after its length.
+/// The length of a text, then the text.
 inline std::string text(const std::string& bytes) {
   return int32(static_cast<int>(bytes.size())) + bytes;
 }

@@ -13,7 +13,7 @@ namespace norvane {
 
 using namespace bytes;
 
-/// A list and files in memory, with every event of list files written down.
+/// A list and files in memory; records every event of list files.
 class FileTest : public ListTest, protected __nvList {
  protected:
   FileTest() {
@@ -27,7 +27,7 @@ class FileTest : public ListTest, protected __nvList {
   void ListSaving(Variant& Index) override { progress(Index); }
   void ListReading(Variant& Index) override { progress(Index); }
 
-  /// What was heard and reported since the last call.
+  /// The events and reports since the last call.
   std::string events() {
     EXPECT_EQ(memory.open, 0);
     return std::exchange(heard, "") + reports();
@@ -48,8 +48,8 @@ class FileTest : public ListTest, protected __nvList {
     EXPECT_EQ(list.ItemsCount(), 0) << what;
   }
 
-  /// Runs `operation` with the first, the second, ... file operation failing, until none does any
-  /// more, and tells what was heard each time.
+  /// Runs `operation` with the first, the second, ... file operation failing, until none fails any
+  /// more, and returns the events of each run.
   template <class Operation>
   std::string eachFailing(Operation&& operation) {
     std::string result;
@@ -66,7 +66,7 @@ class FileTest : public ListTest, protected __nvList {
 
   MemoryFiles memory;
   std::string heard;
-  /// What the host does for each item of a list that is saved or read.
+  /// What the host does for each item saved or read.
   std::function<void(Variant&)> onProgress;
 
  private:
@@ -76,7 +76,7 @@ class FileTest : public ListTest, protected __nvList {
   }
 };
 
-/// A picture with the bytes that it is given.
+/// A picture with the given bytes.
 class BytePicture final : public PictureObject {
  public:
   explicit BytePicture(std::string bytes) : bytes_(std::move(bytes)) {}

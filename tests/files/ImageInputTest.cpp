@@ -38,7 +38,7 @@ TEST_F(ImageInput, ReadsEveryProperty) {
   list.ColorStyle(cXPOlive);
   input(image(full));
   EXPECT_EQ(told(0), "\u00c4 110 2 1 2 3 4 5 6 icon selected");
-  // What is not in the store has the defaults of the store.
+  // Values missing in the store have the defaults of the store.
   EXPECT_EQ(told(1), "b 001 0 16777215 0 " + std::to_string(0x70A093) + " 0 0 16777215 none none");
   EXPECT_EQ(events(), "0 1 ");
   EXPECT_EQ(list.ListFileItemsCount("file"), 2);
@@ -50,7 +50,7 @@ TEST_F(ImageInput, LetsTheHostInBetweenTheItems) {
   int yields = 0;
   for (int i = 0; i < 2; ++i)
     headless.container().post([&] {
-      // By then the loop stands at the next item.
+      // The loop has already advanced to the next item.
       EXPECT_EQ(list.state().LoopIndex, ++yields);
     });
   headless.surface().Cls();
@@ -63,7 +63,7 @@ TEST_F(ImageInput, LetsTheHostInBetweenTheItems) {
     input(image(full));
     EXPECT_EQ(texts(), "\u00c4 ");
   }
-  // An item that is read again keeps what the file has nothing to say of.
+  // An item that is read again keeps what the file does not specify.
   onProgress = [&](Variant& Index) {
     onProgress = nullptr;
     list.ItemBold(0, true);
@@ -73,7 +73,7 @@ TEST_F(ImageInput, LetsTheHostInBetweenTheItems) {
   input(image(full), false);
   EXPECT_EQ(told(0), "\u00c4" + ordinary);
   EXPECT_TRUE(item(0).Bold);
-  // The handler loads another image into the store that is being read.
+  // The handler loads another image while this one is being read.
   onProgress = [&](Variant&) {
     onProgress = nullptr;
     input(image(number("count", 1) + words("i0Text", "inner")));
@@ -102,7 +102,7 @@ TEST_F(ImageInput, RaisesTheEventOnTheWay) {
     EXPECT_EQ(events(), expected);
     EXPECT_EQ(list.ItemsCount(), count);
   }
-  // Of the item that failed there is what stood before the failure.
+  // The failed item has what was read before the failure.
   EXPECT_EQ(told(1), "b 001 0 16777215 0 12937777 0 0  none none");
 }
 
@@ -110,7 +110,7 @@ TEST_F(ImageInput, IsNotTakenFromAnyOtherFile) {
   const std::string whole = image(full);
   std::vector<std::string> files = {image(number("Count", 1)), image(number("count", -1)),
                                     image(property("count", 5, "12345678"))};
-  // Another tag, dimension, index, signature, name, and kind.
+  // Wrong tag, dimension, index, signature, name and kind.
   for (const std::size_t place : {0U, 2U, 3U, 8U, 12U, 18U, 23U}) {
     files.push_back(whole);
     files.back()[place] ^= 0x20;
@@ -121,7 +121,7 @@ TEST_F(ImageInput, IsNotTakenFromAnyOtherFile) {
     EXPECT_LE(list.ListFileItemsCount("file"), 0);
     EXPECT_EQ(events(), "input! ");
   }
-  // Cut within the contents; only a cut between two properties leaves an image.
+  // Truncated contents: only a cut between two properties leaves a valid image.
   for (std::size_t size = 0; size < full.size(); ++size) {
     input(image(full.substr(0, size)));
     EXPECT_EQ(list.ListFileItemsCount("file") == 2, heard != "input! ") << size;

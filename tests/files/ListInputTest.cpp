@@ -7,7 +7,7 @@ namespace {
 
 class ListInput : public FileTest {
  protected:
-  /// Every field of an item, but for its pictures.
+  /// Every field of an item except its pictures.
   static std::string told(const ListItem& item) {
     std::string result = item.Text + "|";
     for (const Boolean flag : {item.Checked, item.AllowEdit, item.Enabled, item.Selected, item.Bold,
@@ -54,7 +54,7 @@ TEST_F(ListInput, GivesDefaultsWithoutTheArgument) {
   input(header(1, true) + record + record, false);
   EXPECT_EQ(events() + texts() + fileOf(item(0).Icon), "a anone");
   EXPECT_EQ(told(item(0)), ordinary("a"));
-  // Keys and tags that nobody wants are left in the file, for what follows them.
+  // Keys and tags that are not requested stay in the file and are misread.
   const std::string readAsTagAndIcons = zeros(6), readAsText = zeros(6);
   input(header(1, true) + text("a") + fields() + flagsAndKeys(readAsTagAndIcons, "").substr(0, 14) +
             readAsText + zeros(52),
@@ -70,7 +70,7 @@ TEST_F(ListInput, ReadsTheSecondPictureAsIcon) {
   EXPECT_EQ(icons("\1" + text("one") + "\1" + text("two")), "two none ");
   EXPECT_EQ(icons(byte(0) + "\1" + text("two")), "two none ");
   EXPECT_EQ(icons("\1" + text("one") + byte(0)), "none none ");
-  // A picture that is none.
+  // Invalid pictures.
   EXPECT_EQ(icons("\1" + text("") + "\1" + text("two")), "two none 481 GetStringPicture");
 }
 
@@ -89,7 +89,7 @@ TEST_F(ListInput, GoesOnBehindAColourThatIsNone) {
   EXPECT_EQ(events(), "input! 13 HTML2VBColor");
   silent();
   EXPECT_EQ(colour("0A--0B"), std::to_string(0x0B000A) + " 13 ");
-  // The disabled ones cannot be "def".
+  // The disabled colours cannot be "def".
   for (const char* two : {"   def000000", "000000   def"}) {
     const std::string six = "000000", wrong(two);
     expectRefused(header(0, true) + text("a") + "\1" + six + wrong.substr(0, 6) + six + zeros(2) +
@@ -110,7 +110,7 @@ TEST_F(ListInput, TouchesNothingButTheItems) {
   input(header(1, true) + record + noIcons + record + noIcons);
   EXPECT_NE(headless.picture().find("new"), std::string::npos);
   EXPECT_EQ(list.ListIndex(), 2);
-  // A mark that was read goes like any other, also where one is known of.
+  // A mark that was read is cleared like any other, even if another mark is known.
   for (const std::string& icons : {noIcons, "\1" + text("picture") + byte(0)}) {
     for (const int knownBefore : {-1, 1}) {
       list.ListIndex(knownBefore);
@@ -139,7 +139,7 @@ TEST_F(ListInput, RefusesAFileCutAnywhere) {
     for (std::size_t size = 0; size < whole.size(); ++size) {
       input(whole.substr(0, size));
       EXPECT_EQ(events(), "input! ") << size;
-      // A file that ends before its items begin leaves those of the list.
+      // A file that ends before its items begin leaves the list unchanged.
       EXPECT_EQ(list.ItemsCount(), size < 7 ? 2 : 0) << size;
     }
     EXPECT_EQ(list.state().Items.upperBound(), 1);
@@ -201,7 +201,7 @@ TEST_F(ListInput, BringsBackWhatWasSaved) {
   }
 }
 
-/// Items are made of the file when they are looked at; whatever is done before must not show it.
+/// Items are created on first access; operations before that must not reveal it.
 TEST_F(ListInput, ChangesItemsThatNobodyHasSeenLikeOthers) {
   const std::function<void()> changes[] = {
       [&] { list.ItemsAdd("last"); },
@@ -242,10 +242,10 @@ TEST_F(ListInput, EndsInTheEventWhereverAFileFails) {
     add({"a", "b"});
     const std::string notFound = isSilent ? "[input! ]" : "[input! 57 FileExists]";
     const std::string unread = isSilent ? "[]" : "[57 TextRead]";
-    // Opening, writing, closing.
+    // Open, write, close.
     EXPECT_EQ(eachFailing([&] { save(); }), "[save! ][0 1 save! ][0 1 save! ]");
-    // Looking for it twice, at the older form, and reading it: opening, header, size, the rest,
-    // closing.
+    // Two existence checks, a check for the older format, and reading: open, header, size, the
+    // rest, close.
     save();
     events();
     EXPECT_EQ(eachFailing([&] { list.ListInput("file", true); }),

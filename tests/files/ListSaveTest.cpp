@@ -5,7 +5,7 @@ namespace {
 
 using ListSave = FileTest;
 
-/// What stands behind the text of an item that has nothing of its own.
+/// What follows the text of an item with default properties.
 const std::string ordinary = byte(0) + "   def160101   def" + byte(0) + byte(0xFF) +
                              "   def110101   def" + zeros(5) + text("") + text("") + zeros(2);
 
@@ -76,7 +76,7 @@ TEST_F(ListSave, GoesOnBehindAPictureWithoutBytes) {
 TEST_F(ListSave, EndsAtAnItemThatCannotBeWritten) {
   list.ItemsAdd({.aText = "a"});
   list.ItemsAdd({.aText = "b", .aTag = Ref<Object>(makeRef<Object>())});
-  // What was written before stays.
+  // What was written before the failure stays.
   EXPECT_EQ(save(), header(1, true) + text("a") + ordinary + text("b") +
                         ordinary.substr(0, ordinary.size() - 6));
   EXPECT_EQ(events(), "0 save! ");
@@ -93,7 +93,7 @@ TEST_F(ListSave, GoesOnFromWhereTheHostPutsIt) {
     std::string heard;
   } cases[] = {{[](Variant& Index) { Index = "x"; }, "0 save! "},
                {[](Variant&) { throw 1; }, "0 save! "},
-               // The position is the one by which all loops of the list go.
+               // The index is shared by all loops of the list.
                {[this](Variant&) { list.ItemsCheckCount(); }, "0 "},
                {[this](Variant&) { list.ItemsRemove(0); }, "0 save! "}};
   events();

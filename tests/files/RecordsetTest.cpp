@@ -7,7 +7,7 @@ namespace {
 
 using Values = std::vector<std::optional<Variant>>;
 
-/// Rows of one field; nothing is Null. Any member can be taken away.
+/// Rows of one field, never Null. Any member can be removed.
 class Rows final : public Recordset {
  public:
   Rows(Values rows, std::string lacks)
@@ -77,7 +77,7 @@ TEST_F(RecordsetBinding, ReplacesTheItemsByTheFirstFields) {
   EXPECT_FALSE(list.AutoRedraw());
   EXPECT_TRUE(list.AutoCheckScroll());
   EXPECT_NE(headless.picture().find("\"a\""), std::string::npos);
-  // Bars are fitted whatever AutoCheckScroll says.
+  // Bars are adjusted whatever AutoCheckScroll is.
   list.AutoCheckScroll(false);
   list.Recordset(rows(Values(30, "a")));
   EXPECT_GT(list.verticalBar().Max(), 0);
@@ -112,7 +112,7 @@ TEST_F(RecordsetBinding, ReportsWhatIsMissingAndEnds) {
 TEST_F(RecordsetBinding, PassesOverWhatIsMissingInSilence) {
   silent();
   EXPECT_EQ(filled(rows({"a", std::nullopt, "c"})), "onon 3:a  c");
-  // Without an end in sight the rows run out, and with them the fill.
+  // Without Eof, the operation ends when the rows run out.
   EXPECT_EQ(filled(lacking("E")), "onon 3:a b ");
   EXPECT_EQ(filled(lacking("FNE0")), "onon 1:");
   EXPECT_EQ(filled(makeRef<Object>()), "onon 1:");

@@ -1,5 +1,5 @@
-// Reads random files in every way in which a list reads files. What could be read must come back
-// from the file it is then saved to, and items that nobody has looked at yet must move like others.
+// Reads random files in all ways in which a list reads files. The result must survive saving and
+// loading, and items that were not accessed yet must move like others.
 
 #include <algorithm>
 #include <cstdint>
@@ -27,8 +27,8 @@ void require(bool condition) {
   if (!condition) std::abort();
 }
 
-/// Whether two items are the same in all that a list file keeps. A colour that is neither "def" nor
-/// a plain number is changed by it.
+/// Whether two items agree in everything that a list file preserves. It does not preserve a colour
+/// that is neither "def" nor a plain number.
 void requireSame(const ListItem& a, const ListItem& b) {
   const auto sameColour = [](const Variant& x, const Variant& y) {
     const bool isKept = isDefaultMark(x) || (x.type() == Variant::Type::Int32 && x.toInt32() >= 0 &&

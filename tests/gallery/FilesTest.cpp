@@ -13,7 +13,7 @@
 namespace gallery {
 namespace {
 
-/// A window on one of its pages, and a folder for files.
+/// A window that shows one of its pages, and a folder for files.
 class FilesTest : public testing::Test {
  protected:
   void showPage(const char* name) {
@@ -74,7 +74,7 @@ TEST_F(FilesTest, theSelectedItemOfAFileIsTheCurrentOne) {
   files.ListIndex(7);
   EXPECT_EQ(files.ItemsSelectCount(), 1);
 
-  // A file that breaks off leaves the list without items, and the tools nothing to do.
+  // A truncated file leaves the list empty and the tools disabled.
   files.ListIndex(7);
   ASSERT_TRUE(QFile::resize(path, 100));
   openListFile(files, path, Properties::kept);

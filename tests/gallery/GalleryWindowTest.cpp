@@ -71,7 +71,7 @@ TEST_F(GalleryWindowTest, theToolsWorkOnTheListAndFollowIt) {
   QCoreApplication::processEvents();
   EXPECT_TRUE(field<QToolButton>("Move")->isChecked());
 
-  // Sorted, the current item is still the same one.
+  // After sorting, the current item is still the same one.
   list.ListIndex(1);
   use("Z-A");
   EXPECT_EQ(list.ItemText(0), "two");
@@ -90,7 +90,7 @@ TEST_F(GalleryWindowTest, theSheetsFollowTheListAndItsCurrentItem) {
   QCoreApplication::processEvents();
   EXPECT_TRUE(field<QCheckBox>("ItemBold")->isChecked());
 
-  // Without a current item the first selected one is shown, and with none of them nothing.
+  // Without a current item the first selected one is shown; without a selection, nothing.
   list.ItemSelected(1, true);
   EXPECT_EQ(list.ListIndex(), -1);
   QCoreApplication::processEvents();

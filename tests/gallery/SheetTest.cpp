@@ -27,7 +27,7 @@ QString shownBy(QWidget* widget) {
   return {};
 }
 
-/// Gives the widget another value, as a user would, and returns that.
+/// Enters another value, as a user would, and returns it.
 QString change(QWidget* widget) {
   if (auto* box = qobject_cast<QCheckBox*>(widget)) box->click();
   if (auto* box = qobject_cast<QAbstractSpinBox*>(widget)) box->stepBy(5);
@@ -89,7 +89,7 @@ TEST_F(SheetTest, coloursAreTypedByName) {
   type(own, "red");
   EXPECT_EQ(widget.list().ItemForeColorSelect(1).toInt32(), 0x0000FF);
 
-  // What is no colour changes nothing and is not left standing.
+  // A text that is not a colour changes nothing and is replaced.
   sheet.show({&widget, 1});
   told.clear();
   for (const char* bad : {"reddish", "system 256", ""}) type(own, bad);

@@ -11,7 +11,7 @@ class Drag : public HearingListTest {
 
   HeadlessContainer& form = headless.container();
 
-  /// A press on a row of a longer list, and then the pointer past an edge.
+  /// A press on a row of a longer list, then a move past an edge.
   void dragPast(float y, int top) {
     fill(40);
     list.TopIndex(top);
@@ -70,13 +70,13 @@ TEST_F(Drag, TheDropLandsBeforeTheMarkedRow) {
     return heard() + " | " + texts() + " | " + now();
   };
   EXPECT_EQ(move(1, {2, 3}, 3), "** MouseUp Click | 0 2 1 3 4 | 2: 1");
-  // A host may have made the marked row the current one.
+  // A host may have made the marked row current.
   press(1), drag(3), list.ListIndex(3), heard();
   release(3);
   EXPECT_EQ(outcome(), "* MouseUp Click | 3: 3");
   EXPECT_EQ(move(0, {5}, 5), "** MouseUp Click | 1 2 3 4 0 | 4: 0");
   EXPECT_EQ(move(3, {1}, 1), "** MouseUp Click | 0 3 1 2 4 | 1: 3");
-  // Nothing keeps a drop without a mark: it goes to the top.
+  // A drop without a mark moves the item to the top.
   EXPECT_EQ(move(3, {}, 3), "** MouseUp Click | 3 0 1 2 4 | 0: 3");
   EXPECT_EQ(reports(), "");
 }
@@ -117,7 +117,7 @@ TEST_F(Drag, PastTheBottomItScrollsToTheEndAndOn) {
   list.AllowItemMoving(true);
   dragPast(below, 20);
   EXPECT_EQ(after(3), "23, 32");
-  // The release of another button in the middle of it stops it as long as the pointer rests.
+  // Releasing another button meanwhile stops it as long as the pointer does not move.
   dragPast(below, 10);
   form.press(besideZone, below, 2), form.release(besideZone, below, 2);
   EXPECT_EQ(ticks(5), 0U);

@@ -7,7 +7,7 @@ class Edit : public HearingListTest {
  protected:
   Edit() { open(); }
 
-  /// A list of forty items that may be edited, the box on the third one after its row was clicked.
+  /// A list of forty editable items, with the box open on the third one.
   void open() {
     fill(40);
     list.AllowEdit(true);
@@ -16,7 +16,7 @@ class Edit : public HearingListTest {
     heard();
   }
 
-  /// "closed", or the text and the place of the box.
+  /// "closed", or the text and bounds of the box.
   std::string editing() { return editing(box()); }
   static std::string editing(const HeadlessTextBox& in) {
     const Bounds& place = in.place();
@@ -70,7 +70,7 @@ TEST_F(Edit, ThePlaceIsThatOfTheStyleAndOfTheLastPress) {
   other.container().release(50, 50);
   other.list().IconW(20);
   other.list().IndentLeft(5);
-  // Rows are higher than their text; the box goes by the text.
+  // Rows are higher than their text; the box follows the text.
   other.list().MinHeight(20);
   EXPECT_EQ(place(cIcons), "a (27, 29) 171x14");
 }
@@ -127,7 +127,7 @@ TEST_F(Edit, WhatFailsOnTheWay) {
   silent();
   list.SetEdit(3);
   Error().SilentError(false);
-  // Without a current item there is nowhere to write: the key is the box's.
+  // Without a current item there is nothing to write: the box keeps the key.
   list.ItemSelected(0, true);
   EXPECT_TRUE(box().typeCharacter(13));
   EXPECT_EQ(reports(), "9 Text1_KeyPress");

@@ -7,7 +7,7 @@ class Mouse : public HearingListTest {
  protected:
   Mouse() {
     fill(5);
-    // The frame would hear the mouse at the edges.
+    // The frame would receive the mouse events at the edges.
     list.BorderVisible(false);
   }
 };
@@ -63,7 +63,7 @@ TEST_F(Mouse, APressFindsTheRowsFromAPlaceOfItsOwn) {
   EXPECT_EQ(pressed(16.5), 0);
   EXPECT_EQ(pressed(65), 4);
   EXPECT_EQ(pressed(65.5), -1);
-  list.MinHeight(17.5);  // rows are 18 pixels high for the hand
+  list.MinHeight(17.5);  // rows are 18 pixels high for hit tests
   EXPECT_EQ(pressed(39), 1);
 }
 

@@ -51,7 +51,7 @@ TEST_F(WheelScrolls, TheHookLastsFromTheReadingToTheEnd) {
 
 TEST_F(WheelScrolls, TheBarByLinesAndAtTheEndsBySnapping) {
   fill(40);
-  // A scroll is told twice: by the bar's handler and by the wheel's.
+  // A scroll is reported twice: by the bar and by the wheel.
   const std::string moved = "* Scroll Scroll*";
   const struct {
     int top, lines, delta, newTop;

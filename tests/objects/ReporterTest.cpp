@@ -7,7 +7,7 @@
 namespace norvane {
 namespace {
 
-/// A failure in a known procedure, and all that becomes of it.
+/// A failure in a known procedure, and its consequences.
 class Reporter : public ListTest {
  protected:
   void fail() {
@@ -91,7 +91,7 @@ TEST_F(Reporter, AsksTheOutsideHandlerFirst) {
   EXPECT_EQ(application.boxes.size(), 1U);
 }
 
-/// A program of which every call finds no memory left, apart from the message box.
+/// A program in which every call runs out of memory, except the message box.
 class NoMemory final : public Program {
  public:
   ApplicationFacts facts() override { throw std::bad_alloc(); }
@@ -112,7 +112,8 @@ TEST_F(Reporter, ExhaustedMemoryNeverReachesTheHost) {
   EXPECT_TRUE(program.box.ends_with("/Proc\r\nVersion: 0.0.0"));
 }
 
-/// A host implements what it has, and gets the service before back where its own ends.
+/// A host implements the services it has; the previous service is restored when its own is
+/// destroyed.
 TEST_F(Reporter, ServicesAreInUseFromTheirMakingToTheirEnd) {
   EXPECT_EQ(&Program::inUse(), &application);
   EXPECT_FALSE(Files::anyInUse());

@@ -16,7 +16,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Rows in memory, or as many as it says.
+/// Rows in memory, or as many as it claims to have.
 class Rows final : public ListBox {
  public:
   std::vector<std::string> texts;
@@ -95,7 +95,7 @@ TEST_F(SpEvTest, AddsALineAsARow) {
   EXPECT_EQ(rows->texts,
             (std::vector<std::string>{"there", "one", "", "two", "three", "four", "", "five"}));
 
-  // A line end that two blocks share is one.
+  // A line end split between two blocks counts once.
   const std::string longLine(65535, 'l');
   put("a", longLine + "\r\nx");
   helper.ListRead(box, path("a"));
@@ -124,13 +124,13 @@ TEST_F(SpEvTest, ABoxIsAnyObjectWithTheMembers) {
   helper.ListRead(Variant(makeRef<Object>()), path("a"));
   helper.ListSave("box", path("a"));
   EXPECT_EQ(reports(), "438 ListRead, 424 ListSave");
-  // The file is open before the box is used.
+  // The file is opened before the box is used.
   EXPECT_EQ(bytes("a"), "");
   helper.ListRead("box", path("a"));
   EXPECT_EQ(reports(), "");
 }
 
-/// One file operation after the other fails.
+/// Each file operation fails in turn.
 TEST_F(SpEvTest, AFailingFileOperationEndsTheHelperUnlessSilent) {
   std::string trace;
   const auto failEachIn = [&](const std::function<std::string(MemoryFiles&)>& run) {
@@ -167,7 +167,7 @@ TEST_F(SpEvTest, AFailingFileOperationEndsTheHelperUnlessSilent) {
             "one\r\ntwo 57 ListSave;  57 ListSave; x\r\n 57 ListSave; x\r\n ; ");
   silent();
   EXPECT_EQ(failEachIn(readText), " ;  ;  ; one\r\ntwo ; one\r\ntwo ; ");
-  // A row that could not be read is the one before it once more.
+  // A row that could not be read repeats the previous one.
   EXPECT_EQ(failEachIn(readRows), "; ; one one ; one two ; one two ; one two ; ");
   EXPECT_EQ(failEachIn(saveRows), "one\r\ntwo ;  ; x\r\n ; x\r\n ; ");
 }
@@ -200,7 +200,7 @@ TEST_F(SpEvTest, TellsTheFirstMouseButtonOfThree) {
   const auto pressed = [&] { return static_cast<int>(helper.MouseButtonPressed()); };
   keys[4] = -32768;
   EXPECT_EQ(pressed(), 4);
-  // Pressed and released since the last time; the others are not asked.
+  // Pressed and released since the last query; the other keys are not queried.
   keys = {{1, 1}, {2, 1}};
   EXPECT_EQ(pressed(), 1);
   EXPECT_EQ(pressed(), 2);

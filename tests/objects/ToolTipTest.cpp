@@ -7,7 +7,7 @@
 namespace norvane {
 namespace {
 
-/// A form, or a control that stands in a container.
+/// A form, or a control in a container.
 class Window final : public HostWindow {
  public:
   explicit Window(std::int32_t handle) : isForm_(true), handle_(handle) {}
@@ -26,7 +26,7 @@ class Window final : public HostWindow {
 class ToolTipTest : public ListTest {
  protected:
   Variant control(std::int32_t handle) { return Variant(makeRef<Window>(handle, owner)); }
-  /// The tip window made last.
+  /// The tip window created last.
   std::shared_ptr<TipStore> window() { return application.tipWindows.back().lock(); }
 
   Ref<Window> owner = makeRef<Window>(7);

@@ -24,8 +24,9 @@ class Form {
     b.emplace(*this, "b", place.addChild(), Bounds{30, 30, 40, 40});
   }
 
-  /// Runs commands, parted by semicolons, and returns what the controls got. `press`, `double`,
-  /// `move` and `release` take a position, and the button after it if it is not the left one.
+  /// Runs commands, separated by semicolons, and returns what the controls received. `press`,
+  /// `double`, `move` and `release` take a position, followed by the button unless it is the left
+  /// one.
   std::string run(const std::string& script) {
     std::istringstream commands(script);
     for (std::string command; std::getline(commands, command, ';');) runOne(command);
@@ -47,7 +48,7 @@ class Form {
       Form& all = form;
       const std::string event = name + what.substr(0, what.find(' '));
       all.heard += (all.heard.empty() ? "" : " ") + (name + what);
-      // This may be `a`: no member of it is used from here on.
+      // This may be `a`: none of its members is used from here on.
       if (event == all.endsIn) all.endA();
       if (event == all.throwsIn) throw 1;
     }

@@ -41,7 +41,7 @@ class Counting final : public __nvList {
   void ErrorWrongIndex(Variant&) override { ++heard; }
 };
 
-/// Uses what lists share: art, texts and case tables that are made once, services, the reporter.
+/// Uses what lists share: art, texts and case tables that are created once, services, the reporter.
 /// Returns the last picture of the list.
 std::string life(const std::string& name) {
   HeadlessApplication application;

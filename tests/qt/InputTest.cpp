@@ -21,8 +21,8 @@
 namespace norvane {
 namespace {
 
-/// A form with a list of forty rows of 16 pixels between two line edits, and its host. It has the
-/// program's own real events; reports are collected.
+/// A form with a list of forty rows of 16 pixels between two line edits, and its host. It uses the
+/// real event loop; reports are collected.
 class Input : public testing::Test, public __nvList {
  protected:
   Input() {
@@ -86,13 +86,13 @@ class Input : public testing::Test, public __nvList {
     QTest::mousePress(list, Qt::LeftButton, keys, row(index, x));
     if (list) QTest::mouseRelease(list, Qt::LeftButton, keys, row(index, x));
   }
-  /// As the events come from a real mouse.
+  /// The events of a real mouse.
   void doubleClick(int index) {
     click(index);
     QTest::mouseDClick(list, Qt::LeftButton, {}, row(index));
     if (list) QTest::mouseRelease(list, Qt::LeftButton, {}, row(index));
   }
-  /// One message of the wheel, as from a real one: what a widget leaves goes on to its parent.
+  /// One wheel event as from a real mouse: if a widget ignores it, its parent gets it.
   void turn(int delta, QPoint at = row(2)) {
     QWidget* const over = list->childAt(at) ? list->childAt(at) : list.data();
     const QPoint global = list->mapToGlobal(at);
@@ -109,7 +109,7 @@ class Input : public testing::Test, public __nvList {
   QPointer<NvListWidget> list;
   std::string told;
   bool swallowsKeys = false;
-  std::string endsIn = "none";  ///< the event in which the host ends the widget
+  std::string endsIn = "none";  ///< the event in which the host destroys the widget
 };
 
 TEST_F(Input, TheMouseSelects) {
@@ -158,7 +158,7 @@ TEST_F(Input, ATextIsTypedIntoTheBox) {
   EXPECT_TRUE(list->hasFocus());
   EXPECT_EQ(heard(), "");
   EXPECT_EQ(list->list().ItemText(2), "Zoe");
-  // The focus may go and come back; only a press on the rows drops it.
+  // The focus may leave and return; only a press on the rows closes the box without saving.
   click(2);
   edit().setText("gone");
   after.setFocus();

@@ -44,7 +44,7 @@ TEST(QtListFileTest, bringsPicturesBack) {
         << format;
   }
 
-  // A picture that came from no file.
+  // A picture that was not loaded from a file.
   const Picture drawn = QtPicture::fromImage(painted());
   list.ItemIconSelected(0, drawn);
   list.ListSave(path, true);
@@ -55,7 +55,7 @@ TEST(QtListFileTest, bringsPicturesBack) {
             static_cast<const QtPicture&>(*drawn).image());
 }
 
-/// Few bytes that decode to many pixels: each side is 4096, one bit a pixel.
+/// Few bytes that decode to many pixels: 4096 by 4096, one bit per pixel.
 QByteArray largePicture() {
   QImage image(4096, 4096, QImage::Format_Mono);
   image.fill(1);
@@ -86,7 +86,7 @@ TEST(QtListFileTest, keepsNoMorePixelsThanTheBudget) {
   list.Style(cIcons);
   const long before = residentMegabytes();
   for (int i = 0; i < 8; ++i) {
-    // Each is a picture of its own.
+    // Each is a separate picture.
     list.ItemsAdd({.aText = "a", .aIconSelected = QtPicture::fromBytes(bytes)});
   }
   list.ListSave(path, true);
@@ -96,7 +96,7 @@ TEST(QtListFileTest, keepsNoMorePixelsThanTheBudget) {
   // One decoded picture takes 67 MB, all eight 537.
   EXPECT_LT(residentMegabytes() - before, 250);
 
-  // A picture of more pixels than the budget is bad.
+  // A picture with more pixels than the budget is invalid.
   QtPicture::pixelBudget(4096 * 4096 - 1);
   EXPECT_FALSE(QtPicture::fromBytes(bytes));
   EXPECT_TRUE(static_cast<const QtPicture&>(*list.ItemIcon(7)).image().isNull());

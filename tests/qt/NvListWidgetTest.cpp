@@ -11,7 +11,7 @@
 namespace norvane {
 namespace {
 
-/// A widget on a screen whose ratio the test changes.
+/// A widget on a screen whose pixel ratio the test changes.
 class ScreenedWidget : public NvListWidget {
  public:
   qreal ratio = 1;
@@ -73,7 +73,7 @@ TEST_F(NvListWidgetTest, followsTheScreenAndThePalette) {
   EXPECT_EQ(shown().size(), QSize(400, 300));
   EXPECT_EQ(shown().pixel(201, 281), qRgb(1, 2, 3));
   EXPECT_TRUE(widget.testAttribute(Qt::WA_OpaquePaintEvent));
-  // Where an edge lies inside a pixel, nothing of the widget may be there.
+  // If an edge lies within a pixel, that pixel must not show the widget.
   widget.ratio = 1.25;
   widget.repaint();
   QCoreApplication::processEvents();

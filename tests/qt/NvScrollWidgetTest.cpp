@@ -16,7 +16,8 @@
 namespace norvane {
 namespace {
 
-/// A bar of 200 pixels in a form. Positions are given along the bar, so that one test serves both.
+/// A bar of 200 pixels in a form. Positions are along the bar, so that one test serves both
+/// orientations.
 template <class Widget>
 class NvScrollWidgetTest : public testing::Test {
  protected:
@@ -106,7 +107,7 @@ TYPED_TEST(NvScrollWidgetTest, aPressEndsAlsoWhereAHandlerTakesTheMouseAway) {
         deed();
       };
       this->press(place);
-      // A hidden window may never hear of it.
+      // A hidden window may not receive it.
       const bool isHidden = !this->form.isVisible();
       if (!isHidden) this->release(place);
       EXPECT_EQ(this->heard(), "Change 1");

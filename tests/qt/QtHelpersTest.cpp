@@ -74,7 +74,7 @@ TEST(QtAdaptersTest, GiveNoNumberTwice) {
   alignas(QWidget) std::byte place[sizeof(QWidget)];
   auto* widget = new (place) QWidget;
   const std::int32_t first = handleOf(*widget);
-  // From then on nobody hears that it goes.
+  // From then on its destruction is not reported.
   widget->disconnect();
   widget->~QWidget();
   widget = new (place) QWidget;
@@ -91,7 +91,7 @@ TEST(QtMouseTest, TellsButtonsThatAreDownOrWerePressed) {
   widget.show();
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&widget));
   QWindow* window = widget.windowHandle();
-  // Other tests may have left it down.
+  // Other tests may have left it pressed.
   QTest::mouseRelease(window, Qt::LeftButton);
   // A press before the first query counts.
   QTest::mouseClick(window, Qt::LeftButton);
@@ -106,7 +106,7 @@ TEST(QtMouseTest, TellsButtonsThatAreDownOrWerePressed) {
   EXPECT_EQ(pressed(), 0);
 }
 
-/// On a system whose only sound player writes down what it is told, and plays for a long time.
+/// On a system whose only sound player records its commands and plays for a long time.
 TEST(QtSoundTest, PlaysOneAfterTheOther) {
   if (!QFile::exists("/proc/self")) GTEST_SKIP() << "no list of processes";
   const QTemporaryDir folder;
@@ -121,7 +121,7 @@ TEST(QtSoundTest, PlaysOneAfterTheOther) {
     QFile sound(folder.filePath(name));
     ASSERT_TRUE(sound.open(QIODevice::WriteOnly));
   }
-  /// The lines of the player, each beginning with the number of its process.
+  /// The output of the player; each line begins with its process id.
   const auto played = [&] { return contents(nameIn(folder, "played")).split('\n'); };
   const auto hasPlayed = [&](int count) {
     return QTest::qWaitFor([&] { return played().size() > count; }, 5000);

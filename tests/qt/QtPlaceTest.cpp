@@ -59,7 +59,7 @@ TEST(QtTimerTest, BeginsItsIntervalAnewWhenThatIsSet) {
   timer.Enabled(true);
   timer.Interval(1000000);
   timer.Interval(100);
-  // Turning on what is on leaves it running.
+  // Turning on a running timer lets it run on.
   EXPECT_TRUE(QTest::qWaitFor([&] { return timer.Enabled(true), hasTicked(); }));
   timer.Interval(0);
   EXPECT_FALSE(QTest::qWaitFor(hasTicked, 150));

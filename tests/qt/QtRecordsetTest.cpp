@@ -23,7 +23,7 @@ class Reports final : public ErrorHandler {
   }
 };
 
-/// A list beside a database in memory, in which four places stand, one of them without a name.
+/// A list and a database in memory with four places, one of them without a name.
 class QtRecordsetTest : public testing::Test {
  protected:
   QtRecordsetTest() {
@@ -50,7 +50,7 @@ class QtRecordsetTest : public testing::Test {
     return makeRef<QtRecordset>(run(statement, direction));
   }
 
-  /// The texts of the items after a fill, and what was reported.
+  /// The texts of the items after filling, and the reports.
   std::string filled(const Ref<Object>& source) {
     list.AutoRedraw(true);
     list.AutoCheckScroll(true);
@@ -92,7 +92,7 @@ TEST_F(QtRecordsetTest, aNullOrARefusalEndsTheFillWithTheTextOfTheDriver) {
   EXPECT_EQ(filled(makeRef<QtRecordset>(QSqlQuery(database))),
             "old|440 Automation error: The query has no rows;");
 
-  // The second row cannot be computed, which is found out while the rows are counted or walked.
+  // The second row cannot be computed, which fails while rows are counted or visited.
   const QString broken = "SELECT abs(-9223372036854775807 - (people < 100000)) FROM places";
   EXPECT_TRUE(filled(rows(broken)).starts_with("old|440 Automation error: integer overflow"));
   const auto walked = rows(broken, Direction::forwardOnly);

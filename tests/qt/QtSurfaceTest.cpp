@@ -46,7 +46,7 @@ class QtSurfaceTest : public testing::Test {
     surface.DrawTextA(surface.hDC(), text, length, where, format);
   }
 
-  /// What a text draws on an empty image.
+  /// The area that a text draws on an empty image.
   QImage drawn(std::string_view text, TextFormat format = TextFormat::expandTabs,
                const Rectangle& where = {0, 0, 400, 120}, std::int32_t length = -1) {
     surface.Cls();
@@ -167,7 +167,7 @@ TEST_F(QtSurfaceTest, textIsClippedToItsRectangleOnly) {
     EXPECT_TRUE(QRect(50, 10, 10, 8).contains(ink(drawn("MMMMMMMM\nMMMM", format, where))));
   EXPECT_FALSE(ink(drawn("M", TextFormat::expandTabs, {0, 0, huge, huge})).isEmpty());
   EXPECT_TRUE(ink(drawn("M", TextFormat::right, {lowest, lowest, lowest, lowest})).isEmpty());
-  // What comes after a clipped text is not clipped.
+  // Later drawing is not clipped.
   surface.PSet(300, 100, red);
   EXPECT_EQ(ink(surface.image()), QRect(300, 100, 1, 1));
 }
@@ -228,7 +228,7 @@ TEST_F(QtSurfaceTest, picturesComeFromAnyPlatform) {
   QBuffer file(&foreign->bytes);
   image.save(&file, "PNG");
   EXPECT_EQ(QtPicture::fromBytes(foreign->bytes)->fileBytes(), foreign->fileBytes());
-  // Halves go to the even pixel.
+  // Halves are rounded to the even pixel.
   surface.PaintPicture(foreign, 7, 6.5);
   EXPECT_EQ(ink(surface.image()), QRect(7, 6, 3, 2));
   surface.PaintPicture(foreign, 7, 5, 30, 10);

@@ -15,7 +15,7 @@
 namespace norvane {
 namespace {
 
-/// The place of a control in another one, by the order of their creation.
+/// A child place of a control, by order of creation.
 QtPlace& childOf(const Place& place, std::size_t index) {
   return static_cast<QtPlace&>(*place.places().at(index));
 }
@@ -24,7 +24,7 @@ constexpr std::size_t thumb = 0;
 constexpr std::size_t nearButton = 1;
 constexpr std::size_t farButton = 2;
 
-/// A list of 200 by 150 on a form, with a hundred long texts and both bars.
+/// A list of 200 by 150 pixels on a form, with a hundred long texts and both bars.
 class ScrollBarsTest : public testing::Test, protected __nvList {
  protected:
   ScrollBarsTest() {
@@ -52,7 +52,7 @@ class ScrollBarsTest : public testing::Test, protected __nvList {
 
   void MouseDown(std::int16_t&, std::int16_t&, float&, float&) override { ++heardPresses; }
 
-  /// The mouse as its system reports it: while the button is down all goes to the window.
+  /// Mouse events as the system reports them: while the button is down, all go to the window.
   void moveTo(const QWidget& over, QPoint point) {
     mouse = over.mapTo(&form, point);
     if (isDown)
@@ -81,7 +81,7 @@ class ScrollBarsTest : public testing::Test, protected __nvList {
     return widget.grab(of.geometry()).toImage().convertToFormat(QImage::Format_RGB32);
   }
 
-  /// Runs events until the list has scrolled so often; false if that takes far too long.
+  /// Runs events until the list has scrolled the given number of times. Returns false on a timeout.
   bool waitForScrolls(int count) {
     return QTest::qWaitFor([&] { return scrolls >= count; }, 10'000);
   }
@@ -131,7 +131,7 @@ TEST_F(ScrollBarsTest, aHeldButtonPausesOutsideAndEndsWithTheReleaseThere) {
   const QImage pressed = picture(button);
   EXPECT_NE(pressed, rest);
   ASSERT_TRUE(waitForScrolls(2));
-  // Some systems say that the pointer has left while a button is down; the moves tell better.
+  // Some systems report that the pointer has left while a button is down; moves are more reliable.
   QEvent leave(QEvent::Leave);
   QCoreApplication::sendEvent(&widget, &leave);
   EXPECT_EQ(picture(button), pressed);

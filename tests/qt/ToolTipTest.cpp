@@ -16,7 +16,7 @@ namespace norvane {
 namespace {
 
 /// A form with two labels side by side, over which the test moves the mouse. Times are long enough
-/// for a busy machine: no test asks that something happens at once.
+/// for a busy machine: no test expects an immediate reaction.
 class QtToolTipTest : public testing::Test {
  protected:
   QtToolTipTest() {
@@ -34,7 +34,7 @@ class QtToolTipTest : public testing::Test {
     QCursor::setPos(widget.mapToGlobal(widget.rect().center()) + offset);
     QCoreApplication::processEvents();
   }
-  /// Gives a control a tip that comes at once.
+  /// Gives a control a tip without delay.
   void give(QWidget& control, const std::string& text) {
     tips.Create(QtWindow::of(*form));
     tips.DelayTime(0, 20);
@@ -42,7 +42,7 @@ class QtToolTipTest : public testing::Test {
   }
   void moveAway() { moveTo(*form, {0, 40}); }
 
-  /// The tip that shows, or nullptr.
+  /// The visible tip, or nullptr.
   static QWidget* tip() {
     for (QWidget* widget : QApplication::topLevelWidgets())
       if (widget->windowType() == Qt::ToolTip && widget->isVisible()) return widget;
@@ -61,7 +61,7 @@ class QtToolTipTest : public testing::Test {
   nvToolTip tips;
 };
 
-/// Milliseconds until something is true, or -1.
+/// Milliseconds until a condition is true, or -1.
 template <class Condition>
 qint64 timeUntil(Condition&& condition) {
   QElapsedTimer clock;
@@ -121,7 +121,7 @@ TEST_F(QtToolTipTest, GoesWithAPress) {
   QTest::mouseClick(one, Qt::LeftButton);
   EXPECT_EQ(shown(), "nothing");
 
-  // The button takes the press for itself.
+  // The button handles the press itself.
   auto* button = new QPushButton(two);
   button->show();
   tips.AddTool(QtWindow::of(*two), "two");

@@ -7,7 +7,8 @@
 
 namespace {
 
-/// Two screens side by side, the second one of twice the resolution. Their names order them.
+/// Two screens side by side, the second with twice the resolution. Their names determine their
+/// order.
 constexpr const char* screens = R"({"screens": [
   {"name": "1 plain", "x": 0, "y": 0, "width": 800, "height": 800,
    "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1},

@@ -12,7 +12,7 @@ class Border : public HearingListTest {
   HeadlessContainer& piece(int index) {
     return *headless.container().children().at(2 + static_cast<std::size_t>(index));
   }
-  /// The one colour of all pieces.
+  /// The colour of all pieces.
   Colour colour() {
     const Colour first = background(piece(0));
     for (int i = 1; i < 4; ++i) EXPECT_EQ(background(piece(i)), first) << i;
@@ -23,7 +23,7 @@ class Border : public HearingListTest {
 };
 
 TEST_F(Border, TheFamilyGivesTheColour) {
-  // An unknown one leaves it as it was.
+  // An unknown style leaves the colour unchanged.
   for (const auto& [style, expected] :
        {std::pair(2, 0x7FB9A4), {1, 0xB99D7F}, {99, 0x0000FF}, {50, 0x0000FF}}) {
     list.ColorStyle(static_cast<cColorStyle>(style));
@@ -38,7 +38,7 @@ TEST_F(Border, ThePiecesLieOnTheEdgesAlsoWhileTheyAreHidden) {
     for (int i = 0; i < 4; ++i) EXPECT_EQ(piece(i).bounds(), edges[i]) << i;
   };
   expectAround(200, 133);
-  // The mouse on them is not the list's.
+  // Mouse events on them do not reach the list.
   for (const auto& [x, y] : {std::pair(0.5F, 50.0F), {100, 132.5F}, {199.5F, 10}, {1, 1}}) {
     headless.container().press(x, y);
     headless.container().release(x, y);

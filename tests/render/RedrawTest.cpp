@@ -116,7 +116,7 @@ TEST_F(Redraw, AShortListMayHaveANegativeTopIndexAndIsStillShown) {
   EXPECT_EQ(rowsOf(headless.surface()), "a@3 b@16");
 }
 
-/// A list whose surface calls the host in the middle of a row.
+/// A list whose surface calls the host while a row is painted.
 struct HostedList {
   struct Surface : RecordingSurface {
     using RecordingSurface::RecordingSurface;
@@ -198,7 +198,7 @@ TEST_F(Redraw, AHostThatChangesTheListInTheMiddleOfARowIsSurvived) {
   HostedList own({"a text too long to stand in the item itself", "b"});
   own.surface.onMeasure = [&] { own.list.ItemsClear(); };
   own.list.Redraw();
-  // What is left is the blank slot; the position is back at the top.
+  // Only the blank slot is left; the position is back at the top.
   EXPECT_EQ(rowsOf(own.surface), "@0");
   EXPECT_EQ(own.list.ItemsCount(), 0);
 }

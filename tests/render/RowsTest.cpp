@@ -23,7 +23,7 @@ class Flag final : public PictureObject {
 
 class Rows : public ListTest {
  protected:
-  /// What is seen of a repaint: no steps of the position, and a font flag only where it changes.
+  /// The visible effects of a repaint: no position changes, and font flags only when they change.
   std::string seen() {
     list.Redraw();
     Recording visible;
@@ -112,7 +112,7 @@ DrawFocusRect (0, 3)-(14, 16)
 ForeColor #FFFFFF
 DrawTextA "ab" (3, 3)-(200, 100) 64
 )");
-  // With pictures the box stays where it was, the text moves.
+  // With pictures the box stays and the text moves.
   list.Style(cCheckBoxesIcons);
   list.IconSelect(false);
   const std::string centred = aligned(cCenter);
@@ -199,7 +199,7 @@ TEST_F(Rows, ARowIsMeasuredWithTheFontOfTheRowAbove) {
             std::string::npos);
   EXPECT_NE(headless.picture().find("FontBold on\nFontItalic on\nFontUnderline off\n"),
             std::string::npos);
-  // The first row is measured with what the last one of the repaint before has left.
+  // The first row is measured with the flags of the last row of the previous repaint.
   EXPECT_NE(seen().find("\"abcd\" (165, 3)"), std::string::npos);
 }
 
@@ -218,7 +218,7 @@ TEST_F(Rows, GridLinesStandAboveAndBelowRows) {
   // Row 0: below. Row 1: above and below. Row 2, the last: above.
   EXPECT_EQ(lines(), "16 16 29 29 ");
   EXPECT_NE(headless.picture().find("Line 6 (0, 16)-(200, 16) #FF0000\n"), std::string::npos);
-  // Once a row has drawn the line above, its foot is tested from its own top.
+  // After the line above, the line below is tested from the top of the row.
   headless.resize(200, 42);
   EXPECT_EQ(lines(), "16 16 29 29 ");
   for (int i = 0; i < 40; ++i) list.ItemsAdd(i);
@@ -286,14 +286,14 @@ TEST_F(Rows, BarsTakeTheirWidthAndAScrollItsDistance) {
     bar.press(bar.bounds().Width - 5, 8);
     bar.release(bar.bounds().Width - 5, 8);
   }
-  // 284 pixels wide with the padding, and as many more as the vertical bar takes.
+  // 284 pixels wide with the padding, plus the width of the vertical bar.
   const std::string all = seen();
   const auto texts = [&](const std::string& text) { return all.find(text) != std::string::npos; };
   EXPECT_TRUE(texts("\"ab\" (257, 3)-(301, 100) 64"));   // 301 - 17 - 10 - 14 - 3
   EXPECT_TRUE(texts("\"ab\" (125, 16)-(301, 100) 64"));  // (301 - 17 - 14) / 2 - 10
   EXPECT_TRUE(texts("\"a\" (-7, 29)-(284, 100) 64"));
   EXPECT_TRUE(texts("\"b\" (-7, 29)-(281, 100) 2"));
-  // What is selected does not follow the scroll.
+  // The selection does not scroll.
   EXPECT_TRUE(texts("Line 38 (166, 3)-(180, 16)"));
   EXPECT_TRUE(texts("Line 38 (84.5, 16)-(98.5, 29)"));
 }

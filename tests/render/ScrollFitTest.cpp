@@ -9,7 +9,7 @@ namespace {
 
 using std::chrono::milliseconds;
 
-/// "on 13 at 5, 182 1 17x98": what the list wants of a bar, its maximum and value, and its place.
+/// "on 13 at 5, 182 1 17x98": whether the list shows the bar, its maximum, value and bounds.
 template <class Bar>
 std::string told(const Bar& bar) {
   EXPECT_EQ(static_cast<bool>(bar.Visible()), bar.Tag() == "True");
@@ -46,7 +46,7 @@ class ScrollFit : public ListTest, public __nvList {
   std::string vertical() { return told(list.verticalBar()); }
   std::string horizontal() { return told(list.horizontalBar()); }
   std::int32_t contentWidth() { return list.state().MaxItemWidth; }
-  /// What the items are measured on.
+  /// The surface on which items are measured.
   RecordingSurface& label() { return form.children().at(6)->ownSurface(); }
 
   /// A part of a bar: 0 thumb, 1 near button, 2 far button.
@@ -70,7 +70,7 @@ TEST_F(ScrollFit, TheContentIsAsWideAsTheWidestItemAndWhatItsStylePutsBesideIt) 
   fill(3, 4);
   list.AutoRedraw(false);
   list.ItemBold(0, true);
-  // Halves go to the even number, an unknown style adds nothing, and no flag of the font counts.
+  // Halves are rounded to even; an unknown style adds nothing; font flags do not count.
   for (const auto& [style, iconWidth, width] :
        {std::tuple(0, 16.0F, 32), {1, 16, 45}, {2, 16.5F, 48}, {3, 16, 61}, {7, 16, 28}}) {
     list.IconW(iconWidth);
@@ -150,10 +150,10 @@ TEST_F(ScrollFit, TheChoiceOfBarsAndTheirRanges) {
   };
   constexpr Case cases[] = {
       {vbHorizontal, 20, 40, "off 0 at 0, on 84 at 0"},
-      // The range makes up for the vertical bar also where there is no horizontal one.
+      // The horizontal range includes the width of the vertical bar even without a horizontal bar.
       {vbVertical, 20, 40, "on 13 at 0, off 17 at 0"},
       {vbBoth, 7, 28, "off 0 at 0, off 0 at 0"},
-      // A row less fits above the horizontal bar.
+      // One row fewer fits above the horizontal bar.
       {vbBoth, 7, 29, "on 1 at 0, on 24 at 0"},
   };
   for (const Case& c : cases) {
@@ -161,19 +161,19 @@ TEST_F(ScrollFit, TheChoiceOfBarsAndTheirRanges) {
     fill(c.count, c.width);
     EXPECT_EQ(range(vertical()) + ", " + range(horizontal()), c.ranges) << c.bars << " " << c.width;
   }
-  // Another choice counts from the next fit on.
+  // A new choice takes effect at the next CheckScroll.
   list.ScrollBars(vbSBNone);
   EXPECT_EQ(list.verticalBar().Tag(), "True");
   scanAnew();
   EXPECT_EQ(range(vertical()), "off 0 at 0");
-  // Where no row fits every item is in the range.
+  // If no row fits, the range includes every item.
   list.ScrollBars(vbBoth);
   headless.resize(200, 10);
   EXPECT_EQ(list.verticalBar().Max(), 7);
 }
 
 TEST_F(ScrollFit, ThePlacesLieInsideTheFrameAndTheCornerIsTheLists) {
-  // A bar that is off keeps its place, and has no length.
+  // A hidden bar keeps its position and has no length.
   for (const auto& [bars, hasBorder, places] :
        {std::tuple(vbBoth, false, "183 0 17x83, 0 83 183x17"),
         {vbVertical, true, "182 1 17x98, 1 82 0x17"},
@@ -203,12 +203,12 @@ TEST_F(ScrollFit, AShrinkingRangeGoesBackToTheStart) {
   EXPECT_EQ(range(horizontal()), "on 84 at 0");
   list.ScrollBars(vbBoth);
   fill(20, 40);
-  // The vertical value stays, whatever the range does.
+  // The vertical value is kept, whatever the range.
   click(0, 2, 14);
   for (int i = 0; i < 4; ++i) list.ItemsRemove(1);
   EXPECT_EQ(range(vertical()), "on 10 at 14");
   EXPECT_EQ(list.TopIndex(), 14);
-  // A bar that goes forgets where it stood.
+  // A bar that is hidden loses its value.
   click(1, 2, 5);
   fill(7);
   EXPECT_EQ(range(vertical()) + ", " + range(horizontal()), "off 0 at 0, off 0 at 0");

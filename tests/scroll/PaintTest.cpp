@@ -75,7 +75,7 @@ TEST_P(Bars, AStyleWithoutPicturesLeavesThePartsUnpainted) {
     EXPECT_NE(drawn(place), "Cls\n");
   }
   EXPECT_EQ(run("press 190; events; release"), either("<>", "<Change 1>"));
-  // A style too large for the choice of a picture.
+  // A style that is too large for selecting a picture.
   run("style 0; style 1073741824");
   EXPECT_EQ(drawn(thumb) == "Cls\n", axis == scroll::Axis::horizontal);
 }
@@ -111,7 +111,7 @@ TEST_P(Bars, TheHorizontalBarHasACustomStyle) {
   }
   EXPECT_TRUE(drawn(farButton).ends_with("Line 6 (10, 9)-(6, 13) #070000\n"));
 
-  // Colours before a value that is not one stay; an empty store gives the defaults.
+  // Colours read before an invalid value are kept; an empty store gives the defaults.
   horizontal.SetNewProperty(propertiesOf("ScrollBarDown = red\nScrollBackColor = 11"));
   EXPECT_EQ(run("reports"), "<13 SetNewProperty>");
   EXPECT_EQ(horizontal.BackColor(), 11);

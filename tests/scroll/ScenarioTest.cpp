@@ -7,7 +7,7 @@ namespace {
 
 using scroll::Axis;
 
-/// A script with its outputs; those of the horizontal bar only where they differ.
+/// A script with its outputs; those of the horizontal bar only if they differ.
 struct Scenario {
   const char* name;
   const char* script;

@@ -33,7 +33,7 @@ scenes::Pixels pixelsOf(GdiCanvas& canvas) {
   return result;
 }
 
-/// Whether no channel differs by more than the rounding of a stretched picture.
+/// Whether no channel differs by more than the rounding error of scaling.
 bool isSame(std::uint32_t a, std::uint32_t b) {
   for (const int shift : {0, 8, 16})
     if (std::abs(static_cast<int>(a >> shift & 0xFF) - static_cast<int>(b >> shift & 0xFF)) > 2)
@@ -156,7 +156,7 @@ TEST(Gdi, BlendsATransparentPicture) {
   ASSERT_TRUE(picture);
   EXPECT_EQ(3, picture->width());
   EXPECT_EQ(file, picture->fileBytes());
-  // As a script hands it back.
+  // As a script passes it back.
   ComPtr<IPictureDisp> handed;
   *handed.put() = newPictureDisp(picture);
   for (const Picture& shown : {picture, OlePicture::of(handed.get())}) {

@@ -11,7 +11,7 @@
 namespace norvane {
 namespace {
 
-/// Runs what waits in the message queue, and for a while longer if asked to.
+/// Processes the message queue, for the given time if there is one.
 void pump(DWORD milliseconds = 0) {
   const DWORD start = GetTickCount();
   do {
@@ -24,7 +24,7 @@ void pump(DWORD milliseconds = 0) {
   } while (GetTickCount() - start < milliseconds);
 }
 
-/// Keeps the reports of failures instead of showing a box.
+/// Collects reports instead of showing a message box.
 struct Reports final : ErrorHandler {
   std::vector<std::string> procedures;
   void RaiseError(std::string_view, const ApplicationFacts&, std::int32_t, std::string_view,
@@ -98,7 +98,7 @@ TEST_F(WinWindowTest, PassesTheMouseToTheControlUnderIt) {
   EXPECT_EQ(2, list().ListIndex());
   EXPECT_EQ(1, clicks.count);
 
-  // A box that opens in the middle of a press takes the capture, and the button stops.
+  // A message box opened during a press takes the capture, and the button stops.
   press(190, 92);
   send(WM_CAPTURECHANGED, 0, 0);
   const std::int32_t top = list().TopIndex();
@@ -195,7 +195,7 @@ TEST_F(WinWindowTest, ARepaintInvalidatesOnce) {
   EXPECT_TRUE(GetUpdateRect(list_.window(), &dirty, FALSE));
 }
 
-/// The colour of a pixel of everything that a window draws.
+/// The colour of a pixel in the drawing of a whole window.
 COLORREF drawn(WinWindow& window, int x, int y) {
   const HDC screen = GetDC(nullptr);
   const HDC dc = CreateCompatibleDC(screen);
@@ -226,7 +226,8 @@ TEST(WinWindow, DrawsWithoutAContainer) {
   list.ListIndex(0);
   EXPECT_TRUE(window.isParked());
   EXPECT_NE(0, list.hwnd());
-  // At twice the size: the selection, a free row, and the bar, which is a control of its own.
+  // At twice the size: the selection, an unselected row, and the bar, which is a control of its
+  // own.
   EXPECT_EQ(static_cast<COLORREF>(RGB(49, 106, 197)), drawn(window, 60, 12));
   EXPECT_EQ(static_cast<COLORREF>(RGB(255, 255, 255)), drawn(window, 60, 60));
   EXPECT_NE(static_cast<COLORREF>(RGB(255, 255, 255)), drawn(window, 380, 60));
@@ -276,7 +277,7 @@ int windowsOf(DWORD thread) {
   return count;
 }
 
-/// Handles are numbers of a table that is filled from its beginning.
+/// Handles are numbers from a table that is filled from its start.
 std::uintptr_t nextGdiHandle() {
   const HBRUSH brush = CreateSolidBrush(RGB(1, 2, 3));
   DeleteObject(brush);

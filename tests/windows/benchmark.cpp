@@ -1,5 +1,5 @@
-// Times of the list beside the list-view of the common controls, in the same run and on the same
-// desktop: nvlist_windows_benchmark. Only the quotients count.
+// Times of the list and of the list-view common control, in the same run on the same desktop:
+// nvlist_windows_benchmark. Only the ratios are meaningful.
 #include <nvlist/platform/windows/WinList.h>
 
 #include <algorithm>
@@ -33,7 +33,7 @@ void pump() {
   while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
 }
 
-/// Milliseconds of the quickest of some runs.
+/// Milliseconds of the fastest of several runs.
 double time(const std::function<void()>& prepare, const std::function<void()>& action) {
   double best = 1e9;
   for (int i = 0; i < runs; ++i) {

@@ -1,5 +1,5 @@
-// Draws the scenes with Qt: drawScenes FOLDER. The Windows platform's pictures are compared with
-// them.
+// Draws the scenes with Qt: drawScenes FOLDER. The pictures of the Windows platform are compared
+// with them.
 #include <nvlist/platform/qt/QtCanvas.h>
 
 #include <QGuiApplication>

@@ -11,7 +11,7 @@ using namespace norvane;
 namespace scenes {
 namespace {
 
-/// A picture with a colour of its own in each pixel.
+/// A picture in which every pixel has its own colour.
 Picture icon(int size) {
   return art::drawn("icon", size, size, [&](int row, int column) {
     const auto part = [&](int value) { return static_cast<std::uint8_t>(value * 255 / size); };
@@ -118,7 +118,7 @@ void forEachImage(const std::function<void(const Image&)>& take) {
   for (const Scene& scene : all) {
     HeadlessList list(200, 100);
     scene.build(list);
-    list.surface().image();  // paints what waits
+    list.surface().image();  // draws pending calls
     visit(scene.name, list.container(), take);
   }
 }
