@@ -1,6 +1,6 @@
 #pragma once
 
-#include <algorithm>
+#include <cmath>
 
 namespace norvane {
 
@@ -28,12 +28,12 @@ struct Bounds {
     const Point inside = point - origin();
     return inside.x >= 0 && inside.y >= 0 && inside.x < Width && inside.y < Height;
   }
-  /// The part that both cover; empty if there is none.
+  /// The part that both cover, which may be empty.
   Bounds intersected(const Bounds& other) const {
-    const float left = std::max(Left, other.Left);
-    const float top = std::max(Top, other.Top);
-    return {left, top, std::min(Left + Width, other.Left + other.Width) - left,
-            std::min(Top + Height, other.Top + other.Height) - top};
+    const float left = std::fmax(Left, other.Left);
+    const float top = std::fmax(Top, other.Top);
+    return {left, top, std::fmin(Left + Width, other.Left + other.Width) - left,
+            std::fmin(Top + Height, other.Top + other.Height) - top};
   }
 
   friend bool operator==(const Bounds&, const Bounds&) = default;
