@@ -8,7 +8,7 @@
 namespace norvane {
 namespace {
 
-/// Outside of every control, whatever its size.
+/// A position outside every control of any size.
 constexpr Point nowhere{-1, -1};
 constexpr std::int16_t allButtons[] = {1, 2, 4};
 
@@ -23,7 +23,7 @@ Place* foremost(Place& place, Point at) {
 
 }  // namespace
 
-/// Ends the hold with the last button, also if the control throws.
+/// Ends the hold when the last button is released, even if the control throws.
 struct MouseDispatcher::EndOfHold {
   MouseDispatcher& mouse;
   ~EndOfHold() {

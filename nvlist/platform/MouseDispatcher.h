@@ -23,10 +23,9 @@ class Place;
 ///   control that does not know double clicks gets it as a press. After a double click, the release
 ///   is not a click.
 /// - A move goes to the control under the pointer, and before that to the one that holds the
-/// capture
-///   if that is another one.
+///   capture if that is another one.
 ///
-/// Any notification may end controls and their places, but not the outermost place.
+/// Any notification may destroy controls and their places, but not the outermost place.
 class MouseDispatcher {
  public:
   explicit MouseDispatcher(Place& root) : root_(root) {}

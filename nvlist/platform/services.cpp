@@ -45,7 +45,7 @@ template <class Service>
 Service& InUse<Service>::inUse() {
   if (newest<Service>) return static_cast<Service&>(*newest<Service>);
   static thread_local Service defaults;
-  // It serves only while there is no other.
+  // Used only while no other service is installed.
   newest<Service> = nullptr;
   return defaults;
 }

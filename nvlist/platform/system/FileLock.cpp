@@ -40,7 +40,7 @@ FileLock::FileLock(const std::filesystem::path& file) {
   if (handle == INVALID_HANDLE_VALUE)
     throw GetLastError() == ERROR_DISK_FULL ? diskFull() : notAccessible();
   handle_ = reinterpret_cast<std::intptr_t>(handle);
-  // A byte far behind the end: the contents stay readable and writable through other handles.
+  // A byte far past the end: the contents remain readable and writable through other handles.
   OVERLAPPED place{};
   place.OffsetHigh = 0x40000000;
   if (!LockFileEx(handle, LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &place) &&
@@ -71,7 +71,7 @@ bool leadsTo(const char* path, int file) {
 
 FileLock::FileLock(const std::filesystem::path& file) {
   constexpr mode_t readableAndWritable = 0666;
-  // Not blocking: a pipe without a reader fails here instead of waiting for one.
+  // Non-blocking: a pipe without a reader fails here instead of waiting for one.
   const int opened =
       open(file.c_str(), O_WRONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC, readableAndWritable);
   if (opened < 0) throw errno == ENOSPC ? diskFull() : notAccessible();

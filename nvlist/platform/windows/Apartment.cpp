@@ -10,10 +10,10 @@ namespace norvane {
 namespace {
 
 constexpr wchar_t className[] = L"NorvaneApartment";
-/// Of the timer that looks whether something can be released; those of controls count from 2.
+/// The timer that checks whether something can be released. Timers of controls count from 2.
 constexpr UINT_PTR releaseTimer = 1;
 constexpr UINT releaseInterval = 10;
-/// More than a list's own art and the icons of a long list.
+/// Enough for the built-in art and the icons of a long list.
 constexpr std::size_t maximumDecoded = 1024;
 
 thread_local std::weak_ptr<Apartment> ofThread;
@@ -23,7 +23,7 @@ void registerClass(WNDPROC procedure) {
   look.hInstance = thisModule();
   look.lpfnWndProc = procedure;
   look.lpszClassName = className;
-  // Fails if another thread has done it.
+  // Fails if another thread has already registered it.
   RegisterClassW(&look);
 }
 
@@ -84,14 +84,14 @@ UINT_PTR Apartment::startTimer(UINT milliseconds, std::function<void()> tick) {
 }
 
 void Apartment::stopTimer(UINT_PTR timer) {
-  // A message of the timer may be waiting already; it finds nothing.
+  // A timer message may already be queued; it is ignored.
   if (timers_.erase(timer) != 0) KillTimer(window_, timer);
 }
 
 void Apartment::tick(UINT_PTR timer) {
   const auto found = timers_.find(timer);
   if (found == timers_.end()) return;
-  // A reference of its own, as the timer may end in its tick.
+  // A copy, because a timer may be destroyed in its own tick.
   const auto action = found->second;
   (*action)();
 }
@@ -107,7 +107,7 @@ void Apartment::releaseWaiting() {
     return;
   }
   KillTimer(window_, releaseTimer);
-  // The last of them may hold the last reference to this.
+  // The last control may hold the last reference to this.
   const auto self = shared_from_this();
   std::exchange(released_, {}).clear();
 }
@@ -124,7 +124,7 @@ LRESULT CALLBACK Apartment::procedure(HWND window, UINT message, WPARAM wParam,
       self->tick(wParam);
     }
   } catch (...) {
-    // Nobody could handle it: the caller is the system.
+    // The caller is the system, which cannot handle it.
   }
   return 0;
 }

@@ -13,40 +13,41 @@ namespace norvane {
 
 class WinApplication;
 
-/// The library, or the program that it is linked to.
+/// The DLL of the library, or the program it is linked into.
 HINSTANCE thisModule();
 
-/// What the controls of one thread share: a hidden window, the fonts in use, decoded pictures, the
-/// program around them. It is made with the first of them and ends with the last. All of it is used
-/// on its thread alone.
+/// The objects shared by the controls of one thread: a hidden window, fonts, decoded pictures, and
+/// the services of the platform. It is created with the first control and destroyed with the last
+/// one, and is used only on its thread.
 class Apartment : public std::enable_shared_from_this<Apartment> {
  public:
   /// That of the calling thread.
   static std::shared_ptr<Apartment> current();
-  /// Before the module is unloaded.
+  /// To be called before the module is unloaded.
   static void unregisterClass();
   ~Apartment();
   Apartment(const Apartment&) = delete;
   Apartment& operator=(const Apartment&) = delete;
 
-  /// A hidden window. Controls without a container are children of it, and timers tick by it.
+  /// A hidden window. It is the parent of controls without a container, and receives timer
+  /// messages.
   HWND window() const { return window_; }
   GdiFaces& faces() { return faces_; }
 
-  /// The picture in the form in which the system draws it. Throws Failure 5 for an empty reference,
-  /// 481 for bytes that the system cannot decode.
+  /// The picture in the form that the system can draw. Throws Failure 5 for an empty reference, and
+  /// Failure 481 for bytes that the system cannot decode.
   const OlePicture& drawable(const Picture& picture);
 
-  /// Calls `tick` every so many milliseconds until stopTimer. 0 if there is no timer left.
+  /// Calls `tick` at the given interval until stopTimer. Returns 0 if no timer is available.
   UINT_PTR startTimer(UINT milliseconds, std::function<void()> tick);
   void stopTimer(UINT_PTR timer);
 
-  /// Lets go of something when no code of the library runs on this thread any more: at once, or
-  /// later from the message loop. A control ends this way, since its host may release it inside one
-  /// of its events.
+  /// Releases a control when no code of the library runs on this thread any more: immediately, or
+  /// later from the message loop, because a host may release a control inside one of its events.
   void release(std::shared_ptr<void> control);
 
-  /// Counts the procedures of the library that the system has called and that have not returned.
+  /// Counts the procedures of the library that the system has called and that have not yet
+  /// returned.
   class Running {
    public:
     explicit Running(Apartment& apartment) : apartment_(apartment.shared_from_this()) {

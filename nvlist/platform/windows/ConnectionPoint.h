@@ -6,17 +6,18 @@
 
 namespace norvane {
 
-/// Where sinks of one interface connect. It is a part of its container and shares its references.
+/// A connection point for sinks of one interface. It is a part of its container and shares its
+/// reference count.
 class ConnectionPoint final : public IConnectionPoint {
  public:
-  /// Sinks of `interfaceId` connect; if `takesDispatch`, also those that have only IDispatch.
+  /// Accepts sinks of `interfaceId` and, if `takesDispatch`, also sinks that have only IDispatch.
   ConnectionPoint(IConnectionPointContainer& owner, REFIID interfaceId, bool takesDispatch)
       : owner_(owner), id_(interfaceId), takesDispatch_(takesDispatch) {}
 
   const IID& id() const { return id_; }
   bool isEmpty() const { return sinks_.empty(); }
-  /// Calls each sink. Sinks may come and go meanwhile: one that has gone is not called any more,
-  /// one that has come is called the next time.
+  /// Calls each sink. Sinks may be connected and disconnected meanwhile: a disconnected one is no
+  /// longer called, a new one is called from the next time on.
   template <class Call>
   void forEach(Call&& call) {
     const std::vector<Sink> sinks = sinks_;

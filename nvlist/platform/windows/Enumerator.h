@@ -7,7 +7,7 @@
 
 namespace norvane {
 
-// What an enumerator hands out carries references of its own.
+// The objects that an enumerator returns have references of their own.
 inline void retain(IConnectionPoint* item) { item->AddRef(); }
 inline void release(IConnectionPoint* item) { item->Release(); }
 inline void retain(const CONNECTDATA& item) { item.pUnk->AddRef(); }
@@ -15,7 +15,7 @@ inline void release(const CONNECTDATA& item) { item.pUnk->Release(); }
 inline void retain(const FORMATETC&) {}
 inline void release(const FORMATETC&) {}
 
-/// One of COM's enumerators, over a copy of what there was when it was made.
+/// A COM enumerator over a copy of the items made at its creation.
 template <class Interface, class Item>
 class Enumerator final : public Interface {
  public:

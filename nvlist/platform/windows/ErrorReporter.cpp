@@ -8,8 +8,8 @@
 namespace norvane {
 namespace {
 
-/// The program as an object, for handlers that ask it for its name and version. It lives as long as
-/// references to it do.
+/// The program as an object, for handlers that query its name and version. It lives as long as it
+/// is referenced.
 class ProgramObject final : public IDispatch {
  public:
   explicit ProgramObject(const ApplicationFacts& facts) : facts_(facts) {}

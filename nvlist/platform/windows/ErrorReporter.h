@@ -7,12 +7,12 @@
 
 namespace norvane {
 
-/// The optional outside receiver of failures, an object that is known by its name alone.
+/// The optional external receiver of failures, an object known only by its name.
 class ErrorReporter final : public ErrorHandler {
  public:
   static constexpr const wchar_t* programmaticName = L"NorvaneErrorHandler.ErrorHandler";
 
-  /// nullptr where no such object is installed.
+  /// Returns nullptr if no such object is installed.
   static std::shared_ptr<ErrorHandler> create();
 
   /// Calls the object's method of that name. Throws Failure 440 if the call fails.

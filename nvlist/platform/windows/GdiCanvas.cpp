@@ -10,7 +10,7 @@
 namespace norvane {
 namespace {
 
-/// Far beyond every image, and small enough for GDI to calculate with.
+/// Outside every image, and small enough for GDI arithmetic.
 constexpr int farOut = 1 << 24;
 
 int nearestPixel(float coordinate) {
@@ -18,14 +18,15 @@ int nearestPixel(float coordinate) {
   return static_cast<int>(std::nearbyint(std::min(coordinate, static_cast<float>(farOut))));
 }
 
-/// Which of `count` parts of the span from `from` to `to` the middle of the pixel at `at` lies in.
+/// Returns which of `count` equal parts of the span from `from` to `to` contains the centre of
+/// pixel `at`.
 int nearestOf(int count, int at, int from, int to) {
   const auto place = static_cast<std::uint64_t>(std::int64_t{at} - from);
   const auto length = static_cast<std::uint64_t>(std::int64_t{to} - from);
   return static_cast<int>((2 * place + 1) * static_cast<std::uint64_t>(count) / (2 * length));
 }
 
-/// From the order of a Colour to that of an image, which begins with blue.
+/// Converts the byte order of a Colour to that of an image, which begins with blue.
 std::uint32_t pixelOf(Colour colour) {
   const auto bits = static_cast<std::uint32_t>(colour);
   return (bits & 0xFF) << 16 | (bits & 0xFF00) | (bits >> 16 & 0xFF);
@@ -150,7 +151,7 @@ void GdiCanvas::PaintPicture(const Picture& picture, float x, float y, float wid
   const int high = nearestPixel(height);
   if (wide <= 0 || high <= 0) return;
   const HDC on = dc();
-  // Whole multiples stay sharp; anything else would look ragged.
+  // Integer multiples are scaled without smoothing; anything else would look ragged.
   const bool isWhole =
       std::fmod(width, shown.width()) == 0 && std::fmod(height, shown.height()) == 0;
   SetStretchBltMode(on, isWhole ? COLORONCOLOR : HALFTONE);
@@ -158,7 +159,7 @@ void GdiCanvas::PaintPicture(const Picture& picture, float x, float y, float wid
   shown.render(on, nearestPixel(x), nearestPixel(y), wide, high);
 }
 
-/// Written straight into the image: what GDI makes of a stretched bitmap depends on the driver.
+/// Writes into the image directly, because the result of GDI's own scaling depends on the driver.
 void GdiCanvas::StretchDIBits(std::uintptr_t hDC, const Rectangle& target, const Bitmap24& bitmap) {
   if (hDC != this->hDC() || !bitmap.isComplete()) throw Failure::invalidCall();
   const int left = std::max(target.Left, 0);
@@ -167,7 +168,7 @@ void GdiCanvas::StretchDIBits(std::uintptr_t hDC, const Rectangle& target, const
   const int bottom = std::min(target.Bottom, height_);
   if (left >= right || top >= bottom) return;
   dc();
-  // What GDI has still to draw comes first.
+  // GDI must finish its pending drawing first.
   GdiFlush();
   std::vector<std::uint32_t> line(static_cast<std::size_t>(right - left));
   int rowInLine = -1;

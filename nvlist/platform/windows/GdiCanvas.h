@@ -9,9 +9,9 @@
 
 namespace norvane {
 
-/// A surface that draws with GDI on an image in memory, at once; GdiSurface defers that. The image
-/// is made when something is drawn for the first time, since most controls in a control are never
-/// visible. It belongs to the thread that made it.
+/// A surface that draws immediately, with GDI, on an image in memory; GdiSurface defers drawing.
+/// The image is created when something is first drawn, because most child controls are never
+/// visible. It belongs to the thread that created it.
 class GdiCanvas final : public Surface {
  public:
   GdiCanvas();
@@ -19,24 +19,25 @@ class GdiCanvas final : public Surface {
   GdiCanvas(const GdiCanvas&) = delete;
   GdiCanvas& operator=(const GdiCanvas&) = delete;
 
-  /// Starts a new image in the background colour. A size without area draws nowhere.
+  /// Starts a new image in the background colour. With an empty size, drawing has no effect.
   void resize(int width, int height);
   int width() const { return width_; }
   int height() const { return height_; }
-  /// The size of the font in pixels follows it. Default: that of the screen.
+  /// Sets the pixels per inch, which determine the size of the font. Default: those of the screen.
   void resolution(int dpi);
 
-  /// Copies a part of the image to a place on another device.
+  /// Copies a part of the image to a position on another device.
   void copyTo(HDC target, int x, int y, int width, int height, int fromX = 0, int fromY = 0);
-  /// Throws what PaintPicture would throw for a picture.
+  /// Throws the failure that PaintPicture would throw for the picture.
   void requireDrawable(const Picture& picture);
 
   void Cls() override;
-  /// Coordinates are rounded to the nearest pixel, halves to the even one.
+  /// Coordinates are rounded to the nearest pixel, halves to even.
   void Line(LineMode mode, float x1, float y1, float x2, float y2, Colour colour) override;
   void PSet(float x, float y, Colour colour) override;
-  /// An empty reference throws Failure 5. The picture of another platform is decoded from the bytes
-  /// of its file; one that has none, or none that the system knows, throws Failure 481.
+  /// Throws Failure 5 for an empty reference. A picture of another platform is decoded from the
+  /// bytes of its file; if it has no file, or one that the system cannot decode, this throws
+  /// Failure 481.
   void PaintPicture(const Picture& picture, float x, float y) override;
   void PaintPicture(const Picture& picture, float x, float y, float width, float height) override;
   float TextWidth(std::string_view text) override;
@@ -53,14 +54,14 @@ class GdiCanvas final : public Surface {
   void FontBold(Boolean on) override { setFlag(bold, on); }
   void FontItalic(Boolean on) override { setFlag(italic, on); }
   void FontUnderline(Boolean on) override { setFlag(underline, on); }
-  /// Names this surface; it is no handle of the system. The calls that take a handle throw Failure
-  /// 5 for any other.
+  /// Identifies this surface; it is not a system handle. Calls that take a handle throw Failure 5
+  /// for any other.
   std::uintptr_t hDC() const override { return reinterpret_cast<std::uintptr_t>(this); }
   void DrawTextA(std::uintptr_t hDC, std::string_view text, std::int32_t length,
                  const Rectangle& rectangle, TextFormat format) override;
   void DrawFocusRect(std::uintptr_t hDC, const Rectangle& rectangle) override;
   void StretchDIBits(std::uintptr_t hDC, const Rectangle& target, const Bitmap24& bitmap) override;
-  /// Lines after the first begin at x 0.
+  /// Lines after the first begin at x = 0.
   void Print(std::string_view text) override;
 
   static COLORREF colourRef(Colour colour);
@@ -70,9 +71,9 @@ class GdiCanvas final : public Surface {
 
   void setFlag(Flag flag, Boolean on) { flags_ = on ? flags_ | flag : flags_ & ~flag; }
   GdiFace& face();
-  /// The device that draws on the image, which it makes where there is none.
+  /// The device context of the image, which is created if necessary.
   HDC dc();
-  /// The same, with the present font and text colour.
+  /// The same, with the current font and text colour.
   HDC textDc();
   void dropImage();
   void fill(int left, int top, int right, int bottom, Colour colour);
@@ -82,7 +83,7 @@ class GdiCanvas final : public Surface {
   HBITMAP image_ = nullptr;
   HGDIOBJ imageBefore_ = nullptr;
   HGDIOBJ fontBefore_ = nullptr;
-  /// The pixels, from the top row on.
+  /// The pixels, top row first.
   std::uint32_t* pixels_ = nullptr;
   int width_ = 0;
   int height_ = 0;

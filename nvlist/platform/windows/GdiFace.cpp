@@ -10,7 +10,7 @@ namespace norvane {
 namespace {
 
 constexpr float pointsPerInch = 72;
-/// Beyond it the system draws nothing.
+/// Above this height the system draws nothing.
 constexpr float maximumHeight = 4096;
 
 HFONT create(const FontObject& font, int dpi) {

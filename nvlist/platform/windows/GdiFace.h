@@ -11,11 +11,11 @@
 
 namespace norvane {
 
-/// A font of the system with what measuring texts asks of it, in whole pixels.
+/// A system font with its metrics, in whole pixels.
 class GdiFace {
  public:
-  /// Selects the font into `dc` to measure it. The nearest font there is; a size of 0 is that of
-  /// the system.
+  /// Selects the font into `dc` to measure it. Uses the nearest font available; size 0 means the
+  /// size of the system font.
   GdiFace(HDC dc, const FontObject& font, int dpi);
   ~GdiFace();
   GdiFace(const GdiFace&) = delete;
@@ -23,7 +23,7 @@ class GdiFace {
 
   HFONT handle() const { return handle_; }
   int lineHeight() const { return lineHeight_; }
-  /// Of the widest line. A tab goes on to the next stop of eight characters.
+  /// Width of the widest line. A tab advances to the next stop of eight characters.
   int widthOf(std::string_view text);
 
  private:
@@ -37,13 +37,14 @@ class GdiFace {
   HFONT handle_;
   int lineHeight_ = 1;
   int tabStop_ = 1;
-  /// What synthesised slanted or bold letters add at the end of a text.
+  /// What synthesised italic or bold letters add at the end of a text.
   int overhang_ = 0;
-  /// Of the printable ASCII characters, -1 until asked for: GDI does not kern, so widths add up.
+  /// Widths of the printable ASCII characters, -1 until measured. GDI does not kern, so widths add
+  /// up.
   std::array<int, lastPrintable - firstPrintable + 1> widths_;
 };
 
-/// The faces in use on one thread, shared by everything that draws the same font.
+/// The faces in use on one thread, shared by all surfaces with the same font.
 class GdiFaces {
  public:
   GdiFaces();
@@ -51,7 +52,8 @@ class GdiFaces {
   GdiFaces(const GdiFaces&) = delete;
   GdiFaces& operator=(const GdiFaces&) = delete;
 
-  /// Lives for as long as it is used. The flags of the font count, and pixels an inch.
+  /// Returns the face for a font with its flags at a resolution in pixels per inch. It lives as
+  /// long as it is used.
   std::shared_ptr<GdiFace> face(const FontObject& font, int dpi);
 
  private:

@@ -5,18 +5,18 @@
 
 namespace norvane {
 
-/// The surface of a control on Windows: an image that is drawn when it is needed.
+/// The surface of a control on Windows: an image that is drawn on demand.
 class GdiSurface final : public DeferredSurface {
  public:
   GdiSurface() : DeferredSurface(canvas_) {}
 
-  /// In pixels. Drops what was drawn where that is another size.
+  /// Sets the size in pixels. A new size discards what was drawn.
   void resize(int width, int height);
   int width() const { return canvas_.width(); }
   int height() const { return canvas_.height(); }
   void resolution(int dpi) { canvas_.resolution(dpi); }
 
-  /// The image with all that was drawn.
+  /// The image, with all pending calls drawn.
   GdiCanvas& image() {
     drawWaiting();
     return canvas_;

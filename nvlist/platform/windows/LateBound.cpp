@@ -7,12 +7,12 @@
 namespace norvane {
 namespace {
 
-/// As many defaults of defaults as are followed.
+/// The maximum depth of default members.
 constexpr int deepestDefault = 8;
 
 constexpr WORD reading = DISPATCH_METHOD | DISPATCH_PROPERTYGET;
 
-/// What a member that failed says of it.
+/// The failure that a failing member describes.
 Failure failureOf(HRESULT answer, EXCEPINFO& exception) {
   if (exception.pfnDeferredFillIn) exception.pfnDeferredFillIn(&exception);
   const std::string description = textOf(exception.bstrDescription);
@@ -32,7 +32,7 @@ Failure failureOf(HRESULT answer, EXCEPINFO& exception) {
   return Failure::automation(description.empty() ? digits : description);
 }
 
-/// Arguments as COM passes them: last to first.
+/// Arguments as COM passes them: in reverse order.
 class Arguments {
  public:
   explicit Arguments(std::initializer_list<Variant> values) : count_(values.size()) {
@@ -54,7 +54,7 @@ DISPID LateBound::idOf(const wchar_t* member) const {
   DISPID id = DISPID_UNKNOWN;
   auto* name = const_cast<LPOLESTR>(member);
   if (SUCCEEDED(object_->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &id))) return id;
-  // Objects of a script's own classes know no other way.
+  // Objects of a script's own classes require this interface.
   if (const auto byName = asked<IDispatchEx>(object_.get())) {
     const BSTR text = SysAllocString(member);
     const HRESULT answer = byName->GetDispID(text, fdexNameCaseInsensitive, &id);
@@ -66,7 +66,7 @@ DISPID LateBound::idOf(const wchar_t* member) const {
 
 void LateBound::invoke(DISPID member, WORD flags, VARIANT* arguments, UINT count,
                        VARIANT* result) const {
-  const ComPtr<IDispatch> held = object_;  // the call may let go of it
+  const ComPtr<IDispatch> held = object_;  // the call may release it
   DISPPARAMS given{arguments, nullptr, count, 0};
   EXCEPINFO exception{};
   const HRESULT answer = held->Invoke(member, IID_NULL, LOCALE_USER_DEFAULT, flags, &given, result,

@@ -23,7 +23,7 @@ class LateBound {
   /// default member is read in turn.
   Variant readDefault(std::initializer_list<Variant> arguments) const;
 
-  /// Calls a member with arguments that are last to first, as COM passes them.
+  /// Calls a member with arguments in reverse order, as COM passes them.
   void invoke(DISPID member, WORD flags, VARIANT* arguments, UINT count, VARIANT* result) const;
   DISPID idOf(const wchar_t* member) const;
 
@@ -31,7 +31,7 @@ class LateBound {
   ComPtr<IDispatch> object_;
 };
 
-/// Rows that a list fills itself from.
+/// Rows for filling a list.
 class OleRecordset final : public Recordset {
  public:
   explicit OleRecordset(IDispatch* rows) : rows_(rows) {}

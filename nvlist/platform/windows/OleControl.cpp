@@ -32,13 +32,13 @@ OleControl::~OleControl() = default;
 ULONG OleControl::release() {
   const LONG left = InterlockedDecrement(&references_);
   if (left == 0) {
-    // What ends with the control may take references once more.
+    // Objects destroyed with the control may take references again.
     references_ = 1;
     InPlaceDeactivate();
     events_.disconnectAll();
     changes_.disconnectAll();
     site_.reset();
-    // A container or sink that still calls this object while it ends must not end it twice.
+    // Calls from a container or sink during destruction must not destroy it again.
     references_ = 1 << 30;
     const std::shared_ptr<Apartment> apartment = Apartment::current();
     apartment->release(std::shared_ptr<OleControl>(this));
@@ -147,7 +147,7 @@ bool OleControl::ambient(DISPID id, VARTYPE type, OleVariant& value) {
          SUCCEEDED(VariantChangeType(&value, &value, 0, type));
 }
 
-/// Without an answer the control runs.
+/// Without an ambient value the control is in user mode.
 Boolean OleControl::UserMode() {
   OleVariant value;
   return !ambient(DISPID_AMBIENT_USERMODE, VT_BOOL, value) || value.boolVal != VARIANT_FALSE;
@@ -273,7 +273,7 @@ void OleControl::resizeToExtent() {
   window_.resize(size.cx, size.cy);
 }
 
-/// In its container the control follows SetObjectRects alone.
+/// While in place, only SetObjectRects changes the size.
 STDMETHODIMP OleControl::SetExtent(DWORD aspect, SIZEL* size) {
   if (!size) return E_POINTER;
   if (aspect != DVASPECT_CONTENT) return DV_E_DVASPECT;
@@ -436,8 +436,8 @@ void OleControl::focusChanged(bool hasFocus) {
   if (hasFocus && inPlace_) activateUi();
 }
 
-/// The list moves its current item by arrows and pages, which a container would take for a move to
-/// another control. An open edit box takes every key but Tab. The container gets the rest first.
+/// The list uses the arrow and page keys, which a container would use to move to another control.
+/// An open edit box takes every key but Tab. The container gets all other keys first.
 STDMETHODIMP OleControl::TranslateAccelerator(LPMSG message) {
   if (!message) return E_POINTER;
   const bool isKey = message->message == WM_KEYDOWN || message->message == WM_KEYUP;

@@ -6,11 +6,11 @@
 
 namespace norvane {
 
-/// What a control is to its container: everything of an ActiveX control that does not depend on
+/// The container's view of a control: everything of an ActiveX control that does not depend on
 /// which control it is. A derived class adds the members and the control itself.
 ///
 /// The container decides when the control is shown and when its properties are read. A script does
-/// neither: its control stays in a hidden window, and begins with the defaults at the first call.
+/// neither: its control stays in a hidden window, and gets its defaults at the first call.
 class OleControl : public IPersistPropertyBag,
                    public IPersistStreamInit,
                    public IOleObject,
@@ -120,10 +120,11 @@ class OleControl : public IPersistPropertyBag,
   };
   explicit OleControl(const Identity& identity);
 
-  // The derived class calls these for its IUnknown, which also is that of all interfaces above.
+  // The derived class calls these for its IUnknown, which is also that of all interfaces above.
   HRESULT query(REFIID id, void** out);
   ULONG retain() { return static_cast<ULONG>(InterlockedIncrement(&references_)); }
-  /// At the last reference the control ends: at once, or as soon as no code of it runs any more.
+  /// Releasing the last reference destroys the control: immediately, or as soon as none of its code
+  /// runs any more.
   ULONG release();
 
   // ---- what the derived class adds ----
@@ -135,11 +136,11 @@ class OleControl : public IPersistPropertyBag,
   virtual void ambientChanged(std::string_view name) = 0;
 
   WinWindow& window() { return window_; }
-  /// Begins with the defaults if no container has called for properties yet.
+  /// Sets the defaults if no container has initialised the properties yet.
   void ensureRead() {
     if (!isRead_) InitNew();
   }
-  /// Raises an event; the arguments stand last to first. Failures of sinks are theirs.
+  /// Raises an event. `arguments` are in reverse order. Failures of sinks are ignored.
   void raise(DISPID id, VARIANT* arguments, UINT count);
 
  private:

@@ -50,7 +50,7 @@ ComPtr<IFontDisp> newFontDisp(const Font& font) {
   return result;
 }
 
-/// Connected to a font that the host may keep longer than the control.
+/// Listens to a font that the host may keep longer than the control.
 class OleFont::Listener final : public IPropertyNotifySink {
  public:
   explicit Listener(OleFont& owner) : owner_(owner) {}

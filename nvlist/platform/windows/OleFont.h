@@ -7,23 +7,23 @@
 
 namespace norvane {
 
-/// A font of the library with the look of a host's; empty for a null pointer or another object.
+/// A library font equal to a host's font. Empty for a null pointer or another object.
 Font fontOf(IUnknown* font);
 
-/// The platform's object of a font; empty for an empty reference.
+/// The platform's object for a font. Empty for an empty reference.
 ComPtr<IFontDisp> newFontDisp(const Font& font);
 
-/// The font object that a control hands out: the same one for as long as the font is the same. A
-/// host may change it (`list.Font.Bold = True`); the control then takes the new look over.
+/// The font object that a control returns: the same one as long as the font is the same. A host may
+/// change it (`list.Font.Bold = True`), which changes the control's font.
 class OleFont {
  public:
-  /// `changed` runs after each change that the host makes.
+  /// `changed` is called after each change by the host.
   explicit OleFont(std::function<void(const Font& look)> changed) : changed_(std::move(changed)) {}
   ~OleFont() { disconnect(); }
   OleFont(const OleFont&) = delete;
   OleFont& operator=(const OleFont&) = delete;
 
-  /// The object for the font that the control has now, with a reference for the caller.
+  /// The object for the control's current font, with a reference for the caller.
   IFontDisp* handOut(const Font& font);
 
  private:

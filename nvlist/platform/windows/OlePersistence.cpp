@@ -7,8 +7,8 @@
 
 namespace norvane {
 
-/// The container's store, read name by name. What it does not have, and what it cannot read, is at
-/// its default: containers answer for a missing property with many different failures.
+/// The container's store, read by name. Properties that are missing or cannot be read get their
+/// defaults: containers report a missing property with many different failures.
 class OleControl::OleBag final : public PropertyBag {
  public:
   OleBag(IPropertyBag* bag, IErrorLog* log) : bag_(bag), log_(log) {}
@@ -17,7 +17,7 @@ class OleControl::OleBag final : public PropertyBag {
     const StoredProperty* const property = storedProperty(name);
     const bool isFont = property && property->type == PropertyType::Font;
     OleVariant value;
-    if (isFont) {  // asks the container for an object
+    if (isFont) {  // requests an object from the container
       value.vt = VT_UNKNOWN;
       value.punkVal = nullptr;
     }
@@ -83,7 +83,7 @@ STDMETHODIMP OleControl::Save(IPropertyBag* bag, BOOL clear, BOOL all) {
   return FAILED(answer) ? answer : written;
 }
 
-// In a stream stand the extent, the length of the store's text, and that text.
+// A stream contains the extent, the length of the store's text, and that text.
 
 namespace {
 

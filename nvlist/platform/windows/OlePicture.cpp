@@ -13,7 +13,7 @@ HANDLE handleOf(OLE_HANDLE handle) {
   return reinterpret_cast<HANDLE>(static_cast<std::uintptr_t>(handle));
 }
 
-/// The bitmap of a picture if it has 32 bits a pixel and a fourth channel that is not all zero.
+/// The bitmap of a picture if it has 32 bits per pixel and a fourth channel that is not all zero.
 HBITMAP bitmapToBlend(IPicture& picture) {
   SHORT type = PICTYPE_NONE;
   OLE_HANDLE handle = 0;
@@ -37,7 +37,7 @@ bool isPng(std::span<const std::byte> file) {
          std::memcmp(file.data(), signature.data(), signature.size()) == 0;
 }
 
-/// Decodes what OLE does not: Windows' own loader knows no png. Empty on failure.
+/// Decodes formats that OLE does not support, such as png. Empty on failure.
 ComPtr<IPicture> decoded(IStream* stream) {
   ComPtr<IWICImagingFactory> factory;
   ComPtr<IWICBitmapDecoder> decoder;
@@ -103,7 +103,7 @@ Picture OlePicture::fromBytes(std::span<const std::byte> file) {
       return makeRef<OlePicture>(std::move(picture),
                                  std::vector<std::byte>(file.begin(), file.end()));
   ComPtr<IPicture> picture;
-  // The file is kept with the picture, so that a list file gets the same bytes back.
+  // The file is kept with the picture, so that a list file gets identical bytes.
   OleLoadPicture(stream.get(), static_cast<LONG>(file.size()), FALSE, IID_IPicture,
                  picture.putVoid());
   return picture ? Picture(makeRef<OlePicture>(std::move(picture))) : nullptr;
@@ -150,7 +150,7 @@ void OlePicture::render(HDC dc, int x, int y, int width, int height) const {
     DeleteDC(from);
     return;
   }
-  // The rows of a picture count from its bottom.
+  // The rows of a picture start at its bottom.
   picture_->Render(dc, x, y, width, height, 0, size_.cy, size_.cx, -size_.cy, nullptr);
 }
 

@@ -9,15 +9,15 @@
 
 namespace norvane {
 
-/// A picture of the platform: what a host gives, and what is read from a list file.
+/// A picture of the platform, from a host or from a list file.
 class OlePicture final : public PictureObject {
  public:
-  /// `file` is what fileBytes() returns; empty: what the picture makes of itself.
+  /// `file` is the result of fileBytes(). If it is empty, the picture saves itself.
   explicit OlePicture(ComPtr<IPicture> picture, std::vector<std::byte> file = {});
 
-  /// A bmp, gif, png, jpg, ico or metafile; empty where the bytes are none of these.
+  /// Decodes a bmp, gif, png, jpg, ico or metafile. Returns empty for other bytes.
   static Picture fromBytes(std::span<const std::byte> file);
-  /// The host's picture, by reference; empty for a null pointer.
+  /// A host's picture, by reference. Returns empty for a null pointer.
   static Picture of(IUnknown* picture);
 
   std::uintptr_t handle() const override;
@@ -26,8 +26,8 @@ class OlePicture final : public PictureObject {
   std::vector<std::byte> fileBytes() const override;
 
   IPicture* picture() const { return picture_.get(); }
-  /// Draws the whole picture into a rectangle of pixels. A bitmap of 32 bits that uses its fourth
-  /// channel is blended, with colours multiplied by it already.
+  /// Draws the whole picture into a rectangle of pixels. A 32-bit bitmap with an alpha channel is
+  /// blended; its colours must be premultiplied.
   void render(HDC dc, int x, int y, int width, int height) const;
 
  private:
@@ -35,11 +35,11 @@ class OlePicture final : public PictureObject {
   SIZEL size_{};  ///< in hundredths of a millimetre
   SIZE pixels_{};
   std::vector<std::byte> file_;
-  HBITMAP blended_ = nullptr;  ///< the picture's own, if it is to be blended
+  HBITMAP blended_ = nullptr;  ///< the bitmap of the picture, if it has an alpha channel
 };
 
-/// The platform's object of a picture, with a reference for the caller; null for an empty one. A
-/// picture that was drawn by the library is converted.
+/// The platform's object for a picture, with a reference for the caller; null for an empty one. A
+/// picture drawn by the library is converted.
 IPictureDisp* newPictureDisp(const Picture& picture);
 
 }  // namespace norvane

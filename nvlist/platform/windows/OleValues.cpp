@@ -7,7 +7,7 @@
 namespace norvane {
 namespace {
 
-/// The system's functions do not change what they read, but do not say so.
+/// The system functions do not modify these arguments, but are not declared so.
 VARIANT* changeable(const VARIANT& value) { return const_cast<VARIANT*>(&value); }
 
 }  // namespace

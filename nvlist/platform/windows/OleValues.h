@@ -8,11 +8,11 @@
 #include <nvlist/values/Colour.h>
 #include <nvlist/values/Variant.h>
 
-/// The values of COM and those of the library: fromOle() and toOle() for each pair of types. Memory
-/// that runs out is std::bad_alloc.
+/// Conversions between the values of COM and of the library: fromOle() and toOle() for each pair of
+/// types. They throw std::bad_alloc if memory runs out.
 namespace norvane {
 
-/// A value that a Variant has no room for, kept as it came: a double, a date, a currency amount, a
+/// A value that a Variant cannot hold, kept unchanged: a double, a date, a currency amount, a
 /// decimal, Null, an array, an object of the host.
 class OleValue final : public Object {
  public:
@@ -25,13 +25,13 @@ class OleValue final : public Object {
   std::string toText() const override;
 
  private:
-  /// Throws Failure 94 for Null, 13 for whatever does not convert.
+  /// Throws Failure 94 for Null, and Failure 13 for any other value that cannot be converted.
   void convert(VARTYPE type, VARIANT& result) const;
 
   OleVariant value_;
 };
 
-/// The object in a variant, also behind a reference. Null if it holds another value or Nothing.
+/// The object in a variant, possibly by reference. Null if it holds another value or Nothing.
 IDispatch* dispatchIn(const VARIANT& value);
 
 /// Whether an optional argument was left out.
@@ -56,7 +56,7 @@ requires std::is_enum_v<Enum> std::int32_t fromOle(Enum value) {
   return static_cast<std::int32_t>(value);
 }
 
-// ---- to the host; what was in *out before is not looked at ----
+// ---- to the host; the old contents of *out are ignored ----
 
 void toOle(VARIANT* out, const Variant& value);
 void toOle(BSTR* out, std::string_view value);
@@ -70,7 +70,7 @@ requires(std::is_enum_v<Out>&& std::is_enum_v<Enum>) void toOle(Out* out, Enum v
   *out = static_cast<Out>(value);
 }
 
-/// Rewrites an argument that came by reference, also one that refers to another one.
+/// Assigns to an argument passed by reference, even if it refers to another variant.
 void rewrite(VARIANT& argument, const Variant& value);
 
 }  // namespace norvane

@@ -4,7 +4,7 @@
 #include <nvlist/platform/windows/OleControl.h>
 #include <nvlist/platform/windows/failures.h>
 
-/// How a control is drawn where it has no window: on a printer, in a bitmap, in a designer.
+/// Draws a control without a window: on a printer, in a bitmap, in a designer.
 namespace norvane {
 namespace {
 

@@ -16,7 +16,7 @@
 namespace norvane {
 namespace {
 
-/// Reading and writing: the rights that the control has always asked for.
+/// Read and write access; these flags are part of the published behaviour.
 constexpr REGSAM settingsAccess = 0x2003F;
 
 std::wstring programFile() {
@@ -31,7 +31,7 @@ std::wstring programFile() {
   }
 }
 
-/// All zero for a program without a version.
+/// All zero if the program has no version.
 VS_FIXEDFILEINFO versionOf(const std::wstring& file) {
   DWORD unused = 0;
   std::vector<std::byte> block(GetFileVersionInfoSizeW(file.c_str(), &unused));
@@ -51,7 +51,7 @@ struct RegistryKey {
   }
 };
 
-/// In the format of the user, `format` being GetDateFormatW or GetTimeFormatW.
+/// Formats with the user's settings; `format` is GetDateFormatW or GetTimeFormatW.
 template <class Format>
 std::string formatted(Format&& format) {
   std::array<wchar_t, 128> text{};
@@ -95,7 +95,7 @@ Variant WinProgram::readSetting(std::string_view key, std::string_view name) {
       RegQueryValueExW(opened.handle, value.c_str(), nullptr, &type, nullptr, &size) !=
           ERROR_SUCCESS)
     return {};
-  // A character more than is asked for: the value may lack the zero at its end.
+  // One extra character, because the value may lack the terminating zero.
   std::vector<wchar_t> data(size / sizeof(wchar_t) + 2);
   if (RegQueryValueExW(opened.handle, value.c_str(), nullptr, &type,
                        reinterpret_cast<BYTE*>(data.data()), &size) != ERROR_SUCCESS)
@@ -158,7 +158,7 @@ std::shared_ptr<TipWindow> WinDesktop::createTipWindow(std::int32_t form) {
 }
 
 void WinProgram::MsgBox(std::string_view text, std::int32_t style, std::string_view title) {
-  // Without an owner the box could be hidden behind the window that waits for it.
+  // Without an owner the box could open behind the window that waits for it.
   MessageBoxW(GetActiveWindow(), wide(text).c_str(), wide(title).c_str(),
               static_cast<UINT>(style) | MB_TASKMODAL);
 }

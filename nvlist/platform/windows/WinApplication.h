@@ -6,12 +6,12 @@
 
 namespace norvane {
 
-/// The running program as Windows knows it, with its settings below HKEY_CURRENT_USER.
+/// The running program on Windows, with its settings below HKEY_CURRENT_USER.
 class WinProgram final : public Program {
  public:
-  /// The registered handler, else a new ErrorReporter if that object is installed.
+  /// The registered handler, or a new ErrorReporter if that object is installed.
   std::shared_ptr<ErrorHandler> createErrorHandler() override;
-  /// The first, the second and the last of the four numbers of the program's version.
+  /// The first, second and last of the four numbers of the program's version.
   ApplicationFacts facts() override;
   std::string programPath() override;
   Variant readSetting(std::string_view key, std::string_view name) override;
@@ -19,12 +19,12 @@ class WinProgram final : public Program {
   void appendToFile(const std::string& path, const std::string& text) override;
   std::string dateText() override;
   std::string timeText() override;
-  /// In front of the active window of the thread.
+  /// Shown in front of the active window of the thread.
   void MsgBox(std::string_view text, std::int32_t style, std::string_view title) override;
   void showAbout(std::string_view name, std::string_view version) override;
 };
 
-/// Files on the disk, with the pictures that OlePicture reads.
+/// Files on disk, with the pictures that OlePicture can read.
 class WinFiles final : public Files {
  public:
   Picture loadPicture(std::vector<std::byte> file) override;
@@ -32,7 +32,7 @@ class WinFiles final : public Files {
 
 class WinDesktop final : public Desktop {
  public:
-  /// As Windows reports it to this program; without a manifest that may be an older one.
+  /// The version that Windows reports to this program; without a manifest it may be an older one.
   SystemVersion systemVersion() override;
   std::int32_t currentThemeName(std::span<char16_t> themeFile, std::span<char16_t> colourScheme,
                                 std::span<char16_t> size) override;
@@ -41,8 +41,8 @@ class WinDesktop final : public Desktop {
   std::shared_ptr<TipWindow> createTipWindow(std::int32_t form) override;
 };
 
-/// Puts the services of Windows to use on the thread that makes it, apart from those that the host
-/// or a platform has made already.
+/// Installs the services of Windows on the thread that creates it, except those that the host or a
+/// platform has already installed.
 class WinApplication {
  public:
   WinApplication();

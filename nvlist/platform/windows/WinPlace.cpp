@@ -10,10 +10,11 @@
 namespace norvane {
 namespace {
 
-/// In pixels; farther than any screen, and what a coordinate of a message holds.
+/// In pixels: larger than any screen, and the limit of message coordinates.
 constexpr float farOut = 32767;
 
-/// A handler may cause the event that calls it again; from here on it has to wait.
+/// The maximum nesting of DoEvents: a handler may cause the same event again. Above it, events stay
+/// in the queue.
 constexpr int maximumLoops = 16;
 constexpr unsigned questionsALook = 64;
 constexpr ULONGLONG millisecondsBetweenPumps = 10;
@@ -65,7 +66,7 @@ std::unique_ptr<Timer> WinPlace::addTimer(std::function<void()> tick) {
   return std::make_unique<WinTimer>(apartment_, std::move(tick));
 }
 
-/// Asks the system once in a while only: loops over a million items ask.
+/// Queries the system only occasionally, because loops over a million items call this.
 bool WinPlace::EventsWaiting() {
   if (++questions % questionsALook != 0) return false;
   if (GetTickCount64() - lastPumped < millisecondsBetweenPumps) return false;
@@ -84,7 +85,7 @@ void WinPlace::DoEvents() {
   MSG message;
   while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
     if (message.message == WM_QUIT) {
-      // It is for the loop of the program.
+      // The message is for the program's own loop.
       PostQuitMessage(static_cast<int>(message.wParam));
       return;
     }

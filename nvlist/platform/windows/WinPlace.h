@@ -7,17 +7,17 @@ namespace norvane {
 
 class WinWindow;
 
-/// To the nearest pixel that a coordinate of a window can have.
+/// Rounds to the nearest pixel that a window coordinate can hold.
 int windowPixel(float length);
 
 /// The place of a control inside another one. It has no window: the outermost place shows its image
-/// and passes it the mouse (WinWindow).
+/// and passes the mouse to it (WinWindow).
 class WinPlace : public Place {
  public:
   explicit WinPlace(WinPlace* around);
 
   GdiSurface& image() { return surface_; }
-  /// The outermost place; nullptr once it has ended.
+  /// The outermost place, or nullptr once it has been destroyed.
   WinWindow* window();
 
   Surface& surface() override { return surface_; }
@@ -29,7 +29,7 @@ class WinPlace : public Place {
   void DoEvents() override;
   void move(const Bounds& bounds) override;
   void show(bool isVisible) override;
-  /// The handle of the outermost place, in 32 bits: handles have no more on any Windows.
+  /// The handle of the outermost place. Window handles have 32 significant bits on every Windows.
   std::int32_t hwnd() override;
   void hookWheel(std::function<void(std::int32_t, std::int32_t)>) override {}
   std::unique_ptr<Container> addChild() override;

@@ -13,12 +13,12 @@ namespace {
 
 constexpr int legibleDifference = 64;
 
-/// From 0 to 255.
+/// Returns 0 to 255.
 int brightness(COLORREF colour) {
   return (GetRValue(colour) * 11 + GetGValue(colour) * 16 + GetBValue(colour) * 5) / 32;
 }
 
-/// How many halves of characters beyond 16 bits the first so many characters take.
+/// Returns how many UTF-16 units the first `characters` characters take.
 int unitsOf(std::wstring_view text, std::int32_t characters) {
   std::size_t at = 0;
   for (; characters > 0 && at < text.size(); --characters)
@@ -43,7 +43,7 @@ void WinTextBox::create() {
   SetWindowLongPtrW(edit_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   procedureBefore_ = reinterpret_cast<WNDPROC>(
       SetWindowLongPtrW(edit_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
-  // Margins would take the text's room.
+  // Margins would reduce the room for the text.
   SendMessageW(edit_, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
   applyFont();
   applyPlace();
@@ -74,8 +74,8 @@ void WinTextBox::ForeColor(Colour colour) {
   if (edit_) InvalidateRect(edit_, nullptr, TRUE);
 }
 
-/// The background is that of the desktop's edits, which the list's colours do not depend on: where
-/// it would swallow the letters, it becomes black or white.
+/// The background is that of the desktop's edit controls, whatever the list's colours. If the text
+/// would be illegible on it, it becomes black or white.
 HBRUSH WinTextBox::colours(HWND edit, HDC dc) {
   const bool isOwn = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(edit, GWLP_WNDPROC)) == procedure;
   if (!isOwn) return nullptr;
@@ -156,7 +156,7 @@ LRESULT WinTextBox::handle(UINT message, WPARAM wParam, LPARAM lParam) {
   WinWindow* const window = around_.window();
   switch (message) {
     case WM_GETDLGCODE:
-      // A dialog would take Enter for its default button, and select all.
+      // A dialog would use Enter for its default button, and select all text.
       return DLGC_WANTALLKEYS;
     case WM_CHAR: {
       auto character = static_cast<std::int16_t>(wParam);

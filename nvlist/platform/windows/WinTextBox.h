@@ -8,9 +8,9 @@
 
 namespace norvane {
 
-/// The system's own edit control in front of a control; a window of its own, since it has the
-/// selection, the clipboard and the input methods. It is made when it is first shown. If its window
-/// is destroyed with the one around it, nothing happens any more.
+/// The system's edit control in front of a control. It is a window of its own, for the selection,
+/// the clipboard and input methods, and is created when first shown. Once its window has been
+/// destroyed with its parent, calls do nothing.
 class WinTextBox final : public TextBox {
  public:
   WinTextBox(WinPlace& around, std::function<void(std::int16_t&)> keyPress);
@@ -24,12 +24,12 @@ class WinTextBox final : public TextBox {
   void Move(const Bounds& bounds) override;
   bool Visible() const override { return isVisible_; }
   void Visible(bool isVisible) override;
-  /// Throws Failure 5 where the edit is not visible.
+  /// Throws Failure 5 if the edit is not visible.
   void SetFocus() override;
   /// A character beyond 16 bits counts as one.
   void select(std::int32_t start, std::int32_t length) override;
 
-  /// The colours of the edit whose window this is; nullptr for any other window.
+  /// Sets the colours of the edit control `edit`. Returns nullptr for any other window.
   static HBRUSH colours(HWND edit, HDC dc);
 
  private:

@@ -8,7 +8,7 @@
 
 namespace norvane {
 
-/// A timer of the system, at ten milliseconds or more a tick.
+/// A system timer with an interval of at least ten milliseconds.
 class WinTimer final : public Timer {
  public:
   WinTimer(std::shared_ptr<Apartment> apartment, std::function<void()> tick)

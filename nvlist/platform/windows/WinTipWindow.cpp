@@ -9,12 +9,12 @@
 namespace norvane {
 namespace {
 
-/// A handle has 32 bits that count; the system extends them by their sign.
+/// Handles have 32 significant bits; the system sign-extends them.
 HWND windowOf(std::int32_t handle) {
   return reinterpret_cast<HWND>(static_cast<std::intptr_t>(handle));
 }
 
-/// The form of the record that every version of the common controls takes.
+/// The version of the record that every version of the common controls accepts.
 TTTOOLINFOW recordOf(const TipTool& tool, wchar_t* text) {
   TTTOOLINFOW record{};
   record.cbSize = TTTOOLINFOW_V1_SIZE;
@@ -76,7 +76,8 @@ bool WinTipWindow::enumerateTool(std::int32_t index, TipTool& tool) {
   tool.rectangle = {record.rect.left, record.rect.top, record.rect.right, record.rect.bottom};
   if (tool.text.empty()) return true;
 
-  // The message has no length of the buffer: it is as large as the longest text there can be.
+  // The message does not pass the buffer size, so the buffer has room for the longest possible
+  // text.
   std::wstring text(static_cast<std::size_t>(UINT16_MAX) + 1, L'\0');
   record.lpszText = text.data();
   send(TTM_GETTEXTW, text.size(), reinterpret_cast<LPARAM>(&record));
@@ -103,7 +104,7 @@ std::int32_t WinTipWindow::delay(TipDelay which) {
 }
 
 void WinTipWindow::delay(TipDelay which, std::int32_t milliseconds) {
-  // The message takes 16 signed bits.
+  // The message takes a signed 16-bit number.
   const auto time = static_cast<std::int16_t>(std::clamp(milliseconds, -1, INT16_MAX + 0));
   send(TTM_SETDELAYTIME, static_cast<WPARAM>(which), MAKELPARAM(time, 0));
 }

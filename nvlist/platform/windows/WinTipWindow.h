@@ -7,10 +7,11 @@
 
 namespace norvane {
 
-/// A tool tip of the common controls; all state is kept by its window.
+/// A tool tip of the common controls; its window keeps all state.
 class WinTipWindow final : public TipWindow {
  public:
-  /// Owned by the form, which is a window's handle. nullptr where no window can be made.
+  /// Creates a tip window owned by the form, a window handle. Returns nullptr if it cannot be
+  /// created.
   static std::shared_ptr<TipWindow> create(std::int32_t form);
   ~WinTipWindow() override;
 

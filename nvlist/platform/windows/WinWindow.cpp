@@ -13,12 +13,13 @@ namespace {
 
 constexpr wchar_t className[] = L"NorvaneControl";
 
-// Properties of windows; the first two stand on the wheel's helper, the last on the hooked window.
+// Window properties: the first two belong to the helper of the wheel, the last to the hooked
+// window.
 constexpr wchar_t oldWheelProc[] = L"OldWheelProc";
 constexpr wchar_t wheelPtr[] = L"WheelPtr";
 constexpr wchar_t wheelWnd[] = L"WheelWnd";
 
-/// Newer than the oldest system that is supported.
+/// A message newer than the oldest supported system.
 constexpr UINT dpiChangedAfterParent = 0x02E3;
 
 std::int16_t shiftKeys() {
@@ -33,7 +34,7 @@ std::int16_t buttonsOf(WPARAM keys) {
                                    ((keys & MK_MBUTTON) != 0 ? 4 : 0));
 }
 
-/// Of the monitor where the system tells, else of the screen.
+/// The resolution of the window's monitor if the system supports it, otherwise of the screen.
 int resolutionOf(HWND window) {
   using GetDpi = UINT(WINAPI*)(HWND);
   static const auto getDpi = reinterpret_cast<GetDpi>(
@@ -68,7 +69,7 @@ void WinWindow::create() {
   look.hCursor = LoadCursorW(nullptr, MAKEINTRESOURCEW(32512));  // the arrow
   look.lpfnWndProc = procedure;
   look.lpszClassName = className;
-  // Fails if it was registered before.
+  // Fails if the class is already registered.
   RegisterClassW(&look);
   window_ = CreateWindowExW(
       0, className, L"", WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS | WS_VISIBLE, 0, 0,
@@ -144,7 +145,7 @@ bool WinWindow::isEditing() const { return hasFocus() && GetFocus() != window_; 
 
 void WinWindow::invalidate() {
   if (window_ && !isParked()) {
-    // Each call asks the window system: a list that is being filled changes for every item.
+    // Each call goes to the window system, and a list that is being filled changes with every item.
     if (!std::exchange(isInvalid_, true)) InvalidateRect(window_, nullptr, FALSE);
   } else if (!std::exchange(isViewChanged_, true)) {
     host_.viewChanged();
@@ -158,7 +159,7 @@ void WinWindow::complete(WinPlace& place) {
     if (child->isVisible()) complete(static_cast<WinPlace&>(*child));
 }
 
-/// From front to back, and nothing is drawn twice, so that nothing flickers.
+/// Draws from front to back and no pixel twice, so that nothing flickers.
 void WinWindow::show(HDC target, WinPlace& place, int x, int y) {
   const auto& children = place.places();
   for (auto child = children.rbegin(); child != children.rend(); ++child) {
@@ -244,7 +245,7 @@ LRESULT CALLBACK WinWindow::procedure(HWND window, UINT message, WPARAM wParam,
     const Apartment::Running running(*self->apartment_);
     answer = self->handleMessage(message, wParam, lParam);
   } catch (...) {
-    // The control has reported its failures; what is left is lack of memory in this file.
+    // The control has reported its failures; only running out of memory in this file is left.
   }
   return answer ? *answer : DefWindowProcW(window, message, wParam, lParam);
 }
@@ -296,7 +297,7 @@ WinWindow::Answer WinWindow::handleMessage(UINT message, WPARAM wParam, LPARAM l
       mouse().pointerLeft(shiftKeys());
       return 0;
     case WM_CAPTURECHANGED:
-      // The release will be reported to another window, or to none.
+      // Another window may get the release, or none.
       if (reinterpret_cast<HWND>(lParam) != window_) mouse().holdLost();
       return 0;
     case WM_CTLCOLOREDIT:
@@ -335,7 +336,7 @@ WinWindow::Answer WinWindow::handleMouse(UINT message, WPARAM wParam, LPARAM lPa
       const bool isDouble =
           message == WM_LBUTTONDBLCLK || message == WM_RBUTTONDBLCLK || message == WM_MBUTTONDBLCLK;
       if (GetFocus() != window_) SetFocus(window_);
-      // A handler of the focus may have ended the window.
+      // A focus handler may have destroyed the window.
       if (!window_) return 0;
       ::SetCapture(window_);
       if (isDouble)
@@ -348,7 +349,7 @@ WinWindow::Answer WinWindow::handleMouse(UINT message, WPARAM wParam, LPARAM lPa
 }
 
 WinWindow::Answer WinWindow::handleKey(UINT message, WPARAM wParam) {
-  // The keys that leave the control are the form's.
+  // Keys that leave the control belong to the form.
   if (!control() || wParam == VK_TAB) return {};
   auto code = static_cast<std::int16_t>(wParam);
   switch (message) {
@@ -356,7 +357,7 @@ WinWindow::Answer WinWindow::handleKey(UINT message, WPARAM wParam) {
     case WM_SYSKEYDOWN: {
       control()->UserControl_KeyDown(code, shiftKeys());
       if (code != 0) return {};
-      // The loop of the program has made a character of it already.
+      // The program's message loop has already translated it into a character.
       MSG made;
       if (window_) PeekMessageW(&made, window_, WM_CHAR, WM_DEADCHAR, PM_REMOVE);
       return 0;
@@ -370,7 +371,7 @@ WinWindow::Answer WinWindow::handleKey(UINT message, WPARAM wParam) {
   }
 }
 
-// ---- the focus: the control is entered and left as a whole, with its edit box ----
+// ---- the focus: control and edit box count as one ----
 
 void WinWindow::enter() {
   if (std::exchange(isEntered_, true)) return;
@@ -441,11 +442,11 @@ LRESULT CALLBACK WinWindow::wheelProcedure(HWND window, UINT message, WPARAM wPa
                   : DefWindowProcW(window, message, wParam, lParam);
   try {
     const Apartment::Running running(*self->apartment_);
-    // A copy, as a handler of the host may end the hook.
+    // A copy, because a handler of the host may remove the hook.
     const auto hook = self->wheelHook_;
     hook(static_cast<std::int32_t>(wParam), static_cast<std::int32_t>(lParam));
   } catch (...) {
-    // Reported already. The message ends here either way.
+    // Already reported. The message ends here in any case.
   }
   return 0;
 }

@@ -15,41 +15,43 @@ struct WinHost {
   virtual Boolean UserMode() { return true; }
   virtual norvane::Font AmbientFont() { return nullptr; }
   virtual std::string Name() { return {}; }
-  /// The keyboard's focus comes into the window or its edit box, or leaves both.
+  /// The keyboard focus has entered the window or its edit box, or has left both.
   virtual void focusChanged(bool hasFocus) { (void)hasFocus; }
-  /// The image of a control that is shown in no window has changed, for the first time since
+  /// The image of a control that is not shown in a window has changed for the first time since
   /// draw().
   virtual void viewChanged() {}
-  /// The window is on a screen of another resolution; texts have other widths.
+  /// The resolution of the screen that shows the window has changed, and so have the widths of
+  /// texts.
   virtual void resolutionChanged() {}
 };
 
 /// The window of a control: the outermost place. The places in it are regions of the window; only
-/// the edit box and the wheel's helper are windows of their own.
+/// the edit box and the helper of the wheel are windows of their own.
 ///
-/// The window exists from the start, as a child of a hidden one, and stays the same when it comes
-/// into a container's window. If the container destroys it, what is drawn is seen nowhere, and the
-/// next call of `place` makes a new one.
+/// The window exists from the start, as a child of a hidden one, and is kept when it moves into a
+/// container's window. If the container destroys it, drawing is not visible anywhere, and the next
+/// call of `place` creates a new window.
 class WinWindow final : public WinPlace {
  public:
-  /// `host` outlives the window.
+  /// `host` must outlive the window.
   explicit WinWindow(WinHost& host);
   ~WinWindow() override;
 
   /// 0 if the container has destroyed it.
   HWND handle() const { return window_; }
-  /// Puts the window into the container's and shows it. In pixels of that one.
+  /// Moves the window into the container's window and shows it. `position` is in pixels of that
+  /// window.
   void place(HWND container, const RECT& position);
-  /// Moves it within the container's window, without a change of its visibility.
+  /// Moves it within the container's window; does not change its visibility.
   void reposition(const RECT& position);
-  /// Back into the hidden window.
+  /// Moves it back into the hidden window.
   void park();
   bool isParked() const;
-  /// Gives the control another size, in pixels; it is notified.
+  /// Sets the size of the control in pixels, and notifies it.
   void resize(int width, int height);
 
-  /// Draws the control with all in it, scaled to a rectangle in logical units of a device, which
-  /// may be a printer or a metafile.
+  /// Draws the control with everything in it, scaled to a rectangle in logical units of a device,
+  /// which may be a printer or a metafile.
   void draw(HDC target, const RECT& rectangle);
   /// Whether an edit box in the control has the keyboard.
   bool isEditing() const;
@@ -62,14 +64,14 @@ class WinWindow final : public WinPlace {
   norvane::Font AmbientFont() override;
   std::string Name() override { return host_.Name(); }
   std::int32_t hwnd() override;
-  /// The wheel's messages are taken from this window by replacing its procedure.
+  /// Hooks wheel messages by replacing the procedure of this window.
   void hookWheel(std::function<void(std::int32_t, std::int32_t)> procedure) override;
-  /// Shows the images anew, once for any number of calls before the next painting.
+  /// Repaints the window. Further calls before the next painting have no effect.
   void invalidate();
-  /// The edit box of a control gets the keyboard from another window, or loses it to one. `other`
-  /// may be 0.
+  /// The edit box of a control has got the keyboard focus from another window, or lost it to one.
+  /// `other` may be 0.
   void editFocus(bool hasFocus, HWND other);
-  /// Pixels an inch where the window is shown.
+  /// Pixels per inch of the screen that shows the window.
   int resolution() const { return dpi_; }
 
   static void unregisterClass();
@@ -86,7 +88,7 @@ class WinWindow final : public WinPlace {
                                          LPARAM lParam) noexcept;
 
   void create();
-  /// What a message results in. An empty answer leaves it to the system.
+  /// Handles a message. An empty answer leaves it to the system.
   Answer handleMessage(UINT message, WPARAM wParam, LPARAM lParam);
   Answer handleMouse(UINT message, WPARAM wParam, LPARAM lParam);
   Answer handleKey(UINT message, WPARAM wParam);
@@ -94,7 +96,7 @@ class WinWindow final : public WinPlace {
   /// The window is about to be destroyed.
   void lost();
   void paint();
-  /// Draws everything that waits, so that nothing changes while the images are shown.
+  /// Draws all pending calls, so that the images do not change while they are shown.
   static void complete(WinPlace& place);
   static void show(HDC target, WinPlace& place, int x, int y);
   void moveTo(HWND parent, const RECT& position, UINT flags);

@@ -1,4 +1,4 @@
-// What the system calls in the library: class objects, unloading, registration.
+// The entry points of the DLL: class objects, unloading, registration.
 #include <nvlist/platform/windows/Apartment.h>
 #include <nvlist/platform/windows/Automation.h>
 #include <nvlist/platform/windows/WinWindow.h>
@@ -20,7 +20,7 @@ const RegisteredClass classes[] = {
     {__uuidof(::Error), L"Error", L"nvList failures", false, createError},
     {__uuidof(::ListItem), L"ListItem", L"nvList item", false, createListItem}};
 
-/// Makes objects of one class. There is one for each class, and it lives as long as the library.
+/// Creates objects of one class. There is one per class, and it lives as long as the library.
 class Factory final : public IClassFactory {
  public:
   explicit Factory(const RegisteredClass& made) : made_(made) {}
@@ -59,7 +59,7 @@ const GUID& libraryId() { return LIBID_Norvane; }
 
 HRESULT typeInfoOf(REFGUID id, ITypeInfo** out) {
   *out = nullptr;
-  ComPtr<ITypeLib> library;  // the system keeps a loaded one at hand
+  ComPtr<ITypeLib> library;  // the system caches it
   wchar_t path[MAX_PATH];
   const DWORD length = GetModuleFileNameW(thisModule(), path, MAX_PATH);
   if (length == 0 || length == MAX_PATH) return TYPE_E_CANTLOADLIBRARY;
@@ -94,8 +94,7 @@ STDAPI DllCanUnloadNow() { return LiveObject::any() ? S_FALSE : S_OK; }
 STDAPI DllRegisterServer() { return registerLibrary(Scope::machine); }
 STDAPI DllUnregisterServer() { return unregisterLibrary(Scope::machine); }
 
-/// `regsvr32 /n /i:user nvList.ocx`: for the user who calls it, without the rights of an
-/// administrator.
+/// `regsvr32 /n /i:user nvList.ocx`: registers for the current user, without administrator rights.
 STDAPI DllInstall(BOOL install, LPCWSTR command) {
   const Scope scope = command && lstrcmpiW(command, L"user") == 0 ? Scope::user : Scope::machine;
   return install ? registerLibrary(scope) : unregisterLibrary(scope);

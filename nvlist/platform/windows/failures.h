@@ -4,11 +4,11 @@
 
 namespace norvane {
 
-/// The HRESULT of the exception that is being handled. A Failure gets its number, as in
-/// 0x800A0000 + 13, and an error info with its text.
+/// The HRESULT for the exception being handled. A Failure gives its number, as in 0x800A0000 + 13,
+/// and an error info with its text.
 HRESULT caughtFailure() noexcept;
 
-/// Runs the body of a COM method: nothing that it throws leaves it.
+/// Runs the body of a COM method; no exception leaves it.
 template <class Body>
 HRESULT guarded(Body&& body) noexcept {
   try {

@@ -12,7 +12,7 @@
 namespace norvane {
 namespace {
 
-/// Runs a member that has a result, which starts as zero.
+/// Runs a member with a result, which is initially zero.
 template <class Out, class Body>
 HRESULT result(Out* out, Body&& body) {
   if (!out) return E_POINTER;
@@ -20,7 +20,7 @@ HRESULT result(Out* out, Body&& body) {
   return guarded([&] { toOle(out, body()); });
 }
 
-/// A list box of the host; any other value is left to SpEv to refuse.
+/// A list box of the host. SpEv rejects any other value.
 Variant listBoxIn(const VARIANT& list) {
   IDispatch* const box = dispatchIn(list);
   return box ? Variant(Ref<Object>(makeRef<OleListBox>(box))) : fromOle(list);

@@ -38,15 +38,15 @@ class ComPtr {
   T* operator->() const { return object_; }
   explicit operator bool() const { return object_ != nullptr; }
 
-  /// Where a call puts its result, which comes with a reference of its own.
+  /// For calls that store an object with a reference for the caller.
   T** put() {
     reset();
     return &object_;
   }
   void** putVoid() { return reinterpret_cast<void**>(put()); }
-  /// Hands the reference over to the caller.
+  /// Passes the reference to the caller.
   [[nodiscard]] T* detach() { return std::exchange(object_, nullptr); }
-  /// Asks an object, which may be missing, for this interface.
+  /// Queries an object, which may be null, for this interface.
   HRESULT query(IUnknown* from) {
     reset();
     return from ? from->QueryInterface(__uuidof(T), putVoid()) : E_NOINTERFACE;
@@ -56,7 +56,7 @@ class ComPtr {
   T* object_ = nullptr;
 };
 
-/// The interface T of an object; empty where it has none.
+/// The interface T of an object, or empty if it has none.
 template <class T>
 ComPtr<T> asked(IUnknown* object) {
   ComPtr<T> result;
@@ -67,7 +67,7 @@ ComPtr<T> asked(IUnknown* object) {
 /// A VARIANT that clears itself.
 struct OleVariant : VARIANT {
   OleVariant() { VariantInit(this); }
-  /// A copy without indirection.
+  /// A copy with references resolved.
   explicit OleVariant(const VARIANT& other) : OleVariant() {
     VariantCopyInd(this, const_cast<VARIANT*>(&other));
   }
@@ -76,7 +76,7 @@ struct OleVariant : VARIANT {
   OleVariant& operator=(const OleVariant&) = delete;
 };
 
-// ---- texts: UTF-16 outside, UTF-8 inside ----
+// ---- texts: UTF-16 in COM, UTF-8 in the library ----
 
 inline std::wstring wide(std::string_view text) {
   std::wstring result(text.size(), L'\0');
@@ -99,15 +99,15 @@ inline std::string textOf(BSTR text) {
   return narrow(std::wstring_view(text ? text : L"", SysStringLen(text)));
 }
 
-/// Null where memory is short. The caller frees it.
+/// Returns null if memory runs out. The caller frees it.
 inline BSTR newBstr(std::string_view text) {
   const std::wstring result = wide(text);
   return SysAllocStringLen(result.data(), static_cast<UINT>(result.size()));
 }
 
-// ---- lengths: hundredths of a millimetre outside, pixels inside ----
+// ---- lengths: hundredths of a millimetre in COM, pixels in the library ----
 
-/// Pixels an inch of the screen; `index` is LOGPIXELSX or LOGPIXELSY.
+/// Pixels per inch of the screen; `index` is LOGPIXELSX or LOGPIXELSY.
 inline int screenResolution(int index) {
   const HDC screen = GetDC(nullptr);
   const int result = GetDeviceCaps(screen, index);

@@ -4,7 +4,7 @@
 
 namespace norvane {
 
-/// Whose programs find the library.
+/// The users whose programs can find the library.
 enum class Scope { machine, user };
 
 /// A class that the library registers as Norvane.<name>, with version 1.
@@ -19,8 +19,8 @@ struct RegisteredClass {
 /// Writes everything that containers need to find the classes and the type library. A failure
 /// removes what was written.
 HRESULT registerLibrary(Scope scope);
-/// Removes it; what is not there is no failure. The names stay if the library is still registered
-/// in the other bitness.
+/// Removes the registration; missing entries are not a failure. The names are kept if the library
+/// is still registered for the other bitness.
 HRESULT unregisterLibrary(Scope scope);
 
 }  // namespace norvane
