@@ -1,5 +1,5 @@
-# The headers of the library that are installed: those a host or a platform includes, and those they
-# include in turn. All others belong to the library alone.
+# The installed headers of the library: those that a host or a platform includes, and those that they
+# include. All other headers are private.
 target_sources(nvlist PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES
   nvlist/core/ItemStore.h
   nvlist/core/ListItem.h

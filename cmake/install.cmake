@@ -1,5 +1,5 @@
 # What `cmake --install` installs: the libraries with their public headers, the CMake package nvList
-# and a pkg-config file for each library but the one for databases.
+# and a pkg-config file for each library except the one for databases.
 include(CMakePackageConfigHelpers)
 include(GNUInstallDirs)
 
@@ -13,8 +13,8 @@ function(install_library target name)
   install(EXPORT ${target}_targets NAMESPACE nvlist:: DESTINATION ${package_dir})
 endfunction()
 
-# Installs the pkg-config file of the library `target`. Arguments: what it is for, and the other
-# packages its users need.
+# Installs the pkg-config file of the library `target`. Arguments: its description, and the packages
+# that its users need.
 function(install_pkg_config target description requires)
   string(REPLACE _ - package ${target})
   configure_file(${PROJECT_SOURCE_DIR}/cmake/package.pc.in ${PROJECT_BINARY_DIR}/${package}.pc @ONLY)

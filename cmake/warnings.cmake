@@ -1,4 +1,4 @@
-# The warnings of every target: `link_libraries(nvlist_warnings)` gives them to all that follow. A
+# The warnings of every target: `link_libraries(nvlist_warnings)` applies them to all later targets. A
 # project that adds this one with add_subdirectory chooses its own.
 add_library(nvlist_warnings INTERFACE)
 if(NOT PROJECT_IS_TOP_LEVEL)

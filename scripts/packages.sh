@@ -32,6 +32,6 @@ test_packages=(libgtest-dev pkgconf)
 clang_packages=(clang libclang-rt-dev)
 windows_packages=(g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix)
 benchmark_packages=(libbenchmark-dev)
-# The type library's compiler and what it refers to.
+# The compiler of the type library and the files it needs.
 windows_build_packages=("${windows_packages[@]}" mingw-w64-tools libwine zip googletest)
 windows_test_packages=("${windows_build_packages[@]}" wine64 xvfb xauth xdotool imagemagick)

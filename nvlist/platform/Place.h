@@ -8,12 +8,12 @@
 
 namespace norvane {
 
-/// What the places of all platforms have in common: the control, its bounds, the places of the
-/// controls in it, and the mouse. A platform derives its own.
+/// The common part of the places of all platforms: the control, its bounds, the places of its child
+/// controls, and the mouse. Each platform derives its own class.
 ///
-/// Places form a tree. The outermost one, the root, stands for what the platform shows: a window,
+/// Places form a tree. The outermost one, the root, represents what the platform shows: a window,
 /// or a recording. The others are regions of it without windows of their own, shown back to front
-/// (forEachVisible). A platform passes the mouse to `mouse` of the root.
+/// (forEachVisible). A platform reports the mouse to `mouse` of the root.
 class Place : public Container {
  public:
   Place(const Place&) = delete;
@@ -22,29 +22,30 @@ class Place : public Container {
 
   /// The attached control, or nullptr.
   UserControl* control() const { return control_; }
-  /// In pixels of the place around it. Those of the root are not used; its size is its surface's.
+  /// In pixels of the parent place. The bounds of the root are not used; its size is that of its
+  /// surface.
   const Bounds& bounds() const { return bounds_; }
   bool isVisible() const { return isVisible_; }
   bool isEnabled() const { return isEnabled_; }
-  /// Whether this place and all around it are visible.
+  /// Whether this place and all its ancestors are visible.
   bool isShown() const { return isVisible_ && (!parent_ || parent_->isShown()); }
   bool hasCapture() { return root().mouse_.captured() == this; }
 
-  /// The places in this one, back to front.
+  /// The child places, back to front.
   const std::vector<Place*>& places() const { return places_; }
   Place* parent() const { return parent_; }
   Place& root() { return parent_ ? parent_->root() : *this; }
   /// Between a point of this place and the same point of the root.
   Point toRoot(Point point) const;
   Point fromRoot(Point point) const { return point - toRoot({}); }
-  /// The dispatcher of the root, in pixels of the root.
+  /// The dispatcher of the root. Positions are in pixels of the root.
   MouseDispatcher& mouse() { return root().mouse_; }
 
-  /// Calls `visit` for this place and the visible ones in it, back to front. `origin` is where the
-  /// place begins and `clip` the part of it that can be seen, both in pixels of this place; places
-  /// without such a part are left out. No place may be added or end meanwhile.
+  /// Calls `visit` for this place and its visible descendants, back to front. `origin` is the top
+  /// left corner of the place and `clip` its visible part, both in pixels of this place; places
+  /// without a visible part are skipped. No place may be added or destroyed meanwhile.
   void forEachVisible(const std::function<void(Place&, Point origin, const Bounds& clip)>& visit);
-  /// Runs UserControl_Paint if the control asked for it since the last call (paintLater).
+  /// Calls UserControl_Paint if the control has called paintLater since the last call.
   void paintPending();
 
   void attach(UserControl* control) override { control_ = control; }
@@ -59,8 +60,8 @@ class Place : public Container {
   /// A place in another one, in front of those before; a root for nullptr.
   explicit Place(Place* parent);
 
-  /// What this place shows has changed: the platform has to show it again. Called by paintLater; a
-  /// platform calls it from its surface too. Nothing has been painted yet.
+  /// The image of this place has changed, and the platform has to show it again. Called by
+  /// paintLater; a platform also calls it from its surface. Nothing has been painted yet.
   virtual void changed() = 0;
 
  private:
@@ -74,7 +75,7 @@ class Place : public Container {
   bool isVisible_ = true;
   bool isEnabled_ = true;
   bool isPaintPending_ = false;
-  /// In use at the root only.
+  /// Used only at the root.
   MouseDispatcher mouse_{*this};
 };
 

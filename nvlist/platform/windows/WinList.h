@@ -5,14 +5,14 @@
 
 namespace norvane {
 
-/// A list in a window of a C++ program, without COM: made as a child of the program's window,
+/// A list in a window of a C++ program, without COM: created as a child of the program's window and
 /// filled through list().
 ///
 ///     WinList names(form, {10, 10, 210, 110});
 ///     names.list().ItemsAdd("Ada");
 ///
-/// It belongs to the thread that made it, which needs OleInitialize or CoInitialize for pictures. A
-/// handler of one of its events must not destroy it.
+/// It is used only on the thread that created it, which must have called OleInitialize or
+/// CoInitialize if pictures are used. A handler of one of its events must not destroy it.
 class WinList : private WinHost {
  public:
   WinList(HWND parent, const RECT& position) : window_(*this), list_(window_) {

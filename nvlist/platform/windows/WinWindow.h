@@ -6,8 +6,8 @@
 
 namespace norvane {
 
-/// What a control's window asks of whoever owns it, and what it reports. Calls come on the thread
-/// of the window, each outlives none of them.
+/// The owner of a control's window: answers its queries and receives its notifications, on the
+/// thread of the window. It must outlive the window.
 struct WinHost {
   virtual ~WinHost() = default;
 

@@ -1,5 +1,5 @@
-# The library of ActiveX controls: nvList.ocx with its type library, and the manifest with which a
-# program uses it without registration.
+# The library of ActiveX controls: nvList.ocx with its type library, and the manifest for use without
+# registration.
 enable_language(RC)
 
 if(CMAKE_SIZEOF_VOID_P EQUAL 8)
@@ -36,7 +36,7 @@ target_link_options(nvlist_ocx PRIVATE -static -Wl,--gc-sections -Wl,--enable-st
 set_source_files_properties(${made}/nvList.rc PROPERTIES
   OBJECT_DEPENDS "${made}/nvList.tlb;${CMAKE_CURRENT_SOURCE_DIR}/nvList.bmp")
 
-# The GUIDs stand in the IDL alone.
+# Only the IDL contains the GUIDs.
 file(READ nvList.idl idl_text)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS nvList.idl)
 function(guid_before pattern result)
