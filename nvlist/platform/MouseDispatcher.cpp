@@ -78,7 +78,7 @@ void MouseDispatcher::release(Point at, std::int16_t button, std::int16_t shift)
   {
     const EndOfHold end{*this};
     target->control()->UserControl_MouseUp(button, shift, own.x, own.y);
-    // A handler may have ended the control.
+    // A handler may have destroyed the control.
     isClick = isClick && pressed_ == target;
   }
   if (isClick) target->control()->UserControl_Click();

@@ -56,7 +56,7 @@ class RepeatButton : public UserControl {
   void ArrowDown(Colour value);
   Colour ArrowHover() const { return arrow_.hover; }
   void ArrowHover(Colour value);
-  /// The face behind it. Default: the button face.
+  /// The background of the arrow. Default: the button face.
   Colour Button() const { return face_.rest; }
   void Button(Colour value);
   Colour ButtonDown() const { return face_.down; }

@@ -47,7 +47,7 @@ STDMETHODIMP ConnectionPoint::Advise(IUnknown* sink, DWORD* cookie) {
 STDMETHODIMP ConnectionPoint::Unadvise(DWORD cookie) {
   const auto found = std::ranges::find(sinks_, cookie, &Sink::cookie);
   if (found == sinks_.end()) return CONNECT_E_NOCONNECTION;
-  const ComPtr<IUnknown> object = found->object;  // what ends with it may come back in here
+  const ComPtr<IUnknown> object = found->object;  // its destruction may call back
   sinks_.erase(found);
   return S_OK;
 }

@@ -36,7 +36,7 @@ std::wstring modulePath() {
   }
 }
 
-/// The branch of the registry in which the classes of a scope stand.
+/// The registry branch that contains the classes of a scope.
 class Branch {
  public:
   explicit Branch(Scope scope)
