@@ -68,7 +68,10 @@ void fillShades(nvList& list, cColorStyle style, std::span<const Shade> shades) 
 void fillTasks(nvList& list) {
   list.AutoRedraw(false);
   list.Style(cCheckBoxesIcons);
-  list.MinHeight(20);
+  // The edit box stands over its row where the height of the rows follows the font.
+  const Font font = CloneFont(list.Font());
+  font->Size = 10.5F;
+  list.Font(font);
   list.IconW(16);
   list.IconH(16);
   list.DistPicText(4);
@@ -112,8 +115,8 @@ void fillGrid(nvList& list) {
   list.MinHeight(17);
   list.ShowFocusRect(true);
   list.ScrollBars(vbVertical);
-  list.ColorStyle(cCustom);
   list.ValueColor(rgb(150, 70, 160));
+  list.ColorStyle(cCustom);
   constexpr cItemAlignment alignments[] = {cLeft, cCenter, cRight};
   for (int i = 0; i < 1000; ++i)
     list.ItemsAdd({.aText = "Item " + std::to_string(i),

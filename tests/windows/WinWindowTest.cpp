@@ -263,18 +263,20 @@ TEST(WinWindow, OutlivesAContainerThatDestroysIt) {
   EXPECT_TRUE(window.isParked());
 }
 
+BOOL CALLBACK count(HWND, LPARAM to) {
+  ++*reinterpret_cast<int*>(to);
+  return TRUE;
+}
+
+BOOL CALLBACK countWithChildren(HWND window, LPARAM to) {
+  EnumChildWindows(window, count, to);
+  return count(window, to);
+}
+
 int windowsOf(DWORD thread) {
-  int count = 0;
-  EnumThreadWindows(
-      thread,
-      [](HWND window, LPARAM to) -> BOOL {
-        ++*reinterpret_cast<int*>(to);
-        EnumChildWindows(
-            window, [](HWND, LPARAM of) -> BOOL { return ++*reinterpret_cast<int*>(of); }, to);
-        return TRUE;
-      },
-      reinterpret_cast<LPARAM>(&count));
-  return count;
+  int result = 0;
+  EnumThreadWindows(thread, countWithChildren, reinterpret_cast<LPARAM>(&result));
+  return result;
 }
 
 /// Handles are numbers from a table that is filled from its start.
