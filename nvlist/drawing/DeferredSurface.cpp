@@ -19,17 +19,21 @@ void DeferredSurface::dropWaiting() {
 }
 
 void DeferredSurface::drawWaiting() {
+  flush();
+  isChangeReported_ = false;
+}
+
+void DeferredSurface::flush() {
   try {
     waiting_.replay(canvas_);
   } catch (...) {
     // Memory ran out within a frame. The next frame may succeed.
   }
   waiting_.forget();
-  isChangeReported_ = false;
 }
 
 void DeferredSurface::drawn() {
-  if (waiting_.image().calls.size() > maximumWaiting) drawWaiting();
+  if (waiting_.image().calls.size() > maximumWaiting) flush();
   if (std::exchange(isChangeReported_, true)) return;
   if (onDrawn) onDrawn();
 }

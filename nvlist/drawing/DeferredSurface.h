@@ -56,6 +56,7 @@ class DeferredSurface : public Surface {
   void dropWaiting();
 
  private:
+  void flush();
   void drawn();
   void requireOwn(std::uintptr_t hDC) const;
 
