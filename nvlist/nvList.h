@@ -422,7 +422,12 @@ class nvList final : public UserControl,
 
   // ---- painting: render/redraw.cpp, render/rows.cpp ----
 
-  /// Repaints the whole list, regardless of AutoRedraw.
+  /// Repaints the whole list, regardless of AutoRedraw. Nothing is painted while the list holds
+  /// painting back itself (ListState::SuppressRedraw): while it reads its properties, and while it
+  /// yields in a scroll by the vertical bar or the wheel. If that ends with a failure, for example
+  /// because a handler of the host throws during the yield, painting stays held back: the list
+  /// keeps its last picture until a later scroll or reading of its properties succeeds. On Qt a
+  /// host can prevent this (QtPlace::onYieldFailure).
   void Redraw();
 
   /// Number of whole rows that fit into the window, whatever the number of items. 0 if the row
@@ -664,7 +669,8 @@ class nvList final : public UserControl,
   static constexpr std::int32_t borderPieces = 4;
   std::array<BorderPiece, borderPieces> pBord;  ///< top, right, bottom, left
   MeasuringLabel lblWidth;
-  norvane::Font lblFont;  ///< the ambient font when the properties were read
+  /// The ambient font when the properties were read, or else the default font.
+  norvane::Font lblFont = makeRef<FontObject>();
   std::unique_ptr<TextBox> Text1;
   std::unique_ptr<Timer> tmrMouseAction;
   enum class AutoScroll { none, up, down } autoScroll_ = AutoScroll::none;

@@ -132,7 +132,9 @@ void nvList::UserControl_InitProperties() {
 
 void nvList::UserControl_ReadProperties(const PropertyBag& PropBag) {
   trapped(here, "UserControl_ReadProperties", [&](Trap& on) {
-    on.ignoring([&] { lblFont = container_.AmbientFont(); });
+    on.ignoring([&] {
+      if (norvane::Font ambient = container_.AmbientFont()) lblFont = std::move(ambient);
+    });
     state_.SuppressRedraw = true;
     for (const StoredProperty& property : properties)
       on.step([&] {
@@ -140,8 +142,11 @@ void nvList::UserControl_ReadProperties(const PropertyBag& PropBag) {
       });
     state_.SuppressRedraw = false;
     state_.ClickPending = true;
+    // A form that does not say whether it is in a designer counts as running.
+    Boolean isRunning = true;
+    on.ignoring([&] { isRunning = container_.UserMode(); });
     on.ignoring([&] {
-      if (!container_.UserMode()) return;
+      if (!isRunning) return;
       Wheel1.hWndCapture(container_.hwnd());
       Wheel1.EnableWheel();
     });

@@ -7,20 +7,15 @@ namespace {
 
 std::string hex(std::uint32_t byte) { return hexTextOf(byte & 0xFF, 2); }
 
+}  // namespace
+
 std::string textOfColour(Colour colour) {
   const auto bits = static_cast<std::uint32_t>(colour);
   if (isSystemColour(colour)) return "system " + std::to_string(bits & 0xFF);
   return "#" + hex(bits) + hex(bits >> 8) + hex(bits >> 16);
 }
 
-std::string point(float x, float y) { return "(" + textOf(x) + ", " + textOf(y) + ")"; }
-
-std::string textOfRectangle(const Rectangle& r) {
-  return point(static_cast<float>(r.Left), static_cast<float>(r.Top)) + "-" +
-         point(static_cast<float>(r.Right), static_cast<float>(r.Bottom));
-}
-
-std::string quoted(const std::string& text) {
+std::string quotedText(const std::string& text) {
   std::string result = "\"";
   for (const char c : text) {
     const auto byte = static_cast<unsigned char>(c);
@@ -34,11 +29,20 @@ std::string quoted(const std::string& text) {
   return result + "\"";
 }
 
+namespace {
+
+std::string point(float x, float y) { return "(" + textOf(x) + ", " + textOf(y) + ")"; }
+
+std::string textOfRectangle(const Rectangle& r) {
+  return point(static_cast<float>(r.Left), static_cast<float>(r.Top)) + "-" +
+         point(static_cast<float>(r.Right), static_cast<float>(r.Bottom));
+}
+
 std::string textOfPicture(const Picture& picture) {
   if (!picture) return "none";
   const std::string size = textOf(picture->width()) + "x" + textOf(picture->height());
   const std::string description = picture->description();
-  return description.empty() ? size : size + " " + quoted(description);
+  return description.empty() ? size : size + " " + quotedText(description);
 }
 
 std::string onOff(Boolean on) { return on ? "on" : "off"; }
@@ -67,7 +71,7 @@ struct Printer {
     return "ForeColor " + textOfColour(call.colour);
   }
   std::string operator()(const calls::SetFont& call) const {
-    return call.font ? "Font " + quoted(call.font->Name) + " " + textOf(call.font->Size)
+    return call.font ? "Font " + quotedText(call.font->Name) + " " + textOf(call.font->Size)
                      : "Font none";
   }
   std::string operator()(const calls::FontBold& call) const { return "FontBold " + onOff(call.on); }
@@ -78,7 +82,7 @@ struct Printer {
     return "FontUnderline " + onOff(call.on);
   }
   std::string operator()(const calls::DrawTextA& call) const {
-    return "DrawTextA " + quoted(call.text) + " " + textOfRectangle(call.rectangle) + " " +
+    return "DrawTextA " + quotedText(call.text) + " " + textOfRectangle(call.rectangle) + " " +
            std::to_string(static_cast<unsigned>(call.format));
   }
   std::string operator()(const calls::DrawFocusRect& call) const {
@@ -90,7 +94,9 @@ struct Printer {
            " " + textOfRectangle(call.target) + " " + textOfColour(bitmap.pixel(0, 0)) + ".." +
            textOfColour(bitmap.pixel(bitmap.width - 1, bitmap.height - 1));
   }
-  std::string operator()(const calls::Print& call) const { return "Print " + quoted(call.text); }
+  std::string operator()(const calls::Print& call) const {
+    return "Print " + quotedText(call.text);
+  }
 };
 
 struct Player {

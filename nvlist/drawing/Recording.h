@@ -91,4 +91,8 @@ class Recording {
   void replay(Surface& onto) const;
 };
 
+/// A colour and a text as Recording::text writes them.
+std::string textOfColour(Colour colour);
+std::string quotedText(const std::string& text);
+
 }  // namespace norvane

@@ -1,6 +1,7 @@
 #include <nvlist/drawing/RecordingSurface.h>
 
 #include <algorithm>
+#include <utility>
 
 #include <nvlist/values/Failure.h>
 #include <nvlist/values/text.h>
@@ -20,6 +21,11 @@ const Recording& RecordingSurface::image() const {
 int RecordingSurface::frames() const {
   if (beforeLook) beforeLook();
   return frames_;
+}
+
+Colour RecordingSurface::background() const {
+  if (beforeLook) beforeLook();
+  return settingsOfImage_.backColor;
 }
 
 void RecordingSurface::replay(Surface& onto) const {
@@ -43,35 +49,46 @@ void RecordingSurface::forget() {
   if (image_.calls.empty()) image_.calls.swap(old);
 }
 
+void RecordingSurface::set(SurfaceCall&& call) { image_.calls.push_back(std::move(call)); }
+
+void RecordingSurface::draw(SurfaceCall&& call) {
+  image_.calls.push_back(std::move(call));
+  drawn();
+}
+
+void RecordingSurface::requireOwn(std::uintptr_t hDC) const {
+  if (hDC != this->hDC()) throw Failure::invalidCall();
+}
+
 void RecordingSurface::Cls() {
   forget();
-  image_.calls.push_back(calls::Cls{});
+  draw(calls::Cls{});
   currentX_ = 0;
   currentY_ = 0;
   ++frames_;
 }
 
 void RecordingSurface::Line(LineMode mode, float x1, float y1, float x2, float y2, Colour colour) {
-  image_.calls.push_back(calls::Line{mode, x1, y1, x2, y2, colour});
+  draw(calls::Line{mode, x1, y1, x2, y2, colour});
   currentX_ = x2;
   currentY_ = y2;
 }
 
 void RecordingSurface::PSet(float x, float y, Colour colour) {
-  image_.calls.push_back(calls::PSet{x, y, colour});
+  draw(calls::PSet{x, y, colour});
   currentX_ = x;
   currentY_ = y;
 }
 
 void RecordingSurface::PaintPicture(const Picture& picture, float x, float y) {
   if (!picture) throw Failure::invalidCall();
-  image_.calls.push_back(calls::PaintPicture{picture, x, y, false, 0, 0});
+  draw(calls::PaintPicture{picture, x, y, false, 0, 0});
 }
 
 void RecordingSurface::PaintPicture(const Picture& picture, float x, float y, float width,
                                     float height) {
   if (!picture) throw Failure::invalidCall();
-  image_.calls.push_back(calls::PaintPicture{picture, x, y, true, width, height});
+  draw(calls::PaintPicture{picture, x, y, true, width, height});
 }
 
 float RecordingSurface::TextWidth(std::string_view text) {
@@ -90,28 +107,28 @@ float RecordingSurface::TextHeight(std::string_view text) {
 }
 
 void RecordingSurface::CurrentX(float x) {
-  image_.calls.push_back(calls::CurrentX{x});
+  set(calls::CurrentX{x});
   currentX_ = x;
 }
 
 void RecordingSurface::CurrentY(float y) {
-  image_.calls.push_back(calls::CurrentY{y});
+  set(calls::CurrentY{y});
   currentY_ = y;
 }
 
 void RecordingSurface::BackColor(Colour colour) {
-  image_.calls.push_back(calls::BackColor{colour});
+  set(calls::BackColor{colour});
   settings_.backColor = colour;
 }
 
 void RecordingSurface::ForeColor(Colour colour) {
-  image_.calls.push_back(calls::ForeColor{colour});
+  set(calls::ForeColor{colour});
   settings_.foreColor = colour;
 }
 
 void RecordingSurface::Font(const norvane::Font& font) {
   if (!font) return;
-  image_.calls.push_back(calls::SetFont{font});
+  set(calls::SetFont{font});
   settings_.font = font;
   settings_.bold = font->Bold;
   settings_.italic = font->Italic;
@@ -119,38 +136,41 @@ void RecordingSurface::Font(const norvane::Font& font) {
 }
 
 void RecordingSurface::FontBold(Boolean on) {
-  image_.calls.push_back(calls::FontBold{on});
+  set(calls::FontBold{on});
   settings_.bold = on;
 }
 
 void RecordingSurface::FontItalic(Boolean on) {
-  image_.calls.push_back(calls::FontItalic{on});
+  set(calls::FontItalic{on});
   settings_.italic = on;
 }
 
 void RecordingSurface::FontUnderline(Boolean on) {
-  image_.calls.push_back(calls::FontUnderline{on});
+  set(calls::FontUnderline{on});
   settings_.underline = on;
 }
 
-void RecordingSurface::DrawTextA(std::uintptr_t, std::string_view text, std::int32_t length,
+void RecordingSurface::DrawTextA(std::uintptr_t hDC, std::string_view text, std::int32_t length,
                                  const Rectangle& rectangle, TextFormat format) {
+  requireOwn(hDC);
   if (length >= 0) text = text.substr(0, static_cast<std::size_t>(length));
-  image_.calls.push_back(calls::DrawTextA{std::string(text), rectangle, format});
+  draw(calls::DrawTextA{std::string(text), rectangle, format});
 }
 
-void RecordingSurface::DrawFocusRect(std::uintptr_t, const Rectangle& rectangle) {
-  image_.calls.push_back(calls::DrawFocusRect{rectangle});
+void RecordingSurface::DrawFocusRect(std::uintptr_t hDC, const Rectangle& rectangle) {
+  requireOwn(hDC);
+  draw(calls::DrawFocusRect{rectangle});
 }
 
-void RecordingSurface::StretchDIBits(std::uintptr_t, const Rectangle& target,
+void RecordingSurface::StretchDIBits(std::uintptr_t hDC, const Rectangle& target,
                                      const Bitmap24& bitmap) {
+  requireOwn(hDC);
   if (!bitmap.isComplete()) throw Failure::invalidCall();
-  image_.calls.push_back(calls::StretchDIBits{target, bitmap});
+  draw(calls::StretchDIBits{target, bitmap});
 }
 
 void RecordingSurface::Print(std::string_view text) {
-  image_.calls.push_back(calls::Print{std::string(text)});
+  draw(calls::Print{std::string(text)});
   currentX_ = 0;
   currentY_ += TextHeight(text);
 }

@@ -13,7 +13,7 @@ struct FontMeasure {
   float height = 13;
 };
 
-/// A surface without a screen: it records the calls instead of drawing them.
+/// A surface that records the calls instead of drawing them.
 ///
 /// Its image is the recording of the calls since the last Cls, which covers everything before it.
 /// So the recording does not keep growing.
@@ -35,6 +35,8 @@ class RecordingSurface : public Surface {
   /// Draws the image onto another surface, starting with the colours and the font that were set
   /// when the image began.
   void replay(Surface& onto) const;
+  /// The background colour when the image began: its Cls fills the surface with it.
+  Colour background() const;
   /// How many times the image was cleared; a repaint clears it once.
   int frames() const;
 
@@ -57,12 +59,18 @@ class RecordingSurface : public Surface {
   void FontBold(Boolean on) override;
   void FontItalic(Boolean on) override;
   void FontUnderline(Boolean on) override;
+  /// The calls that take a handle throw Failure 5 for any other.
   std::uintptr_t hDC() const override { return reinterpret_cast<std::uintptr_t>(&image_); }
   void DrawTextA(std::uintptr_t hDC, std::string_view text, std::int32_t length,
                  const Rectangle& rectangle, TextFormat format) override;
   void DrawFocusRect(std::uintptr_t hDC, const Rectangle& rectangle) override;
   void StretchDIBits(std::uintptr_t hDC, const Rectangle& target, const Bitmap24& bitmap) override;
   void Print(std::string_view text) override;
+
+ protected:
+  /// Called after each call that draws; not after those that only set a colour, a font or the
+  /// position. It must not draw.
+  virtual void drawn() {}
 
  private:
   /// The settings that persist until they are changed.
@@ -74,6 +82,10 @@ class RecordingSurface : public Surface {
     Boolean italic = false;
     Boolean underline = false;
   };
+
+  void set(SurfaceCall&& call);
+  void draw(SurfaceCall&& call);
+  void requireOwn(std::uintptr_t hDC) const;
 
   float width_;
   float height_;

@@ -34,17 +34,17 @@ void UserControl::Move(const Bounds& bounds) {
   const Bounds wanted = {bounds.Left, bounds.Top, std::max(bounds.Width, 0.0F),
                          std::max(bounds.Height, 0.0F)};
   if (wanted == bounds_) return;
-  // A place that is refused leaves the control where it was.
+  // If the platform refuses the place, the control stays where it was.
   container_.move(wanted);
   const Bounds before = std::exchange(bounds_, wanted);
   if (wanted.Width != before.Width || wanted.Height != before.Height) UserControl_Resize();
 }
 
 void UserControl::Visible(Boolean value) {
-  const bool isTurning = static_cast<bool>(value) != static_cast<bool>(visible_);
-  if (isTurning) container_.show(static_cast<bool>(value));
+  const bool isChange = static_cast<bool>(value) != static_cast<bool>(visible_);
+  if (isChange) container_.show(static_cast<bool>(value));
   visible_ = value;
-  if (isTurning && value) UserControl_Show();
+  if (isChange && value) UserControl_Show();
 }
 
 }  // namespace norvane

@@ -14,7 +14,7 @@ class PropertyBag;
 /// Base of every control of the library: the list, its scroll bars, their thumbs and buttons.
 ///
 /// A platform calls the notifications, with positions in pixels of the control's own surface. The
-/// control around it reads and sets the place.
+/// parent control reads and sets the place.
 class UserControl {
  public:
   UserControl(const UserControl&) = delete;
@@ -36,42 +36,42 @@ class UserControl {
 
   // ---- notifications of the platform ----
 
-  /// `Button` is the one pressed or released: 1 left, 2 right, 4 middle. For a move it is the sum
-  /// of all that are down. `Shift` is the sum of 1 Shift, 2 Ctrl and 4 Alt. From the press to the
-  /// release all moves come to the control that was pressed, wherever the pointer is.
+  /// `Button` is the button that was pressed or released: 1 left, 2 right, 4 middle; for a move it
+  /// is the sum of all that are down. `Shift` is the sum of 1 for Shift, 2 for Ctrl and 4 for Alt.
+  /// From a press to its release, the pressed control gets all moves, wherever the pointer is.
   virtual void UserControl_MouseDown(std::int16_t Button, std::int16_t Shift, float X, float Y);
   virtual void UserControl_MouseMove(std::int16_t Button, std::int16_t Shift, float X, float Y);
   virtual void UserControl_MouseUp(std::int16_t Button, std::int16_t Shift, float X, float Y);
-  /// After the release of the left button over the control.
+  /// Called after the left button was pressed and released over the control.
   virtual void UserControl_Click() {}
-  /// Instead of the second press of a double click. False where the control knows none: it hears
-  /// that press then.
+  /// Called in place of the second press of a double click. Returns false if the control does not
+  /// handle double clicks; it then gets the press.
   virtual bool UserControl_DblClick() { return false; }
 
-  /// The code of a key, 38 for Up: the virtual-key codes of Windows. 0 afterwards: nobody else
-  /// hears of the key.
+  /// `KeyCode` is a virtual-key code of Windows, such as 38 for Up. The control sets it to 0 to
+  /// swallow the key.
   virtual void UserControl_KeyDown(std::int16_t& KeyCode, std::int16_t Shift);
-  /// A character that a key made.
+  /// A character that a key produced.
   virtual void UserControl_KeyPress(std::int16_t& KeyAscii);
   virtual void UserControl_KeyUp(std::int16_t KeyCode, std::int16_t Shift);
 
-  /// The surface has another size.
+  /// The surface has a new size.
   virtual void UserControl_Resize() {}
   /// The control has become visible.
   virtual void UserControl_Show() {}
-  /// The keyboard's focus comes into the control or one in it, and to the control itself; it goes
-  /// in the opposite order.
+  /// The keyboard focus. EnterFocus comes first, when the focus moves into the control or a control
+  /// in it; GotFocus follows if the control itself has it. The other two come in reverse order.
   virtual void UserControl_EnterFocus() {}
   virtual void UserControl_GotFocus() {}
   virtual void UserControl_LostFocus() {}
   virtual void UserControl_ExitFocus() {}
-  /// An ambient value of the form has changed; "DisplayName" is the control's name.
+  /// An ambient property of the form has changed. "DisplayName" is the control's name.
   virtual void UserControl_AmbientChanged(std::string_view PropertyName);
-  /// The control has to paint itself anew: it has asked for that (Container::paintLater), or what
-  /// it had painted is lost, as on a screen of another resolution.
+  /// The control has to repaint itself: it asked for that (Container::paintLater), or its image was
+  /// lost, for example when the window moved to a screen of another resolution.
   virtual void UserControl_Paint() {}
 
-  // ---- the place, in pixels of the control around it ----
+  // ---- the place, in pixels of the parent control ----
 
   float Left() const { return bounds_.Left; }
   void Left(float value) {
@@ -81,7 +81,7 @@ class UserControl {
   void Top(float value) {
     if (value != bounds_.Top) Move({Left(), value, Width(), Height()});
   }
-  /// A size below 0 counts as 0. Another size runs UserControl_Resize.
+  /// A negative size counts as 0. A new size runs UserControl_Resize.
   float Width() const { return bounds_.Width; }
   void Width(float value) {
     if (value != bounds_.Width) Move({Left(), Top(), value, Height()});
@@ -91,20 +91,20 @@ class UserControl {
     if (value != bounds_.Height) Move({Left(), Top(), Width(), value});
   }
   void Move(const Bounds& bounds);
-  /// Default: true. Turning visible runs UserControl_Show.
+  /// Default: true. Becoming visible runs UserControl_Show.
   Boolean Visible() const { return visible_; }
   void Visible(Boolean value);
 
  protected:
-  /// Outer sizes that a control gives itself are in this unit.
+  /// A control sets its own outer size in twips.
   static constexpr float twipsPerPixel = 15;
 
-  /// A control in a place that somebody else owns and that outlives it.
+  /// A control in a place that belongs to someone else and outlives it.
   explicit UserControl(Container& place);
   /// A control that owns its place.
   explicit UserControl(std::unique_ptr<Container> place);
 
-  /// Whether the control, with those in it, hears the mouse. Default: true.
+  /// Whether the control and the controls in it get the mouse. Default: true.
   void listenToMouse(Boolean on) { container_.enable(static_cast<bool>(on)); }
 
  private:

@@ -69,7 +69,7 @@ TEST_F(Properties, AFontIsClonedAndGivesTheRowsTheirHeight) {
   font->Size = 30;
   EXPECT_EQ(list.Font()->Size, 12);
   EXPECT_EQ(list.state().ItemHeightValue, 19);
-  EXPECT_NE(headless.picture().find("CurrentY 22\n"), std::string::npos);
+  EXPECT_NE(headless.face().find("CurrentY 22\n"), std::string::npos);
   list.MinHeight(25.5);
   list.Font(font);
   EXPECT_EQ(list.state().ItemHeightValue, 25.5F);

@@ -57,7 +57,7 @@ TEST_F(ImageInput, LetsTheHostInBetweenTheItems) {
   onProgress = [&](Variant& Index) { EXPECT_EQ(yields, Index.toInt32()); };
   input(image(full));
   EXPECT_EQ(yields, 2);
-  EXPECT_NE(headless.picture().find("\u00c4"), std::string::npos);
+  EXPECT_NE(headless.face().find("\u00c4"), std::string::npos);
   for (const int last : {1, 2147483647}) {
     onProgress = [&](Variant& Index) { Index = last; };
     input(image(full));

@@ -102,13 +102,13 @@ TEST_F(ListInput, TouchesNothingButTheItems) {
   add({"a", "b", "c"});
   list.ListIndex(2);
   headless.surface().Cls();
-  const std::string before = headless.picture();
+  const std::string before = headless.face();
   input(header(-1, true));
   EXPECT_EQ(list.ItemsCount(), 0);
-  EXPECT_EQ(headless.picture(), before);
+  EXPECT_EQ(headless.face(), before);
   const std::string record = text("new") + fields() + flagsAndKeys("", "");
   input(header(1, true) + record + noIcons + record + noIcons);
-  EXPECT_NE(headless.picture().find("new"), std::string::npos);
+  EXPECT_NE(headless.face().find("new"), std::string::npos);
   EXPECT_EQ(list.ListIndex(), 2);
   // A mark that was read is cleared like any other, even if another mark is known.
   for (const std::string& icons : {noIcons, "\1" + text("picture") + byte(0)}) {

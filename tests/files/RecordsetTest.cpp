@@ -76,7 +76,7 @@ TEST_F(RecordsetBinding, ReplacesTheItemsByTheFirstFields) {
   EXPECT_EQ(changed, "AutoRedraw2 AutoCheckScroll2 AutoRedraw3 AutoCheckScroll3 ");
   EXPECT_FALSE(list.AutoRedraw());
   EXPECT_TRUE(list.AutoCheckScroll());
-  EXPECT_NE(headless.picture().find("\"a\""), std::string::npos);
+  EXPECT_NE(headless.face().find("\"a\""), std::string::npos);
   // Bars are adjusted whatever AutoCheckScroll is.
   list.AutoCheckScroll(false);
   list.Recordset(rows(Values(30, "a")));

@@ -83,7 +83,7 @@ TEST_F(Drag, TheDropLandsBeforeTheMarkedRow) {
 
 TEST_F(Drag, TheTargetHasABlackMarkUntilTheNextRepaint) {
   const std::string mark = "Line 22 (0, 42)-(200, 43) #000000\n";
-  const auto isMarked = [&] { return headless.picture().find(mark) != std::string::npos; };
+  const auto isMarked = [&] { return headless.face().find(mark) != std::string::npos; };
   disable({3});
   list.AllowItemMoving(true);
   press(1);

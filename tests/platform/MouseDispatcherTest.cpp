@@ -95,6 +95,7 @@ class Form {
     if (verb == "lost") return mouse.holdLost();
     if (verb == "endIn") return void(words >> endsIn);
     if (verb == "throwIn") return void(words >> throwsIn);
+    if (verb == "captured") return void(heard += mouse.captured() ? " some" : " none");
     if (verb == "capture") return words >> name, place.mouse().capture(named(name).place());
     if (verb == "hide") return words >> name, named(name).Visible(false);
     if (verb == "disable") return words >> name, named(name).listenToMouse(false);
@@ -161,8 +162,8 @@ TEST(MouseDispatcher, DeliversByItsRules) {
        "a.down 1@2,2 a.up 1@2,2 r.down 1@5,5"},
       {"ended by the capture's move", "capture b;endIn b.move;move 12 12",
        "b.move 0@-18,-18 r.move 0@12,12"},
-      {"ended with the capture", "capture a;endIn r.down;press 5 5;release 5 5;move 5 5;leave",
-       "r.down 1@5,5 r.up 1@5,5 r.click r.move 0@5,5"},
+      {"ended with the capture", "capture a;captured;endIn r.down;press 5 5;captured",
+       " some r.down 1@5,5 none"},
       {"a release that fails ends the hold", "throwIn b.up;press 40 40;release 40 40;move 5 5",
        "b.down 1@10,10 b.up 1@10,10 r.move 0@5,5"},
   };

@@ -1,5 +1,7 @@
 #include "../Lists.h"
 
+#include <nvlist/values/text.h>
+
 namespace norvane {
 namespace {
 
@@ -92,6 +94,66 @@ TEST(Recording, MeasuresTextsByCharacters) {
   surface.fontMeasure({1, 2, 3});
   EXPECT_EQ(surface.TextWidth("ab"), 4);
   EXPECT_EQ(surface.TextHeight("ab"), 3);
+}
+
+TEST(Recording, APictureOfAFormHoldsItsControls) {
+  HeadlessApplication application;
+  HeadlessList form(100, 60);
+  nvList& list = form.list();
+  list.AllowEdit(true);
+  for (int i = 0; i < 10; ++i) list.ItemsAdd({.aText = i, .aAllowEdit = true});
+  EXPECT_EQ(form.picture().find("edit box"), std::string::npos);
+  form.container().press(50, 35);
+  form.container().release(50, 35);
+  list.SetEdit(2);
+  const std::string picture = form.picture();
+  EXPECT_TRUE(
+      picture.starts_with("(0, 0) 100x60 on #FFFFFF\n"
+                          "  Cls\n"
+                          "  Line 38 (0, 3)-(100, 16) #FFFFFF\n"
+                          "  ForeColor #000000\n"
+                          "  FontBold off\n"
+                          "  FontItalic off\n"
+                          "  FontUnderline off\n"
+                          "  DrawTextA \"0\" (3, 3)-(100, 60) 64\n"
+                          "  Line 38 (0, 16)-(100, 29) #FFFFFF\n"
+                          "  DrawTextA \"1\" (3, 16)-(100, 60) 64\n"
+                          "  Line 38 (0, 29)-(100, 42) #316AC5\n"
+                          "  ForeColor #FFFFFF\n"
+                          "  DrawTextA \"2\" (3, 29)-(100, 60) 64\n"))
+      << picture;
+  std::string places;
+  forEachLine(picture, [&](std::string_view line) {
+    if (!line.starts_with("  ")) places += std::string(line) + "|";
+    return true;
+  });
+  EXPECT_EQ(places,
+            "(0, 0) 100x60 on #FFFFFF|(82, 1) 17x58 on #FFFFFF|(83, 18) 16x18 on #FFFFFF|"
+            "(82, 1) 17x17 on #FFFFFF|(82, 42) 17x17 on #FFFFFF|(0, 0) 100x1 on #7F9DB9|"
+            "(99, 0) 1x60 on #7F9DB9|(0, 59) 100x1 on #7F9DB9|(0, 0) 1x60 on #7F9DB9|"
+            "edit box (1, 29) 97x14 \"2\"||");
+  form.container().textBoxes()[0]->Move({90, 50, 20, 20});
+  EXPECT_TRUE(form.picture().ends_with("20x20 \"2\", seen as (90, 50) 10x10\n"));
+
+  HeadlessContainer& bar = *form.container().children()[0];
+  bar.children()[0]->move({1, 50, 16, 18});
+  EXPECT_NE(form.picture().find("(83, 51) 16x18 on #FFFFFF, seen as (83, 51) 16x8\n"),
+            std::string::npos);
+
+  // The same, drawn on one surface for each place.
+  std::vector<std::pair<Bounds, RecordingSurface>> drawn;
+  drawn.reserve(10);
+  form.container().replay([&](const Bounds& bounds) -> Surface& {
+    return drawn.emplace_back(bounds, RecordingSurface(bounds.Width, bounds.Height)).second;
+  });
+  ASSERT_EQ(drawn.size(), 10U);
+  EXPECT_EQ(drawn[0].second.image().text(), form.face());
+  EXPECT_EQ(drawn[5].second.background(), 0xB99D7F);
+  EXPECT_EQ(drawn[9].first, (Bounds{90, 50, 20, 20}));
+  EXPECT_EQ(drawn[9].second.image().text(),
+            "Cls\nFont \"Tahoma\" 8.25\nForeColor #000000\nPrint \"2\"\n");
+  list.BorderVisible(false);
+  EXPECT_EQ(form.picture().find("#7F9DB9"), std::string::npos);
 }
 
 }  // namespace

@@ -70,7 +70,7 @@ std::string life(const std::string& name) {
     EXPECT_EQ(list.ItemsCount(), 20);
     PropertyBag bag;
     list.UserControl_WriteProperties(bag);
-    picture = headless.picture();
+    picture = headless.face();
     list.UserControl_ReadProperties(bag);
     list.ItemsAdd("x"), list.ItemsAdd("y", "no number");
     list.ItemsSelectedRemove();

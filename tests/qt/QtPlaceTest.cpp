@@ -28,9 +28,9 @@ TEST(QtPlaceTest, PacksAMessageOfTheWheel) {
     first = static_cast<std::uint32_t>(wParam);
     second = static_cast<std::uint32_t>(lParam);
   });
-  const auto turn = [&](int delta) {
-    QWheelEvent event({1, 2}, {258, -2}, {}, {0, delta}, Qt::MiddleButton | Qt::RightButton,
-                      Qt::ControlModifier, Qt::NoScrollPhase, false);
+  const auto turn = [&](int delta, int sideways = 0, Qt::KeyboardModifier key = {}) {
+    QWheelEvent event({1, 2}, {258, -2}, {}, {sideways, delta}, Qt::MiddleButton | Qt::RightButton,
+                      Qt::ControlModifier | key, Qt::NoScrollPhase, false);
     return place.event(&event);
   };
   EXPECT_TRUE(turn(-120));
@@ -38,6 +38,30 @@ TEST(QtPlaceTest, PacksAMessageOfTheWheel) {
   EXPECT_EQ(second, 0xFFFE0102);
   EXPECT_TRUE(turn(100000));
   EXPECT_EQ(first, 0x7FFF001A);
+  // Some systems turn the wheel sideways while Alt is down.
+  EXPECT_TRUE(turn(0, -120, Qt::AltModifier));
+  EXPECT_EQ(first, 0xFF88001A);
+  EXPECT_FALSE(turn(0, -120));
+  place.isDesignMode = true;
+  EXPECT_FALSE(turn(-120));
+}
+
+TEST(QtPlaceTest, YieldsAfterHandlersHaveThrown) {
+  QWidget widget;
+  QtPlace place(widget);
+  const auto post = [&](auto handler) {
+    QMetaObject::invokeMethod(&widget, handler, Qt::QueuedConnection);
+  };
+  // More often than event loops may be nested.
+  for (int i = 0; i < 20; ++i) {
+    post([] { throw 1; });
+    EXPECT_THROW(place.DoEvents(), int);
+  }
+  int failures = 0;
+  place.onYieldFailure = [&](const std::exception_ptr&) { ++failures; };
+  post([] { throw 1; });
+  EXPECT_NO_THROW(place.DoEvents());
+  EXPECT_EQ(failures, 1);
 }
 
 TEST(QtTextBoxTest, CountsCharactersAndTakesTheFocusOnlyWhereItShows) {

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QCursor>
+#include <QLineEdit>
 #include <QScreen>
 #include <QTest>
 #include <QWindow>
@@ -122,6 +123,16 @@ TEST_F(ScrollBarsTest, aHoverShowsAndEndsWhereverThePointerLeaves) {
         EXPECT_EQ(picture(part), rest) << index << " at " << outside.x() << ", " << outside.y();
       }
     }
+}
+
+TEST_F(ScrollBarsTest, aHoverEndsWhereTheEditBoxBegins) {
+  QtPlace& part = childOf(vertical, thumb);
+  const QImage rest = picture(part);
+  moveTo(part, {4, 4});
+  EXPECT_NE(picture(part), rest);
+  QEnterEvent enter({1, 1}, {1, 1}, {1, 1});
+  QCoreApplication::sendEvent(widget.findChild<QLineEdit*>(), &enter);
+  EXPECT_EQ(picture(part), rest);
 }
 
 TEST_F(ScrollBarsTest, aHeldButtonPausesOutsideAndEndsWithTheReleaseThere) {

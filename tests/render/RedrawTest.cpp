@@ -22,7 +22,7 @@ std::string rowsOf(const RecordingSurface& surface) {
 
 TEST_F(Redraw, PaintsARowCallByCall) {
   list.ItemsAdd("Vienna");
-  EXPECT_EQ(headless.picture(),
+  EXPECT_EQ(headless.face(),
             "Cls\n"
             "CurrentY 3\n"
             "CurrentX 3\n"
@@ -222,7 +222,7 @@ TEST_F(Redraw, ADesignerShowsASampleRowWithTheName) {
   headless.container().userMode = false;
   const auto preview = [&](cListStyle style) {
     list.Style(style);
-    return headless.picture();
+    return headless.face();
   };
   const std::string name = "CurrentY 3\nPrint \"nvList1\"\n";
   const std::string box = "PaintPicture 13x13 \"check box\" at (3, 3)\n";

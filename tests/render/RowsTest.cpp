@@ -47,7 +47,7 @@ TEST_F(Rows, ASelectedRowWithPicturesCallByCall) {
   list.UserControl_GotFocus();
   list.ItemsAdd({.aText = "ab", .aIcon = flag});
   list.ItemSelected(0, true);
-  EXPECT_EQ(headless.picture(),
+  EXPECT_EQ(headless.face(),
             "Cls\n"
             "CurrentY 3\n"
             "CurrentX 37\n"
@@ -67,7 +67,7 @@ TEST_F(Rows, ASelectedRowWithPicturesCallByCall) {
             "CurrentY 16\n"
             "CurrentX 37\n");
   list.UserControl_LostFocus();
-  EXPECT_EQ(headless.picture().find("DrawFocusRect"), std::string::npos);
+  EXPECT_EQ(headless.face().find("DrawFocusRect"), std::string::npos);
 }
 
 TEST_F(Rows, EachStyleHasItsPictureColumn) {
@@ -195,9 +195,9 @@ TEST_F(Rows, ARowIsMeasuredWithTheFontOfTheRowAbove) {
   list.ItemItalic(1, true);
   list.ItemBold(1, true);
   list.Redraw();
-  EXPECT_NE(headless.picture().find("FontBold on\nFontItalic off\nFontUnderline on\n"),
+  EXPECT_NE(headless.face().find("FontBold on\nFontItalic off\nFontUnderline on\n"),
             std::string::npos);
-  EXPECT_NE(headless.picture().find("FontBold on\nFontItalic on\nFontUnderline off\n"),
+  EXPECT_NE(headless.face().find("FontBold on\nFontItalic on\nFontUnderline off\n"),
             std::string::npos);
   // The first row is measured with the flags of the last row of the previous repaint.
   EXPECT_NE(seen().find("\"abcd\" (165, 3)"), std::string::npos);
@@ -217,13 +217,13 @@ TEST_F(Rows, GridLinesStandAboveAndBelowRows) {
   };
   // Row 0: below. Row 1: above and below. Row 2, the last: above.
   EXPECT_EQ(lines(), "16 16 29 29 ");
-  EXPECT_NE(headless.picture().find("Line 6 (0, 16)-(200, 16) #FF0000\n"), std::string::npos);
+  EXPECT_NE(headless.face().find("Line 6 (0, 16)-(200, 16) #FF0000\n"), std::string::npos);
   // After the line above, the line below is tested from the top of the row.
   headless.resize(200, 42);
   EXPECT_EQ(lines(), "16 16 29 29 ");
   for (int i = 0; i < 40; ++i) list.ItemsAdd(i);
   list.TopIndex(5);
-  EXPECT_EQ(headless.picture().find("Line 6 (0, 3)"), std::string::npos);
+  EXPECT_EQ(headless.face().find("Line 6 (0, 3)"), std::string::npos);
 }
 
 TEST_F(Rows, PicturesThatAreNoneAreSkipped) {

@@ -184,7 +184,7 @@ TEST_F(ScrollFit, ThePlacesLieInsideTheFrameAndTheCornerIsTheLists) {
     EXPECT_EQ(place(vertical()) + ", " + place(horizontal()), places);
   }
   list.BackColor(0x00FF00);
-  const std::string picture = headless.picture();
+  const std::string picture = headless.face();
   EXPECT_EQ(picture.substr(picture.rfind("Line")), "Line 38 (182, 82)-(200, 100) #00FF00\n");
   // Smaller than the bars themselves.
   headless.resize(10, 5);
@@ -227,13 +227,13 @@ TEST_F(ScrollFit, TheListFollowsButtonsTrackAndThumb) {
   EXPECT_EQ(heard(), "1 to 993");
   form.release(190, 400);
   EXPECT_EQ(heard(), "1 to 993");
-  EXPECT_NE(headless.picture().find("DrawTextA \"i\" (3, 3)"), std::string::npos);
+  EXPECT_NE(headless.face().find("DrawTextA \"i\" (3, 3)"), std::string::npos);
 
   list.ScrollBars(vbBoth);
   fill(5, 40);
   click(1, 2);
   EXPECT_EQ(heard(), "1 to 0");
-  EXPECT_NE(headless.picture().find("(2, 3)-(284, 100)"), std::string::npos);
+  EXPECT_NE(headless.face().find("(2, 3)-(284, 100)"), std::string::npos);
 }
 
 TEST_F(ScrollFit, AScrollStoresDropsTheEditYieldsPaintsAndTells) {

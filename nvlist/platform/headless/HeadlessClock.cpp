@@ -28,7 +28,7 @@ class HeadlessClock::ClockTimer final : public Timer {
   void begin() { begun_ = clock_.now_; }
   void tick() {
     begin();
-    // A copy, as the tick may end the timer.
+    // A copy: the tick may destroy the timer.
     const auto tick = tick_;
     tick();
   }

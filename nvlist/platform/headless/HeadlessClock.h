@@ -9,16 +9,16 @@
 
 namespace norvane {
 
-/// The time of a program without a screen: it stands until it is set. Default: the start of 1970.
-/// It has to outlive the timers that run by it.
+/// The clock of a program without a screen. It stands still until the program sets or advances it,
+/// and starts at 1970. It has to outlive its timers.
 class HeadlessClock {
  public:
   using Time = std::chrono::sys_time<std::chrono::milliseconds>;
 
   Time now() const { return now_; }
-  /// Jumps without a tick of any timer; each goes on from here.
+  /// Sets the time without a tick. The intervals of all timers begin anew.
   void set(Time now);
-  /// Runs on, with each timer ticking at its time; of several due at once the oldest first.
+  /// Advances the time. Each timer ticks when it is due; of several due at once, the oldest first.
   void advance(std::chrono::milliseconds by);
 
   std::unique_ptr<Timer> addTimer(std::function<void()> tick);
@@ -26,7 +26,7 @@ class HeadlessClock {
  private:
   class ClockTimer;
 
-  /// The timer that ticks next, or nullptr.
+  /// The timer that is due next, or nullptr.
   ClockTimer* next() const;
 
   Time now_;

@@ -1,10 +1,52 @@
 #include <nvlist/platform/headless/HeadlessContainer.h>
 
+#include <map>
 #include <utility>
 
 #include <nvlist/values/Failure.h>
+#include <nvlist/values/numbers.h>
+#include <nvlist/values/text.h>
 
 namespace norvane {
+namespace {
+
+std::string placeText(const Bounds& bounds) {
+  return "(" + textOf(bounds.Left) + ", " + textOf(bounds.Top) + ") " + textOf(bounds.Width) + "x" +
+         textOf(bounds.Height);
+}
+
+/// The lines of a recording, indented. Left out are settings that change nothing and positions at
+/// which no text is printed.
+std::string readable(const std::string& recording) {
+  std::string result, position;
+  std::map<std::string_view, std::string_view> settings;
+  forEachLine(recording, [&](std::string_view line) {
+    const std::string_view name = line.substr(0, line.find(' '));
+    const bool isFont = name.starts_with("Font");
+    if (name == "CurrentX" || name == "CurrentY") {
+      position.append("  ").append(line).append("\n");
+    } else if (isFont || name == "ForeColor" || name == "BackColor") {
+      if (std::exchange(settings[name], line) != line)
+        result.append("  ").append(line).append("\n");
+    } else if (!line.empty()) {
+      if (name == "Print") result += position;
+      position.clear();
+      result.append("  ").append(line).append("\n");
+    }
+    return true;
+  });
+  return result;
+}
+
+}  // namespace
+
+/// A place that can be seen, or one of its edit boxes.
+struct HeadlessContainer::Shown {
+  Bounds bounds;
+  Bounds seen;
+  RecordingSurface* surface;
+  HeadlessTextBox* box;
+};
 
 HeadlessContainer::HeadlessContainer(float width, float height)
     : Place(nullptr),
@@ -53,6 +95,43 @@ void HeadlessContainer::changed() {
     paintPending();
   } else if (!ownSurface_->beforeLook) {
     ownSurface_->beforeLook = [this] { paintPending(); };
+  }
+}
+
+std::vector<HeadlessContainer::Shown> HeadlessContainer::shown() {
+  std::vector<Shown> result, boxes;
+  forEachVisible([&](Place& place, Point origin, const Bounds& clip) {
+    auto& one = static_cast<HeadlessContainer&>(place);
+    const Bounds bounds{origin.x, origin.y, one.surface_.ScaleWidth(), one.surface_.ScaleHeight()};
+    // A form that draws on a surface of the program is recorded there, if at all.
+    if (one.ownSurface_) result.push_back({bounds, clip, &*one.ownSurface_, nullptr});
+    for (HeadlessTextBox* box : one.textBoxes_) {
+      if (!box->Visible()) continue;
+      const Bounds at = box->place();
+      const Bounds whole{origin.x + at.Left, origin.y + at.Top, at.Width, at.Height};
+      boxes.push_back({whole, whole.intersected(clip), nullptr, box});
+    }
+  });
+  result.insert(result.end(), boxes.begin(), boxes.end());
+  return result;
+}
+
+std::string HeadlessContainer::picture() {
+  std::string result;
+  for (const auto& [bounds, seen, surface, box] : shown()) {
+    result += box ? "edit box " + placeText(bounds) + " " + quotedText(box->Text())
+                  : placeText(bounds) + " on " + textOfColour(surface->background());
+    if (seen != bounds) result += ", seen as " + placeText(seen);
+    result += "\n";
+    if (surface) result += readable(surface->image().text());
+  }
+  return result;
+}
+
+void HeadlessContainer::replay(const std::function<Surface&(const Bounds& bounds)>& onto) {
+  for (const auto& [bounds, seen, surface, box] : shown()) {
+    Surface& target = onto(bounds);
+    surface ? surface->replay(target) : box->draw(target);
   }
 }
 

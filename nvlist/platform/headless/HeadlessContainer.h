@@ -50,6 +50,20 @@ class HeadlessContainer : public Place {
   /// hooked the wheel.
   bool turnWheel(std::int16_t delta);
 
+  /// What can be seen of this place and of those in it, as text, back to front. For each place a
+  /// line with its position on this one, its size and its background, and its drawing calls in
+  /// pixels of its own (Recording::text, without settings that change nothing); then the open edit
+  /// boxes:
+  ///
+  ///     (0, 0) 200x60 on #FFFFFF
+  ///       Cls
+  ///       Line 38 (0, 3)-(200, 16) #C56A31
+  ///     (183, 1) 17x58 on #F5F5F0, seen as (183, 1) 17x40
+  ///     edit box (3, 3) 197x14 "Graz"
+  std::string picture();
+  /// Draws the same pictures. `onto` returns the surface for a place, given its bounds on this one;
+  /// it fills that surface from its (0, 0) on.
+  void replay(const std::function<Surface&(const Bounds& bounds)>& onto);
   /// The places in this one, back to front.
   std::vector<HeadlessContainer*> children() const;
   /// The edit boxes in this place, in the order of their creation.
@@ -76,6 +90,9 @@ class HeadlessContainer : public Place {
 
  private:
   explicit HeadlessContainer(HeadlessContainer* parent);
+
+  struct Shown;
+  std::vector<Shown> shown();
 
   HeadlessContainer& form() { return static_cast<HeadlessContainer&>(root()); }
   void changed() override;

@@ -5,7 +5,7 @@
 
 namespace norvane {
 
-/// A list without a screen, with the place it stands in.
+/// A list without a screen, on a form of its own.
 class HeadlessList {
  public:
   /// Size in pixels.
@@ -17,8 +17,11 @@ class HeadlessList {
   HeadlessContainer& container() { return container_; }
   RecordingSurface& surface() { return container_.ownSurface(); }
 
-  /// What the list shows now, one drawing call a line.
-  std::string picture() { return surface().image().text(); }
+  /// What can be seen of the list with its scroll bars, its frame and its edit box
+  /// (HeadlessContainer::picture).
+  std::string picture() { return container_.picture(); }
+  /// What the list itself shows, without the controls in it: one drawing call a line.
+  std::string face() { return surface().image().text(); }
 
   void resize(float width, float height) {
     surface().resize(width, height);

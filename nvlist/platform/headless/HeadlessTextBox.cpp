@@ -4,6 +4,14 @@
 
 namespace norvane {
 
+void HeadlessTextBox::draw(Surface& onto) const {
+  onto.BackColor(systemColour(5));
+  onto.Cls();
+  onto.Font(font);
+  onto.ForeColor(foreColor);
+  onto.Print(text_);
+}
+
 bool HeadlessTextBox::typeCharacter(std::int16_t KeyAscii) {
   if (!isVisible_) return true;
   keyPress_(KeyAscii);

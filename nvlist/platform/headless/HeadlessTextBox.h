@@ -3,11 +3,12 @@
 #include <functional>
 #include <string>
 
+#include <nvlist/drawing/Surface.h>
 #include <nvlist/platform/TextBox.h>
 
 namespace norvane {
 
-/// An edit box without a screen: the program types into it.
+/// An edit box without a screen. The program does the typing.
 class HeadlessTextBox final : public TextBox {
  public:
   explicit HeadlessTextBox(std::function<void(std::int16_t&)> keyPress)
@@ -16,15 +17,19 @@ class HeadlessTextBox final : public TextBox {
   norvane::Font font;
   Colour foreColor = 0;
   bool hasFocus = false;
-  /// In characters.
+  /// The selection, in characters.
   std::int32_t selectionStart = 0;
   std::int32_t selectionLength = 0;
-  /// Whether taking the keyboard fails, as on a form that does not show.
+  /// Whether SetFocus fails, as on a hidden form. Default: false.
   bool refusesFocus = false;
 
-  /// Replaces the whole text, as typing over a selection of all does.
+  /// Draws the box from (0, 0) on: its text on the desktop's background for windows.
+  void draw(Surface& onto) const;
+
+  /// Replaces the whole text, as typing does while all of it is selected.
   void typeText(const std::string& text) { text_ = text; }
-  /// One character; false where the control took it away. A hidden box hears nothing.
+  /// Types one character. Returns false if the control swallowed it. A hidden box ignores it and
+  /// returns true.
   bool typeCharacter(std::int16_t KeyAscii);
 
   void Font(const norvane::Font& value) override { font = value; }

@@ -6,7 +6,7 @@
 
 namespace norvane {
 
-/// The list and its place, which may have to live a little longer than the widget.
+/// The list and its place, which may have to outlive the widget for a moment.
 struct NvListWidget::Core {
   explicit Core(QWidget& widget) : place(widget), list(place) {}
 
@@ -30,7 +30,7 @@ NvListWidget::NvListWidget(QWidget* parent)
 
 NvListWidget::~NvListWidget() {
   core_->place.onPropertyChanged = nullptr;
-  // A host may end with its window, and the list has yet to finish what it is doing.
+  // The host may be destroyed with its window, while the list is still in the middle of a call.
   core_->list.removeAllSinks();
   core_->place.detach();
   QtPlace::endLater(std::move(core_));
@@ -49,7 +49,7 @@ void NvListWidget::setDesignMode(bool on) {
 }
 
 bool NvListWidget::event(QEvent* event) {
-  // Events come before the list is there, and after.
+  // Events come before the list exists, and after it.
   return (core_ && core_->place.event(event)) || QWidget::event(event);
 }
 

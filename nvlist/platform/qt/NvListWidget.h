@@ -23,17 +23,17 @@ class NvListWidget : public QWidget {
   explicit NvListWidget(QWidget* parent = nullptr);
   ~NvListWidget() override;
 
-  /// Lives as long as the widget; a handler of one of its events may end the widget.
+  /// Valid as long as the widget. A handler of one of its events may destroy the widget.
   nvList& list();
-  /// The place of the list, with those of its bars. Lives as long as the widget.
+  /// The place of the list, which contains those of its bars. Valid as long as the widget.
   QtPlace& place();
 
-  /// Whether the list shows the preview of a form designer instead of its items. Default: false.
+  /// In design mode the list shows a preview instead of its items and leaves the mouse wheel to the
+  /// form. Default: false.
   bool isDesignMode() const;
   void setDesignMode(bool on);
 
-  /// Told after each change of a property of the list, with the property's exact name. Default:
-  /// none.
+  /// Called after each change of a property of the list, with its exact name. Default: none.
   std::function<void(std::string_view name)> onPropertyChanged;
 
   QSize sizeHint() const override { return {240, 200}; }

@@ -23,7 +23,7 @@ QSize sizeOf(int length) {
 
 }  // namespace
 
-/// The bar and the place around its own, which may have to live a little longer than the widget.
+/// The bar and the place around its own, which may have to outlive the widget for a moment.
 template <class Bar>
 struct NvScrollWidget<Bar>::Core final : nvVScrollEvents, nvHScrollEvents {
   explicit Core(NvScrollWidget& owner)
@@ -36,7 +36,7 @@ struct NvScrollWidget<Bar>::Core final : nvVScrollEvents, nvHScrollEvents {
 
   void tell(std::function<void()> NvScrollWidget::*event) {
     if (!widget) return;
-    // A copy, as a handler may take itself away.
+    // A copy: the handler may replace itself.
     const auto handler = widget->*event;
     if (handler) handler();
   }
@@ -103,7 +103,7 @@ template <class Bar>
 void NvScrollWidget<Bar>::resizeEvent(QResizeEvent*) {
   core_->place.resize();
   bar().Move({0, 0, static_cast<float>(width()), static_cast<float>(height())});
-  // Where the thumb takes its length from the new one, and then its place.
+  // The thumb takes its length from the new length of the bar, and then its position.
   bar().UserControl_Show();
   bar().Value(bar().Value());
 }

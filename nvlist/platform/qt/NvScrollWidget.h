@@ -16,8 +16,8 @@ namespace norvane {
 ///     volume->bar().Max(11);
 ///     volume->onScroll = [=] { player->setVolume(volume->bar().Value()); };
 ///
-/// The widget is 17 pixels across and as long as its layout makes it; each new length gives the
-/// thumb a new one. It belongs to the thread of the QApplication.
+/// The widget is 17 pixels wide and as long as its layout makes it. The length of the thumb
+/// follows. It belongs to the thread of the QApplication.
 template <class Bar>
 class NvScrollWidget : public QWidget {
  public:
@@ -26,20 +26,20 @@ class NvScrollWidget : public QWidget {
   explicit NvScrollWidget(QWidget* parent = nullptr);
   ~NvScrollWidget() override;
 
-  /// Lives as long as the widget; a handler of one of its events may end the widget. Place, size
-  /// and visibility of the bar are the widget's to set.
+  /// Valid as long as the widget. A handler of one of its events may destroy the widget. The widget
+  /// sets the position, size and visibility of the bar.
   Bar& bar();
-  /// The place around that of the bar. Lives as long as the widget.
+  /// The place around that of the bar. Valid as long as the widget.
   QtPlace& place();
 
-  /// Told after a step of a button or of the track, also at an end of the range, and when the thumb
-  /// is let go. Default: none.
+  /// Called after each step of a button or of the track, also at an end of the range, and when the
+  /// thumb is released. Default: none.
   std::function<void()> onChange;
-  /// Told after each change of the value by the thumb. Default: none.
+  /// Called after each change of the value by the thumb. Default: none.
   std::function<void()> onScroll;
 
   QSize sizeHint() const override;
-  /// The two buttons and the shortest track that has a thumb.
+  /// The size of the two buttons and of the shortest track with a thumb.
   QSize minimumSizeHint() const override;
 
  protected:

@@ -14,11 +14,11 @@
 namespace norvane {
 namespace {
 
-/// Far beyond every image, and small enough to calculate with.
+/// Beyond any image, and small enough to calculate with.
 constexpr int farOut = 1 << 24;
 
-/// Texts are laid out in pieces of this many characters, since only a few of them are ever seen of
-/// a very long line.
+/// Texts are laid out in pieces of this many characters, since a very long line is visible only in
+/// part.
 constexpr qsizetype pieceLength = 512;
 
 constexpr std::size_t maximumForeign = 256;
@@ -26,7 +26,7 @@ constexpr std::size_t maximumForeign = 256;
 constexpr unsigned firstPrintable = 0x20;
 constexpr unsigned lastPrintable = 0x7E;
 constexpr unsigned printableCount = lastPrintable - firstPrintable + 1;
-/// Stands behind the last character of a text.
+/// Takes the place of the character after the last one.
 constexpr unsigned textEnd = lastPrintable + 1;
 constexpr float neverAsked = -1e6F;
 
@@ -35,7 +35,8 @@ int nearestPixel(float coordinate) {
   return static_cast<int>(std::nearbyint(std::min(coordinate, static_cast<float>(farOut))));
 }
 
-/// Which of `count` parts of the span from `from` to `to` the middle of the pixel at `at` lies in.
+/// The span from `from` to `to` has `count` equal parts: the index of the one that contains the
+/// middle of the pixel `at`.
 int nearestOf(int count, int at, int from, int to) {
   const auto place = static_cast<std::uint64_t>(std::int64_t{at} - from);
   const auto length = static_cast<std::uint64_t>(std::int64_t{to} - from);
@@ -43,7 +44,7 @@ int nearestOf(int count, int at, int from, int to) {
 }
 
 int lineCount(std::string_view text) {
-  // Mostly the text is one letter, for the height of a row.
+  // Usually the text is one letter, measured for the height of a row.
   if (text.size() == 1 && text[0] > '\r') return 1;
   int count = 0;
   forEachLine(text, [&](std::string_view) { return ++count > 0; });
@@ -59,7 +60,7 @@ qsizetype characterLength(QStringView text, qsizetype at) {
                                                                                              : 1;
 }
 
-/// Where the piece that begins at `from` ends: in front of a tab, and never inside a character.
+/// The end of the piece that begins at `from`: before a tab, and not inside a surrogate pair.
 qsizetype pieceEnd(QStringView text, qsizetype from) {
   qsizetype end = std::min(from + pieceLength, text.size());
   if (end < text.size() && text[end].isLowSurrogate()) ++end;
@@ -74,7 +75,7 @@ unsigned codeOf(char character) { return static_cast<unsigned char>(character); 
 
 }  // namespace
 
-/// A line of text as it is shown, with the positions of the characters that stood behind a `&`.
+/// A line of text as displayed, with the positions of the characters that followed a `&`.
 struct QtCanvas::ShownLine {
   QString text;
   std::vector<qsizetype> underlined;
@@ -89,7 +90,7 @@ struct QtCanvas::ShownLine {
       if (!withoutTabs || source[at] != u'\t') text += source[at];
     }
   }
-  /// Shows every character as it stands.
+  /// Displays every character, `&` included.
   explicit ShownLine(QString source) : text(std::move(source)) {}
 };
 
@@ -104,7 +105,7 @@ void QtCanvas::resize(QSize logical, qreal dpr) {
   if (dpr != dpr_) faces_ = {};
   dpr_ = dpr;
 
-  // There is always an image to draw on, if only one that nobody sees.
+  // Without an area there is still an image to draw on, which is not shown.
   image_ = QImage(std::max(edge(size_.width()), 1), std::max(edge(size_.height()), 1),
                   QImage::Format_RGB32);
   if (image_.isNull()) {
@@ -150,8 +151,8 @@ QRect QtCanvas::visiblePart(const Rectangle& rectangle) const {
 
 // ---- lines and boxes ----
 
-/// Fills from the first pixel to the last, both included. Written straight into the image: a frame
-/// consists of hardly anything else, and no rounding of the painter blurs an edge.
+/// Fills from the first pixel to the last, both included. It writes into the image directly: a
+/// frame consists of hardly anything else, and the rounding of a painter would blur edges.
 void QtCanvas::fill(int left, int top, int right, int bottom, QRgb colour) {
   left = std::max(left, 0);
   top = std::max(top, 0);
@@ -165,7 +166,7 @@ void QtCanvas::fill(int left, int top, int right, int bottom, QRgb colour) {
     std::fill_n(reinterpret_cast<QRgb*>(image_.scanLine(y)) + from, width, colour);
 }
 
-/// All points of a line but its last one.
+/// All points of a line except the last one.
 void QtCanvas::drawLine(int x1, int y1, int x2, int y2, QRgb colour) {
   const bool isSteep = std::abs(y2 - y1) > std::abs(x2 - x1);
   if (isSteep) {
@@ -235,7 +236,7 @@ void QtCanvas::DrawFocusRect(std::uintptr_t hDC, const Rectangle& rectangle) {
   const auto dot = [&](int x, int y) {
     if (visible.contains(x, y) && (x + y) % 2 == 0) invert(x, y);
   };
-  // Each pixel once, or a rectangle one pixel thick would undo itself.
+  // Each pixel once: a second inversion would undo the first in a rectangle one pixel thick.
   const bool isFlat = rectangle.Bottom - 1 == rectangle.Top;
   const bool isThin = rectangle.Right - 1 == rectangle.Left;
   for (int x = visible.left(); x <= visible.right(); ++x) {
@@ -278,7 +279,7 @@ void QtCanvas::PaintPicture(const Picture& picture, float x, float y, float widt
   if (target.width() <= 0 || target.height() <= 0) return;
   QPainter& on = painter();
   on.setClipping(false);
-  // Whole multiples stay sharp; anything else would look ragged.
+  // Whole multiples stay sharp; other factors need smoothing.
   const qreal factor = target.width() * dpr_ / image.width();
   const bool isWhole =
       factor == std::floor(factor) && factor == target.height() * dpr_ / image.height();
@@ -354,8 +355,8 @@ double QtCanvas::Face::widthOf(QStringView text) {
   return width;
 }
 
-/// Adds up pairs of characters. A list measures each text it is given, a million at times, and the
-/// full layout of one takes microseconds.
+/// Adds up the advances of pairs of characters. A list measures each of its texts, which may be a
+/// million, and the full layout of one takes microseconds.
 template <class Text>
 std::optional<double> QtCanvas::Face::widthOfPrintable(Text text) {
   const auto isPrintable = [](unsigned code) { return code - firstPrintable < printableCount; };
@@ -412,12 +413,12 @@ float QtCanvas::TextHeight(std::string_view text) {
   return static_cast<float>(lineCount(text)) * static_cast<float>(face().lineHeight);
 }
 
-/// Lays a line out from `x` on, as far as it can be seen.
+/// Draws a line from `x` on, as far as it is visible.
 void QtCanvas::drawLine(const ShownLine& line, double x, double tabOrigin, double baseline,
                         const QRect& clip) {
   Face& face = this->face();
   const QString& text = line.text;
-  // Slanted letters reach over into their neighbours' room.
+  // Slanted letters extend into the space of their neighbours.
   const int overhang = face.lineHeight;
   for (qsizetype at = 0; at < text.size() && x <= clip.right() + overhang;) {
     if (text[at] == u'\t') {
@@ -437,7 +438,7 @@ void QtCanvas::drawLine(const ShownLine& line, double x, double tabOrigin, doubl
   }
 }
 
-/// Draws the marks under one piece, which stands at `x`.
+/// Underlines the marked characters of one piece, which begins at `x`.
 void QtCanvas::underlineMarked(const ShownLine& line, qsizetype from, qsizetype to, double x,
                                double baseline) {
   Face& face = this->face();

@@ -19,35 +19,35 @@ namespace norvane {
 
 class QtPicture;
 
-/// A surface that draws on a QImage at once; QtSurface puts that off. All coordinates are logical
-/// pixels; each of them covers the whole device pixels that the device pixel ratio gives it, so
-/// that edges stay sharp.
+/// A surface that draws on a QImage immediately; QtSurface defers that. Coordinates are logical
+/// pixels. Each logical pixel covers whole device pixels, so that edges stay sharp at any device
+/// pixel ratio.
 ///
 /// A QGuiApplication must exist.
 class QtCanvas final : public Surface {
  public:
-  /// Starts with one pixel in white.
+  /// Starts with one white pixel.
   QtCanvas();
 
-  /// Goes on with a new image in the background colour. A size without area draws nowhere. `dpr`
-  /// is the number of device pixels a logical pixel, above 0; anything else counts as 1.
+  /// Replaces the image by one in the background colour. If the size has no area, drawing has no
+  /// effect. `dpr` is the device pixel ratio; a value of 0 or less counts as 1.
   void resize(QSize logical, qreal dpr);
 
-  /// The image as it stands, with its device pixel ratio set. The reference stays valid as long as
-  /// the surface; a copy does not follow what is drawn later.
+  /// The image so far, with its device pixel ratio. The reference is valid as long as the surface;
+  /// a copy does not follow later drawing.
   const QImage& image();
   qreal devicePixelRatio() const { return dpr_; }
   QSize size() const { return size_; }
 
-  /// Where the system colours come from. Default: the palette of the application. What is drawn
-  /// already stays as it is.
+  /// Sets the palette that system colours come from. Default: the palette of the application. What
+  /// is drawn already does not change.
   void setPalette(const QPalette& palette) { palette_ = palette; }
 
   /// Throws what PaintPicture would throw for a picture.
   void requireDrawable(const Picture& picture) { drawable(picture); }
 
   void Cls() override;
-  /// Coordinates are rounded to the nearest pixel, halves to the even one.
+  /// Coordinates are rounded to the nearest pixel, ties to the even one.
   void Line(LineMode mode, float x1, float y1, float x2, float y2, Colour colour) override;
   void PSet(float x, float y, Colour colour) override;
   /// An empty reference throws Failure 5. The picture of another platform is decoded from the bytes
@@ -55,7 +55,7 @@ class QtCanvas final : public Surface {
   /// whose pixels cannot be decoded again (QtPicture::image) is not painted.
   void PaintPicture(const Picture& picture, float x, float y) override;
   void PaintPicture(const Picture& picture, float x, float y, float width, float height) override;
-  /// Whole pixels. A tab goes on to the next stop of eight characters.
+  /// In whole pixels. A tab extends to the next multiple of eight characters.
   float TextWidth(std::string_view text) override;
   float TextHeight(std::string_view text) override;
   float CurrentX() const override { return currentX_; }
@@ -76,13 +76,13 @@ class QtCanvas final : public Surface {
                  const Rectangle& rectangle, TextFormat format) override;
   void DrawFocusRect(std::uintptr_t hDC, const Rectangle& rectangle) override;
   void StretchDIBits(std::uintptr_t hDC, const Rectangle& target, const Bitmap24& bitmap) override;
-  /// Lines after the first begin at x 0.
+  /// All lines but the first begin at x 0.
   void Print(std::string_view text) override;
 
  private:
   enum Flag : unsigned { bold = 1, italic = 2, underline = 4 };
 
-  /// A font with what the layout asks of it, in whole pixels but for `metrics`.
+  /// A font with the measures that the layout needs, in whole pixels except for `metrics`.
   struct Face {
     QFont font;
     QFontMetricsF metrics;
@@ -91,12 +91,12 @@ class QtCanvas final : public Surface {
     int tabStop;
     int underlineTop;
     int underlineHeight;
-    /// What a printable ASCII character adds to a width in front of another one, kerning included,
-    /// or at the end; below -1000 where that was never asked.
+    /// What a printable ASCII character adds to a width, by the character after it, with kerning;
+    /// the last entry is for the end of a text. Below -1000 if not measured yet.
     std::vector<float> advances;
 
     double widthOf(QStringView text);
-    /// Nothing where a character is not printable ASCII.
+    /// Empty if a character is not printable ASCII.
     template <class Text>
     std::optional<double> widthOfPrintable(Text text);
 
@@ -110,12 +110,12 @@ class QtCanvas final : public Surface {
   Face& face();
   QRgb rgb(Colour colour) const;
 
-  /// The painter on the image, begun where none is, with the present font and text colour.
+  /// The active painter on the image, with the current font and text colour.
   QPainter& painter();
   void endPainter();
-  /// Where a logical pixel begins on the image.
+  /// The device pixel at which a logical pixel begins.
   int edge(int logical) const { return qRound(logical * dpr_); }
-  /// The part of a rectangle that lies on the image; empty where none does.
+  /// The part of a rectangle that is on the image.
   QRect visiblePart(const Rectangle& rectangle) const;
   void fill(int left, int top, int right, int bottom, QRgb colour);
   void drawLine(int x1, int y1, int x2, int y2, QRgb colour);

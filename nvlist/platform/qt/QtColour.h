@@ -7,8 +7,8 @@
 
 namespace norvane {
 
-/// A colour as Qt has it; a system colour is the palette's nearest one, black where its index is
-/// unknown.
+/// A colour in Qt's form. A system colour becomes the nearest one of the palette; an unknown one is
+/// black.
 QRgb rgbOf(Colour colour, const QPalette& palette);
 
 }  // namespace norvane

@@ -6,12 +6,12 @@
 
 namespace norvane {
 
-/// A font object of its own that looks like the given font; never empty. A font sized in pixels is
-/// described by the points that come to on the screen.
+/// A new font object that looks like the given font; never empty. A size in pixels is converted to
+/// points for the screen.
 Font fontFrom(const QFont& font);
 
-/// The Qt font for a font object. Qt takes the nearest face where there is none of that name. A
-/// size outside 1 to 1000 points counts as the nearest of the two, one that is no number as 1.
+/// The Qt font for a font object. If no face has its name, Qt picks a similar one. A size is
+/// clipped to 1 to 1000 points; NaN counts as 1.
 QFont toQFont(const FontObject& font);
 
 }  // namespace norvane

@@ -22,7 +22,7 @@ constexpr KeyRow keys[] = {
     {Qt::Key_Delete, 46},   {Qt::Key_Help, 47},       {Qt::Key_Meta, 91},   {Qt::Key_Menu, 93},
     {Qt::Key_NumLock, 144}, {Qt::Key_ScrollLock, 145}};
 
-/// Marks, where a keyboard of the United States has them.
+/// Punctuation by its keys on a US keyboard.
 constexpr KeyRow markKeys[] = {
     {Qt::Key_ParenRight, 48},   {Qt::Key_Exclam, 49},        {Qt::Key_At, 50},
     {Qt::Key_NumberSign, 51},   {Qt::Key_Dollar, 52},        {Qt::Key_Percent, 53},
@@ -54,7 +54,7 @@ std::int16_t shiftOf(Qt::KeyboardModifiers modifiers) {
 }
 
 std::int16_t buttonsOf(Qt::MouseButtons buttons) {
-  // Qt's own numbers are the same for these three.
+  // Qt uses the same numbers for these three.
   return static_cast<std::int16_t>(buttons & (Qt::LeftButton | Qt::RightButton | Qt::MiddleButton));
 }
 
@@ -74,7 +74,7 @@ std::int16_t keyCodeOf(const QKeyEvent& event) {
 
 std::int16_t characterOf(const QKeyEvent& event) {
   const QString text = event.text();
-  // Qt has a character for Delete, which is none.
+  // Qt reports a character for Delete, which types none.
   if (text.size() != 1 || event.key() == Qt::Key_Delete) return 0;
   const char16_t character = text[0].unicode();
   return character <= std::numeric_limits<std::int16_t>::max()

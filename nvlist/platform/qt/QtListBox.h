@@ -7,15 +7,15 @@
 
 namespace norvane {
 
-/// A QListWidget as a list box. Asking one whose widget is gone throws Failure 91. A byte of a text
-/// that is no UTF-8 shows as U+FFFD.
+/// A QListWidget as a list box. Every call throws Failure 91 once the widget is destroyed. Bytes of
+/// a text that are not UTF-8 are displayed as U+FFFD.
 class QtListBox final : public ListBox {
  public:
   explicit QtListBox(QListWidget& widget) : widget_(&widget) {}
   static Variant of(QListWidget& widget) { return Variant(makeRef<QtListBox>(widget)); }
 
   std::int32_t ListCount() override { return widget().count(); }
-  /// Throws Failure 381 where there is no such row.
+  /// Throws Failure 381 if there is no such row.
   std::string List(std::int32_t index) override {
     const QListWidgetItem* row = widget().item(index);
     if (!row) throw Failure(381, "Invalid property array index");

@@ -7,15 +7,15 @@
 
 namespace norvane {
 
-/// Which mouse buttons are down, and which were pressed over a window of the program since they
-/// were asked for last.
+/// Which mouse buttons are down, and which were pressed over a window of the program since the last
+/// query.
 class QtMouse final : public QObject {
  public:
   explicit QtMouse(QCoreApplication& program) : QObject(&program) {
     program.installEventFilter(this);
   }
 
-  /// As Desktop::asyncKeyState. Qt's own numbers of the three buttons are the same.
+  /// As Desktop::asyncKeyState. Qt uses the same numbers for the three buttons.
   std::int16_t asyncKeyState(std::int32_t key) {
     if (key != Qt::LeftButton && key != Qt::RightButton && key != Qt::MiddleButton) return 0;
     const auto button = static_cast<Qt::MouseButton>(key);
@@ -26,8 +26,8 @@ class QtMouse final : public QObject {
   }
 
  protected:
-  /// Windows alone are looked at: widgets may get the same press one after the other. They hear the
-  /// second press of a double click as a press too.
+  /// Counts the presses of windows only, since several widgets may get the same press in turn.
+  /// Windows get the second press of a double click as a press, too.
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::MouseButtonPress && watched->isWindowType())
       pressed_ |= static_cast<QMouseEvent*>(event)->button();

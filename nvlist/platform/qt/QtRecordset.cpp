@@ -32,7 +32,7 @@ Variant variantOf(const QVariant& value) {
       if (fits<std::int32_t>(value)) return value.toInt();
       break;
     case QMetaType::Double:
-      // A Variant would keep seven digits of them.
+      // A Variant would keep only seven digits.
       return QString::number(value.toDouble(), 'G', std::numeric_limits<double>::digits10)
           .toStdString();
     default:
@@ -60,7 +60,7 @@ std::int32_t QtRecordset::RecordCount() {
   return *count_;
 }
 
-/// The current row stays the current one; that there is none is kept in isAtEnd_.
+/// Keeps the current row; isAtEnd_ keeps that there is none.
 std::int32_t QtRecordset::countRows() {
   if (query_.isForwardOnly()) return unknownCount;
   const int current = query_.at();

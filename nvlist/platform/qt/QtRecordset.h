@@ -7,30 +7,30 @@
 
 namespace norvane {
 
-/// The rows of an SQL query, of any driver that Qt has, to fill a list from:
+/// The rows of an SQL query, with any driver of Qt, to fill a list from:
 ///
 ///     QSqlQuery query("SELECT name FROM cities ORDER BY name");
 ///     names->list().Recordset(makeRef<QtRecordset>(std::move(query)));
 ///
-/// It starts at the first row. What the database refuses is Failure 440 with the driver's text, and
-/// so is every member of a query that failed or that has no rows by its nature. The library that
-/// this is in, nvlist::qt_sql, needs Qt's Sql module.
+/// It starts at the first row. An error of the database throws Failure 440 with the driver's text,
+/// and so does every call if the query has failed or is not one that returns rows. This class is in
+/// the library nvlist::qt_sql, which needs Qt's Sql module.
 class QtRecordset final : public Recordset {
  public:
-  /// Takes the query over. It has been run, and its connection has to stay open.
+  /// Takes over a query that has been executed. Its connection has to stay open.
   explicit QtRecordset(QSqlQuery query) : query_(std::move(query)) {}
 
-  /// Where the driver does not know it, all rows are fetched once to count them. A forward-only
-  /// query of such a driver does not know its count: -1.
+  /// If the driver does not report the count, all rows are fetched once to count them; a
+  /// forward-only query returns -1 then.
   std::int32_t RecordCount() override;
-  /// Failure 440 for a forward-only query that stands behind its first row.
+  /// Throws Failure 440 if a forward-only query is past its first row.
   void MoveFirst() override;
-  /// Failure 3021 behind the last row.
+  /// Throws Failure 3021 past the last row.
   void MoveNext() override;
   Boolean Eof() override;
-  /// A number or truth value of the database is one where a Variant holds it without a loss, and
-  /// everything else is a text, as Qt converts it. Failure 9 where there is no such field, 13 for a
-  /// value that has no text, and 3021 behind the last row.
+  /// A number or Boolean that a Variant can hold exactly keeps its type; any other value is
+  /// converted to a text by Qt. Throws Failure 9 if there is no such field, 13 for a value without
+  /// a text, and 3021 past the last row.
   std::optional<Variant> Value(std::int32_t field) override;
 
  private:
@@ -42,8 +42,8 @@ class QtRecordset final : public Recordset {
 
   QSqlQuery query_;
   std::optional<std::int32_t> count_;
-  int fields_ = 0;               ///< nothing until the first value
-  std::optional<bool> isAtEnd_;  ///< nothing until the first move
+  int fields_ = 0;               ///< 0 until the first value is read
+  std::optional<bool> isAtEnd_;  ///< empty until the first move
 };
 
 }  // namespace norvane

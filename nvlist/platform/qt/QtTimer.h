@@ -7,7 +7,7 @@
 
 namespace norvane {
 
-/// A timer of the event loop.
+/// A timer of Qt's event loop.
 class QtTimer final : public Timer {
  public:
   explicit QtTimer(std::function<void()> tick) {
@@ -17,7 +17,7 @@ class QtTimer final : public Timer {
   ~QtTimer() override {
     timer_->stop();
     timer_->disconnect();
-    // Not at once: this may be its own tick.
+    // Later, since this may be its own tick.
     timer_->deleteLater();
   }
 

@@ -14,7 +14,7 @@
 namespace norvane {
 namespace {
 
-/// A mouse that comes to the next widget so soon has moved on from the one before.
+/// In milliseconds. If the mouse enters another widget this soon, its tip appears faster.
 constexpr qint64 movingOn = 100;
 constexpr int border = 2;
 constexpr QPoint besideMouse(2, 20);
@@ -30,7 +30,7 @@ Colour colourOf(const QColor& colour) {
 
 }  // namespace
 
-/// What the user sees.
+/// The window that shows the text.
 class QtTipWindow::Tip final : public QWidget {
  public:
   Tip(QWidget& form, TipStore& store)
@@ -40,7 +40,7 @@ class QtTipWindow::Tip final : public QWidget {
     setFont(QToolTip::font());
   }
 
-  /// The text is also what a screen reader reads.
+  /// Screen readers read the text as the accessible name.
   void setText(const QString& text) {
     setAccessibleName(text);
     const QRect room(0, 0, limit() > 0 ? limit() : QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
@@ -49,7 +49,7 @@ class QtTipWindow::Tip final : public QWidget {
     update();
   }
 
-  /// Below the mouse; above it where the screen ends.
+  /// Below the mouse, or above it if the screen ends there.
   void placeAt(QPoint mouse) {
     const QScreen* screen = QGuiApplication::screenAt(mouse);
     const QRect area = (screen ? screen : parentWidget()->screen())->availableGeometry();
@@ -85,13 +85,13 @@ QtTipWindow::QtTipWindow(QWidget& form) : TipStore(newHandle(), handleOf(form)),
   TipStore::textColour(colourOf(QToolTip::palette().color(QPalette::ToolTipText)));
   timer_.setSingleShot(true);
   timer_.callOnTimeout(this, [this] { timeOver(); });
-  // All widgets are heard: a press on a tool may go to a widget inside it.
+  // Filters the events of all widgets: a press on a tool may go to a child of it.
   QCoreApplication::instance()->installEventFilter(this);
 }
 
 QtTipWindow::~QtTipWindow() { delete tip_; }
 
-// ---- what it is told ----
+// ---- tools and settings ----
 
 bool QtTipWindow::addTool(const TipTool& tool) {
   const bool isAdded = TipStore::addTool(tool);
@@ -131,7 +131,7 @@ void QtTipWindow::maxTipWidth(std::int32_t pixels) {
   refresh();
 }
 
-// ---- what the mouse does ----
+// ---- the mouse ----
 
 bool QtTipWindow::eventFilter(QObject* watched, QEvent* event) {
   if (!watched->isWidgetType()) return false;
@@ -158,7 +158,7 @@ bool QtTipWindow::isTool(const QWidget& widget) const {
                              [&](const TipTool& tool) { return widgetOf(tool.id) == &widget; });
 }
 
-/// A widget also hears of a mouse that it has already, when a window in front of it goes.
+/// A widget may get Enter while it has the mouse, when a window in front of it closes.
 void QtTipWindow::enter(QWidget& widget) {
   if (tool_ && (tool_ == &widget || widget.isAncestorOf(tool_))) return;
   hide();
@@ -167,7 +167,7 @@ void QtTipWindow::enter(QWidget& widget) {
   waitFor(hasMovedOn ? TipDelay::reshow : TipDelay::initial);
 }
 
-/// The mouse may still be over a tool behind, which does not hear that it is back.
+/// The mouse may still be over a tool behind this one, which gets no Enter.
 void QtTipWindow::leave(QWidget& widget) {
   if (tool_ != &widget) return;
   hide();
@@ -176,7 +176,7 @@ void QtTipWindow::leave(QWidget& widget) {
     if (behind->underMouse() && isTool(*behind)) return enter(*behind);
 }
 
-// ---- what shows ----
+// ---- the tip ----
 
 void QtTipWindow::waitFor(TipDelay which) {
   restsAt_ = QCursor::pos();

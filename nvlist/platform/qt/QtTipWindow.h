@@ -10,15 +10,14 @@
 
 namespace norvane {
 
-/// Tips over widgets: a small window beside the mouse, over a widget that was given as a tool. It
-/// starts with the font and the colours of Qt's own tips. Tools are known by handleOf()
-/// (QtWindow.h).
+/// Tool tips for widgets: a small window beside the mouse while it is over a tool. It starts with
+/// the font and the colours of Qt's tool tips. Tools are identified by handleOf() (QtWindow.h).
 ///
-/// A tip goes when the mouse leaves the widget or presses on it, and when its time is over; it
-/// shows again only after the mouse has left.
+/// A tip closes when the mouse leaves the widget, when a button is pressed on it, or after its
+/// time. It opens again only after the mouse has left.
 class QtTipWindow final : public QObject, public TipStore {
  public:
-  /// For the widgets on a form. Once the form is gone nothing shows.
+  /// For the widgets on a form. No tip opens once the form is destroyed.
   explicit QtTipWindow(QWidget& form);
   ~QtTipWindow() override;
 
@@ -41,21 +40,21 @@ class QtTipWindow final : public QObject, public TipStore {
   class Tip;
 
   bool isTool(const QWidget& widget) const;
-  /// Of the widget that the mouse is over.
+  /// The text for the widget under the mouse.
   QString text() const;
   void enter(QWidget& widget);
   void leave(QWidget& widget);
-  /// Lets the timer run out once the mouse has rested so long.
+  /// Starts the timer, which runs out after the mouse has rested for that delay.
   void waitFor(TipDelay which);
   void timeOver();
   void show();
   void hide();
-  /// Gives a tip that shows the look and the text of now.
+  /// Updates an open tip to the current text and look.
   void refresh();
   bool isShown() const;
 
   QPointer<QWidget> form_;
-  /// Over which the mouse is.
+  /// The widget under the mouse.
   QPointer<QWidget> tool_;
   QPointer<Tip> tip_;
   QTimer timer_;

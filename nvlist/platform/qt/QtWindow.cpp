@@ -11,7 +11,7 @@ struct Handles {
   std::int32_t last = 0;
 };
 
-/// Never destroyed, as a widget may go later than anything else.
+/// Never destroyed, since a widget may outlive everything else.
 Handles& handles() {
   static Handles& handles = *new Handles;
   return handles;
@@ -23,7 +23,8 @@ std::int32_t newHandle() { return ++handles().last; }
 
 std::int32_t handleOf(QWidget& widget) {
   const auto found = handles().ofWidgets.constFind(&widget);
-  // A widget whose connections were cut may have gone unheard, and its place is another's now.
+  // If a widget's signals were disconnected, its end went unnoticed, and another widget may have
+  // its address now.
   if (found != handles().ofWidgets.cend() && widgetOf(*found) == &widget) return *found;
   const std::int32_t handle = newHandle();
   handles().ofWidgets.insert(&widget, handle);

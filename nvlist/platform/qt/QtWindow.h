@@ -8,15 +8,15 @@
 
 namespace norvane {
 
-/// A number for something with a window: never 0, and never given twice.
+/// A new window handle: never 0, and never used twice.
 std::int32_t newHandle();
-/// The number of a widget, which stays the same as long as the widget lives.
+/// The handle of a widget, which stays the same as long as the widget lives.
 std::int32_t handleOf(QWidget& widget);
-/// The widget of that number, or nullptr where there is none any more.
+/// The widget with that handle, or nullptr if it is destroyed.
 QWidget* widgetOf(std::int32_t handle);
 
-/// A widget as tool tips ask it. It is a form where it is a window of its own, and stands in its
-/// parent widget otherwise. Asking one whose widget is gone throws Failure 91.
+/// A widget for tool tips. A top-level window is a form; the container of any other widget is its
+/// parent. Every call throws Failure 91 once the widget is destroyed.
 class QtWindow final : public HostWindow {
  public:
   explicit QtWindow(QWidget& widget) : widget_(&widget) {}
