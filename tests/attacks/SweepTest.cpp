@@ -1,0 +1,200 @@
+// The life of a list, again and again, in which each call of the platform and each allocation fails
+// in turn: once, and from then on.
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <optional>
+
+#include <nvlist/objects/Error.h>
+#include <nvlist/platform/headless/HeadlessList.h>
+
+#include "Allocations.h"
+#include "FailingPlatform.h"
+#include "Life.h"
+
+namespace norvane::attacks {
+namespace {
+
+/// Which of the calls and allocations of a life fails, counted from 1; 0: none.
+struct Plan {
+  long call = 0;
+  long allocation = 0;
+  bool onward = false;
+  bool silent = false;
+};
+
+struct Outcome {
+  long calls = 0;
+  long allocations = 0;
+  /// What is wrong; nullptr: nothing.
+  const char* fault = nullptr;
+  const char* step = "";
+};
+
+class Host final : public __nvList {
+ public:
+  int saveErrors = 0;
+  void ErrorListSave() override { ++saveErrors; }
+};
+
+template <class Body>
+bool runs(Body&& body) {
+  try {
+    body();
+    return true;
+  } catch (...) {
+    return false;
+  }
+}
+
+/// A list with everything around it that can fail.
+class Sweep {
+ public:
+  explicit Sweep(const Plan& plan) : plan_(plan) {
+    Error().SilentError(plan.silent);
+    for (auto& [name, bytes] : filesOfALife()) files_.files[name] = bytes;
+    trouble_.first = plan.call;
+    trouble_.onward = plan.onward;
+  }
+  ~Sweep() { Error().SilentError(false); }
+
+  Outcome run() {
+    // Not making a control is no harm.
+    const allocations::Watch memory(plan_.allocation, plan_.onward);
+    runs([&] {
+      place_.emplace(form_, trouble_);
+      list_ = std::make_unique<nvList>(*place_);
+    });
+    if (list_) live();
+    calls_ = trouble_.calls;
+    outcome_.allocations = memory.count();
+    return outcome_;
+  }
+  /// Without trouble.
+  void check() {
+    trouble_.first = 0;
+    if (list_) checkUse();
+    if (files_.open != 0) fault("a file is still open");
+    if (Trap::anyRuns()) fault("a procedure has not ended");
+  }
+  /// With trouble again, if it goes on.
+  void end() {
+    trouble_ = {calls_, plan_.call, plan_.onward};
+    const bool isMemoryGone = plan_.onward && plan_.allocation > 0;
+    const allocations::Watch memory(isMemoryGone ? 1 : 0, true);
+    list_.reset();
+    outcome_.calls = trouble_.calls;
+  }
+  const Outcome& outcome() const { return outcome_; }
+
+ private:
+  void fault(const char* what) {
+    if (!outcome_.fault) outcome_.fault = what;
+  }
+
+  void live() {
+    Host host;
+    Hand hand;
+    std::vector<Step> life;
+    {
+      const allocations::Pause pause;
+      hand = handOn(form_, *list_);
+      life = lifeOf(*list_, hand, [this] { trouble_(); });
+      list_->addSink(host);
+    }
+    runs([&] { list_->UserControl_InitProperties(); });
+    for (const Step& step : life) {
+      const int before = host.saveErrors;
+      const bool wasCalled = runs(step.run);
+      if (std::string_view(step.name).starts_with("save") && wasCalled && host.saveErrors == before)
+        checkSaved();
+      if (outcome_.fault && !*outcome_.step) outcome_.step = step.name;
+    }
+    list_->removeSink(host);
+  }
+  /// A save that raised nothing has written the whole list.
+  void checkSaved() {
+    const allocations::Pause pause;
+    const Trouble trouble = std::exchange(trouble_, {});
+    HeadlessList copy;
+    Host host;
+    copy.list().ListInput("list", true);
+    if (copy.list().ItemsCount() != list_->ItemsCount()) fault("a file was lost without an event");
+    trouble_ = trouble;
+  }
+  /// After its properties are read and the wheel is turned, which ends a repaint that a failure has
+  /// left unfinished, the list serves like any other.
+  void checkUse() {
+    list_->UserControl_ReadProperties(PropertyBag());
+    list_->ItemsClear();
+    list_->ItemsAdd("one");
+    list_->ItemsAdd("two");
+    std::int16_t rotation = 0, keys = 0;
+    float x = 0, y = 0;
+    list_->Wheel1_WheelScroll(rotation, keys, x, y);
+    if (list_->ItemsCount() != 2 || list_->ItemText(1) != "two") fault("the list is of no use");
+    if (form_.ownSurface().image().text().find("\"two\"") == std::string::npos)
+      fault("the list paints nothing");
+  }
+
+  const Plan plan_;
+  Trouble trouble_;
+  long calls_ = 0;
+  FailingProgram program_{trouble_};
+  FailingFiles files_{trouble_};
+  HeadlessContainer form_{60, 60};
+  std::optional<FailingContainer> place_;
+  std::unique_ptr<nvList> list_;
+  Outcome outcome_;
+};
+
+Outcome outcomeOf(const Plan& plan) {
+  Sweep sweep(plan);
+  sweep.run();
+  sweep.check();
+  sweep.end();
+  return sweep.outcome();
+}
+
+/// How many of the calls are left out between two that fail. scripts/sweep leaves out none.
+long stride() {
+  const char* value = std::getenv("NVLIST_SWEEP_STRIDE");
+  return value ? std::max(std::atol(value), 1L) : 97;
+}
+
+class SweepTest : public testing::TestWithParam<std::pair<bool, bool>> {
+ protected:
+  void sweep(long Plan::*what, long Outcome::*number) {
+    const auto [onward, silent] = GetParam();
+    Plan plan{0, 0, onward, silent};
+    // What the library allocates once stays.
+    outcomeOf(plan);
+    const Outcome whole = outcomeOf(plan);
+    ASSERT_EQ(whole.fault, nullptr);
+    ASSERT_GT(whole.*number, 300);
+    RecordProperty("calls", std::to_string(whole.*number));
+    for (plan.*what = 1; plan.*what <= whole.*number; plan.*what += stride()) {
+      const long blocks = allocations::blocks();
+      const Outcome outcome = outcomeOf(plan);
+      EXPECT_EQ(allocations::blocks(), blocks) << "leak, number " << plan.*what;
+      EXPECT_EQ(outcome.fault, nullptr)
+          << outcome.fault << " in " << outcome.step << ", number " << plan.*what;
+    }
+  }
+};
+
+TEST_P(SweepTest, SurvivesEachCallOfThePlatform) { sweep(&Plan::call, &Outcome::calls); }
+
+TEST_P(SweepTest, SurvivesEachAllocation) { sweep(&Plan::allocation, &Outcome::allocations); }
+
+INSTANTIATE_TEST_SUITE_P(Attacks, SweepTest,
+                         testing::Values(std::pair(false, false), std::pair(false, true),
+                                         std::pair(true, false), std::pair(true, true)),
+                         [](const auto& info) {
+                           return std::string(info.param.first ? "Onward" : "Once") +
+                                  (info.param.second ? "InSilence" : "Reported");
+                         });
+
+}  // namespace
+}  // namespace norvane::attacks
