@@ -83,3 +83,6 @@ void addPaintBenchmarks();
 void addScrollBenchmarks();
 void addMemoryBenchmarks();
 void addListFileBenchmarks();
+
+/// Prints how the time of each operation grows with the list. False if one grows too much.
+bool printGrowth();

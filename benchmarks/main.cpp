@@ -1,6 +1,7 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <string_view>
 
 #include "Measure.h"
 #include "TableReporter.h"
@@ -8,6 +9,7 @@
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
+  if (argc == 2 && std::string_view(argv[1]) == "--growth") return printGrowth() ? 0 : 1;
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
 

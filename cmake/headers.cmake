@@ -1,12 +1,14 @@
 # The installed headers of the library: those that a host or a platform includes, and those that they
 # include. All other headers are private.
 target_sources(nvlist PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES
+  nvlist/core/ItemLook.h
   nvlist/core/ItemStore.h
   nvlist/core/ListItem.h
   nvlist/core/ListState.h
   nvlist/core/NewItem.h
   nvlist/core/SelectionMarks.h
   nvlist/core/SlotBlocks.h
+  nvlist/core/StoredItem.h
   nvlist/core/storedProperties.h
   nvlist/drawing/DeferredSurface.h
   nvlist/drawing/DrawnPicture.h

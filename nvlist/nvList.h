@@ -534,11 +534,11 @@ class nvList final : public UserControl,
   bool WrongIndex(std::int32_t Index) const { return !state_.Items.holds(Index); }
   /// The item at an index. Throws Failure 9 outside the bounds; slot 0 of an empty list is within
   /// them.
-  ListItem& item(std::int32_t index) { return state_.Items.touch(index); }
-  void writeFields(Trap& on, ListItem& item, NewItem& values);
+  StoredItem& item(std::int32_t index) { return state_.Items.touch(index); }
+  void writeFields(Trap& on, StoredItem& item, NewItem& values);
   void moveLastTo(double index);
   void moveDownOnto(Trap& on, std::int32_t index);
-  std::int32_t countItems(const char* procedure, Boolean ListItem::*mark);
+  std::int32_t countItems(const char* procedure, Boolean (StoredItem::*mark)() const);
   void updateAfterChange(Trap& on);
   bool ArrDim() const { return true; }
   void yield() {
@@ -546,12 +546,11 @@ class nvList final : public UserControl,
   }
 
   // core/search.cpp
-  /// Returns the index of the first item that fits, or -1. LoopIndex is left there, or one past the
-  /// last item.
-  template <class Fits>
-  std::int32_t firstItem(Fits&& fits) {
-    state_.LoopIndex = state_.Items.find(fits);
-    return state_.LoopIndex <= state_.Items.upperBound() ? state_.LoopIndex : -1;
+  /// Sets LoopIndex to the index at which a search stopped. Returns it, or -1 if that is one past
+  /// the last item.
+  std::int32_t stoppedAt(std::int32_t index) {
+    state_.LoopIndex = index;
+    return index <= state_.Items.upperBound() ? index : -1;
   }
 
   // core/ordering.cpp
@@ -567,13 +566,15 @@ class nvList final : public UserControl,
   void scrollIntoView(Trap& on);
 
   // core/itemProperties.cpp
-  template <class Value>
-  Value readItem(const char* name, const Variant& Index, Value ListItem::*field);
+  template <class Read>
+  auto readItem(const char* name, const Variant& Index, Read&& read);
   enum class ItemRepaint { no, yes };
   template <class Write>
   void writeItem(const char* name, const Variant& Index, ItemRepaint repaints, Write&& write);
-  Colour ownColour(const char* name, const Variant& Index, Variant ListItem::*field);
-  Variant colourOfDisabled(const char* name, const Variant& Index, Colour ListItem::*field);
+  template <class Value>
+  Value readLook(const char* name, const Variant& Index, Value ItemLook::*field);
+  template <class Write>
+  void writeLook(const char* name, const Variant& Index, Write&& write);
 
   // core/persistence.cpp
   Variant storedDefault(const StoredProperty& property) const;
@@ -605,7 +606,7 @@ class nvList final : public UserControl,
   // render/scrollfit.cpp
   void CheckItemWidth();
   void CheckItemWidth(const Variant& Index);
-  void widenTo(ListItem& item);
+  void widenTo(StoredItem& item);
   void addPadding(Trap& on);
   void fitHorizontal(Trap& on);
   void fitVertical(Trap& on);
@@ -619,7 +620,7 @@ class nvList final : public UserControl,
   // files/listSave.cpp
   static std::string aktuelleSpeicherVersion() { return "273"; }
   void saveItems(const std::string& Filename, Boolean SaveItemProperties);
-  void saveProperties(FileWriter& file, ListItem& item);
+  void saveProperties(FileWriter& file, const Ref<StoredItem>& item);
   void saveIcon(FileWriter& file, const Picture& icon);
 
   // files/listInput.cpp

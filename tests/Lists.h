@@ -30,7 +30,7 @@ class ListTest : public testing::Test {
     return result;
   }
 
-  const ListItem& item(int index) { return list.state().Items.at(index); }
+  ListItem item(int index) { return list.state().Items.at(index); }
 
   /// "number procedure" of each report since the last call, separated by commas.
   std::string reports() {

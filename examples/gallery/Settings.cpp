@@ -74,7 +74,7 @@ class Content {
             .aBold = item.Bold,
             .aItalic = item.Italic,
             .aUnderline = item.Underline,
-            .aKey = item.Key.view()};
+            .aKey = item.Key};
   }
 
   std::vector<NewItem> items_;

@@ -8,39 +8,122 @@
 
 namespace norvane {
 
-Ref<ListItem>& ItemStore::peek(std::int32_t index) const {
+Ref<StoredItem>& ItemStore::peek(std::int32_t index) const {
   if (!holds(index)) throw Failure::subscriptOutOfRange();
-  Ref<ListItem>& reference = slots_.peek(index);
+  Ref<StoredItem>& reference = slots_.peek(index);
   if (!reference) makeItem(reference, index);
   return reference;
 }
 
-Ref<ListItem>& ItemStore::slot(std::int32_t index) {
-  peek(index);
-  return slots_.write(index);
+Ref<StoredItem>& ItemStore::slot(std::int32_t index) {
+  if (!holds(index)) throw Failure::subscriptOutOfRange();
+  changed();
+  Ref<StoredItem>& reference = slots_.write(index);
+  if (!reference) makeItem(reference, index);
+  return reference;
 }
 
-void ItemStore::setText(std::int32_t index, std::string text) {
-  const Ref<ListItem>& reference = slot(index);
-  norvane::setText(*reference, std::move(text));
+void ItemStore::setText(std::int32_t index, CompactText text) {
+  StoredItem& item = *slot(index);
+  item.Text(std::move(text));
   // Another slot may hold the same item.
-  if (!reference->isHeldOnce()) slots_.forgetWidest();
+  if (!item.isHeldOnce()) slots_.forgetWidest();
 }
 
-void ItemStore::makeItem(Ref<ListItem>& reference, std::int32_t index) const {
-  if (source_) reference = source_->make(index);
-  if (!reference) reference = makeRef<ListItem>();
+void ItemStore::setKey(std::int32_t index, CompactText key) { slot(index)->Key(std::move(key)); }
+
+std::int32_t ItemStore::find(SearchIndex& index, Searched field, std::string_view text) {
+  if (!index.wasSearched) {
+    index.wasSearched = true;
+    return find([&](const StoredItem& item) { return (item.*field)() == text; });
+  }
+  if (index.firsts.empty()) {
+    std::unordered_map<std::string_view, std::int32_t> firsts;
+    firsts.reserve(static_cast<std::size_t>(slots_.size()));
+    std::int32_t place = 0;
+    forEach([&](const StoredItem& item) { firsts.try_emplace((item.*field)(), place++); });
+    index.firsts = std::move(firsts);
+  }
+  const auto found = index.firsts.find(text);
+  return found != index.firsts.end() ? found->second : upperBound() + 1;
+}
+
+/// Drops what was made for searches. Called whenever a text, a key or a place may change.
+void ItemStore::changed() {
+  if (texts_.wasSearched) texts_ = {};
+  if (keys_.wasSearched) keys_ = {};
+}
+
+void ItemStore::makeItem(Ref<StoredItem>& reference, std::int32_t index) const {
+  auto item = makeRef<StoredItem>();
+  ListItem values;
+  if (source_ && source_->make(index, values)) assign(*item, index, values);
+  reference = std::move(item);
+}
+
+void ItemStore::assign(std::int32_t index, ListItem values) {
+  const Ref<StoredItem> item = slot(index);
+  assign(*item, index, values);
+}
+
+void ItemStore::assign(StoredItem& item, std::int32_t index, ListItem& values) const {
+  item.Text(values.Text);
+  item.Key(values.Key);
+  item.Tag(std::move(values.Tag));
+  ItemLook look;
+  look.AllowEdit = values.AllowEdit;
+  look.Enabled = values.Enabled;
+  look.Bold = values.Bold;
+  look.Italic = values.Italic;
+  look.Underline = values.Underline;
+  if (values.Checked) look.CheckedAs = values.Checked;
+  if (values.Selected) look.SelectedAs = values.Selected;
+  look.Alignment = values.Alignment;
+  look.ForeColorDis = values.ForeColorDis;
+  look.BackColorDis = values.BackColorDis;
+  look.ForeColor = std::move(values.ForeColor);
+  look.BackColor = std::move(values.BackColor);
+  look.ForeColorSelect = std::move(values.ForeColorSelect);
+  look.BackColorSelect = std::move(values.BackColorSelect);
+  look.Icon = std::move(values.Icon);
+  look.IconSelected = std::move(values.IconSelected);
+  setLook(item, index, look);
+  item.Checked(values.Checked);
+  item.Selected(values.Selected);
+}
+
+void ItemStore::setLook(StoredItem& item, std::int32_t index, const ItemLook& look) const {
+  if (const StoredItem* const alike = alikeBefore(index, look))
+    item.shareLookOf(*alike);
+  else
+    item.ownLook() = look;
+}
+
+void ItemStore::shareLook(std::int32_t index) {
+  if (!holds(index)) return;
+  StoredItem& item = touch(index);
+  if (const StoredItem* const alike = alikeBefore(index, item.look())) item.shareLookOf(*alike);
+}
+
+/// Compares with a few items only: a list of which neighbours all differ would gain little by more.
+const StoredItem* ItemStore::alikeBefore(std::int32_t index, const ItemLook& look) const {
+  constexpr std::int32_t reach = 8;
+  for (std::int32_t i = index - 1; i >= std::max(0, index - reach); --i) {
+    const Ref<StoredItem>& other = slots_.peek(i);
+    if (other && other->look().isSame(look)) return other.get();
+  }
+  return nullptr;
 }
 
 void ItemStore::makeAllItems() {
   if (!source_) return;
-  forEach([](const ListItem&) {});
+  forEach([](const StoredItem&) {});
   source_.reset();
 }
 
 void ItemStore::forgetTextWidths() {
-  slots_.visitUntil([](const Ref<ListItem>& reference, std::int32_t) {
-    if (reference) reference->textWidth = ListItem::notMeasured;
+  slots_.visitUntil([](const Ref<StoredItem>& reference, std::int32_t) {
+    if (reference) reference->textWidth = StoredItem::notMeasured;
     return false;
   });
   slots_.forgetWidest();
@@ -48,6 +131,7 @@ void ItemStore::forgetTextWidths() {
 
 void ItemStore::grow() {
   if (upperBound() == std::numeric_limits<std::int32_t>::max()) throw Failure::overflow();
+  changed();
   slots_.insert(slots_.size(), nullptr);
 }
 
@@ -56,11 +140,13 @@ void ItemStore::grow() {
 
 void ItemStore::shrink() {
   makeAllItems();
-  const Ref<ListItem> last = slots_.take(upperBound());
+  changed();
+  const Ref<StoredItem> last = slots_.take(upperBound());
 }
 
 void ItemStore::recreate(std::size_t count, std::shared_ptr<ItemSource> source) {
   SlotBlocks old(static_cast<std::int32_t>(count));
+  changed();
   std::swap(slots_, old);
   source_.swap(source);
 }
@@ -68,7 +154,7 @@ void ItemStore::recreate(std::size_t count, std::shared_ptr<ItemSource> source) 
 void ItemStore::move(std::int32_t from, std::int32_t to) {
   makeAllItems();
   slot(to);
-  const Ref<ListItem> moved = slot(from);
+  const Ref<StoredItem> moved = slot(from);
   if (from == to) return;
   slots_.insert(to > from ? to + 1 : to, moved);
   slots_.take(from < to ? from : from + 1);
@@ -76,20 +162,21 @@ void ItemStore::move(std::int32_t from, std::int32_t to) {
 
 void ItemStore::moveDownOnto(std::int32_t index) {
   makeAllItems();
-  const Ref<ListItem> removed = slot(index);
+  const Ref<StoredItem> removed = slot(index);
   slots_.insert(slots_.size(), slot(upperBound()));
   slots_.take(index);
 }
 
 void ItemStore::reorder(std::span<const std::int32_t> order) {
   makeAllItems();
-  std::vector<Ref<ListItem>> old;
+  changed();
+  std::vector<Ref<StoredItem>> old;
   old.reserve(order.size());
-  slots_.visitUntil([&](Ref<ListItem>& reference, std::int32_t) {
+  slots_.visitUntil([&](Ref<StoredItem>& reference, std::int32_t) {
     old.push_back(std::move(reference));
     return false;
   });
-  slots_.visitUntil([&](Ref<ListItem>& reference, std::int32_t index) {
+  slots_.visitUntil([&](Ref<StoredItem>& reference, std::int32_t index) {
     reference = std::move(old[static_cast<std::size_t>(order[static_cast<std::size_t>(index)])]);
     return false;
   });

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <memory>
 #include <span>
+#include <string_view>
+#include <unordered_map>
 #include <utility>
 
 #include <nvlist/core/SlotBlocks.h>
@@ -14,9 +16,9 @@ namespace norvane {
 class ItemSource {
  public:
   virtual ~ItemSource() = default;
-  /// Creates the item of a slot. An empty reference means that the source has no item for it.
-  /// Called at most once for each slot, unless it throws.
-  virtual Ref<ListItem> make(std::int32_t index) = 0;
+  /// Fills the record of a slot's item, or returns false if it has none for it. Called at most once
+  /// for each slot, unless it throws.
+  virtual bool make(std::int32_t index, ListItem& item) = 0;
 };
 
 /// The items of a list: an array of references, from 0 to upperBound(), with at least one slot. A
@@ -34,21 +36,30 @@ class ItemStore {
   // The following functions create the item of an empty slot. They throw Failure 9 if the index is
   // outside the bounds.
 
-  /// The item in a slot, for reading. Valid until the list changes.
-  const ListItem& at(std::int32_t index) const { return *peek(index); }
-  /// The item in a slot, for changing anything except its text.
-  ListItem& touch(std::int32_t index) { return *peek(index); }
-  /// Changes the text of the item in a slot.
-  void setText(std::int32_t index, std::string text);
+  /// A copy of the item in a slot.
+  ListItem at(std::int32_t index) const { return peek(index)->record(); }
+  /// The item in a slot, for anything except changing its text or key. Valid until the list
+  /// changes.
+  StoredItem& touch(std::int32_t index) { return *peek(index); }
+  /// Changes the text, or the key, of the item in a slot.
+  void setText(std::int32_t index, CompactText text);
+  void setKey(std::int32_t index, CompactText key);
+  /// Changes all fields of the item in a slot.
+  void assign(std::int32_t index, ListItem values);
+  /// Sets the look of an item that is, or will be, in the slot `index`. If an item shortly before
+  /// it has the same look, they share it.
+  void setLook(StoredItem& item, std::int32_t index, const ItemLook& look) const;
+  /// To be called after the look of the item in a slot was changed, to share it again if possible.
+  void shareLook(std::int32_t index);
   /// The reference in a slot, for replacing it, or for keeping the item alive while it is changed.
-  Ref<ListItem>& slot(std::int32_t index);
+  Ref<StoredItem>& slot(std::int32_t index);
 
   /// The index of the first item for which `fits` returns true, or upperBound() + 1. `fits` must
   /// not change the list.
   template <class Fits>
   std::int32_t find(Fits&& fits) {
     std::int32_t found = upperBound() + 1;
-    slots_.visitUntil([&](Ref<ListItem>& reference, std::int32_t index) {
+    slots_.visitUntil([&](Ref<StoredItem>& reference, std::int32_t index) {
       if (!reference) makeItem(reference, index);
       if (!fits(*reference)) return false;
       found = index;
@@ -57,10 +68,15 @@ class ItemStore {
     return found;
   }
 
+  /// The index of the first item with this text, or key, or upperBound() + 1. The second search in
+  /// an unchanged list builds an index, which later searches use.
+  std::int32_t findText(std::string_view text) { return find(texts_, &StoredItem::Text, text); }
+  std::int32_t findKey(std::string_view key) { return find(keys_, &StoredItem::Key, key); }
+
   /// Calls `visit` with every item, in order. It must not change the list.
   template <class Visit>
   void forEach(Visit&& visit) {
-    find([&](ListItem& item) {
+    find([&](StoredItem& item) {
       visit(item);
       return false;
     });
@@ -96,14 +112,27 @@ class ItemStore {
   void reorder(std::span<const std::int32_t> order);
 
  private:
-  Ref<ListItem>& peek(std::int32_t index) const;
-  void makeItem(Ref<ListItem>& reference, std::int32_t index) const;
+  /// The first index of each text.
+  struct SearchIndex {
+    bool wasSearched = false;  ///< since the last change of the list
+    std::unordered_map<std::string_view, std::int32_t> firsts = {};
+  };
+  using Searched = std::string_view (StoredItem::*)() const;
+  std::int32_t find(SearchIndex& index, Searched field, std::string_view text);
+  void changed();
+
+  Ref<StoredItem>& peek(std::int32_t index) const;
+  void makeItem(Ref<StoredItem>& reference, std::int32_t index) const;
+  void assign(StoredItem& item, std::int32_t index, ListItem& values) const;
+  const StoredItem* alikeBefore(std::int32_t index, const ItemLook& look) const;
   void makeAllItems();
 
   /// Mutable, because reading a slot may create its item.
   mutable SlotBlocks slots_{1};
   /// Knows slots by their original indexes, so all items are created before any reference moves.
   std::shared_ptr<ItemSource> source_;
+  SearchIndex texts_;
+  SearchIndex keys_;
 };
 
 }  // namespace norvane

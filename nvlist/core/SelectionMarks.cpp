@@ -5,7 +5,7 @@
 namespace norvane {
 
 void SelectionMarks::set(ItemStore& items, std::int32_t index, Boolean selected) {
-  items.touch(index).Selected = selected;
+  items.touch(index).Selected(selected);
   if (!selected) return;
   lastIndex_ = index;
   ++marksSet_;
@@ -13,10 +13,10 @@ void SelectionMarks::set(ItemStore& items, std::int32_t index, Boolean selected)
 
 void SelectionMarks::clear(ItemStore& items) {
   // If the marked item has moved to an unknown index, all items are visited.
-  if (marksSet_ == 1 && items.holds(lastIndex_) && items.at(lastIndex_).Selected) {
-    items.touch(lastIndex_).Selected = false;
+  if (marksSet_ == 1 && items.holds(lastIndex_) && items.touch(lastIndex_).Selected()) {
+    items.touch(lastIndex_).Selected(false);
   } else if (marksSet_ > 0) {
-    items.forEach([](ListItem& item) { item.Selected = false; });
+    items.forEach([](StoredItem& item) { item.Selected(false); });
   }
   marksSet_ = 0;
 }

@@ -127,7 +127,7 @@ bool SlotBlocks::measure(Block& block) {
   if (block.isMeasured) return true;
   std::uint16_t widest = 0;
   for (const Slot& slot : block.entries) {
-    if (!slot || slot->textWidth == ListItem::notMeasured) return false;
+    if (!slot || slot->textWidth == StoredItem::notMeasured) return false;
     widest = std::max(widest, slot->textWidth);
   }
   block.widest = widest;

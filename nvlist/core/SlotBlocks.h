@@ -5,7 +5,7 @@
 #include <optional>
 #include <vector>
 
-#include <nvlist/core/ListItem.h>
+#include <nvlist/core/StoredItem.h>
 
 namespace norvane {
 
@@ -18,7 +18,7 @@ namespace norvane {
 /// changed.
 class SlotBlocks {
  public:
-  using Slot = Ref<ListItem>;
+  using Slot = Ref<StoredItem>;
 
   /// `count` empty slots.
   explicit SlotBlocks(std::int32_t count);

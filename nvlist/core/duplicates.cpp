@@ -25,7 +25,7 @@ void nvList::ItemsRemoveDouble(Boolean IgnoreLetterSize) {
       if (IgnoreLetterSize) upperCased.reserve(count);
       for (state_.LoopIndex2 = 0; state_.LoopIndex2 <= state_.Items.upperBound();
            ++state_.LoopIndex2) {
-        const std::string& text = item(state_.LoopIndex2).Text;
+        const std::string_view text = item(state_.LoopIndex2).Text();
         texts.push_back(IgnoreLetterSize ? upperCased.emplace_back(upperCase(text)) : text);
       }
       doomed = repeatedTexts(texts);

@@ -2,11 +2,12 @@
 
 namespace norvane {
 
-/// The common part of all item properties.
-template <class Value>
-Value nvList::readItem(const char* name, const Variant& Index, Value ListItem::*field) {
-  Value value{};
-  trapped(here, name, [&](Trap& on) { on.step([&] { value = item(Index.toInt32()).*field; }); });
+// The common parts of all item properties.
+
+template <class Read>
+auto nvList::readItem(const char* name, const Variant& Index, Read&& read) {
+  decltype(read(item(0))) value{};
+  trapped(here, name, [&](Trap& on) { on.step([&] { value = read(item(Index.toInt32())); }); });
   return value;
 }
 
@@ -14,199 +15,178 @@ template <class Write>
 void nvList::writeItem(const char* name, const Variant& Index, ItemRepaint repaints,
                        Write&& write) {
   trapped(here, name, [&](Trap& on) {
-    on.step([&] { write(item(Index.toInt32())); });
+    on.step([&] { write(Index.toInt32()); });
     on.step([&] { container_.PropertyChanged(name); });
     if (repaints == ItemRepaint::yes) repaint(on);
   });
 }
 
-Boolean nvList::ItemChecked(const Variant& Index) {
-  return readItem("ItemChecked", Index, &ListItem::Checked);
+template <class Value>
+Value nvList::readLook(const char* name, const Variant& Index, Value ItemLook::*field) {
+  return readItem(name, Index, [&](const StoredItem& item) { return item.look().*field; });
 }
 
-void nvList::ItemChecked(const Variant& Index, Boolean value) {
-  writeItem("ItemChecked", Index, ItemRepaint::yes, [&](ListItem& item) { item.Checked = value; });
-}
-
-Variant nvList::ItemForeColorSelect(const Variant& Index) {
-  return readItem("ItemForeColorSelect", Index, &ListItem::ForeColorSelect);
-}
-
-void nvList::ItemForeColorSelect(const Variant& Index, const Variant& value) {
-  writeItem("ItemForeColorSelect", Index, ItemRepaint::yes,
-            [&](ListItem& item) { item.ForeColorSelect = value; });
-}
-
-Variant nvList::ItemBackColorSelect(const Variant& Index) {
-  return readItem("ItemBackColorSelect", Index, &ListItem::BackColorSelect);
-}
-
-void nvList::ItemBackColorSelect(const Variant& Index, const Variant& value) {
-  writeItem("ItemBackColorSelect", Index, ItemRepaint::yes,
-            [&](ListItem& item) { item.BackColorSelect = value; });
-}
-
-Variant nvList::ItemTag(const Variant& Index) { return readItem("ItemTag", Index, &ListItem::Tag); }
-
-void nvList::ItemTag(const Variant& Index, const Variant& value) {
-  writeItem("ItemTag", Index, ItemRepaint::no, [&](ListItem& item) { item.Tag = value; });
-}
-
-Picture nvList::ItemIcon(const Variant& Index) {
-  return readItem("ItemIcon", Index, &ListItem::Icon);
-}
-
-void nvList::ItemIcon(const Variant& Index, const Picture& value) {
-  writeItem("ItemIcon", Index, ItemRepaint::yes, [&](ListItem& item) { item.Icon = value; });
-}
-
-Picture nvList::ItemIconSelected(const Variant& Index) {
-  return readItem("ItemIconSelected", Index, &ListItem::IconSelected);
-}
-
-void nvList::ItemIconSelected(const Variant& Index, const Picture& value) {
-  writeItem("ItemIconSelected", Index, ItemRepaint::yes,
-            [&](ListItem& item) { item.IconSelected = value; });
-}
-
-cItemAlignment nvList::ItemAlignment(const Variant& Index) {
-  return readItem("ItemAlignment", Index, &ListItem::Alignment);
-}
-
-void nvList::ItemAlignment(const Variant& Index, cItemAlignment value) {
-  writeItem("ItemAlignment", Index, ItemRepaint::yes,
-            [&](ListItem& item) { item.Alignment = value; });
-}
-
-Boolean nvList::ItemAllowEdit(const Variant& Index) {
-  return readItem("ItemAllowEdit", Index, &ListItem::AllowEdit);
-}
-
-void nvList::ItemAllowEdit(const Variant& Index, Boolean value) {
-  writeItem("ItemAllowEdit", Index, ItemRepaint::yes,
-            [&](ListItem& item) { item.AllowEdit = value; });
-}
-
-std::string nvList::ItemText(const Variant& Index) {
-  return readItem("ItemText", Index, &ListItem::Text);
-}
-
-void nvList::ItemText(const Variant& Index, const std::string& value) {
-  trapped(here, "ItemText", [&](Trap& on) {
-    on.step([&] { state_.Items.setText(Index.toInt32(), value); });
-    on.step([&] { container_.PropertyChanged("ItemText"); });
-    repaint(on);
+template <class Write>
+void nvList::writeLook(const char* name, const Variant& Index, Write&& write) {
+  writeItem(name, Index, ItemRepaint::yes, [&](std::int32_t index) {
+    // Kept alive, because releasing the old value may run host code that removes the item.
+    const Ref<StoredItem> held(&item(index));
+    write(held->ownLook());
+    state_.Items.shareLook(index);
   });
 }
 
-Boolean nvList::ItemEnabled(const Variant& Index) {
-  return readItem("ItemEnabled", Index, &ListItem::Enabled);
+Boolean nvList::ItemChecked(const Variant& Index) {
+  return readItem("ItemChecked", Index, [](const StoredItem& item) { return item.Checked(); });
+}
+void nvList::ItemChecked(const Variant& Index, Boolean value) {
+  writeItem("ItemChecked", Index, ItemRepaint::yes,
+            [&](std::int32_t index) { item(index).Checked(value); });
 }
 
-void nvList::ItemEnabled(const Variant& Index, Boolean value) {
-  writeItem("ItemEnabled", Index, ItemRepaint::yes, [&](ListItem& item) { item.Enabled = value; });
+Boolean nvList::ItemSelected(const Variant& Index) {
+  return readItem("ItemSelected", Index, [](const StoredItem& item) { return item.Selected(); });
 }
 
-Boolean nvList::ItemBold(const Variant& Index) {
-  return readItem("ItemBold", Index, &ListItem::Bold);
+std::string nvList::ItemText(const Variant& Index) {
+  return readItem("ItemText", Index,
+                  [](const StoredItem& item) { return std::string(item.Text()); });
+}
+void nvList::ItemText(const Variant& Index, const std::string& value) {
+  writeItem("ItemText", Index, ItemRepaint::yes,
+            [&](std::int32_t index) { state_.Items.setText(index, value); });
 }
 
-void nvList::ItemBold(const Variant& Index, Boolean value) {
-  writeItem("ItemBold", Index, ItemRepaint::yes, [&](ListItem& item) { item.Bold = value; });
+Variant nvList::ItemTag(const Variant& Index) {
+  return readItem("ItemTag", Index, [](const StoredItem& item) { return item.Tag(); });
 }
-
-Boolean nvList::ItemItalic(const Variant& Index) {
-  return readItem("ItemItalic", Index, &ListItem::Italic);
-}
-
-void nvList::ItemItalic(const Variant& Index, Boolean value) {
-  writeItem("ItemItalic", Index, ItemRepaint::yes, [&](ListItem& item) { item.Italic = value; });
-}
-
-Boolean nvList::ItemUnderline(const Variant& Index) {
-  return readItem("ItemUnderline", Index, &ListItem::Underline);
-}
-
-void nvList::ItemUnderline(const Variant& Index, Boolean value) {
-  writeItem("ItemUnderline", Index, ItemRepaint::yes,
-            [&](ListItem& item) { item.Underline = value; });
+void nvList::ItemTag(const Variant& Index, const Variant& value) {
+  writeItem("ItemTag", Index, ItemRepaint::no, [&](std::int32_t index) { item(index).Tag(value); });
 }
 
 // A key reads back as a text, whatever type was set.
 
 Variant nvList::ItemKey(const Variant& Index) {
-  Variant value;
-  trapped(here, "ItemKey",
-          [&](Trap& on) { on.step([&] { value = Variant(item(Index.toInt32()).Key.view()); }); });
-  return value;
+  return readItem("ItemKey", Index, [](const StoredItem& item) { return Variant(item.Key()); });
+}
+void nvList::ItemKey(const Variant& Index, const Variant& value) {
+  writeItem("ItemKey", Index, ItemRepaint::no,
+            [&](std::int32_t index) { state_.Items.setKey(index, value.toText()); });
 }
 
-void nvList::ItemKey(const Variant& Index, const Variant& value) {
-  writeItem("ItemKey", Index, ItemRepaint::no, [&](ListItem& item) { item.Key = value.toText(); });
+Boolean nvList::ItemAllowEdit(const Variant& Index) {
+  return readLook("ItemAllowEdit", Index, &ItemLook::AllowEdit);
+}
+void nvList::ItemAllowEdit(const Variant& Index, Boolean value) {
+  writeLook("ItemAllowEdit", Index, [&](ItemLook& look) { look.AllowEdit = value; });
+}
+
+Boolean nvList::ItemEnabled(const Variant& Index) {
+  return readLook("ItemEnabled", Index, &ItemLook::Enabled);
+}
+void nvList::ItemEnabled(const Variant& Index, Boolean value) {
+  writeLook("ItemEnabled", Index, [&](ItemLook& look) { look.Enabled = value; });
+}
+
+Boolean nvList::ItemBold(const Variant& Index) {
+  return readLook("ItemBold", Index, &ItemLook::Bold);
+}
+void nvList::ItemBold(const Variant& Index, Boolean value) {
+  writeLook("ItemBold", Index, [&](ItemLook& look) { look.Bold = value; });
+}
+
+Boolean nvList::ItemItalic(const Variant& Index) {
+  return readLook("ItemItalic", Index, &ItemLook::Italic);
+}
+void nvList::ItemItalic(const Variant& Index, Boolean value) {
+  writeLook("ItemItalic", Index, [&](ItemLook& look) { look.Italic = value; });
+}
+
+Boolean nvList::ItemUnderline(const Variant& Index) {
+  return readLook("ItemUnderline", Index, &ItemLook::Underline);
+}
+void nvList::ItemUnderline(const Variant& Index, Boolean value) {
+  writeLook("ItemUnderline", Index, [&](ItemLook& look) { look.Underline = value; });
+}
+
+cItemAlignment nvList::ItemAlignment(const Variant& Index) {
+  return readLook("ItemAlignment", Index, &ItemLook::Alignment);
+}
+void nvList::ItemAlignment(const Variant& Index, cItemAlignment value) {
+  writeLook("ItemAlignment", Index, [&](ItemLook& look) { look.Alignment = value; });
+}
+
+Picture nvList::ItemIcon(const Variant& Index) {
+  return readLook("ItemIcon", Index, &ItemLook::Icon);
+}
+void nvList::ItemIcon(const Variant& Index, const Picture& value) {
+  writeLook("ItemIcon", Index, [&](ItemLook& look) { look.Icon = value; });
+}
+
+Picture nvList::ItemIconSelected(const Variant& Index) {
+  return readLook("ItemIconSelected", Index, &ItemLook::IconSelected);
+}
+void nvList::ItemIconSelected(const Variant& Index, const Picture& value) {
+  writeLook("ItemIconSelected", Index, [&](ItemLook& look) { look.IconSelected = value; });
+}
+
+Variant nvList::ItemForeColorSelect(const Variant& Index) {
+  return readLook("ItemForeColorSelect", Index, &ItemLook::ForeColorSelect);
+}
+void nvList::ItemForeColorSelect(const Variant& Index, const Variant& value) {
+  writeLook("ItemForeColorSelect", Index, [&](ItemLook& look) { look.ForeColorSelect = value; });
+}
+
+Variant nvList::ItemBackColorSelect(const Variant& Index) {
+  return readLook("ItemBackColorSelect", Index, &ItemLook::BackColorSelect);
+}
+void nvList::ItemBackColorSelect(const Variant& Index, const Variant& value) {
+  writeLook("ItemBackColorSelect", Index, [&](ItemLook& look) { look.BackColorSelect = value; });
 }
 
 // The colours of the normal state are read as numbers, although the item may hold "def".
 
-Colour nvList::ownColour(const char* name, const Variant& Index, Variant ListItem::*field) {
-  Colour colour = 0;
-  trapped(here, name,
-          [&](Trap& on) { on.step([&] { colour = (item(Index.toInt32()).*field).toInt32(); }); });
-  return colour;
-}
-
 Colour nvList::ItemForeColor(const Variant& Index) {
-  return ownColour("ItemForeColor", Index, &ListItem::ForeColor);
+  return readItem("ItemForeColor", Index,
+                  [](const StoredItem& item) { return item.look().ForeColor.toInt32(); });
 }
-
 void nvList::ItemForeColor(const Variant& Index, Colour value) {
-  writeItem("ItemForeColor", Index, ItemRepaint::yes,
-            [&](ListItem& item) { item.ForeColor = value; });
+  writeLook("ItemForeColor", Index, [&](ItemLook& look) { look.ForeColor = value; });
 }
 
 Colour nvList::ItemBackColor(const Variant& Index) {
-  return ownColour("ItemBackColor", Index, &ListItem::BackColor);
+  return readItem("ItemBackColor", Index,
+                  [](const StoredItem& item) { return item.look().BackColor.toInt32(); });
 }
-
 void nvList::ItemBackColor(const Variant& Index, Colour value) {
-  writeItem("ItemBackColor", Index, ItemRepaint::yes,
-            [&](ListItem& item) { item.BackColor = value; });
+  writeLook("ItemBackColor", Index, [&](ItemLook& look) { look.BackColor = value; });
 }
 
 // The colours of the disabled state are numbers in the item and Variants in the interface.
 
-Variant nvList::colourOfDisabled(const char* name, const Variant& Index, Colour ListItem::*field) {
-  Variant colour;
-  trapped(here, name, [&](Trap& on) { on.step([&] { colour = item(Index.toInt32()).*field; }); });
-  return colour;
-}
-
 Variant nvList::ItemForeColorDis(const Variant& Index) {
-  return colourOfDisabled("ItemForeColorDis", Index, &ListItem::ForeColorDis);
+  return readItem("ItemForeColorDis", Index,
+                  [](const StoredItem& item) { return Variant(item.look().ForeColorDis); });
 }
-
 void nvList::ItemForeColorDis(const Variant& Index, const Variant& value) {
-  writeItem("ItemForeColorDis", Index, ItemRepaint::yes,
-            [&](ListItem& item) { item.ForeColorDis = value.toInt32(); });
+  writeLook("ItemForeColorDis", Index,
+            [&](ItemLook& look) { look.ForeColorDis = value.toInt32(); });
 }
 
 Variant nvList::ItemBackColorDis(const Variant& Index) {
-  return colourOfDisabled("ItemBackColorDis", Index, &ListItem::BackColorDis);
+  return readItem("ItemBackColorDis", Index,
+                  [](const StoredItem& item) { return Variant(item.look().BackColorDis); });
 }
-
 void nvList::ItemBackColorDis(const Variant& Index, const Variant& value) {
-  writeItem("ItemBackColorDis", Index, ItemRepaint::yes,
-            [&](ListItem& item) { item.BackColorDis = value.toInt32(); });
-}
-
-Boolean nvList::ItemSelected(const Variant& Index) {
-  return readItem("ItemSelected", Index, &ListItem::Selected);
+  writeLook("ItemBackColorDis", Index,
+            [&](ItemLook& look) { look.BackColorDis = value.toInt32(); });
 }
 
 std::string nvList::Text() {
   std::string text;
   trapped(here, "Text", [&](Trap& on) {
     if (ItemsCount() == 0 || state_.ListIndex == -1) return;
-    on.step([&] { text = item(state_.ListIndex).Text; });
+    on.step([&] { text = item(state_.ListIndex).Text(); });
   });
   return text;
 }
@@ -214,7 +194,7 @@ std::string nvList::Text() {
 // No trap: a failure is thrown to the caller.
 void nvList::Text(std::string_view value) {
   if (ItemsCount() == 0) return;
-  const std::int32_t found = firstItem([&](const ListItem& item) { return item.Text == value; });
+  const std::int32_t found = stoppedAt(state_.Items.findText(value));
   if (found >= 0) ListIndex(found);
 }
 

@@ -5,6 +5,17 @@
 #include <utility>
 
 namespace norvane {
+namespace {
+
+CompactText textOf(const Variant& value) {
+  return value.isText() ? CompactText(value.text()) : CompactText(value.toText());
+}
+
+bool isNumber(const Variant& value) {
+  return value.type() == Variant::Type::Int32 || value.type() == Variant::Type::Int16;
+}
+
+}  // namespace
 
 bool nvList::WrongIndex(const Variant& Index) const {
   if (!Index.isNumeric()) return true;
@@ -44,8 +55,8 @@ void nvList::ItemsAdd(NewItem values) {
 
     // Kept alive, because releasing the old value of a field may run host code that removes the
     // item.
-    Ref<ListItem> added;
-    on.step([&] { items.setText(items.upperBound(), std::move(values.aText).toText()); });
+    Ref<StoredItem> added;
+    on.step([&] { items.setText(items.upperBound(), textOf(values.aText)); });
     on.step([&] { added = items.slot(items.upperBound()); });
     if (added) writeFields(on, *added, values);
 
@@ -77,27 +88,32 @@ void nvList::ItemsAdd(NewItem values) {
   });
 }
 
-void nvList::writeFields(Trap& on, ListItem& item, NewItem& values) {
-  item.Icon = std::move(values.aIcon);
-  item.IconSelected = std::move(values.aIconSelected);
-  item.Checked = values.aChecked;
-  item.ForeColor = std::move(values.aForeColor);
-  item.BackColor = std::move(values.aBackColor);
-  item.ForeColorSelect = std::move(values.aForeColorSelected);
-  item.BackColorSelect = std::move(values.aBackColorSelected);
-  on.step([&] { item.ForeColorDis = values.aForeColorDis.toInt32(); });
-  on.step([&] { item.BackColorDis = values.aBackColorDis.toInt32(); });
-  item.AllowEdit = values.aAllowEdit;
-  item.Enabled = values.aEnabled;
-  item.Selected = false;
-  item.Alignment = values.aAlignment;
-  item.Bold = values.aBold;
-  item.Italic = values.aItalic;
-  item.Underline = values.aUnderline;
-  item.Tag = std::move(values.aTag);
-  on.step([&] {
-    item.Key = values.aKey.isText() ? CompactText(values.aKey.text()) : values.aKey.toText();
-  });
+void nvList::writeFields(Trap& on, StoredItem& item, NewItem& values) {
+  item.Checked(values.aChecked);
+  item.Selected(false);
+  // Collected first, so that the item can share its look with the one before it. If a colour cannot
+  // be converted, however, the fields before it must have been written.
+  const bool isReadable = isNumber(values.aForeColorDis) && isNumber(values.aBackColorDis);
+  ItemLook collected;
+  ItemLook& look = isReadable ? collected : item.ownLook();
+  look.CheckedAs = item.look().CheckedAs;
+  look.Icon = std::move(values.aIcon);
+  look.IconSelected = std::move(values.aIconSelected);
+  look.ForeColor = std::move(values.aForeColor);
+  look.BackColor = std::move(values.aBackColor);
+  look.ForeColorSelect = std::move(values.aForeColorSelected);
+  look.BackColorSelect = std::move(values.aBackColorSelected);
+  on.step([&] { look.ForeColorDis = values.aForeColorDis.toInt32(); });
+  on.step([&] { look.BackColorDis = values.aBackColorDis.toInt32(); });
+  look.AllowEdit = values.aAllowEdit;
+  look.Enabled = values.aEnabled;
+  look.Alignment = values.aAlignment;
+  look.Bold = values.aBold;
+  look.Italic = values.aItalic;
+  look.Underline = values.aUnderline;
+  if (isReadable) state_.Items.setLook(item, state_.Items.upperBound(), collected);
+  item.Tag(std::move(values.aTag));
+  on.step([&] { item.Key(textOf(values.aKey)); });
 }
 
 /// Shifts the references from the next whole index on up by one slot, and stores the last item at
@@ -162,7 +178,7 @@ void nvList::ItemsSelectedRemove() {
     state_.InsertIndex = state_.Items.upperBound();
     while (state_.ItemsDimensioned &&
            !on.test([&] { return state_.SweepIndex > state_.InsertIndex.toInt32(); })) {
-      if (on.test([&] { return item(state_.SweepIndex).Selected; })) {
+      if (on.test([&] { return item(state_.SweepIndex).Selected(); })) {
         on.step([&] { ItemsRemove(Variant(state_.SweepIndex)); });
         on.step([&] { state_.SweepIndex = checked::subtract(state_.SweepIndex, 1); });
         on.step([&] { state_.InsertIndex = checked::subtract(state_.InsertIndex.toInt32(), 1); });
@@ -184,19 +200,21 @@ std::int32_t nvList::ItemsCount() const {
 }
 
 std::int32_t nvList::ItemsSelectCount() {
-  return countItems("ItemsSelectCount", &ListItem::Selected);
+  return countItems("ItemsSelectCount", &StoredItem::Selected);
 }
 
-std::int32_t nvList::ItemsCheckCount() { return countItems("ItemsCheckCount", &ListItem::Checked); }
+std::int32_t nvList::ItemsCheckCount() {
+  return countItems("ItemsCheckCount", &StoredItem::Checked);
+}
 
-std::int32_t nvList::countItems(const char* procedure, Boolean ListItem::*mark) {
+std::int32_t nvList::countItems(const char* procedure, Boolean (StoredItem::*mark)() const) {
   std::int32_t count = 0;
   trapped(here, procedure, [&](Trap& on) {
     if (!state_.ItemsDimensioned) return;
     state_.LoopIndex = 0;
     state_.SweepIndex = 0;
     while (state_.LoopIndex <= state_.Items.upperBound()) {
-      if (on.test([&] { return item(state_.LoopIndex).*mark; }))
+      if (on.test([&] { return (item(state_.LoopIndex).*mark)(); }))
         on.step([&] { state_.SweepIndex = checked::add(state_.SweepIndex, 1); });
       on.step([&] { yield(); });
       on.step([&] { state_.LoopIndex = checked::add(state_.LoopIndex, 1); });

@@ -24,7 +24,7 @@ void nvList::sortTexts(const char* procedure, cSortMode mode) {
     on.step([&] {
       std::vector<std::string_view> texts;
       texts.reserve(static_cast<std::size_t>(ItemsCount()));
-      state_.Items.forEach([&](const ListItem& item) { texts.push_back(item.Text); });
+      state_.Items.forEach([&](const StoredItem& item) { texts.push_back(item.Text()); });
       const std::vector<std::int32_t> order = partitionOrder(texts, mode);
       state_.Items.reorder(order);
       state_.Selection.reordered(order);
@@ -94,7 +94,7 @@ void nvList::moveItem(double from, double count, int direction) {
     state_.LoopIndex = place(direction > 0 ? passes + 1 : passes);
   } else {
     // Two fractional positions may be rounded to the same slot.
-    const Ref<ListItem> held = items.slot(place(0));
+    const Ref<StoredItem> held = items.slot(place(0));
     for (double pass = 0; pass < passes; ++pass)
       items.slot(place(pass)) = items.slot(place(pass + 1));
     state_.LoopIndex = place(direction > 0 ? passes + 1 : passes);

@@ -11,11 +11,11 @@ std::int32_t nvList::IndexByKey(const Variant& sKey) {
     if (!state_.ItemsDimensioned) return;
     if (sKey.isText()) {
       const std::string_view key = sKey.text();
-      on.step([&] { found = firstItem([&](const ListItem& item) { return item.Key == key; }); });
+      on.step([&] { found = stoppedAt(state_.Items.findKey(key)); });
       return;
     }
     for (state_.LoopIndex = 0; state_.LoopIndex <= state_.Items.upperBound(); ++state_.LoopIndex) {
-      if (on.test([&] { return compareText(item(state_.LoopIndex).Key, sKey) == 0; })) {
+      if (on.test([&] { return compareText(item(state_.LoopIndex).Key(), sKey) == 0; })) {
         found = state_.LoopIndex;
         return;
       }
@@ -36,9 +36,13 @@ std::int32_t nvList::IsInList(std::string_view sText, cFindCompare oCompare) {
     const auto& counted = oCompare == cFindText ? text : binary;
     const bool canMatch = counted && (oCompare == cFindBinary || oCompare == cFindText);
     const LikePattern* const pattern = canMatch ? &*counted : nullptr;
+    const std::string_view literal = pattern ? pattern->literal() : std::string_view();
+    ItemStore& items = state_.Items;
     on.step([&] {
-      found = firstItem(
-          [pattern](const ListItem& item) { return pattern && pattern->matches(item.Text); });
+      found = stoppedAt(!literal.empty() ? items.findText(literal)
+                                         : items.find([pattern](const StoredItem& item) {
+                                             return pattern && pattern->matches(item.Text());
+                                           }));
     });
   });
   return found;

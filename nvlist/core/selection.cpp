@@ -7,7 +7,7 @@ void nvList::ListIndex(std::int32_t value) {
   trapped(here, "ListIndex", [&](Trap& on) {
     if (ItemsCount() == 0) return;
     const bool isRefused = value > state_.Items.upperBound() || value <= -1 ||
-                           on.test([&] { return !item(value).Enabled; });
+                           on.test([&] { return !item(value).look().Enabled; });
     if (isRefused) {
       on.step([&] {
         Variant offered = value;

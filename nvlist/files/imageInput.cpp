@@ -78,23 +78,27 @@ void nvList::inputImage(Boolean ReadItemPropertiesIfExists) {
 void nvList::inputImageItem(const PropertyImage& image, bool readsProperties) {
   ItemInImage stored(image, state_.LoopIndex);
   // Destroying the old values may run code of the host that removes the item.
-  const Ref<ListItem> item = state_.Items.slot(state_.LoopIndex);
-  setText(*item, stored("Text", "").toText());
+  const Ref<StoredItem> item = state_.Items.slot(state_.LoopIndex);
+  item->Text(stored("Text", "").toText());
   if (!readsProperties) {
-    setDefaults(*item);
+    ListItem values = item->record();
+    setDefaults(values);
+    state_.Items.assign(state_.LoopIndex, std::move(values));
   } else {
-    item->AllowEdit = stored("AllowEdit", false).toBoolean();
-    item->BackColor = stored("BackColor", colours::white);
-    item->BackColorDis = stored("BackColorDis", 0).toInt32();
-    item->BackColorSelect = stored("BackColorSelect", aktValueColor());
-    item->Checked = stored("Checked", false).toBoolean();
-    item->Enabled = stored("Enabled", true).toBoolean();
-    item->ForeColor = stored("ForeColor", 0);
-    item->ForeColorDis = stored("ForeColorDis", 0).toInt32();
-    item->ForeColorSelect = stored("ForeColorSelect", colours::white);
-    item->Icon = stored.picture("Icon");
-    item->IconSelected = stored.picture("IconSelected");
-    item->Alignment = static_cast<cItemAlignment>(stored("Alignment", std::int16_t{0}).toInt32());
+    item->ownLook().AllowEdit = stored("AllowEdit", false).toBoolean();
+    item->ownLook().BackColor = stored("BackColor", colours::white);
+    item->ownLook().BackColorDis = stored("BackColorDis", 0).toInt32();
+    item->ownLook().BackColorSelect = stored("BackColorSelect", aktValueColor());
+    item->Checked(stored("Checked", false).toBoolean());
+    item->ownLook().Enabled = stored("Enabled", true).toBoolean();
+    item->ownLook().ForeColor = stored("ForeColor", 0);
+    item->ownLook().ForeColorDis = stored("ForeColorDis", 0).toInt32();
+    item->ownLook().ForeColorSelect = stored("ForeColorSelect", colours::white);
+    item->ownLook().Icon = stored.picture("Icon");
+    item->ownLook().IconSelected = stored.picture("IconSelected");
+    item->ownLook().Alignment =
+        static_cast<cItemAlignment>(stored("Alignment", std::int16_t{0}).toInt32());
+    state_.Items.shareLook(state_.LoopIndex);
   }
 }
 

@@ -57,7 +57,7 @@ class nvList::ListFile final : public ItemSource {
   std::size_t load(File& file);
   void readRecords();
 
-  Ref<ListItem> make(std::int32_t index) override;
+  bool make(std::int32_t index, ListItem& item) override;
 
  private:
   std::uint64_t smallestRecord() const;
@@ -126,10 +126,15 @@ void nvList::ListFile::readRecords() {
       starts_.push_back(start);
       ++unmade_;
     } else {
-      // A report may run code of the host that removes the item.
-      const Ref<ListItem> item = items.slot(index);
-      readItem(from, *item);
-      isSelected = static_cast<bool>(item->Selected);
+      ListItem item;
+      try {
+        readItem(from, item);
+      } catch (...) {
+        items.assign(index, std::move(item));
+        throw;
+      }
+      isSelected = static_cast<bool>(item.Selected);
+      items.assign(index, std::move(item));
     }
     if (isSelected) list_.state_.Selection.set(items, index, true);
   }
@@ -162,14 +167,13 @@ bool nvList::ListFile::passPlainRecord(ByteReader& from, bool& isSelected) const
   return true;
 }
 
-Ref<ListItem> nvList::ListFile::make(std::int32_t index) {
+bool nvList::ListFile::make(std::int32_t index, ListItem& item) {
   const auto record = static_cast<std::size_t>(index);
-  if (record >= starts_.size()) return nullptr;
-  auto item = makeRef<ListItem>();
+  if (record >= starts_.size()) return false;
   ByteReader from = recordsFrom(static_cast<std::size_t>(starts_[record]));
-  readItem(from, *item);
+  readItem(from, item);
   oneMade();
-  return item;
+  return true;
 }
 
 /// Frees the bytes of the file after the last item has been made.
@@ -180,7 +184,7 @@ void nvList::ListFile::oneMade() {
 }
 
 void nvList::ListFile::readItem(ByteReader& from, ListItem& item) const {
-  setText(item, itemText(from));
+  item.Text = itemText(from);
   if (hasProperties_)
     readProperties(from, item);
   else

@@ -37,8 +37,8 @@ void nvList::saveItems(const std::string& Filename, Boolean SaveItemProperties) 
   writer.number(hasProperties);
   writer.number(Variant(aktuelleSpeicherVersion()).toInt16());
   for (state_.LoopIndex = 0; state_.LoopIndex <= last; toNextItem()) {
-    ListItem& saved = item(state_.LoopIndex);
-    writer.text(saved.Text);
+    const Ref<StoredItem> saved(&item(state_.LoopIndex));
+    writer.text(saved->Text());
     if (hasProperties) saveProperties(writer, saved);
     writer.writeBlock();
     raiseAtLoopIndex(&__nvList::ListSaving);
@@ -47,27 +47,28 @@ void nvList::saveItems(const std::string& Filename, Boolean SaveItemProperties) 
   file->close();
 }
 
-void nvList::saveProperties(FileWriter& file, ListItem& item) {
-  // A report may run code of the host that removes the item.
-  const Ref<ListItem> held(&item);
-  writeBoolean(file, item.AllowEdit);
-  writeColour(file, item.BackColor);
-  writeColour(file, item.BackColorDis);
-  writeColour(file, item.BackColorSelect);
-  writeBoolean(file, item.Checked);
-  writeBoolean(file, item.Enabled);
-  writeColour(file, item.ForeColor);
-  writeColour(file, item.ForeColorDis);
-  writeColour(file, item.ForeColorSelect);
-  file.number(static_cast<std::uint8_t>(item.Alignment));
-  writeBoolean(file, item.Bold);
-  writeBoolean(file, item.Italic);
-  writeBoolean(file, item.Underline);
-  writeBoolean(file, item.Selected);
-  file.text(item.Key);
-  file.text(item.Tag.isText() ? item.Tag.text() : std::string_view(item.Tag.toText()));
-  saveIcon(file, item.Icon);
-  saveIcon(file, item.IconSelected);
+void nvList::saveProperties(FileWriter& file, const Ref<StoredItem>& item) {
+  // A copy: a report may run code of the host that changes the item.
+  const ItemLook look = item->look();
+  writeBoolean(file, look.AllowEdit);
+  writeColour(file, look.BackColor);
+  writeColour(file, look.BackColorDis);
+  writeColour(file, look.BackColorSelect);
+  writeBoolean(file, item->Checked());
+  writeBoolean(file, look.Enabled);
+  writeColour(file, look.ForeColor);
+  writeColour(file, look.ForeColorDis);
+  writeColour(file, look.ForeColorSelect);
+  file.number(static_cast<std::uint8_t>(look.Alignment));
+  writeBoolean(file, look.Bold);
+  writeBoolean(file, look.Italic);
+  writeBoolean(file, look.Underline);
+  writeBoolean(file, item->Selected());
+  file.text(item->Key());
+  const Variant tag = item->Tag();
+  file.text(tag.isText() ? tag.text() : std::string_view(tag.toText()));
+  saveIcon(file, look.Icon);
+  saveIcon(file, look.IconSelected);
 }
 
 void nvList::saveIcon(FileWriter& file, const Picture& icon) {

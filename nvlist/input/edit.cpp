@@ -24,7 +24,8 @@ void nvList::SetEdit(const Variant& Index) {
     });
     std::int32_t index = 0;
     on.step([&] { index = Index.toInt32(); });
-    if (on.test([&] { return !item(index).Enabled || !item(index).AllowEdit; })) return;
+    if (on.test([&] { return !item(index).look().Enabled || !item(index).look().AllowEdit; }))
+      return;
     state_.EditActive = true;
     on.step([&] { Text1->Font(state_.Font); });
     on.step([&] { Text1->ForeColor(state_.ForeColor); });
@@ -36,7 +37,7 @@ void nvList::SetEdit(const Variant& Index) {
       });
     };
     move([&](Bounds& place) { place.Height = surface_.TextHeight("A") + 1; });
-    on.step([&] { Text1->Text(item(index).Text); });
+    on.step([&] { Text1->Text(std::string(item(index).Text())); });
     move([&](Bounds& place) { place.Left = editLeft(place.Left); });
     // Uses the text height, although the rows of the list may be higher.
     move([&](Bounds& place) {

@@ -21,7 +21,7 @@ void nvList::UserControl_MouseMove(std::int16_t Button, std::int16_t Shift, floa
     on.step([&] { index = checked::add(VScroll1.Value(), row); });
     std::string text;
     if (state_.ItemsDimensioned && state_.Items.holds(index))
-      on.step([&] { text = item(index).Text; });
+      on.step([&] { text = item(index).Text(); });
     on.step([&] {
       Variant TextUnderMouse(text);
       sinks_.raise(

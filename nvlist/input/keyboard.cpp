@@ -32,7 +32,7 @@ void nvList::moveUp(Trap& on, std::int32_t visible) {
   for (;;) {
     on.step([&] { i = checked::subtract(i, 1); });
     if (i < 0) return;
-    if (on.test([&] { return static_cast<bool>(item(i).Enabled); })) break;
+    if (on.test([&] { return static_cast<bool>(item(i).look().Enabled); })) break;
     if (i == 0) return;
   }
   if (state_.ListIndex < 1) return;
@@ -52,7 +52,7 @@ void nvList::moveDown(Trap& on, std::int32_t visible) {
   for (;;) {
     on.step([&] { i = checked::add(i, 1); });
     if (i > state_.Items.upperBound()) return;
-    if (on.test([&] { return static_cast<bool>(item(i).Enabled); })) break;
+    if (on.test([&] { return static_cast<bool>(item(i).look().Enabled); })) break;
     if (i == state_.Items.upperBound()) return;
   }
   if (state_.ListIndex >= ItemsCount() - 1) return;

@@ -72,7 +72,7 @@ void nvList::UserControl_MouseDown(std::int16_t Button, std::int16_t Shift, floa
 
 /// Handles a press on an item. `x` counts from the left edge of the check zone.
 void nvList::pressItem(Trap& on, std::int32_t hit, double x) {
-  if (on.test([&] { return !item(hit).Enabled; })) {
+  if (on.test([&] { return !item(hit).look().Enabled; })) {
     on.step([&] { ListIndex(-1); });
     return;
   }
@@ -88,7 +88,7 @@ void nvList::pressItem(Trap& on, std::int32_t hit, double x) {
   } else {
     on.step([&] {
       const std::int32_t index = state_.ListIndex;
-      state_.Selection.set(state_.Items, index, ~item(index).Selected);
+      state_.Selection.set(state_.Items, index, ~item(index).Selected());
     });
   }
   state_.MouseDownActive = false;
@@ -108,7 +108,7 @@ void nvList::selectRange(Trap& on) {
   const auto [first, last] = std::minmax(state_.ListIndex, state_.SelectAnchor);
   if (first == last) return;
   for (std::int32_t i = last; i >= first; --i) {
-    if (on.test([&] { return static_cast<bool>(item(i).Enabled); }))
+    if (on.test([&] { return static_cast<bool>(item(i).look().Enabled); }))
       on.step([&] { state_.Selection.set(state_.Items, i, true); });
     // All indexes outside the list fail in the same way: one failure on either side is enough.
     if (i < 0) break;
@@ -125,8 +125,8 @@ bool nvList::flipChecked(Trap& on) {
   });
   if (Cancel) return false;
   on.step([&] {
-    ListItem& current = item(state_.ListIndex);
-    current.Checked = ~current.Checked;
+    StoredItem& current = item(state_.ListIndex);
+    current.Checked(~current.Checked());
   });
   return true;
 }

@@ -90,7 +90,7 @@ void nvList::wheelIndexDown(Trap& on, std::int16_t rotation) {
   for (;;) {
     on.step([&] { i = checked::add(i, 1); });
     if (i > state_.Items.upperBound()) return;
-    if (on.test([&] { return static_cast<bool>(item(i).Enabled); })) break;
+    if (on.test([&] { return static_cast<bool>(item(i).look().Enabled); })) break;
     on.step([&] { container_.DoEvents(); });
     if (i == state_.Items.upperBound()) return;
   }
@@ -110,7 +110,7 @@ void nvList::wheelIndexUp(Trap& on, std::int16_t rotation) {
   do {
     on.step([&] { i = checked::subtract(i, 1); });
     if (i < 0) break;
-    if (on.test([&] { return static_cast<bool>(item(i).Enabled); })) {
+    if (on.test([&] { return static_cast<bool>(item(i).look().Enabled); })) {
       if (state_.ListIndex > 0) wheelIndexTo(on, i);
       break;
     }

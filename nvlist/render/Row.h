@@ -19,11 +19,11 @@ class nvList::Row {
 
  private:
   // render/rows.cpp
-  ListItem& item() { return list_.item(state_.LoopIndex); }
+  StoredItem& item() { return list_.item(state_.LoopIndex); }
   float width() { return surface_.ScaleWidth(); }
   float height() const { return state_.ItemHeightValue; }
   /// A copy, because a surface call may run host code that removes the item.
-  const std::string& text() { return repaint_.text = item().Text; }
+  const std::string& text() { return repaint_.text = item().Text(); }
   float textWidth() { return surface_.TextWidth(text()); }
   float pictureColumn() const;
   float contentLeft() const;

@@ -7,25 +7,25 @@ using checked::nearest;
 
 /// Returns false if SuppressRedraw was set meanwhile.
 bool nvList::Row::paintBackground() {
-  if (on_.test([&] { return !item().Enabled; })) {
+  if (on_.test([&] { return !item().look().Enabled; })) {
     on_.step([&] { top_ = surface_.CurrentY(); });
-    on_.step([&] { fill(0, width(), item().BackColorDis); });
+    on_.step([&] { fill(0, width(), item().look().BackColorDis); });
     toTop();
     return true;
   }
 
   on_.step([&] { selectColour_ = selectColour(); });
   on_.step([&] {
-    const ListItem& current = item();
-    if (!isDefaultMark(current.BackColor))
-      state_.RowBackColor = current.BackColor.toInt32();
-    else if (current.Selected)
+    const Variant& own = item().look().BackColor;
+    if (!isDefaultMark(own))
+      state_.RowBackColor = own.toInt32();
+    else if (item().Selected())
       state_.RowBackColor = selectColour_.toInt32();
     else
       state_.RowBackColor = state_.BackColor;
   });
   on_.step([&] { top_ = surface_.CurrentY(); });
-  if (on_.test([&] { return !item().Selected; })) {
+  if (on_.test([&] { return !item().Selected(); })) {
     on_.step([&] { fill(0, width(), state_.RowBackColor); });
     toTop();
     return true;
@@ -47,7 +47,7 @@ bool nvList::Row::paintBackground() {
 }
 
 Variant nvList::Row::selectColour() {
-  const Variant& own = item().BackColorSelect;
+  const Variant& own = item().look().BackColorSelect;
   return isDefaultMark(own) ? Variant(list_.aktValueColor()) : own;
 }
 
@@ -77,8 +77,8 @@ void nvList::Row::selectWholeRow() {
 void nvList::Row::selectText() {
   float left = 0;
   on_.step([&] { left = selectionLeft(); });
-  const bool isLeft =
-      on_.test([&] { return item().Alignment != cCenter && item().Alignment != cRight; });
+  const bool isLeft = on_.test(
+      [&] { return item().look().Alignment != cCenter && item().look().Alignment != cRight; });
   if (isLeft)
     on_.step([&] { fill(left + textWidth(), width(), state_.RowBackColor); });
   else
@@ -93,7 +93,7 @@ void nvList::Row::selectText() {
 }
 
 float nvList::Row::selectionLeft() {
-  const cItemAlignment alignment = item().Alignment;
+  const cItemAlignment alignment = item().look().Alignment;
   if (alignment != cCenter && alignment != cRight) return pictureColumn();
   const float right = width() - (isScrollNeeded() ? list_.VScroll1.Width() : 0);
   return alignment == cCenter ? (right - textWidth()) / 2 : right - textWidth() - 3;

@@ -48,7 +48,7 @@ float pictureAllowance(const ListState& state) {
 
 void nvList::Row::alignText() {
   cItemAlignment alignment = cLeft;
-  on_.step([&] { alignment = item().Alignment; });
+  on_.step([&] { alignment = item().look().Alignment; });
   if (alignment != cCenter && alignment != cRight) return;
   const auto room = [&] {
     const float bar = isScrollNeeded() ? list_.VScroll1.Width() : 0;
@@ -90,9 +90,9 @@ void nvList::Row::paintText() {
 
 /// Set last, because the row is measured with the flags of the row above.
 void nvList::Row::setFontFlags() {
-  on_.step([&] { surface_.FontBold(item().Bold); });
-  on_.step([&] { surface_.FontItalic(item().Italic); });
-  on_.step([&] { surface_.FontUnderline(item().Underline); });
+  on_.step([&] { surface_.FontBold(item().look().Bold); });
+  on_.step([&] { surface_.FontItalic(item().look().Italic); });
+  on_.step([&] { surface_.FontUnderline(item().look().Underline); });
 }
 
 void nvList::Row::paintTwoColumns(Rectangle rect, std::size_t marker) {

@@ -98,9 +98,9 @@ void nvList::Row::paintCheckBox() {
 void nvList::Row::paintIcon() {
   on_.ignoring([&] {
     // Copies, because Picture::handle may run host code.
-    const bool isSelected = item().Selected && item().Enabled;
-    const Picture chosen = item().IconSelected;
-    const Picture icon = isSelected && isShown(chosen) ? chosen : item().Icon;
+    const bool isSelected = item().Selected() && item().look().Enabled;
+    const Picture chosen = item().look().IconSelected;
+    const Picture icon = isSelected && isShown(chosen) ? chosen : item().look().Icon;
     if (!isShown(icon)) return;
     float x = static_cast<float>(repaint_.ItemLeft);
     if (hasCheckBox(state_.Style)) x += checkBoxWidth() + gapBetweenPictures;
@@ -114,13 +114,13 @@ void nvList::Row::setTextColour() {
     return isDefaultMark(colour) ? otherwise : colour.toInt32();
   };
   on_.step([&] {
-    const ListItem& current = item();
-    if (!current.Enabled)
-      surface_.ForeColor(current.ForeColorDis);
-    else if (current.Selected)
-      surface_.ForeColor(own(current.ForeColorSelect, colours::white));
+    const ItemLook& look = item().look();
+    if (!look.Enabled)
+      surface_.ForeColor(look.ForeColorDis);
+    else if (item().Selected())
+      surface_.ForeColor(own(look.ForeColorSelect, colours::white));
     else
-      surface_.ForeColor(own(current.ForeColor, state_.ForeColor));
+      surface_.ForeColor(own(look.ForeColor, state_.ForeColor));
   });
 }
 

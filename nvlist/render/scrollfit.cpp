@@ -48,11 +48,11 @@ void nvList::CheckItemWidth(const Variant& Index) {
   });
 }
 
-void nvList::widenTo(ListItem& item) {
-  if (item.textWidth == ListItem::notMeasured) {
-    const float width = lblWidth.widthOf(item.Text);
+void nvList::widenTo(StoredItem& item) {
+  if (item.textWidth == StoredItem::notMeasured) {
+    const float width = lblWidth.widthOf(item.Text());
     if (double{width} > state_.MaxItemWidth) state_.MaxItemWidth = whole(width);
-    if (width >= 0 && width < ListItem::notMeasured - 1)
+    if (width >= 0 && width < StoredItem::notMeasured - 1)
       item.textWidth = static_cast<std::uint16_t>(whole(width));
   } else if (item.textWidth > state_.MaxItemWidth) {
     state_.MaxItemWidth = item.textWidth;

@@ -26,6 +26,10 @@ class LikePattern {
 
   /// Whether the pattern matches the whole text.
   bool matches(std::string_view text) const;
+  /// The only text that matches; empty if the pattern has wildcards, or matches other texts too.
+  std::string_view literal() const {
+    return segments_.size() == 1 ? std::string_view(segments_.front().literal) : std::string_view();
+  }
 
  private:
   struct Range {

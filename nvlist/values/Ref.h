@@ -15,7 +15,6 @@ class Shared {
   Shared& operator=(const Shared&) { return *this; }
 
   void retain() const { references_.fetch_add(1, std::memory_order_relaxed); }
-  bool isHeldOnce() const { return references_.load(std::memory_order_relaxed) == 1; }
   /// Releases a reference and returns whether it was the last.
   bool releaseLast() const { return references_.fetch_sub(1, std::memory_order_acq_rel) == 1; }
 
@@ -24,6 +23,24 @@ class Shared {
 
  private:
   mutable std::atomic<std::int32_t> references_ = 0;
+};
+
+/// The same for objects that only one thread uses; its count is not atomic, which is faster.
+class SharedInThread {
+ public:
+  SharedInThread() = default;
+  SharedInThread(const SharedInThread&) {}
+  SharedInThread& operator=(const SharedInThread&) { return *this; }
+
+  void retain() const { ++references_; }
+  bool releaseLast() const { return --references_ == 0; }
+  bool isHeldOnce() const { return references_ == 1; }
+
+ protected:
+  ~SharedInThread() = default;
+
+ private:
+  mutable std::int32_t references_ = 0;
 };
 
 /// A counted reference, which may be empty. The last reference deletes the object. It is one

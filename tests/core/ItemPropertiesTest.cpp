@@ -8,7 +8,6 @@ namespace {
 std::string shown(Boolean value) { return std::to_string(value.number()); }
 std::string shown(std::int32_t value) { return std::to_string(value); }
 std::string shown(const std::string& value) { return value; }
-std::string shown(const CompactText& value) { return std::string(value.view()); }
 std::string shown(const Picture& value) { return value ? value->description() : "none"; }
 std::string shown(const Variant& value) { return value.isEmpty() ? "(empty)" : value.toText(); }
 
@@ -72,6 +71,22 @@ class ItemProperties : public HearingListTest {
       of("ItemItalic", &L::ItemItalic, &L::ItemItalic, &I::Italic, true),
       of("ItemUnderline", &L::ItemUnderline, &L::ItemUnderline, &I::Underline, true)};
 };
+
+TEST_F(ItemProperties, AChangeOfOneOfManyAlikeShowsInItAlone) {
+  fill(12);
+  for (const Accessor& each : accessors) {
+    const std::string before = fields(3), after = fields(5);
+    each.write(list, 4);
+    EXPECT_EQ(fields(3), before) << each.name;
+    EXPECT_EQ(fields(5), after) << each.name;
+  }
+  // Alike again, and changed again.
+  for (const Accessor& each : accessors) each.write(list, 5);
+  list.ItemChecked(5, Boolean::ofNumber(7));
+  EXPECT_EQ(list.ItemChecked(5).number(), 7);
+  EXPECT_EQ(list.ItemChecked(4).number(), -1);
+  EXPECT_EQ(list.ItemBold(4), list.ItemBold(5));
+}
 
 TEST_F(ItemProperties, EachWritesAFieldOfItsOwnAndTellsTheHost) {
   fill(3);

@@ -1,5 +1,7 @@
 #include "../Lists.h"
 
+#include <functional>
+
 namespace norvane {
 namespace {
 
@@ -192,6 +194,42 @@ TEST_F(Items, ADuplicatePastTheSixteenBitLimitIsAFailure) {
   silent();
   list.ItemsRemoveDouble();
   EXPECT_EQ(list.ItemsCount(), 32769);
+}
+
+TEST_F(Items, FindsWhatIsThereAfterEachChange) {
+  list.AutoRedraw(false);
+  const std::function<void()> changes[] = {
+      [&] { list.ItemText(1, "new"), list.ItemKey(1, "new"); },
+      [&] { list.ItemsAdd({.aText = "new", .aIndex = 0, .aKey = "new"}); },
+      [&] { list.ItemsRemove(0); },
+      [&] { list.MoveItemUp(4, 3); },
+      [&] { list.MoveItemDown(2, -1); },
+      [&] { list.Sort(cDescending); },
+      [&] {
+        list.ItemsClear(), add({"b", "new"});
+      }};
+  for (const auto& change : changes) {
+    list.ItemsClear();
+    for (const char* text : {"a", "b", "a", "c", "new"})
+      list.ItemsAdd({.aText = text, .aKey = text});
+    for (int time = 0; time < 3; ++time) {
+      EXPECT_EQ(list.IndexByKey("a"), 0);
+      EXPECT_EQ(list.IsInList("c"), 3);
+      EXPECT_EQ(list.IsInList("none"), -1);
+      EXPECT_EQ(list.state().LoopIndex, 5);
+    }
+    change();
+    for (const char* text : {"a", "b", "c", "new"}) {
+      int byText = 0, byKey = 0;
+      const int count = list.ItemsCount();
+      while (byText < count && item(byText).Text != text) ++byText;
+      while (byKey < count && item(byKey).Key != text) ++byKey;
+      for (int time = 0; time < 3; ++time) {
+        EXPECT_EQ(list.IsInList(text), byText < count ? byText : -1) << &change - changes << text;
+        EXPECT_EQ(list.IndexByKey(text), byKey < count ? byKey : -1) << &change - changes << text;
+      }
+    }
+  }
 }
 
 TEST_F(Items, FindsByKeyAndByPattern) {

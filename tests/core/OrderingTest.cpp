@@ -124,7 +124,7 @@ TEST_F(Ordering, ASortMovesItemsAndMarksButNoNumbers) {
   const int top = list.TopIndex();
   list.Sort(cAscending);
   std::string keys;
-  for (int i = 0; i < 6; ++i) keys += item(i).Key.view();
+  for (int i = 0; i < 6; ++i) keys += item(i).Key;
   EXPECT_EQ(keys, "245310");
   EXPECT_EQ(list.TopIndex(), top);
   EXPECT_EQ(list.ListIndex(), 2);

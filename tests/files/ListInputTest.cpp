@@ -17,7 +17,7 @@ class ListInput : public FileTest {
     for (const Variant& colour : {item.BackColor, Variant(item.BackColorDis), item.BackColorSelect,
                                   item.ForeColor, Variant(item.ForeColorDis), item.ForeColorSelect})
       result += " " + colour.toText();
-    return result + "|" + std::string(item.Key.view()) + "|" + item.Tag.toText();
+    return result + "|" + item.Key + "|" + item.Tag.toText();
   }
   static std::string ordinary(const std::string& text) {
     return text + "|0010000 0 def -2147483626 def def -2147483631 def||";

@@ -35,7 +35,7 @@ void requireSame(const ListItem& a, const ListItem& b) {
                                              x.toInt32() <= 0xFFFFFF);
     return !isKept || x.toText() == y.toText();
   };
-  require(a.Text == b.Text && a.Key == b.Key.view() && a.Tag.toText() == b.Tag.toText());
+  require(a.Text == b.Text && a.Key == b.Key && a.Tag.toText() == b.Tag.toText());
   require(a.Checked == b.Checked && a.AllowEdit == b.AllowEdit && a.Enabled == b.Enabled);
   require(a.Selected == b.Selected && a.Bold == b.Bold && a.Italic == b.Italic);
   require(a.Underline == b.Underline && (a.Alignment & 0xFF) == (b.Alignment & 0xFF));
