@@ -118,7 +118,7 @@ class nvList final : public UserControl,
                 Boolean aBold = false, Boolean aItalic = false, Boolean aUnderline = false,
                 Variant aKey = "");
   /// The same with named arguments.
-  void ItemsAdd(NewItem item);
+  void ItemsAdd(NewItem values);
 
   /// Removes one item and sets `Index` to the rounded 32-bit index. A bad index is ignored without
   /// a report; the bounds are checked before rounding. ListIndex, TopIndex, NewIndex and the anchor

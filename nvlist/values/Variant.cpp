@@ -46,9 +46,8 @@ Variant::Variant(std::string_view text) {
   holdText(block ? block : new TextBlock{std::string(text), 1, false});
 }
 
-Variant::Variant(const Ref<Object>& object) {
+Variant::Variant(const Ref<Object>& object) : bits_(packAddress(Type::Object, object.get())) {
   static_assert(isAddressShort || alignof(Object) > tagMask);
-  bits_ = packAddress(Type::Object, object.get());
   retain();
 }
 

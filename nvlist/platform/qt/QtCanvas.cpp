@@ -340,7 +340,7 @@ QtCanvas::Face& QtCanvas::face() {
               8 * std::max(qRound(metrics.averageCharWidth()), 1),
               std::max(qRound(metrics.underlinePos()), 1),
               std::max(qRound(metrics.lineWidth()), 1),
-              std::vector<float>(printableCount * (printableCount + 1), neverAsked)};
+              std::vector<float>(std::size_t{printableCount} * (printableCount + 1), neverAsked)};
   return *face;
 }
 
@@ -360,7 +360,7 @@ double QtCanvas::Face::widthOf(QStringView text) {
 template <class Text>
 std::optional<double> QtCanvas::Face::widthOfPrintable(Text text) {
   const auto isPrintable = [](unsigned code) { return code - firstPrintable < printableCount; };
-  const std::size_t length = static_cast<std::size_t>(text.size());
+  const auto length = static_cast<std::size_t>(text.size());
   if (length == 0) return 0;
   double width = 0;
   unsigned character = codeOf(text.front());
