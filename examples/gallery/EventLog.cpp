@@ -42,7 +42,7 @@ class EventLog::Failures final : public norvane::ErrorHandler {
 EventLog::EventLog() : failures_(std::make_shared<Failures>(*this)) {
   setReadOnly(true);
   setMaximumBlockCount(mostLines);
-  setPlaceholderText("Events appear here, and what is set in the sheets.");
+  setPlaceholderText("Events and changes in the sheets appear here.");
   connect(&showingProgress_, &QTimer::timeout, this, [this] { showProgress(); });
   norvane::QtApplication::ensure();
   norvane::Program::inUse().registerErrorHandler(failures_);

@@ -89,13 +89,14 @@ void addMany(const Desk& desk) {
 constexpr Action fileActions[] = {
     {"Open...", "Show a list file instead of these items", open},
     {"Save...",
-     "Save the items into a list file.\nThe reading of an older one can be watched: its kind is "
-     "among those of the dialog.",
+     "Save the items to a list file.\nThe dialog also offers the older format, which is read item "
+     "by "
+     "item.",
      save},
 };
 constexpr Action textActions[] = {
-    {"Import...", "Add an item for each piece of a text file", import},
-    {"+ 1 million", "Add items, so that saving and reading older files take their time", addMany},
+    {"Import...", "Add an item for each part of a text file", import},
+    {"+ 1 million", "Add items, so that saving and reading take a while", addMany},
 };
 
 void fillItems(nvList& list) {
@@ -128,7 +129,7 @@ void fillItems(nvList& list) {
 QComboBox* delimiterBox() {
   auto* result = new QComboBox;
   result->setObjectName("delimiter");
-  result->setToolTip("What parts the text that is imported");
+  result->setToolTip("The delimiter of the imported text");
   for (const auto& [name, text] : delimiters) result->addItem(name, QString(text));
   return result;
 }
@@ -162,7 +163,7 @@ void fillFiles(Stage& stage) {
 
   const Desk desk{&stage, &list, new QCheckBox("Properties"), delimiterBox()};
   desk.keeps->setChecked(true);
-  desk.keeps->setToolTip("Save and read colours, fonts, keys and pictures too, not texts alone");
+  desk.keeps->setToolTip("Save and read colours, fonts, keys and pictures too, not only texts");
   QHBoxLayout* row = stage.addRow();
   addButtons(row, fileActions, desk);
   row->addWidget(desk.keeps);

@@ -293,7 +293,7 @@ QList<Page> allPages(const SampleText& text) {
        fillEdit},
       {"colours", "Colours", "ColorStyle: three families, and one of your own", palette,
        fillColours},
-      {"bars", "Scroll bars", "The scroll bars alone: all their looks, and below some to use",
+      {"bars", "Scroll bars", "The scroll bars alone: all their states, and some to use below",
        scrollBar, fillBars},
       {"files", "List files", "ListSave, ListInput, ListInput2: lists in files, texts as lists",
        openFolder, fillFiles},

@@ -32,7 +32,7 @@ constexpr int wheelWidth = 124;
 constexpr Switch switches[] = {
     {"Edit", "AllowEdit",
      "Press the current row again, or twice, to edit its text.\n"
-     "The box counts rows as high as the font: with a MinHeight it stands off its row.",
+     "The edit box assumes rows as high as the font, so with MinHeight it misses its row.",
      &nvList::AllowEdit, &nvList::AllowEdit},
     {"Move", "AllowItemMoving",
      "Drag an item to another place.\nA press without a drag takes it to the top.",
