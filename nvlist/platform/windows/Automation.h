@@ -23,6 +23,10 @@ class LiveObject {
 /// The description of an interface or class in the library's own type library.
 HRESULT typeInfoOf(REFGUID id, ITypeInfo** out);
 
+/// Calls a member of an object by its description, as scripts do.
+HRESULT invokeMember(ITypeInfo& info, void* object, DISPID id, WORD flags, DISPPARAMS& given,
+                     VARIANT* result, EXCEPINFO* exception, UINT* wrong) noexcept;
+
 /// IDispatch of a dual interface. Names, arguments, defaults and conversions come from the type
 /// library; the calls end in the members of the derived class.
 template <class Members>
@@ -47,8 +51,8 @@ class Dispatch : public Members {
   STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* given, VARIANT* result,
                       EXCEPINFO* exception, UINT* wrong) override {
     if (!given) return E_POINTER;
-    SetErrorInfo(0, nullptr);
-    return info_->Invoke(static_cast<Members*>(this), id, flags, given, result, exception, wrong);
+    return invokeMember(*info_.get(), static_cast<Members*>(this), id, flags, *given, result,
+                        exception, wrong);
   }
 
  protected:

@@ -415,8 +415,9 @@ class ListControl final : public OleControl, public Dispatch<::_nvList>, private
   void readProperties(const PropertyBag& bag) override { list_.UserControl_ReadProperties(bag); }
   void writeProperties(PropertyBag& bag) override { list_.UserControl_WriteProperties(bag); }
   void writeAllProperties(PropertyBag& bag) override {
+    const Variant unlikeAnything = Ref<Object>(makeRef<OleValue>(VARIANT{}));
     for (const StoredProperty& property : storedProperties())
-      bag.WriteProperty(property.name, property.get(list_), Variant());
+      bag.WriteProperty(property.name, property.get(list_), unlikeAnything);
   }
   void ambientChanged(std::string_view name) override { list_.UserControl_AmbientChanged(name); }
   /// Measures the rows again.

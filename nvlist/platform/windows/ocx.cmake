@@ -12,6 +12,7 @@ set(made ${CMAKE_CURRENT_BINARY_DIR})
 string(REPLACE "." "," VERSION_NUMBERS "${PROJECT_VERSION},0")
 configure_file(nvList.rc.in ${made}/nvList.rc @ONLY)
 add_library(nvlist_ocx MODULE
+  Automation.cpp
   ConnectionPoint.cpp
   LateBound.cpp
   ListControl.cpp

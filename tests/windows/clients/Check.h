@@ -1,0 +1,20 @@
+#pragma once
+
+#include <cstdio>
+
+/// Each client prints what failed, and a last line that scripts/test-windows demands.
+struct Checks {
+  int passed = 0, failed = 0;
+
+  void operator()(bool isRight, const char* what) {
+    isRight ? ++passed : ++failed;
+    if (!isRight) std::printf("FAIL %s\n", what);
+    std::fflush(stdout);
+  }
+  int finish() const {
+    std::printf("passed: %d, failures: %d\n", passed, failed);
+    return failed != 0;
+  }
+};
+
+inline Checks check;
