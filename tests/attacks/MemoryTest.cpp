@@ -52,7 +52,8 @@ TEST_F(MemoryOfFiles, TakesTwiceTheSizeOfATextFile) {
     list.ItemsClear();
     const allocations::Watch watch;
     list.ListInput2("text", ",");
-    EXPECT_LT(watch.peak(), 2 * size + 200'000) << piece;
+    // The file, its items, and the argument that becomes the next item.
+    EXPECT_LT(watch.peak(), 2 * size + piece + 200'000) << piece;
   }
 }
 
