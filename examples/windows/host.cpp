@@ -7,6 +7,7 @@
 #include <olectl.h>
 #include <cstdio>
 #include <cstring>
+#include <initializer_list>
 
 #include "nvListTypes.h"
 

@@ -7,4 +7,4 @@ for (var i = 0; i < cities.length; i++) list.ItemsAdd(cities[i]);
 list.ItemChecked(0) = true;
 list.ItemChecked(list.IsInList("P*")) = true;
 
-WScript.Echo("checked: " + list.ItemsCheckCount + " of " + list.ItemsCount);
+WScript.Echo("checked: " + list.ItemsCheckCount() + " of " + list.ItemsCount());

@@ -42,13 +42,14 @@ class Branch {
   explicit Branch(Scope scope)
       : root_(scope == Scope::machine ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER) {}
 
-  void set(const std::wstring& key, const wchar_t* name, const std::wstring& value) {
-    const LSTATUS status =
-        RegSetKeyValueW(root_, (base + key).c_str(), name, REG_SZ, value.c_str(),
-                        static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t)));
+  void set(const std::wstring& key, const wchar_t* name, const wchar_t* value) {
+    const auto size =
+        static_cast<DWORD>(static_cast<std::size_t>(lstrlenW(value) + 1) * sizeof *value);
+    const LSTATUS status = RegSetKeyValueW(root_, (base + key).c_str(), name, REG_SZ, value, size);
     if (status != ERROR_SUCCESS) isComplete_ = false;
   }
-  void set(const std::wstring& key, const std::wstring& value) { set(key, nullptr, value); }
+  void set(const std::wstring& key, const wchar_t* value) { set(key, nullptr, value); }
+  void set(const std::wstring& key, const std::wstring& value) { set(key, nullptr, value.c_str()); }
   void remove(const std::wstring& key) {
     const LSTATUS status = RegDeleteTreeW(root_, (base + key).c_str());
     if (status != ERROR_SUCCESS && status != ERROR_FILE_NOT_FOUND) isComplete_ = false;

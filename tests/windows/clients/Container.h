@@ -8,6 +8,8 @@
 
 #include <nvlist/platform/windows/ole.h>
 
+#include <initguid.h>  // the GUIDs that follow are defined here
+
 #include "nvListTypes.h"
 
 namespace norvane {

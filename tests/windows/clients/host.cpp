@@ -1,13 +1,10 @@
 // A container of our own around the control: what scripts and common containers never ask for.
 //
-//     host                        runs the tests; with host.exe.manifest beside it, unregistered
-//     too host registry machine|user  counts the keys of the registry that belong to the library
+//     host                          runs the tests; with host.exe.manifest beside it, the library
+//                                   need not be registered
+//     host registry machine|user    counts the registry keys of the library
 #include "Check.h"
 #include "Container.h"
-
-#include <initguid.h>
-
-#include "nvListTypes.h"
 
 using namespace norvane;
 
