@@ -17,25 +17,25 @@ namespace {
 /// The named values of an enumeration; empty for all other types.
 std::vector<Choice> choicesOf(PropertyType type) {
   switch (type) {
-    case PropertyType::ColorStyle:
+    case PropertyType::colorStyle:
       return {{"cXPBlue", norvane::cXPBlue},
               {"cXPSilver", norvane::cXPSilver},
               {"cXPOlive", norvane::cXPOlive},
               {"cCustom", norvane::cCustom}};
-    case PropertyType::ScrollColorStyle:
+    case PropertyType::scrollColorStyle:
       return {{"cXPScrollBlue", norvane::cXPScrollBlue},
               {"cXPScrollSilver", norvane::cXPScrollSilver},
               {"cXPScrollOlive", norvane::cXPScrollOlive}};
-    case PropertyType::ListStyle:
+    case PropertyType::listStyle:
       return {{"cDefault", norvane::cDefault},
               {"cCheckBoxes", norvane::cCheckBoxes},
               {"cIcons", norvane::cIcons},
               {"cCheckBoxesIcons", norvane::cCheckBoxesIcons}};
-    case PropertyType::WheelFunction:
+    case PropertyType::wheelFunction:
       return {{"cWheelScroll", norvane::cWheelScroll},
               {"cWheelListIndex", norvane::cWheelListIndex},
               {"cWheelOff", norvane::cWheelOff}};
-    case PropertyType::ScrollBars:
+    case PropertyType::scrollBars:
       return {{"vbSBNone", norvane::vbSBNone},
               {"vbHorizontal", norvane::vbHorizontal},
               {"vbVertical", norvane::vbVertical},
@@ -58,17 +58,17 @@ Property row(const char* name) {
   const StoredProperty& of = *norvane::storedProperty(name);
   const auto toInt32 = [](const Variant& value) { return value.toInt32(); };
   switch (of.type) {
-    case PropertyType::Font:
+    case PropertyType::font:
       return property<norvane::Font>(
           name, font(), [](const Subject& on) { return on.list().Font(); },
           [](const Subject& on, const norvane::Font& value) { on.list().Font(value); });
-    case PropertyType::Boolean:
+    case PropertyType::boolean:
       return stored(of, flag(), [](const Variant& value) { return value.toBoolean(); });
-    case PropertyType::Single:
+    case PropertyType::single:
       return stored(of, length(), [](const Variant& value) { return value.toSingle(); });
-    case PropertyType::Colour:
+    case PropertyType::colour:
       return stored(of, colour(), toInt32);
-    case PropertyType::Integer:
+    case PropertyType::integer:
       return stored(of, number(), toInt32);
     default:
       return stored(of, choiceOf(choicesOf(of.type)), toInt32);
@@ -88,7 +88,7 @@ Property row(const char* name, MakeEditor<Value> make, Value (nvList::*read)() c
 Property scrollBars() {
   const char* const name = "ScrollBars";
   return property<int>(
-      name, choiceOf(choicesOf(PropertyType::ScrollBars)),
+      name, choiceOf(choicesOf(PropertyType::scrollBars)),
       [](const Subject& on) { return static_cast<int>(on.list().ScrollBars()); },
       [](const Subject& on, int value) {
         on.list().ScrollBars(static_cast<norvane::ScrollBarConstants>(value));

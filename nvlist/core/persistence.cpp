@@ -48,17 +48,17 @@ constexpr StoredProperty stored(const char* name, PropertyType type, Variant def
 
 template <Getter<Boolean> getter, Setter<Boolean> setter>
 constexpr StoredProperty flag(const char* name, bool defaultValue) {
-  return stored<Boolean, getter, setter>(name, PropertyType::Boolean, defaultValue);
+  return stored<Boolean, getter, setter>(name, PropertyType::boolean, defaultValue);
 }
 
 template <Getter<Colour> getter, Setter<Colour> setter>
 constexpr StoredProperty colour(const char* name, Colour defaultValue) {
-  return stored<Colour, getter, setter>(name, PropertyType::Colour, defaultValue);
+  return stored<Colour, getter, setter>(name, PropertyType::colour, defaultValue);
 }
 
 template <Getter<float> getter, Setter<float> setter>
 constexpr StoredProperty single(const char* name, float defaultValue) {
-  return stored<float, getter, setter>(name, PropertyType::Single, defaultValue);
+  return stored<float, getter, setter>(name, PropertyType::single, defaultValue);
 }
 
 /// The defaults of enumerations have the 16-bit integer type.
@@ -68,16 +68,16 @@ constexpr StoredProperty choice(const char* name, PropertyType type) {
 }
 
 constexpr StoredProperty properties[] = {
-    {"Font", PropertyType::Font, Variant(), getFont, setFont},
+    {"Font", PropertyType::font, Variant(), getFont, setFont},
     colour<&nvList::ForeColor, &nvList::ForeColor>("ForeColor", 0),
     colour<&nvList::BackColor, &nvList::BackColor>("BackColor", 0xFFFFFF),
     flag<&nvList::Enabled, &nvList::Enabled>("Enabled", true),
     flag<&nvList::ClickOnIndexChange, &nvList::ClickOnIndexChange>("ClickOnIndexChange", false),
     choice<cColorStyle, &nvList::ColorStyle, &nvList::ColorStyle>("ColorStyle",
-                                                                  PropertyType::ColorStyle),
+                                                                  PropertyType::colorStyle),
     colour<&nvList::BorderColor, &nvList::BorderColor>("BorderColor", 0),
     flag<&nvList::HoverSelect, &nvList::HoverSelect>("HoverSelect", false),
-    choice<cListStyle, &nvList::Style, &nvList::Style>("Style", PropertyType::ListStyle),
+    choice<cListStyle, &nvList::Style, &nvList::Style>("Style", PropertyType::listStyle),
     flag<&nvList::FullRowSelect, &nvList::FullRowSelect>("FullRowSelect", true),
     flag<&nvList::AllowEdit, &nvList::AllowEdit>("AllowEdit", false),
     colour<&nvList::ValueColor, &nvList::ValueColor>("ValueColor", 0xFF0000),
@@ -92,19 +92,19 @@ constexpr StoredProperty properties[] = {
     single<&nvList::IconW, &nvList::IconW>("IconW", 16),
     single<&nvList::IconH, &nvList::IconH>("IconH", 16),
     choice<cScrollColorStyle, &nvList::ScrollColorStyle, &nvList::ScrollColorStyle>(
-        "ScrollColorStyle", PropertyType::ScrollColorStyle),
+        "ScrollColorStyle", PropertyType::scrollColorStyle),
     flag<&nvList::GridLines, &nvList::GridLines>("GridLines", false),
     colour<&nvList::GridLineColor, &nvList::GridLineColor>("GridLineColor", 0xC0C0C0),
     flag<&nvList::MultiSelect, &nvList::MultiSelect>("MultiSelect", false),
     flag<&nvList::ShowFocusRect, &nvList::ShowFocusRect>("ShowFocusRect", false),
     choice<cWheelFunction, &nvList::WheelFunction, &nvList::WheelFunction>(
-        "WheelFunction", PropertyType::WheelFunction),
+        "WheelFunction", PropertyType::wheelFunction),
     stored<std::int32_t, &nvList::WheelScrollLines, &nvList::WheelScrollLines>(
-        "WheelScrollLines", PropertyType::Integer, std::int16_t{1}),
+        "WheelScrollLines", PropertyType::integer, std::int16_t{1}),
     single<&nvList::MinHeight, &nvList::MinHeight>("MinHeight", 0),
     flag<&nvList::AutoRedraw, &nvList::AutoRedraw>("AutoRedraw", true),
     stored<ScrollBarConstants, &nvList::ScrollBars, &nvList::ScrollBars>(
-        "ScrollBars", PropertyType::ScrollBars, 2),
+        "ScrollBars", PropertyType::scrollBars, 2),
     flag<&nvList::AllowItemMoving, &nvList::AllowItemMoving>("AllowItemMoving", false)};
 
 }  // namespace
@@ -119,7 +119,7 @@ const StoredProperty* storedProperty(std::string_view name) {
 
 /// The default of a property for this list.
 Variant nvList::storedDefault(const StoredProperty& property) const {
-  return property.type == PropertyType::Font ? Variant(Ref<Object>(lblFont))
+  return property.type == PropertyType::font ? Variant(Ref<Object>(lblFont))
                                              : property.defaultValue;
 }
 
@@ -163,7 +163,7 @@ void nvList::UserControl_WriteProperties(PropertyBag& PropBag) {
     for (const StoredProperty& property : properties)
       on.step([&] {
         // A copy, which later changes of the list's font do not affect.
-        const Variant value = property.type == PropertyType::Font
+        const Variant value = property.type == PropertyType::font
                                   ? Variant(Ref<Object>(CloneFont(Font())))
                                   : property.get(*this);
         PropBag.WriteProperty(property.name, value, storedDefault(property));

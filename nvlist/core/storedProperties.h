@@ -10,16 +10,16 @@ namespace norvane {
 class nvList;
 
 enum class PropertyType {
-  Font,
-  Colour,
-  Boolean,
-  Integer,  ///< 32 bits
-  Single,   ///< a 32-bit float
-  ColorStyle,
-  ScrollColorStyle,
-  ListStyle,
-  WheelFunction,
-  ScrollBars
+  font,
+  colour,
+  boolean,
+  integer,  ///< 32 bits
+  single,   ///< a 32-bit float
+  colorStyle,
+  scrollColorStyle,
+  listStyle,
+  wheelFunction,
+  scrollBars
 };
 
 /// A property of the list that a property store holds.

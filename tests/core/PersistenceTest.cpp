@@ -50,7 +50,7 @@ TEST_F(Persistence, EveryPropertyComesBackInItsOrder) {
     EXPECT_EQ(property.name, name);
     EXPECT_EQ(storedProperty(name), &property) << name;
     EXPECT_EQ(written.properties()[i + 1].name, name);
-    const bool isFlag = property.type == PropertyType::Boolean;
+    const bool isFlag = property.type == PropertyType::boolean;
     const double number = isFlag ? value.toBoolean().number() : value.toNumber();
     EXPECT_EQ(written.properties()[i + 1].value.toNumber(), number) << name;
     // The table alone, on a list with default values.

@@ -15,7 +15,7 @@ class OleControl::OleBag final : public PropertyBag {
 
   Variant ReadProperty(std::string_view name, const Variant& defaultValue) const override {
     const StoredProperty* const property = storedProperty(name);
-    const bool isFont = property && property->type == PropertyType::Font;
+    const bool isFont = property && property->type == PropertyType::font;
     OleVariant value;
     if (isFont) {  // requests an object from the container
       value.vt = VT_UNKNOWN;
