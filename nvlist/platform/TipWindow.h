@@ -20,11 +20,11 @@ struct TipTool {
   std::int32_t owner = 0;
   std::int32_t id = 0;
   /// The area of a tool that is not a window.
-  Rectangle rectangle;
+  Rectangle rectangle = {};
   /// The module that contains the text resource. Unused.
   std::intptr_t instance = 0;
   /// UTF-8, up to the first zero character.
-  std::string text;
+  std::string text = {};
 };
 
 /// The times of a tip window, in milliseconds. Setting a negative time restores its default.

@@ -35,10 +35,11 @@ class Form {
 
  private:
   struct Control : UserControl {
-    Control(Form& form, const char* name, Container& place)
-        : UserControl(place), form(form), name(name) {}
-    Control(Form& form, const char* name, std::unique_ptr<Container> place, const Bounds& bounds)
-        : UserControl(std::move(place)), form(form), name(name) {
+    Control(Form& itsForm, const char* itsName, Container& place)
+        : UserControl(place), form(itsForm), name(itsName) {}
+    Control(Form& itsForm, const char* itsName, std::unique_ptr<Container> place,
+            const Bounds& bounds)
+        : UserControl(std::move(place)), form(itsForm), name(itsName) {
       Move(bounds);
     }
     using UserControl::listenToMouse;
