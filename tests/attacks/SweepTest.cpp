@@ -191,9 +191,9 @@ TEST_P(SweepTest, SurvivesEachAllocation) { sweep(&Plan::allocation, &Outcome::a
 INSTANTIATE_TEST_SUITE_P(Attacks, SweepTest,
                          testing::Values(std::pair(false, false), std::pair(false, true),
                                          std::pair(true, false), std::pair(true, true)),
-                         [](const auto& info) {
-                           return std::string(info.param.first ? "Onward" : "Once") +
-                                  (info.param.second ? "InSilence" : "Reported");
+                         [](const auto& parameter) {
+                           return std::string(parameter.param.first ? "Onward" : "Once") +
+                                  (parameter.param.second ? "InSilence" : "Reported");
                          });
 
 }  // namespace
