@@ -60,7 +60,7 @@ std::int32_t QtRecordset::RecordCount() {
   return *count_;
 }
 
-/// Keeps the current row; isAtEnd_ keeps that there is none.
+/// Counts the rows. Neither the current row nor isAtEnd_ changes.
 std::int32_t QtRecordset::countRows() {
   if (query_.isForwardOnly()) return unknownCount;
   const int current = query_.at();

@@ -21,7 +21,7 @@ HINSTANCE thisModule();
 /// one, and is used only on its thread.
 class Apartment : public std::enable_shared_from_this<Apartment> {
  public:
-  /// Returns the apartment of the calling thread, creating it if there is none.
+  /// Returns the apartment of the calling thread, creating it on first use.
   static std::shared_ptr<Apartment> current();
   /// To be called before the module is unloaded.
   static void unregisterClass();
