@@ -96,6 +96,27 @@ class nvList final : public UserControl,
   /// box is opened.
   void SetEdit(const Variant& Index);
 
+  // ---- for helpers that add keys and gestures: input/gestures.cpp ----
+  //
+  // What a user can do with the mouse, for programs to offer it by other means
+  // (platform/qt/NvListKeys.h). The list itself calls none of these.
+
+  /// Flips the check mark of the current item as a click on its box does: ItemCheck comes first and
+  /// may refuse it. Ignored if no item is current, or a disabled one.
+  void userChecks();
+  /// Selects the enabled items from `anchor` to `end`, both included, and no others, and makes
+  /// `current` the current item; -1 for none. Indexes beyond the list mean its first or last item.
+  /// Later presses with Shift select from `anchor`. Raises no event and does not scroll. Ignored if
+  /// the list is empty.
+  void userSelects(std::int32_t anchor, std::int32_t end, std::int32_t current);
+  /// Closes the edit box if it is open. With `keepsText` its text is written to the current item,
+  /// as Return does; otherwise it is discarded.
+  void closeEdit(bool keepsText);
+  /// Whether the release of the mouse moves the current item only if a drag has marked where to.
+  /// Otherwise a mere click moves it to the top under AllowItemMoving. Default: false.
+  bool movesOnlyToMark() const { return movesOnlyToMark_; }
+  void movesOnlyToMark(bool value) { movesOnlyToMark_ = value; }
+
   // ---- items: core/items.cpp ----
 
   /// Adds one item. `aIndex` is where to insert it; a negative value, or one not less than the
@@ -675,6 +696,7 @@ class nvList final : public UserControl,
   std::unique_ptr<TextBox> Text1;
   std::unique_ptr<Timer> tmrMouseAction;
   enum class AutoScroll { none, up, down } autoScroll_ = AutoScroll::none;
+  bool movesOnlyToMark_ = false;
   Wheel Wheel1;
 };
 

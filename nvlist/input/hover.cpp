@@ -78,8 +78,10 @@ void nvList::tmrMouseAction_Timer() {
   });
 }
 
-/// Moves the current item in front of the marked row, or to the top if no row is marked.
+/// Moves the current item in front of the marked row, or to the top if no row is marked
+/// (movesOnlyToMark).
 void nvList::completeMove(Trap& on) {
+  if (movesOnlyToMark_ && state_.HoverIndex == -1) return;
   on.step([&] {
     const std::int32_t current = state_.ListIndex;
     const std::int32_t target = state_.HoverIndex;

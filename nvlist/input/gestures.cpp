@@ -1,0 +1,51 @@
+#include <algorithm>
+
+#include <nvlist/nvList.h>
+
+namespace norvane {
+namespace {
+
+constexpr std::int16_t keyReturn = 13;
+
+}  // namespace
+
+void nvList::userChecks() {
+  trapped(here, "userChecks", [&](Trap& on) {
+    if (!state_.ItemsDimensioned || !state_.Items.holds(state_.ListIndex)) return;
+    if (on.test([&] { return !item(state_.ListIndex).look().Enabled; })) return;
+    flipChecked(on);
+    on.step([&] { Redraw(); });
+  });
+}
+
+void nvList::userSelects(std::int32_t anchor, std::int32_t end, std::int32_t current) {
+  trapped(here, "userSelects", [&](Trap& on) {
+    if (!state_.ItemsDimensioned) return;
+    const std::int32_t last = state_.Items.upperBound();
+    const auto inside = [&](std::int32_t index) { return std::clamp(index, 0, last); };
+    clearMarks(on);
+    const auto [from, to] = std::minmax(inside(anchor), inside(end));
+    for (std::int32_t i = from; i <= to; ++i)
+      if (on.test([&] { return static_cast<bool>(item(i).look().Enabled); }))
+        on.step([&] { state_.Selection.set(state_.Items, i, true); });
+    state_.SelectAnchor = inside(anchor);
+    state_.ListIndex = std::clamp(current, -1, last);
+    on.step([&] { container_.PropertyChanged("ListIndex"); });
+    on.step([&] { Redraw(); });
+  });
+}
+
+void nvList::closeEdit(bool keepsText) {
+  trapped(here, "closeEdit", [&](Trap& on) {
+    if (!state_.EditActive) return;
+    if (keepsText) {
+      std::int16_t key = keyReturn;
+      on.step([&] { Text1_KeyPress(key); });
+      return;
+    }
+    state_.EditActive = false;
+    on.step([&] { Text1->Visible(false); });
+  });
+}
+
+}  // namespace norvane
