@@ -46,7 +46,7 @@ TEST(Art, ButtonsDifferInTheirChevronAlone) {
     const Pixels button = pixels(arrow, 1);
     ASSERT_EQ(button.size(), 17U);
     for (const auto& row : button)
-      EXPECT_EQ(std::pair(row.size(), row[0]), std::pair(17UL, 0xEFEFE7U));
+      EXPECT_EQ(std::pair(row.size(), row[0]), std::pair(std::size_t{17}, 0xEFEFE7U));
     EXPECT_EQ(Row({button[8][1], button[3][3], button[13][13], button[16][8]}),
               Row({0xFFFFFF, 0xDEE7F7, 0xADC6F7, 0x7B9CD6}));
   }

@@ -395,30 +395,30 @@ void badArguments() {
   SysFreeString(text);
 }
 
-void lifetimes(int count) {
-  // A new handle counts up past those that are not given back.
-  const auto pens = [] {
-    const HPEN pen = CreatePen(PS_SOLID, 1, 0);
-    const auto number = LOWORD(reinterpret_cast<UINT_PTR>(pen));
-    DeleteObject(pen);
-    return number;
-  };
-  const auto windows = [] {
-    int found = 0;
-    const auto one = [](HWND, LPARAM counter) -> BOOL {
-      return ++*reinterpret_cast<int*>(counter);
-    };
-    EnumThreadWindows(GetCurrentThreadId(), one, reinterpret_cast<LPARAM>(&found));
-    return found;
-  };
+/// The numbers of a new GDI object and a new window. Both count up past those that are not
+/// returned.
+std::pair<int, int> nextHandles() {
+  const auto number = [](HANDLE handle) { return LOWORD(reinterpret_cast<UINT_PTR>(handle)); };
+  const HPEN pen = CreatePen(PS_SOLID, 1, 0);
+  const HWND window = CreateWindowExW(0, L"STATIC", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
+                                      nullptr, nullptr);
+  const std::pair<int, int> result{number(pen), number(window)};
+  DestroyWindow(window);
+  DeleteObject(pen);
+  return result;
+}
+
+void lifetimes() {
+  constexpr int count = 1000;
   for (int i = 0; i < 10; ++i) add(make().get(), 1);
-  const int pensBefore = pens(), windowsBefore = windows();
+  const auto before = nextHandles();
   const DWORD start = GetTickCount();
   for (int i = 0; i < count; ++i) add(make().get(), 1);
   std::printf("%d controls made and ended: %lu ms\n", count, GetTickCount() - start);
   pump(50);
-  check(pens() <= pensBefore + count / 10, "GDI handles are given back");
-  check(windows() <= windowsBefore, "windows are destroyed");
+  const auto after = nextHandles();
+  check(after.first <= before.first + count / 10, "GDI objects are returned");
+  check(after.second <= before.second + count / 10, "windows are returned");
 }
 
 /// Keys that a registration writes: names, classes, the type library and its interfaces.
@@ -465,13 +465,10 @@ int main(int count, char** arguments) {
   const struct {
     const char* name;
     void (*run)();
-  } tests[] = {{"activation", activation},
-               {"ambients", ambients},
-               {"persistence", persistence},
-               {"drawing", drawing},
-               {"connections", connections},
-               {"bad arguments", badArguments},
-               {"lifetimes", [] { lifetimes(1000); }}};
+  } tests[] = {{"activation", activation},   {"ambients", ambients},
+               {"persistence", persistence}, {"drawing", drawing},
+               {"connections", connections}, {"bad arguments", badArguments},
+               {"lifetimes", lifetimes}};
   for (const auto& test : tests) {
     test.run();
     pump(30);
