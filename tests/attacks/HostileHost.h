@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include <nvlist/platform/headless/HeadlessApplication.h>
+
 #include "Life.h"
 
 namespace norvane::attacks {
@@ -20,6 +22,16 @@ struct CallOut {
     const std::function<void()> run = trouble;
     run();
   }
+};
+
+/// A program whose boxes call the host.
+class HostileProgram final : public HeadlessApplication {
+ public:
+  explicit HostileProgram(CallOut& out) : out_(out) {}
+  void MsgBox(std::string_view, std::int32_t, std::string_view) override { out_(); }
+
+ private:
+  CallOut& out_;
 };
 
 /// A host in each of whose handlers something may happen.

@@ -2,11 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <memory>
 
 #include <nvlist/objects/Error.h>
-#include <nvlist/platform/headless/HeadlessApplication.h>
 #include <nvlist/platform/headless/HeadlessList.h>
 
 #include "../files/MemoryFiles.h"
@@ -15,16 +13,6 @@
 
 namespace norvane::attacks {
 namespace {
-
-/// A program whose boxes call the host.
-class HostileProgram final : public HeadlessApplication {
- public:
-  explicit HostileProgram(CallOut& out) : out_(out) {}
-  void MsgBox(std::string_view, std::int32_t, std::string_view) override { out_(); }
-
- private:
-  CallOut& out_;
-};
 
 struct Outcome {
   long calls = 0;
@@ -88,8 +76,7 @@ Outcome outcomeOf(long at, const NamedTrouble& trouble, bool silent) {
 }
 
 TEST(HostileHostTest, IsSurvivedWhereverItIsCalled) {
-  const char* value = std::getenv("NVLIST_SWEEP_STRIDE");
-  const long stride = value ? std::max(std::atol(value), 1L) : 17;
+  const long stride = strideOr(17);
   std::vector<NamedTrouble> troubles = troublesForAList();
   for (const char* name : {"the same again", "unregister", "nested loop"})
     troubles.push_back({name, [](nvList&) {}});

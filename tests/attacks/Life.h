@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <cstdlib>
 #include <functional>
 #include <string>
 #include <utility>
@@ -44,6 +46,12 @@ inline Hand handOn(HeadlessContainer& form, nvList& list) {
     list.UserControl_Resize();
   };
   return hand;
+}
+
+/// The distance between two calls that fail: that of scripts/sweep, or the usual one.
+inline long strideOr(long usual) {
+  const char* value = std::getenv("NVLIST_SWEEP_STRIDE");
+  return value ? std::max(std::atol(value), 1L) : usual;
 }
 
 struct Step {

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <optional>
 
 #include <nvlist/objects/Error.h>
@@ -157,12 +156,6 @@ Outcome outcomeOf(const Plan& plan) {
   return sweep.outcome();
 }
 
-/// How many of the calls are left out between two that fail. scripts/sweep leaves out none.
-long stride() {
-  const char* value = std::getenv("NVLIST_SWEEP_STRIDE");
-  return value ? std::max(std::atol(value), 1L) : 97;
-}
-
 class SweepTest : public testing::TestWithParam<std::pair<bool, bool>> {
  protected:
   void sweep(long Plan::*what, long Outcome::*number) {
@@ -174,7 +167,7 @@ class SweepTest : public testing::TestWithParam<std::pair<bool, bool>> {
     ASSERT_EQ(whole.fault, nullptr);
     ASSERT_GT(whole.*number, 300);
     RecordProperty("calls", std::to_string(whole.*number));
-    for (plan.*what = 1; plan.*what <= whole.*number; plan.*what += stride()) {
+    for (plan.*what = 1; plan.*what <= whole.*number; plan.*what += strideOr(97)) {
       const long blocks = allocations::blocks();
       const Outcome outcome = outcomeOf(plan);
       EXPECT_EQ(allocations::blocks(), blocks) << "leak, number " << plan.*what;

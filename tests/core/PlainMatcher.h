@@ -27,52 +27,42 @@ class PlainMatcher {
     std::vector<bool> ends(text.size() + 1);
     ends[0] = true;
     for (std::size_t at = 0; at < pattern_.size();) {
+      const std::size_t part = at;
+      at = behind(part);
+      if (at == part + 2 && pattern_[part] == U'[') continue;  // an empty set
       std::vector<bool> next(text.size() + 1);
-      if (pattern_[at] == U'*') {
-        ++at;
-        bool isReached = false;
-        for (std::size_t i = 0; i <= text.size(); ++i) next[i] = isReached = isReached || ends[i];
-      } else {
-        std::size_t behind = at;
-        for (std::size_t i = 0; i <= text.size(); ++i) {
-          behind = at;
-          const char32_t character = i < text.size() ? text[i] : 0;
-          const auto fit = fits(behind, character);
-          if (fit == Fit::nothing) {
-            if (ends[i]) next[i] = true;
-          } else if (fit == Fit::yes && i < text.size() && ends[i]) {
-            next[i + 1] = true;
-          }
-        }
-        at = behind;
-      }
+      for (std::size_t i = 0; i <= text.size(); ++i)
+        if (pattern_[part] == U'*')
+          next[i] = ends[i] || (i > 0 && next[i - 1]);
+        else if (i > 0)
+          next[i] = ends[i - 1] && fits(part, at, text[i - 1]);
       ends = next;
     }
     return ends.back();
   }
 
  private:
-  enum class Fit { no, yes, nothing };
-
   char32_t folded(char32_t character) const {
     return ignoresCase_ ? foldCase(character) : character;
   }
 
-  /// Whether the character matches the part of the pattern at `at`; advances `at` past the part.
-  Fit fits(std::size_t& at, char32_t character) const {
-    const char32_t part = pattern_[at++];
-    if (part == U'?') return Fit::yes;
-    if (part == U'#') return character >= U'0' && character <= U'9' ? Fit::yes : Fit::no;
-    if (part != U'[') return folded(part) == folded(character) ? Fit::yes : Fit::no;
-    std::size_t end = at;
-    while (pattern_[end] != U']') ++end;
-    const Characters set(pattern_.begin() + static_cast<std::ptrdiff_t>(at),
-                         pattern_.begin() + static_cast<std::ptrdiff_t>(end));
-    at = end + 1;
-    if (set.empty()) return Fit::nothing;
-    if (set == Characters{U'!'}) return character == U'!' ? Fit::yes : Fit::no;
+  /// The end of the part of the pattern that begins at `at`.
+  std::size_t behind(std::size_t at) const {
+    if (pattern_[at] == U'[')
+      while (pattern_[at] != U']') ++at;
+    return at + 1;
+  }
+
+  /// Whether the character matches the part of the pattern between two places.
+  bool fits(std::size_t begin, std::size_t end, char32_t character) const {
+    const char32_t part = pattern_[begin];
+    if (part == U'?') return true;
+    if (part == U'#') return character >= U'0' && character <= U'9';
+    if (part != U'[') return folded(part) == folded(character);
+    const Characters set(pattern_.data() + begin + 1, pattern_.data() + end - 1);
+    if (set == Characters{U'!'}) return character == U'!';
     const bool isNegated = set[0] == U'!';
-    return contains(set, isNegated ? 1 : 0, folded(character)) != isNegated ? Fit::yes : Fit::no;
+    return contains(set, isNegated ? 1 : 0, folded(character)) != isNegated;
   }
 
   bool contains(const Characters& set, std::size_t at, char32_t character) const {

@@ -1,7 +1,5 @@
 // Does random things to a scroll bar that stands alone on a form.
 
-#include <fuzzer/FuzzedDataProvider.h>
-
 #include <cstdint>
 
 #include <nvlist/objects/Error.h>
@@ -10,6 +8,8 @@
 #include <nvlist/scroll/nvHScroll.h>
 #include <nvlist/scroll/nvVScroll.h>
 #include <nvlist/values/Failure.h>
+
+#include "oneOf.h"
 
 namespace {
 
@@ -45,44 +45,26 @@ class Life : private nvVScrollEvents, private nvHScrollEvents {
 
   void step() {
     const auto button = static_cast<std::int16_t>(input_.ConsumeIntegralInRange(1, 3));
-    switch (input_.ConsumeIntegralInRange(0, 14)) {
-      case 0:
-        return bar_.Min(number());
-      case 1:
-        return bar_.Max(number());
-      case 2:
-        return bar_.Value(number());
-      case 3:
-        return bar_.Enabled(input_.ConsumeBool());
-      case 4:
-        return bar_.ActiveScrolling(input_.ConsumeBool());
-      case 5:
-        return bar_.ColorStyle(
-            static_cast<cScrollColorStyle>(input_.ConsumeIntegralInRange(-1, 4)));
-      case 6:
-        return bar_.Gradient(input_.ConsumeBool());
-      case 7:
-        return bar_.Move({0, 0, static_cast<float>(input_.ConsumeIntegralInRange(0, 120)),
-                          static_cast<float>(input_.ConsumeIntegralInRange(0, 120))});
-      case 8:
-        return form_.press(length(), length(), button);
-      case 9:
-        return form_.moveTo(length(), length(), button);
-      case 10:
-        return form_.release(length(), length(), button);
-      case 11:
-        return form_.clock().advance(
-            std::chrono::milliseconds(input_.ConsumeIntegralInRange(0, 900)));
-      case 12: {
-        PropertyBag bag;
-        bar_.UserControl_WriteProperties(bag);
-        return bar_.UserControl_ReadProperties(bag);
-      }
-      case 13:
-        return bar_.Visible(input_.ConsumeBool());
-      default:
-        return bar_.About();
-    }
+    const auto range = [&](int low, int high) { return input_.ConsumeIntegralInRange(low, high); };
+    oneOf(
+        input_, [&] { bar_.Min(number()); }, [&] { bar_.Max(number()); },
+        [&] { bar_.Value(number()); }, [&] { bar_.Enabled(input_.ConsumeBool()); },
+        [&] { bar_.ActiveScrolling(input_.ConsumeBool()); },
+        [&] { bar_.ColorStyle(static_cast<cScrollColorStyle>(range(-1, 4))); },
+        [&] { bar_.Gradient(input_.ConsumeBool()); },
+        [&] {
+          bar_.Move({0, 0, static_cast<float>(range(0, 120)), static_cast<float>(range(0, 120))});
+        },
+        [&] { form_.press(length(), length(), button); },
+        [&] { form_.moveTo(length(), length(), button); },
+        [&] { form_.release(length(), length(), button); },
+        [&] { form_.clock().advance(std::chrono::milliseconds(range(0, 900))); },
+        [&] {
+          PropertyBag bag;
+          bar_.UserControl_WriteProperties(bag);
+          bar_.UserControl_ReadProperties(bag);
+        },
+        [&] { bar_.Visible(input_.ConsumeBool()); }, [&] { bar_.About(); });
   }
   void react() {
     if (depth_ > 2 || input_.remaining_bytes() == 0 || input_.ConsumeIntegralInRange(0, 3)) return;

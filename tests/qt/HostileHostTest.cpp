@@ -9,10 +9,8 @@
 #include <QPointer>
 #include <QTimer>
 #include <QWheelEvent>
-#include <cstdlib>
 
 #include <nvlist/objects/Error.h>
-#include <nvlist/platform/headless/HeadlessApplication.h>
 #include <nvlist/platform/qt/NvListWidget.h>
 
 #include "../attacks/HostileHost.h"
@@ -20,16 +18,6 @@
 
 namespace norvane::attacks {
 namespace {
-
-/// A program whose boxes call the host.
-class HostileProgram final : public HeadlessApplication {
- public:
-  explicit HostileProgram(CallOut& out) : out_(out) {}
-  void MsgBox(std::string_view, std::int32_t, std::string_view) override { out_(); }
-
- private:
-  CallOut& out_;
-};
 
 Hand handOn(QPointer<NvListWidget>& widget) {
   const auto send = [&](QEvent::Type type, float x, float y, Qt::MouseButton button,
@@ -144,8 +132,7 @@ long live(long at, const NamedTrouble& trouble) {
 }
 
 TEST(QtHostileHostTest, isSurvivedWhereverItIsCalled) {
-  const char* value = std::getenv("NVLIST_SWEEP_STRIDE");
-  const long stride = value ? std::max(std::atol(value), 1L) : 29;
+  const long stride = strideOr(29);
   std::vector<NamedTrouble> troubles = troublesForAList();
   for (const char* name :
        {"end the widget", "close", "the same again", "unregister", "nested loop"})

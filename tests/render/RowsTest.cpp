@@ -235,7 +235,7 @@ TEST_F(Rows, PicturesThatAreNoneAreSkipped) {
   };
   list.Style(cIcons);
   list.ItemsAdd({.aText = "a"});
-  list.ItemsAdd({.aText = "b", .aIcon = flag, .aIconSelected = makeRef<Flag>("empty", 0)});
+  list.ItemsAdd({.aText = "b", .aIcon = flag, .aIconSelected = makeRef<Flag>("empty", 0U)});
   list.ItemsAdd({.aText = "c", .aIcon = makeRef<Broken>()});
   list.ItemSelected(1, true);
   EXPECT_EQ(seen().find("PaintPicture"), seen().find("PaintPicture 32x24 \"flag\" at (3, 14.5)"));
