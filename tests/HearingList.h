@@ -137,10 +137,18 @@ class HearingListTest : public ListTest, public __nvList {
   }
   HeadlessTextBox& box() { return *headless.container().textBoxes().at(0); }
 
+  /// "closed", or the text and bounds of an edit box.
+  static std::string editing(const HeadlessTextBox& in) {
+    const Bounds& at = in.place();
+    return in.Visible() ? in.Text() + " (" + textOf(at.Left) + ", " + textOf(at.Top) + ") " +
+                              textOf(at.Width) + "x" + textOf(at.Height)
+                        : "closed";
+  }
+
   // ---- the host ----
 
   std::function<void()> onPropertyChanged = [] {};
-  std::function<void(Variant&)> onWrongIndex = [](Variant&) {};
+  std::function<void(Variant&)> onWrongIndex = [](Variant& Index) { Index = 0; };
   std::function<void(const std::string& event)> onEvent = [](const std::string&) {};
   std::optional<std::int16_t> newButton;   ///< the button set by the MouseDown handler
   std::optional<std::int16_t> newKeyCode;  ///< the key code set by the KeyDown handler

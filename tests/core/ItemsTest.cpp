@@ -1,27 +1,39 @@
-#include "../Lists.h"
-
-#include <functional>
+#include "../ListScript.h"
 
 namespace norvane {
 namespace {
 
-using Items = ListTest;
+// clang-format off
+const Scenario scenarios[] = {
+  {"an index that is no number leaves the item at the end",
+   "clear; add 'a' 'b'; insert 'x' 'front'; reports; texts; width; silent; insert 'y' 'front';"
+   "texts; width", "13 ItemsAdd / <a b > / 15 / <a b  y> / 19"},
+  {"removing leaves the numbers as they were",
+   "clear; add 'a' 'b' 'c' 'd'; remove '1' 2; texts; remove -1 2 'x' 1.1; texts; new; index;"
+   "remove 0 0; index", "<a c> / <a c> / 3 / -1 / 0"},
+  {"removing yields once a moved item", "AutoRedraw 0; posts 5; remove 0; texts; waiting; loop",
+   "<1 2 3 4> / 1 / 3"},
+  {"a handler clears while an item is removed",
+   "AutoRedraw 0; posts 2; post clear; remove 0; drain; texts", "<>"},
+  {"a handler removes while an item is removed",
+   "AutoRedraw 0; posts 2; post remove 4; remove 0; drain; texts", "<1 2 3>"},
+  {"a handler adds while an item is removed",
+   "AutoRedraw 0; posts 2; post add 'x'; remove 0; drain; texts", "<1 2 3 4 x>"},
+  {"a handler fails while an item is removed",
+   "AutoRedraw 0; posts 2; post throw; remove 0; reports; silent; post throw; remove 0; count",
+   "1000 ItemsRemove / 4"},
+  {"a repaint in a yield moves the shared position", "post redraw; remove 0; texts", "<1 1 2 3>"},
+  {"sorts by the bytes of the texts",
+   "clear; AutoRedraw 0; add 'b' 'a' 'C' '10' '9' '\u00e4'; forget; sort 1; texts; sort 2; texts;"
+   "events", "<10 9 C a b \u00e4> / <\u00e4 b a C 9 10> / **"},
+};
+// clang-format on
 
-TEST_F(Items, AnAddedItemHasEveryFieldWritten) {
-  list.ItemsAdd(1.5, -1, nullptr, nullptr, true, 1, 2, true, cRight, 3, 4, false, 5, "6", 7, true,
-                false, true, 8);
-  const ListItem& full = item(0);
-  EXPECT_EQ(full.Text, "1.5");
-  EXPECT_TRUE(full.Checked && full.AllowEdit && full.Bold && full.Underline);
-  EXPECT_FALSE(full.Enabled || full.Italic || full.Selected);
-  int each = 0;
-  for (const Variant& field :
-       {full.ForeColor, full.BackColor, full.ForeColorSelect, full.BackColorSelect, full.Tag,
-        Variant(full.ForeColorDis), Variant(full.BackColorDis)})
-    EXPECT_EQ(field.toInt32(), ++each);
-  EXPECT_EQ(full.Alignment, cRight);
-  EXPECT_EQ(full.Key, "8");
-}
+using ItemScenarios = ListScript;
+TEST_P(ItemScenarios, GiveTheirOutputs) { check(); }
+INSTANTIATE_TEST_SUITE_P(Core, ItemScenarios, testing::ValuesIn(scenarios), nameOf);
+
+using Items = ListTest;
 
 TEST_F(Items, AnIndexSaysWhereAnItemGoes) {
   struct Case {
@@ -44,19 +56,6 @@ TEST_F(Items, AnIndexSaysWhereAnItemGoes) {
   EXPECT_EQ(reports(), "");
 }
 
-TEST_F(Items, AnIndexThatIsNoNumberLeavesTheItemAtTheEnd) {
-  add({"a", "b"});
-  list.ItemsAdd("x", "front");
-  EXPECT_EQ(reports(), "13 ItemsAdd");
-  EXPECT_EQ(item(2).Text, "");
-
-  silent();
-  const std::int32_t width = list.state().MaxItemWidth;
-  list.ItemsAdd("y", "front");
-  EXPECT_EQ(texts(), "a b  y");
-  EXPECT_EQ(list.state().MaxItemWidth, width + 4);
-}
-
 TEST_F(Items, OnlyAutoRedrawDropsTheCurrentItem) {
   list.AutoRedraw(false);
   add({"a", "b"});
@@ -73,57 +72,6 @@ TEST_F(Items, MassAddingStopsPaintingPastTheLimit) {
   const int before = headless.surface().frames();
   for (int i = 0; i < 50; ++i) list.ItemsAdd(i);
   EXPECT_EQ(headless.surface().frames() - before, 20);
-}
-
-TEST_F(Items, RemovingKeepsTheOthersAndTheIndexesAsTheyWere) {
-  add({"a", "b", "c", "d"});
-  Variant index = "1";
-  list.ItemsRemove(index);
-  EXPECT_EQ(index.type(), Variant::Type::Int32);
-  list.ItemsRemove(2);
-  EXPECT_EQ(texts(), "a c");
-  for (const Variant& none : {Variant(-1), Variant(2), Variant("x"), Variant(1.1)})
-    list.ItemsRemove(Variant(none));
-  EXPECT_EQ(texts(), "a c");
-  EXPECT_EQ(list.NewIndex(), 3);
-  EXPECT_EQ(list.ListIndex(), -1);
-  for (int i = 0; i < 2; ++i) list.ItemsRemove(0);
-  EXPECT_EQ(list.ListIndex(), 0);
-}
-
-TEST_F(Items, RemovingYieldsOnceAMovedItem) {
-  list.AutoRedraw(false);
-  add({"a", "b", "c", "d", "e"});
-  for (int i = 0; i < 4; ++i) headless.container().post({});
-  headless.container().post([&] { FAIL() << "one yield too many"; });
-  list.ItemsRemove(0);
-  EXPECT_EQ(texts(), "b c d e");
-  EXPECT_EQ(headless.container().waiting(), 1U);
-  EXPECT_EQ(list.state().LoopIndex, 3);
-}
-
-TEST_F(Items, HandlersInAYieldMayDoWhatTheyLike) {
-  list.AutoRedraw(false);
-  const auto disturb = [&](const std::function<void()>& message) {
-    list.ItemsClear();
-    add({"a", "b", "c", "d", "e", "f"});
-    for (int i = 0; i < 2; ++i) headless.container().post({});
-    headless.container().post(message);
-    list.ItemsRemove(0);
-    list.ItemsCheckCount();
-    while (headless.container().waiting()) headless.container().DoEvents();
-    return list.ItemsCount();
-  };
-  EXPECT_EQ(disturb([&] { list.ItemsClear(); }), 0);
-  EXPECT_EQ(disturb([&] { list.ItemsRemove(5); }), 4);
-  EXPECT_EQ(disturb([&] { list.ItemsAdd("x"); }), 6);
-  EXPECT_EQ(texts(), "b c d e f x");
-  EXPECT_EQ(reports(), "");
-  disturb([] { throw 7; });
-  disturb([] { throw Failure(1000, "own"); });
-  EXPECT_EQ(reports(), "440 ItemsRemove, 1000 ItemsRemove");
-  silent();
-  EXPECT_EQ(disturb([] { throw std::bad_alloc(); }), 5);
 }
 
 TEST_F(Items, AHostMayComeBackAsItsObjectsGo) {
@@ -145,13 +93,6 @@ TEST_F(Items, AHostMayComeBackAsItsObjectsGo) {
   list.ItemTag(0, 1);
   EXPECT_EQ(list.ItemsCount(), 0);
   EXPECT_EQ(reports(), "");
-}
-
-TEST_F(Items, ARepaintInAYieldMovesTheSharedPosition) {
-  add({"a", "b", "c", "d"});
-  headless.container().post([&] { list.Redraw(); });
-  list.ItemsRemove(0);
-  EXPECT_EQ(texts(), "b b c");
 }
 
 TEST_F(Items, CountsYieldOnceAnItemAndSeeTheListChange) {

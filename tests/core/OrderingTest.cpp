@@ -103,21 +103,6 @@ class Ordering : public ListTest {
   int changes = 0;
 };
 
-TEST_F(Ordering, SortsByTextAndPaints) {
-  list.ItemsAdd("b");
-  list.ItemsAdd("x", "front");
-  EXPECT_EQ(reports(), "13 ItemsAdd");
-  list.Sort(cAscending);
-  EXPECT_EQ(texts(), " b");
-
-  fill({"b", "a", "C", "10", "9", "\u00e4"}, false);
-  list.Sort(cAscending);
-  EXPECT_EQ(texts(), "10 9 C a b \u00e4");
-  list.Sort(cDescending);
-  EXPECT_EQ(texts(), "\u00e4 b a C 9 10");
-  EXPECT_EQ(painted(), 2);
-}
-
 TEST_F(Ordering, ASortMovesItemsAndMarksButNoNumbers) {
   fill({"same", "same", "first", "same", "same", "same"}, false);
   list.TopIndex(2);

@@ -1,90 +1,69 @@
-#include "../HearingList.h"
-
-#include <limits>
+#include "../ListScript.h"
 
 namespace norvane {
 namespace {
 
-class Selection : public HearingListTest {
- protected:
-  void select(std::initializer_list<int> indexes) {
-    for (const int index : indexes) list.ItemSelected(index, true);
-  }
+// clang-format off
+const Scenario scenarios[] = {
+  {"nothing is current in an empty list",
+   "clear; forget; setIndex 0; setIndex 5; setIndex -1; events", ""},
+  {"what cannot be current is refused",
+   "fill 3; disable 1; setIndex 2; forget; setIndex 3; setIndex -1; setIndex 1;"
+   "setIndex 2147483647; outcome", "(3)(-1)(1)(2147483647) | 2: 2"},
+  {"a handler of a refusal makes another item current",
+   "setIndex 2; onWrongIndex setIndex 4; setIndex 9; now", "4: 4"},
+  {"a handler of a refusal fails",
+   "setIndex 2; onWrongIndex throw; setIndex 9; now; reports", "2: 2 / 1000 ListIndex"},
+  {"a handler of a refusal clears the list",
+   "setIndex 2; onWrongIndex clear; setIndex 9; now", "0: "},
+  {"the current item is selected alone",
+   "MultiSelect 1; select 0 1 3; forget; setIndex 1; outcome; select 0 1 3; forget; setIndex 1;"
+   "outcome; AutoRedraw 0; setIndex 1; events; on ListIndex throw; setIndex 2; reports; now",
+   "ListIndex* | 1: 1 / ListIndex* | 1: 1 / AutoRedraw ListIndex / 1000 ListIndex / 2: 2"},
+  {"the current item scrolls into the window",
+   "fill 100; setTop 0; forget; setIndex 50; events; top; setTop 0; setIndex 95; top;"
+   "setTop 0; setIndex 10; top; setTop 0; setIndex 89; top; setTop 50; setIndex 49; top;"
+   "setTop 50; forget; setIndex 59; events; top",
+   "ListIndex TopIndex** / 50 / 86 / 10 / 80 / 49 / ListIndex* / 50"},
+  {"selecting an item stores the truth value as the current index",
+   "setIndex 1; forget; select 4; outcome; deselect 1; index", "ItemSelected* | -1: 1 4 / 0"},
+  {"a selected item scrolls into the window",
+   "fill 100; select 9; top; select 95; top; setTop 50; select '49'; top; setTop 50; deselect 70;"
+   "top; AutoCheckScroll 0; fill 20; select 3; top", "0 / 90 / 49 / 50 / 3"},
+  {"a bad index is a failure",
+   "select 'x'; isSelected 'x'; select 5; isSelected 5; events; reports",
+   "no / no / 13 ItemSelected, 13 ItemSelected, 9 ItemSelected, 9 ItemSelected"},
+  {"a mark is found again after a removal", "AutoRedraw 0; select 4; remove 0; setIndex 0; now",
+   "0: 1"},
+  {"a mark is found again after an insertion",
+   "AutoRedraw 0; select 4; remove 4; select 1; insert 'x' 1; setIndex 0; now", "0: 0"},
+  {"marks are found again after one is cleared",
+   "AutoRedraw 0; select 1 3; deselect 3; setIndex 0; now", "0: 0"},
+  {"the mark of the slot of an empty list is found again",
+   "AutoRedraw 0; clear; select 0; add 'a'; select 0; setIndex 0; now", "0: a"},
+  // The yields of a removal come first, then one for each item and two at the end: 15 + 14 + 42.
+  {"removing the selected goes to the top",
+   "fill 40; setTop 20; select 24 25; posts 72; forget; removeSelected; waiting; events; top",
+   "1 / ** TopIndex** / 0"},
+  {"a handler adds at the end while the selected are removed",
+   "fill 4; AutoRedraw 0; select 2 3; post add 'end'; removeSelected; texts", "<0 1 end>"},
+  {"a handler adds at the start while the selected are removed",
+   "fill 4; AutoRedraw 0; select 2 3; post insert 'x' 0; removeSelected; texts", "<x 0 1 2 3>"},
+  {"a handler clears while the selected are removed",
+   "fill 4; AutoRedraw 0; select 2 3; post clear; removeSelected; texts", "<>"},
+  {"a handler removes while the selected are removed",
+   "fill 4; AutoRedraw 0; select 2 3; post remove 0; removeSelected; texts; reports",
+   "<1> / 9 ItemsSelectedRemove"},
 };
+// clang-format on
 
-TEST_F(Selection, WhatCannotBeCurrentIsRefused) {
-  heard();
-  for (const int index : {0, 5, -1}) list.ListIndex(index);
-  EXPECT_EQ(heard(), "");
+using Selection = ListScript;
+TEST_P(Selection, GivesItsOutputs) { check(); }
+INSTANTIATE_TEST_SUITE_P(Core, Selection, testing::ValuesIn(scenarios), nameOf);
 
-  fill(3);
-  list.ItemEnabled(1, false);
-  list.ListIndex(2);
-  heard();
-  onWrongIndex = [](Variant& Index) { Index = 0; };
-  for (const int index : {3, -1, 1, std::numeric_limits<std::int32_t>::max()})
-    list.ListIndex(index);
-  EXPECT_EQ(heard(), "(3)(-1)(1)(2147483647)");
-  EXPECT_EQ(list.ListIndex(), 2);
-  EXPECT_EQ(selected(), "2");
-}
-
-TEST_F(Selection, AHandlerOfARefusalMayDoWhatItLikes) {
-  fill(5);
-  const auto refuse = [&](std::function<void(Variant&)> handler) {
-    list.ListIndex(2);
-    onWrongIndex = std::move(handler);
-    list.ListIndex(9);
-    return now();
-  };
-  EXPECT_EQ(refuse([&](Variant&) { list.ListIndex(4); }), "4: 4");
-  EXPECT_EQ(refuse([&](Variant& Index) {
-              if (Index.toInt32() < 20) list.ListIndex(Index.toInt32() + 1);
-            }),
-            "2: 2");
-  EXPECT_EQ(refuse([](Variant&) { throw Failure(1000, "own"); }), "2: 2");
-  EXPECT_EQ(reports(), "1000 ListIndex");
-  EXPECT_EQ(refuse([&](Variant&) { list.ItemsClear(); }), "0: ");
-}
-
-TEST_F(Selection, TheCurrentItemIsSelectedAlone) {
-  fill(5);
-  list.MultiSelect(true);
-  for (int i = 0; i < 2; ++i) {
-    select({0, 1, 3});
-    EXPECT_EQ(selected(), "0 1 3");
-    heard();
-    list.ListIndex(1);
-    EXPECT_EQ(selected(), "1");
-    EXPECT_EQ(heard(), "ListIndex*");
-  }
-  list.AutoRedraw(false);
-  list.ListIndex(1);
-  EXPECT_EQ(heard(), "AutoRedraw ListIndex");
-
-  onPropertyChanged = [] { throw Failure(1000, "own"); };
-  list.ListIndex(2);
-  EXPECT_EQ(reports(), "1000 ListIndex");
-  EXPECT_EQ(selected(), "2");
-}
-
-TEST_F(Selection, TheCurrentItemScrollsIntoTheWindow) {
-  fill(100);
-  ASSERT_EQ(list.VisibleItems(), 10);
-  const struct {
-    int top, index, newTop;
-  } cases[] = {{0, 50, 50}, {0, 95, 86}, {0, 10, 10}, {0, 89, 80}, {50, 49, 49}, {50, 59, 50}};
-  for (const auto& c : cases) {
-    list.TopIndex(c.top);
-    heard();
-    list.ListIndex(c.index);
-    EXPECT_EQ(list.TopIndex(), c.newTop) << c.top << " " << c.index;
-    EXPECT_EQ(heard(), c.top == c.newTop ? "ListIndex*" : "ListIndex TopIndex**");
-  }
-}
-
-TEST_F(Selection, AnAssignmentWithoutScrollArmsTheNext) {
+TEST(SelectionTest, AnAssignmentWithoutScrollArmsTheNext) {
   // A list that was never started is not armed.
+  HeadlessApplication application;
   HeadlessContainer place(200, 133);
   nvList own(place);
   for (int i = 0; i < 100; ++i) own.ItemsAdd(i);
@@ -95,65 +74,7 @@ TEST_F(Selection, AnAssignmentWithoutScrollArmsTheNext) {
   EXPECT_EQ(own.TopIndex(), 50);
 }
 
-TEST_F(Selection, SelectingAnItemStoresTheTruthValueAsListIndex) {
-  fill(100);
-  list.ListIndex(1);
-  heard();
-  select({5});
-  EXPECT_EQ(list.ListIndex(), -1);
-  EXPECT_EQ(selected(), "1 5");
-  EXPECT_EQ(heard(), "ItemSelected*");
-  list.ItemSelected(1, false);
-  EXPECT_EQ(list.ListIndex(), 0);
-
-  const struct {
-    int top;
-    Variant index;
-    bool value;
-    int newTop;
-  } cases[] = {{0, 9, true, 0}, {0, 95, true, 90}, {50, "49", true, 49}, {50, 70, false, 50}};
-  for (const auto& c : cases) {
-    list.TopIndex(c.top);
-    list.ItemSelected(c.index, c.value);
-    EXPECT_EQ(list.TopIndex(), c.newTop) << c.top << " " << c.index.toText();
-  }
-  // The visible rows follow the bar, whose value a corrected TopIndex does not change.
-  list.AutoCheckScroll(false);
-  fill(20);
-  select({3});
-  EXPECT_EQ(list.TopIndex(), 3);
-}
-
-TEST_F(Selection, ABadIndexIsAFailure) {
-  fill(100);
-  for (const Variant& bad : {Variant("x"), Variant(100)}) {
-    const std::string report = bad.isText() ? "13 ItemSelected" : "9 ItemSelected";
-    heard();
-    list.ItemSelected(bad, true);
-    EXPECT_FALSE(list.ItemSelected(bad));
-    EXPECT_EQ(reports(), report + ", " + report);
-    EXPECT_EQ(heard(), "");
-  }
-}
-
-TEST_F(Selection, EveryMarkIsFoundAgain) {
-  const std::function<void()> cases[] = {
-      [&] { select({4}), list.ItemsRemove(0); },
-      [&] { select({4}), list.ItemsRemove(4), select({1}), list.ItemsAdd("x", 1); },
-      [&] {
-        select({1, 3}), list.ItemSelected(3, false);
-      },
-      [&] { list.ItemsClear(), select({0}), list.ItemsAdd("a"), select({0}); }};
-  for (const auto& prepare : cases) {
-    fill(5);
-    list.AutoRedraw(false);
-    prepare();
-    list.ListIndex(0);
-    EXPECT_EQ(selected(), item(0).Text) << &prepare - cases;
-  }
-}
-
-TEST_F(Selection, RemovingTheSelectedLeavesTheOthersAndGoesToTheTop) {
+TEST_F(HearingListTest, RemovingTheSelectedLeavesTheOthers) {
   for (int set = 0; set < 1 << 5; ++set) {
     fill(5);
     list.AutoRedraw(set % 3 != 0);
@@ -164,35 +85,6 @@ TEST_F(Selection, RemovingTheSelectedLeavesTheOthersAndGoesToTheTop) {
     list.ItemsSelectedRemove();
     EXPECT_EQ(texts(), others);
   }
-  fill(40);
-  list.TopIndex(20);
-  select({24, 25});
-  // The yields of a removal come first, then one for each item and two at the end.
-  for (int i = 0; i < 15 + 14 + 40 + 2 + 1; ++i) headless.container().post({});
-  heard();
-  list.ItemsSelectedRemove();
-  EXPECT_EQ(headless.container().waiting(), 1U);
-  EXPECT_EQ(heard(), "** TopIndex**");
-  EXPECT_EQ(list.TopIndex(), 0);
-}
-
-TEST_F(Selection, HandlersMoveTheSweep) {
-  const auto disturb = [&](std::function<void()> handler) {
-    fill(4);
-    list.AutoRedraw(false);
-    select({2, 3});
-    headless.container().post(std::move(handler));
-    list.ItemsSelectedRemove();
-    return texts();
-  };
-  EXPECT_EQ(disturb([&] { list.ItemsAdd("end"); }), "0 1 end");
-  EXPECT_EQ(disturb([&] { list.ItemsAdd("front", 0); }), "front 0 1 2 3");
-  EXPECT_EQ(disturb([&] { list.ItemsClear(); }), "");
-  EXPECT_EQ(reports(), "");
-  EXPECT_EQ(disturb([&] { list.ItemsRemove(0); }), "1");
-  EXPECT_EQ(reports(), "9 ItemsSelectedRemove");
-  silent();
-  EXPECT_EQ(disturb([&] { list.ItemsRemove(0); }), "1");
 }
 
 }  // namespace

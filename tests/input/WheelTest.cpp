@@ -66,25 +66,6 @@ TEST_F(WheelScrolls, TheBarByLinesAndAtTheEndsBySnapping) {
     EXPECT_EQ(list.verticalBar().Value(), c.newTop) << &c - cases;
     EXPECT_EQ(heard(), c.top == c.newTop ? "*" : moved) << &c - cases;
   }
-  list.WheelScrollLines(INT32_MAX);
-  list.TopIndex(3);
-  heard();
-  turn(-120);
-  EXPECT_EQ(reports(), "6 Wheel1_WheelScroll");
-  EXPECT_TRUE(list.state().SuppressRedraw.isTrue());
-}
-
-TEST_F(WheelScrolls, WhereNothingScrollsItStillPaints) {
-  turn(-120);
-  EXPECT_EQ(heard(), "");
-  fill(5);
-  turn(-120), turn(120);
-  EXPECT_EQ(heard(), "**");
-  fill(40);
-  list.WheelFunction(static_cast<cWheelFunction>(2));
-  heard();
-  turn(-120);
-  EXPECT_EQ(outcome(), "* | -1: ");
 }
 
 TEST_F(WheelScrolls, TheCurrentRow) {
@@ -112,36 +93,6 @@ TEST_F(WheelScrolls, TheCurrentRow) {
     turn(static_cast<std::int16_t>(c.delta));
     EXPECT_EQ(outcome(), c.outcome) << &c - cases;
   }
-}
-
-TEST_F(WheelScrolls, TheCurrentRowStaysInView) {
-  list.WheelFunction(cWheelListIndex);
-  fill(40);
-  list.ListIndex(9);
-  heard();
-  turn(-120);
-  EXPECT_EQ(outcome(), "ListIndex TopIndex Scroll* | 10: 10, top 10");
-  turn(120);
-  EXPECT_EQ(outcome(), "ListIndex TopIndex Scroll* | 9: 9, top 9");
-}
-
-TEST_F(WheelScrolls, AMessageMayComeInTheMiddleOfOne) {
-  fill(40);
-  HeadlessContainer& form = headless.container();
-  form.post([&] { turn(-120); });
-  turn(-120);
-  EXPECT_EQ(outcome(), "* Scroll Scroll** Scroll Scroll* | -1: , top 2");
-  list.WheelFunction(cWheelListIndex);
-  list.ListIndex(20);
-  disable({21, 22});
-  heard();
-  form.post([&] { turn(-120); });
-  turn(-120);
-  EXPECT_EQ(outcome(), "ListIndex Scroll* ListIndex* Scroll* | 23: 23, top 20");
-  form.post([&] { list.ItemsClear(); });
-  turn(-120);
-  EXPECT_EQ(now(), "0: , top 20");
-  EXPECT_EQ(reports(), "");
 }
 
 }  // namespace

@@ -1,0 +1,195 @@
+#pragma once
+
+#include "HearingList.h"
+
+#include <algorithm>
+#include <sstream>
+
+#include <nvlist/core/storedProperties.h>
+#include <nvlist/values/text.h>
+
+namespace norvane {
+
+/// A script and the outputs of its commands.
+struct Scenario {
+  const char* name;
+  const char* script;
+  const char* expected;
+
+  friend std::ostream& operator<<(std::ostream& out, const Scenario& scenario) {
+    return out << scenario.name;
+  }
+};
+
+/// A list of five items that is driven by scripts.
+class ListScript : public HearingListTest, public testing::WithParamInterface<Scenario> {
+ protected:
+  ListScript() { fill(5); }
+
+  /// Runs the commands of a script, separated by semicolons, and returns their outputs. Rows are
+  /// those of the window. The name of a stored property sets that property. A value is a number, a
+  /// 'text' or @, which is empty.
+  std::string run(const std::string& script) {
+    std::istringstream commands(script);
+    std::string outputs;
+    for (std::string command; std::getline(commands, command, ';');) {
+      std::istringstream in(command);
+      std::vector<std::string> words;
+      std::string verb, rest;
+      std::getline(in >> verb >> std::ws, rest);
+      std::istringstream arguments(rest);
+      for (std::string word; arguments >> word;) words.push_back(word);
+      const std::string output = perform(verb, words, rest);
+      if (!output.empty()) outputs += (outputs.empty() ? "" : " / ") + output;
+    }
+    return outputs;
+  }
+
+  void check() {
+    EXPECT_EQ(run(GetParam().script), GetParam().expected);
+    EXPECT_EQ(reports(), "");
+  }
+
+  HeadlessContainer& form = headless.container();
+
+ private:
+  using Words = std::vector<std::string>;
+
+  static Variant valueOf(const std::string& word) {
+    if (word == "@") return {};
+    if (word[0] == '\'') return word.substr(1, word.size() - 2);
+    const double number = numberOf(word).value();
+    const auto whole = static_cast<std::int32_t>(number);
+    return whole == number ? Variant(whole) : Variant(static_cast<float>(number));
+  }
+  std::string perform(const std::string& verb, const Words& words, const std::string& rest) {
+    const auto real = [&](std::size_t i, float otherwise = 0) {
+      return i < words.size() ? static_cast<float>(numberOf(words[i]).value_or(0)) : otherwise;
+    };
+    const auto number = [&](std::size_t i, float otherwise = 0) {
+      return static_cast<std::int16_t>(std::clamp(real(i, otherwise), -32768.0F, 32767.0F));
+    };
+    const auto value = [&](std::size_t i) { return valueOf(words.at(i)); };
+    const auto each = [&](const std::function<void(const Variant&)>& act) {
+      for (const std::string& word : words) act(valueOf(word));
+    };
+    std::int16_t code = number(0);
+    // clang-format off
+    // The host.
+    if (verb == "fill") fill(code);
+    else if (verb == "clear") list.ItemsClear();
+    else if (verb == "add") each([&](auto& text) { list.ItemsAdd(text); });
+    else if (verb == "insert") list.ItemsAdd(value(0), value(1));
+    else if (verb == "remove") each([&](auto& index) { list.ItemsRemove(Variant(index)); });
+    else if (verb == "removeSelected") list.ItemsSelectedRemove();
+    else if (verb == "setIndex") list.ListIndex(value(0).toInt32());
+    else if (verb == "setTop") list.TopIndex(value(0).toInt32());
+    else if (verb == "disable") each([&](auto& index) { list.ItemEnabled(index, false); });
+    else if (verb == "editable") each([&](auto& index) { list.ItemAllowEdit(index, true); });
+    else if (verb == "select") each([&](auto& index) { list.ItemSelected(index, true); });
+    else if (verb == "deselect") each([&](auto& index) { list.ItemSelected(index, false); });
+    else if (verb == "edit") list.SetEdit(value(0));
+    else if (verb == "sort") list.Sort(static_cast<cSortMode>(code));
+    else if (verb == "measure") list.AutoCheckScroll(true);
+    else if (verb == "redraw") list.Redraw();
+    else if (verb == "silent") Error().SilentError(number(0, 1) != 0);
+    else if (verb == "resize") headless.resize(real(0), real(1));
+    else if (const auto* property = storedProperty(verb)) property->set(list, value(0));
+    // The hand: a row, and Shift or the buttons; a point, a button and Shift; a key and Shift.
+    else if (verb == "press") press(code, number(1));
+    else if (verb == "drag") drag(code, number(1, 1));
+    else if (verb == "release") release(code);
+    else if (verb == "click") click(code, number(1));
+    else if (verb == "check") click(code, 0, inZone);
+    else if (verb == "double") doubleClick(code);
+    else if (verb == "pressAt") form.press(real(0), real(1), number(2, 1), number(3));
+    else if (verb == "moveTo") form.moveTo(real(0), real(1), number(2), number(3));
+    else if (verb == "releaseAt") form.release(real(0), real(1), number(2, 1));
+    else if (verb == "wheel") EXPECT_TRUE(form.turnWheel(code));
+    else if (verb == "wait") wait(code);
+    else if (verb == "key") lastCode = textOf(int{key(code, number(1))});
+    else if (verb == "keyUp") list.UserControl_KeyUp(code, number(1));
+    else if (verb == "keyPress") list.UserControl_KeyPress(code);
+    else if (verb == "enter") list.UserControl_EnterFocus();
+    else if (verb == "leave") list.UserControl_LostFocus();
+    else if (verb == "ambient") list.UserControl_AmbientChanged(rest);
+    else if (verb == "type") box().typeText(rest);
+    else if (verb == "character") return box().typeCharacter(code) ? "kept" : "taken";
+    // What happens in events and messages: "throw", or a command.
+    else if (verb == "posts") for (int i = 0; i < code; ++i) form.post({});
+    else if (verb == "drain") while (form.waiting() > 0) form.DoEvents();
+    else if (verb == "post") form.post([this, rest] { obey(rest); });
+    else if (verb == "on")
+      onEvent = [this, event = words.at(0), deed = rest.substr(words[0].size() + 1)](auto& heard) {
+        if (heard.starts_with(event)) obey(deed);
+      };
+    else if (verb == "onWrongIndex") onWrongIndex = [this, rest](Variant&) { obey(rest); };
+    else if (verb == "cancel") cancel = Boolean::ofNumber(code);
+    else if (verb == "newButton") newButton = code;
+    else if (verb == "newKeyCode") newKeyCode = code;
+    // Outputs. `ticks` counts the repaints in the next milliseconds; `face` takes the beginning of
+    // the calls it outputs.
+    else if (verb == "forget") heard();
+    else if (verb == "events") return heard();
+    else if (verb == "now") return now();
+    else if (verb == "outcome") return outcome();
+    else if (verb == "reports") return reports();
+    else if (verb == "texts") return "<" + texts() + ">";
+    else if (verb == "index") return textOf(list.ListIndex());
+    else if (verb == "top") return textOf(list.TopIndex());
+    else if (verb == "bar") return textOf(list.verticalBar().Value());
+    else if (verb == "new") return textOf(list.NewIndex());
+    else if (verb == "isSelected") return list.ItemSelected(value(0)) ? "yes" : "no";
+    else if (verb == "visible") return textOf(list.VisibleItems());
+    else if (verb == "rows") return rows();
+    else if (verb == "count") return textOf(list.ItemsCount());
+    else if (verb == "loop") return textOf(list.state().LoopIndex);
+    else if (verb == "anchor") return textOf(list.state().SelectAnchor);
+    else if (verb == "hover") return textOf(list.state().HoverIndex);
+    else if (verb == "width") return textOf(list.state().MaxItemWidth);
+    else if (verb == "suppressed") return list.state().SuppressRedraw ? "yes" : "no";
+    else if (verb == "focus") return list.state().HasFocus ? "yes" : "no";
+    else if (verb == "held")
+      return std::string(list.state().ShiftDown ? "Shift" : "") + (list.state().CtrlDown ? "Ctrl" : "");
+    else if (verb == "code") return lastCode;
+    else if (verb == "waiting") return std::to_string(form.waiting());
+    else if (verb == "editing") return editing(box());
+    else if (verb == "ticks") {
+      heard(), wait(code);
+      return std::to_string(std::ranges::count(heard(), '*'));
+    } else if (verb == "face") return face(rest);
+    else ADD_FAILURE() << "no verb " << verb;
+    // clang-format on
+    return "";
+  }
+  void obey(const std::string& deed) {
+    if (deed == "throw") throw Failure(1000, "own");
+    run(deed);
+  }
+  /// The texts drawn, each with its top edge: "<a@3 b@16>".
+  std::string rows() {
+    std::string result;
+    for (const SurfaceCall& call : headless.surface().image().calls)
+      if (const auto* text = std::get_if<calls::DrawTextA>(&call))
+        result += (result.empty() ? "" : " ") + text->text + "@" + textOf(text->rectangle.Top);
+    return "<" + result + ">";
+  }
+  std::string face(const std::string& beginning) {
+    std::string result;
+    forEachLine(headless.face(), [&](std::string_view line) {
+      if (line.starts_with(beginning)) result += (result.empty() ? "" : ", ") + std::string(line);
+      return true;
+    });
+    return "<" + result + ">";
+  }
+
+  std::string lastCode;
+};
+
+inline std::string nameOf(const testing::TestParamInfo<Scenario>& test) {
+  std::string name = test.param.name;
+  std::ranges::replace(name, ' ', '_');
+  return name;
+}
+
+}  // namespace norvane
