@@ -1,5 +1,5 @@
-# What `cmake --install` installs: the libraries with their public headers, the CMake package nvList
-# and a pkg-config file for each library except the one for databases.
+# What `cmake --install` installs: the libraries with their public headers, the CMake package nvList,
+# a pkg-config file for each library except the one for databases, and the command nvlist-tool.
 include(CMakePackageConfigHelpers)
 include(GNUInstallDirs)
 
@@ -27,6 +27,16 @@ file(RELATIVE_PATH prefix_from_pkgconfig
 set(components)
 install_library(nvlist nvlist)
 install_pkg_config(nvlist "${PROJECT_DESCRIPTION}" "")
+if(TARGET nvlist_json)
+  list(APPEND components json)
+  install_library(nvlist_json json)
+  # A static library leaves it to its users to link what it uses itself.
+  set(json_requires "nvlist = ${PROJECT_VERSION}")
+  if(NOT BUILD_SHARED_LIBS)
+    string(APPEND json_requires ", simdjson")
+  endif()
+  install_pkg_config(nvlist_json "Lists as JSON Lines" "${json_requires}")
+endif()
 if(TARGET nvlist_qt)
   list(APPEND components qt)
   install_library(nvlist_qt qt)

@@ -140,6 +140,10 @@ class nvList final : public UserControl,
                 Variant aKey = "");
   /// The same with named arguments.
   void ItemsAdd(NewItem values);
+  /// Appends an item with exactly these fields, for readers of files. Nothing else changes, not
+  /// even NewIndex: the item is neither measured nor painted. Call AutoCheckScroll and AutoRedraw
+  /// with true after the last one.
+  void ItemsAppend(ListItem added);
 
   /// Removes one item and sets `Index` to the rounded 32-bit index. A bad index is ignored without
   /// a report; the bounds are checked before rounding. ListIndex, TopIndex, NewIndex and the anchor

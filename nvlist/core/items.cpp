@@ -116,6 +116,22 @@ void nvList::writeFields(Trap& on, StoredItem& item, NewItem& values) {
   on.step([&] { item.Key(textOf(values.aKey)); });
 }
 
+void nvList::ItemsAppend(ListItem added) {
+  trapped(here, "ItemsAppend", [&](Trap& on) {
+    on.step([&] {
+      ItemStore& items = state_.Items;
+      if (state_.ItemsDimensioned)
+        items.grow();
+      else
+        items.reset();
+      state_.ItemsDimensioned = true;
+      const Boolean isSelected = added.Selected;
+      items.assign(items.upperBound(), std::move(added));
+      if (isSelected) state_.Selection.set(items, items.upperBound(), isSelected);
+    });
+  });
+}
+
 /// Shifts the references from the next whole index on up by one slot, and stores the last item at
 /// the rounded index. A fraction that is rounded down overwrites an item that was not shifted.
 void nvList::moveLastTo(double index) {

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <functional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include <nvlist/core/ListItem.h>
+#include <nvlist/json/values.h>
+
+namespace norvane::json {
+
+/// The last few of the pictures that were converted. Neighbouring items often have the same icon,
+/// which is then encoded once, and still one picture after loading.
+class RecentPictures {
+ public:
+  /// The file of a picture in base64; empty if it has no file. Valid until the next call.
+  const std::string& textOf(const Picture& picture);
+  /// The picture whose file is given in base64. Throws Unsuitable if it is no picture.
+  Picture pictureOf(std::string_view text);
+
+ private:
+  struct Entry {
+    Picture picture;
+    std::string text;
+  };
+  Entry& next() { return entries_[next_++ % entries_.size()]; }
+
+  std::array<Entry, 8> entries_;
+  std::size_t next_ = 0;
+};
+
+/// A field of an item.
+struct ItemField {
+  std::string_view name;
+  /// Appends the value. Returns false if it was left out and null was written.
+  bool (*append)(std::string& out, const ListItem& item, RecentPictures& pictures);
+  /// Sets the field. Throws Unsuitable for a value that it cannot take.
+  void (*read)(ListItem& item, const Element& value, RecentPictures& pictures);
+  bool (*isSame)(const ListItem& a, const ListItem& b);
+};
+
+/// All fields in the order in which they are written.
+std::span<const ItemField> itemFields();
+
+/// The fields of an item that is added without arguments.
+ListItem newItem();
+
+}  // namespace norvane::json

@@ -1,0 +1,343 @@
+#include <nvlist/json/JsonLines.h>
+
+#include <bit>
+#include <limits>
+#include <random>
+
+#include <nvlist/core/storedProperties.h>
+
+#include "../files/FileTest.h"
+
+namespace norvane {
+namespace {
+
+/// Files in memory whose pictures keep their bytes; the bytes "bad" are no picture.
+class PictureFiles final : public MemoryFiles {
+ public:
+  Picture loadPicture(std::vector<std::byte> file) override {
+    std::string bytes(reinterpret_cast<const char*>(file.data()), file.size());
+    if (bytes == "bad") throw Failure::invalidPicture();
+    return makeRef<BytePicture>(std::move(bytes));
+  }
+};
+
+std::string textOfVariant(const Variant& value) {
+  const std::string type = std::to_string(static_cast<int>(value.type())) + ":";
+  if (value.type() != Variant::Type::Single) return type + value.toText();
+  return type + std::to_string(std::bit_cast<std::uint32_t>(value.toSingle()));
+}
+
+/// Every field of an item.
+std::string textOfItem(const ListItem& item) {
+  std::string result = "[" + item.Text + "|" + item.Key + "|" + textOfVariant(item.Tag);
+  for (const Boolean flag : {item.Checked, item.Selected, item.Enabled, item.AllowEdit, item.Bold,
+                             item.Italic, item.Underline})
+    result += "|" + std::to_string(flag.number());
+  for (const std::int32_t number :
+       {std::int32_t{item.Alignment}, item.ForeColorDis, item.BackColorDis})
+    result += "|" + std::to_string(number);
+  for (const Variant& colour :
+       {item.ForeColor, item.BackColor, item.ForeColorSelect, item.BackColorSelect})
+    result += "|" + textOfVariant(colour);
+  return result + "|" + fileOf(item.Icon) + "|" + fileOf(item.IconSelected) + "]";
+}
+
+std::string textOfList(const nvList& list) {
+  std::string result;
+  for (std::int32_t i = 0; i < list.ItemsCount(); ++i)
+    result += textOfItem(list.state().Items.at(i)) + "\n";
+  return result;
+}
+
+class JsonLines : public ListTest {
+ protected:
+  JsonLines() { list.AutoRedraw(false); }
+
+  json::Result load(const std::string& file, const json::LoadOptions& options = {}) {
+    files.files["in"] = file;
+    return json::load(list, "in", options);
+  }
+  /// Saves the list and loads it into another one.
+  void expectSameAgain(json::Fields fields = json::Fields::all) {
+    EXPECT_EQ(json::save(list, "file", {.fields = fields}).problems, 0U);
+    const json::Result result = json::load(again.list(), "file");
+    EXPECT_EQ(result.problems, 0U) << (result.problems ? result.firstProblems[0].text : "");
+    EXPECT_TRUE(result.unknownFields.empty());
+    EXPECT_EQ(result.items, list.ItemsCount());
+    EXPECT_EQ(textOfList(again.list()), textOfList(list));
+    EXPECT_EQ(files.open, 0);
+  }
+  static std::string textOf(const json::Result& result) {
+    std::string text = std::to_string(result.items);
+    for (const json::Problem& problem : result.firstProblems)
+      text += "; " + std::to_string(problem.line) + " " +
+              problem.text.substr(0, problem.text.find(" ("));
+    for (const std::string& name : result.unknownFields) text += "; unknown " + name;
+    return text;
+  }
+
+  PictureFiles files;
+  HeadlessList again;
+};
+
+TEST_F(JsonLines, KeepsTextsInEveryScript) {
+  const char* const texts[] = {"Latin: Straße",
+                               "Ελληνικά",
+                               "Кириллица",
+                               "עברית",
+                               "العربية",
+                               "فارسی",
+                               "हिन्दी",
+                               "বাংলা",
+                               "ਪੰਜਾਬੀ",
+                               "ગુજરાતી",
+                               "ଓଡ଼ିଆ",
+                               "தமிழ்",
+                               "తెలుగు",
+                               "ಕನ್ನಡ",
+                               "മലയാളം",
+                               "සිංහල",
+                               "ไทย",
+                               "ລາວ",
+                               "བོད་ཡིག",
+                               "မြန်မာ",
+                               "ქართული",
+                               "Հայերեն",
+                               "አማርኛ",
+                               "ខ្មែរ",
+                               "ᠮᠣᠩᠭᠣᠯ",
+                               "中文",
+                               "日本語 カナ",
+                               "한국어",
+                               "ᏣᎳᎩ",
+                               "ᐃᓄᒃᑎᑐᑦ",
+                               "𐌲𐌿𐍄",
+                               "👩‍🚀🏳️‍🌈",
+                               "a\u202Eb\u2028c",
+                               "tab\tline\r\nquote\"back\\",
+                               "\x01\x1F\x7F",
+                               "\xFF\xC3(",
+                               "\xED\xA0\x80",
+                               "cut \xF0\x9F\x98",
+                               ""};
+  for (const std::string text : texts) {
+    ListItem item;
+    item.Text = item.Key = text;
+    item.Tag = text;
+    item.ForeColor = text;
+    list.ItemsAppend(item);
+  }
+  list.ItemsAppend({.Text = std::string("zero\0inside", 11)});
+  expectSameAgain();
+}
+
+TEST_F(JsonLines, KeepsEveryFieldOfRandomItems) {
+  std::mt19937 random(7);
+  const auto any = [&](auto... values) {
+    const Variant all[] = {Variant(values)...};
+    return all[random() % sizeof...(values)];
+  };
+  const auto flag = [&] {
+    return random() % 9 ? Boolean(random() % 2 == 0)
+                        : Boolean::ofNumber(static_cast<std::int16_t>(random()));
+  };
+  const auto number = [&] { return static_cast<std::int32_t>(random()); };
+  const auto variant = [&] {
+    return any("def", "", "#102030", "system 5", number(), number() & 0xFFFFFF,
+               static_cast<std::int16_t>(number()), true, false, Boolean::ofNumber(3),
+               systemColour(17), std::bit_cast<float>(number()), 2.0F, -0.0F, 1e-40F,
+               std::numeric_limits<float>::infinity(), Variant());
+  };
+  const auto colour = [&] { return random() % 2 ? systemColour(number() & 0xFF) : number(); };
+  const Picture pictures[] = {nullptr, makeRef<BytePicture>("a"),
+                              makeRef<BytePicture>(std::string("\0\xFF b", 4))};
+  for (int i = 0; i < 400; ++i) {
+    ListItem item{.Checked = flag(),
+                  .AllowEdit = flag(),
+                  .Enabled = flag(),
+                  .Selected = flag(),
+                  .Bold = flag(),
+                  .Italic = flag(),
+                  .Underline = flag(),
+                  .Alignment = static_cast<cItemAlignment>(random() % 4),
+                  .ForeColorDis = colour(),
+                  .BackColorDis = colour(),
+                  .ForeColor = variant(),
+                  .BackColor = variant(),
+                  .ForeColorSelect = variant(),
+                  .BackColorSelect = variant(),
+                  .Icon = pictures[random() % 3],
+                  .IconSelected = pictures[random() % 3],
+                  .Tag = variant()};
+    // NaN has many forms, of which one is kept.
+    for (Variant* value : {&item.ForeColor, &item.BackColor, &item.ForeColorSelect,
+                           &item.BackColorSelect, &item.Tag})
+      if (value->type() == Variant::Type::Single && std::isnan(value->toSingle()))
+        *value = std::numeric_limits<float>::quiet_NaN();
+    for (auto length = random() % 20; length > 0; --length)
+      item.Text += static_cast<char>(random() % 4 ? 'a' + random() % 26 : random());
+    list.ItemsAppend(item);
+  }
+  expectSameAgain(json::Fields::all);
+  const std::size_t whole = files.files["file"].size();
+  expectSameAgain(json::Fields::changed);
+  EXPECT_LT(files.files["file"].size(), whole);
+}
+
+TEST_F(JsonLines, KeepsTheProperties) {
+  list.ForeColor(systemColour(8));
+  list.ColorStyle(cCustom);
+  list.IndentLeft(-2.5F);
+  list.GridLines(Boolean::ofNumber(2));
+  auto font = makeRef<FontObject>();
+  font->Name = "Größe";
+  font->Size = 9.75F;
+  font->Strikethrough = true;
+  list.Font(font);
+  list.MinHeight(std::numeric_limits<float>::infinity());
+  expectSameAgain();
+  for (const StoredProperty& property : storedProperties()) {
+    const Variant before = property.get(list), after = property.get(again.list());
+    if (property.type == PropertyType::font)
+      EXPECT_TRUE(before.object()->isSame(*after.object()));
+    else
+      EXPECT_EQ(textOfVariant(before), textOfVariant(after)) << property.name;
+  }
+  again.list().ForeColor(1);
+  json::load(again.list(), "file", {.takesProperties = false});
+  EXPECT_EQ(again.list().ForeColor(), 1);
+}
+
+TEST_F(JsonLines, WritesPlainValues) {
+  list.ItemsAdd({.aText = "Vienna", .aForeColor = rgb(255, 128, 0), .aTag = 7});
+  json::save(list, "file", {.fields = json::Fields::changed});
+  const std::string& file = files.files["file"];
+  EXPECT_TRUE(file.starts_with("{\"nvList\":1,\"Items\":1,\"Properties\":{\"Font\":{\"Name\":"));
+  EXPECT_EQ(file.substr(file.find('\n') + 1),
+            "{\"Text\":\"Vienna\",\"Tag\":7,\"ForeColor\":\"#FF8000\"}\n");
+  json::save(list, "file");
+  EXPECT_NE(
+      file.find("\"ForeColorDis\":\"system 17\",\"BackColorDis\":\"system 22\",\"Icon\":null"),
+      std::string::npos);
+}
+
+struct Input {
+  const char* name;
+  const char* file;
+  const char* result;  ///< number of items, problems and unknown fields
+  const char* texts;
+};
+
+TEST_F(JsonLines, LeavesOutWhatItCannotRead) {
+  const Input inputs[] = {
+      {"empty", "", "0", ""},
+      {"blank lines and line ends", "\n{\"Text\":\"a\"}\r\n \n{\"Text\":\"b\"}", "2", "a b"},
+      {"byte order mark", "\xEF\xBB\xBF{\"Text\":\"a\"}", "1", "a"},
+      {"bad lines", "{\"Text\":\"a\"}\n{\"Text\":\n[1]\nnull\n{\"Text\":\"b\"}",
+       "2; 2 invalid JSON; 3 an object is needed; 4 an object is needed", "a b"},
+      {"invalid UTF-8", "{\"Text\":\"a\"}\n{\"Text\":\"\xFF\"}", "1; 2 invalid JSON", "a"},
+      {"unsuitable values",
+       "{\"Text\":5,\"Key\":\"k\",\"Icon\":\"YmFk\",\"IconSelected\":\"!\",\"Bold\":70000,"
+       "\"Alignment\":1.5,\"ForeColor\":\"red\",\"BackColorDis\":\"#12345\",\"Tag\":[]}",
+       "1; 1 Text: a text is needed; 1 Icon: the picture is invalid; 1 IconSelected: the base64 is "
+       "malformed; 1 Bold: true or false is needed; 1 Alignment: a whole number of 32 bits is "
+       "needed; 1 ForeColor: a colour is needed: \"#RRGGBB\", \"system N\" or a number; 1 "
+       "BackColorDis: a colour is needed: \"#RRGGBB\", \"system N\" or a number; 1 Tag: a text, a "
+       "number of 32 bits, true, false or null is needed",
+       ""},
+      {"unknown fields", "{\"nvList\":1,\"x\":1,\"Properties\":{\"y\":1}}\n{\"z\":{}}\n{\"z\":1}",
+       "2; unknown x; unknown y; unknown z", " "},
+      {"unsuitable properties",
+       "{\"nvList\":1,\"Properties\":{\"Font\":1,\"ForeColor\":\"x\",\"GridLines\":\"yes\","
+       "\"IconW\":\"wide\",\"Style\":3000000000}}",
+       "0; 1 Font: a font is needed; 1 ForeColor: a colour is needed: \"#RRGGBB\", \"system N\" or "
+       "a number; 1 GridLines: true or false is needed; 1 IconW: a number is needed; 1 Style: a "
+       "whole number of 32 bits is needed",
+       ""},
+      {"second header", "{\"nvList\":1}\n{\"Text\":\"a\"}\n{\"nvList\":1}",
+       "1; 3 a second header is ignored", "a"},
+      {"cut short", "{\"nvList\":1,\"Items\":3}\n{\"Text\":\"a\"}\n",
+       "1; 2 the file ends early: 2 items are missing", "a"},
+  };
+  for (const Input& input : inputs) {
+    EXPECT_EQ(textOf(load(input.file)), input.result) << input.name;
+    EXPECT_EQ(texts(), input.texts) << input.name;
+    EXPECT_EQ(reports(), "") << input.name;
+    list.AutoRedraw(false);
+  }
+}
+
+TEST_F(JsonLines, RefusesOtherFilesAndKeepsTheList) {
+  add({"kept"});
+  for (const char* file :
+       {"MZ\x90", "Vienna\nGraz", "[1]", "{\"nvList\":2}", "{\"nvList\":\"x\"}"}) {
+    EXPECT_THROW(load(file), Failure) << file;
+    EXPECT_EQ(texts(), "kept") << file;
+  }
+  EXPECT_THROW(json::load(list, "missing"), Failure);
+  EXPECT_EQ(files.open, 0);
+}
+
+TEST_F(JsonLines, ProblemsAreBounded) {
+  std::string file = "{}\n";
+  for (int i = 0; i < 300; ++i) file += "{\"field" + std::to_string(i) + "\":1,\"Text\":0}\n";
+  const json::Result result = load(file);
+  EXPECT_EQ(result.problems, 300U);
+  EXPECT_EQ(result.firstProblems.size(), json::Result::mostKept);
+  EXPECT_EQ(result.unknownFields.size(), json::Result::mostKept);
+}
+
+TEST_F(JsonLines, LinesMayCrossBlocks) {
+  const std::string large(600'000, 'x');
+  for (int i = 0; i < 5; ++i) list.ItemsAppend({.Text = large + std::to_string(i)});
+  expectSameAgain(json::Fields::changed);
+}
+
+TEST_F(JsonLines, StopsWhenAsked) {
+  for (int i = 0; i < 4000; ++i) list.ItemsAppend({.Text = std::to_string(i)});
+  std::vector<std::uint64_t> done;
+  const auto stopAtSecond = [&](std::uint64_t part, std::uint64_t whole) {
+    EXPECT_LE(part, whole);
+    done.push_back(part);
+    return done.size() < 2;
+  };
+  EXPECT_TRUE(json::save(list, "stopped", {.progress = stopAtSecond}).isStopped);
+  EXPECT_EQ(done.size(), 2U);
+  EXPECT_FALSE(json::save(list, "file").isStopped);
+  done.clear();
+  const json::Result result = json::load(again.list(), "file", {.progress = stopAtSecond});
+  EXPECT_TRUE(result.isStopped);
+  EXPECT_GT(result.items, 0);
+  EXPECT_LT(result.items, 4000);
+  EXPECT_EQ(again.list().ItemsCount(), result.items);
+}
+
+TEST_F(JsonLines, AFailureReachesTheCallerAndClosesTheFile) {
+  add({"a"});
+  json::save(list, "file");
+  for (const bool isLoading : {false, true}) {
+    int failures = 0;
+    for (files.failing = 1; failures < 20; ++files.failing) {
+      files.operations = 0;
+      try {
+        isLoading ? json::load(list, "file") : json::save(list, "other");
+        break;
+      } catch (const Failure&) {
+        ++failures;
+      }
+      EXPECT_EQ(files.open, 0);
+    }
+    EXPECT_GE(failures, 3) << isLoading;
+  }
+}
+
+TEST_F(JsonLines, NeighboursKeepSharingAPicture) {
+  const Picture picture = makeRef<BytePicture>("icon");
+  for (int i = 0; i < 3; ++i) list.ItemsAdd({.aText = "a", .aIcon = picture});
+  json::save(list, "file");
+  json::load(again.list(), "file");
+  EXPECT_EQ(again.list().ItemIcon(0), again.list().ItemIcon(2));
+}
+
+}  // namespace
+}  // namespace norvane
