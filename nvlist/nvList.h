@@ -562,7 +562,9 @@ class nvList final : public UserControl,
   StoredItem& item(std::int32_t index) { return state_.Items.touch(index); }
   void writeFields(Trap& on, StoredItem& item, NewItem& values);
   void moveLastTo(double index);
-  void moveDownOnto(Trap& on, std::int32_t index);
+  std::int32_t shiftDownOnto(Trap& on, std::int32_t index);
+  void removeSwept(Trap& on);
+  bool sweepToLast(Trap& on);
   std::int32_t countItems(const char* procedure, Boolean (StoredItem::*mark)() const);
   void updateAfterChange(Trap& on);
   bool ArrDim() const { return true; }
@@ -619,6 +621,7 @@ class nvList final : public UserControl,
   float unroundedItemHeight();
   void paintPreview(Trap& on);
   void paintFace(Trap& on);
+  void passRowsAbove(Trap& on);
   void paintCorner(Trap& on);
   void paintRow(Trap& on, RepaintValues& repaint);
 

@@ -48,16 +48,12 @@ std::int32_t ItemStore::find(SearchIndex& index, Searched field, std::string_vie
   return found != index.firsts.end() ? found->second : upperBound() + 1;
 }
 
-/// Drops what was made for searches. Called whenever a text, a key or a place may change.
-void ItemStore::changed() {
-  if (texts_.wasSearched) texts_ = {};
-  if (keys_.wasSearched) keys_ = {};
-}
-
 void ItemStore::makeItem(Ref<StoredItem>& reference, std::int32_t index) const {
   auto item = makeRef<StoredItem>();
-  ListItem values;
-  if (source_ && source_->make(index, values)) assign(*item, index, values);
+  if (source_) {
+    ListItem values;
+    if (source_->make(index, values)) assign(*item, index, values);
+  }
   reference = std::move(item);
 }
 
@@ -138,10 +134,21 @@ void ItemStore::grow() {
 // Memory is allocated before anything moves, so that running out of it loses no item. References
 // are released last, because destroying the objects of an item may run host code.
 
-void ItemStore::shrink() {
+void ItemStore::remove(std::int32_t index) {
+  if (!holds(index)) throw Failure::subscriptOutOfRange();
   makeAllItems();
   changed();
-  const Ref<StoredItem> last = slots_.take(upperBound());
+  const Ref<StoredItem> removed = slots_.take(index);
+}
+
+std::int32_t ItemStore::removeSelected(std::int32_t first, std::int32_t end) {
+  if (!holds(first) || !holds(end - 1)) throw Failure::subscriptOutOfRange();
+  makeAllItems();
+  changed();
+  const auto isSelected = [](const Ref<StoredItem>& item) {
+    return item && static_cast<bool>(item->Selected());
+  };
+  return static_cast<std::int32_t>(slots_.takeIf(first, end, isSelected).size());
 }
 
 void ItemStore::recreate(std::size_t count, std::shared_ptr<ItemSource> source) {
@@ -152,19 +159,12 @@ void ItemStore::recreate(std::size_t count, std::shared_ptr<ItemSource> source) 
 }
 
 void ItemStore::move(std::int32_t from, std::int32_t to) {
+  if (!holds(from) || !holds(to)) throw Failure::subscriptOutOfRange();
   makeAllItems();
-  slot(to);
-  const Ref<StoredItem> moved = slot(from);
+  changed();
   if (from == to) return;
-  slots_.insert(to > from ? to + 1 : to, moved);
+  slots_.insert(to > from ? to + 1 : to, slots_.peek(from));
   slots_.take(from < to ? from : from + 1);
-}
-
-void ItemStore::moveDownOnto(std::int32_t index) {
-  makeAllItems();
-  const Ref<StoredItem> removed = slot(index);
-  slots_.insert(slots_.size(), slot(upperBound()));
-  slots_.take(index);
 }
 
 void ItemStore::reorder(std::span<const std::int32_t> order) {

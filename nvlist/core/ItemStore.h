@@ -93,8 +93,8 @@ class ItemStore {
 
   /// Adds an empty slot at the end.
   void grow();
-  /// Removes the last slot.
-  void shrink();
+  /// Removes the selected items from `first` to before `end` and returns their number.
+  std::int32_t removeSelected(std::int32_t first, std::int32_t end);
   /// Removes all items and leaves one empty slot.
   void reset() { recreate(1); }
 
@@ -104,9 +104,8 @@ class ItemStore {
   /// Moves the reference at `from` to `to` and shifts the references between them by one slot
   /// towards `from`.
   void move(std::int32_t from, std::int32_t to);
-  /// Shifts all references after `index` down by one slot, overwriting the one at `index`. The last
-  /// slot keeps its reference, so the last item is then in two slots.
-  void moveDownOnto(std::int32_t index);
+  /// Removes the slot at an index.
+  void remove(std::int32_t index);
   /// Moves to each slot the reference from the index that `order` names for it. `order` contains
   /// every index exactly once.
   void reorder(std::span<const std::int32_t> order);
@@ -119,7 +118,11 @@ class ItemStore {
   };
   using Searched = std::string_view (StoredItem::*)() const;
   std::int32_t find(SearchIndex& index, Searched field, std::string_view text);
-  void changed();
+  /// Drops what was made for searches. Called whenever a text, a key or a place may change.
+  void changed() {
+    if (texts_.wasSearched) texts_ = {};
+    if (keys_.wasSearched) keys_ = {};
+  }
 
   Ref<StoredItem>& peek(std::int32_t index) const;
   void makeItem(Ref<StoredItem>& reference, std::int32_t index) const;

@@ -42,6 +42,9 @@ class SlotBlocks {
   void insert(std::int32_t index, Slot slot);
   /// Removes the slot at `index` and returns its reference.
   Slot take(std::int32_t index);
+  /// Removes the slots from `first` to before `end` for which `isTaken` returns true and returns
+  /// their references. If memory runs out, nothing changes.
+  std::vector<Slot> takeIf(std::int32_t first, std::int32_t end, bool (*isTaken)(const Slot&));
 
   /// Calls `visit(slot, index)` for each slot in order until it returns true.
   template <class Visit>
@@ -66,9 +69,11 @@ class SlotBlocks {
  private:
   struct Block {
     std::vector<Slot> entries;  // "slots" is a macro of Qt
-    std::int32_t first = 0;     ///< the index of its first slot
+    std::int32_t first = 0;     ///< the index of its first slot, in the first `placed_` blocks
     std::uint16_t widest = 0;
     bool isMeasured = false;  ///< `widest` is known
+
+    std::int32_t length() const { return static_cast<std::int32_t>(entries.size()); }
   };
   struct Place {
     std::size_t block;
@@ -76,16 +81,25 @@ class SlotBlocks {
   };
   static constexpr std::size_t blockSize = 512;
 
-  Place find(std::int32_t index) const;
-  Block& addBlock(std::size_t place, std::int32_t first);
+  Place find(std::int32_t index) {
+    // Most calls are for a slot near the last one.
+    const Block& last = blocks_[lastFound_];
+    const auto offset = static_cast<std::size_t>(std::int64_t{index} - last.first);
+    return offset < last.entries.size() ? Place{lastFound_, offset} : search(index);
+  }
+  Place search(std::int32_t index);
+  Block& addBlock(std::size_t place);
   void split(std::size_t block);
-  void moveFirsts(std::size_t behindBlock, std::int32_t difference);
+  void keepPlaces(std::size_t count);
   void removeOrMerge(std::size_t block);
   static bool measure(Block& block);
 
   std::vector<Block> blocks_;
   std::int32_t size_ = 0;
-  mutable std::size_t lastFound_ = 0;  ///< the block that find() returned last
+  /// How many blocks know their first index, at least one. A change drops it for the blocks after
+  /// it, which are many and often not needed again before the next change.
+  std::size_t placed_ = 1;
+  std::size_t lastFound_ = 0;  ///< the block that find() returned last, below placed_
 };
 
 }  // namespace norvane

@@ -56,9 +56,13 @@ void nvList::ItemsAdd(NewItem values) {
     // Kept alive, because releasing the old value of a field may run host code that removes the
     // item.
     Ref<StoredItem> added;
-    on.step([&] { items.setText(items.upperBound(), textOf(values.aText)); });
+    CompactText text;
+    on.step([&] { text = textOf(values.aText); });
     on.step([&] { added = items.slot(items.upperBound()); });
-    if (added) writeFields(on, *added, values);
+    if (added) {
+      added->Text(std::move(text));
+      writeFields(on, *added, values);
+    }
 
     if (state_.AutoRedraw.isTrue()) {
       on.step([&] { SetNoneSelected(); });
@@ -150,31 +154,30 @@ void nvList::ItemsRemove(Variant& Index) {
   trapped(here, "ItemsRemove", [&](Trap& on) {
     if (!state_.ItemsDimensioned || on.test([&] { return WrongIndex(Index); })) return;
     on.step([&] { Index = Index.toInt32(); });
-    moveDownOnto(on, Index.toInt32());
+    const std::int32_t removed = shiftDownOnto(on, Index.toInt32());
     if (ItemsCount() < 2)
       on.step([&] { ItemsClear(); });
     else
-      on.step([&] { state_.Items.shrink(); });
+      on.step([&] { state_.Items.remove(removed); });
     updateAfterChange(on);
   });
 }
 
-/// Shifts the references after `index` down by one, and processes waiting events after each. If no
-/// events are waiting, the rest is shifted at once.
-void nvList::moveDownOnto(Trap& on, std::int32_t index) {
+/// Shifts the references after `index` down by one, and processes waiting events after each.
+/// Returns the slot that is then to be removed: the last one, or, as soon as no events are waiting,
+/// the next one to be overwritten, since the rest can then be shifted at once.
+std::int32_t nvList::shiftDownOnto(Trap& on, std::int32_t index) {
   ItemStore& items = state_.Items;
-  if (index >= items.upperBound()) return;
+  if (index >= items.upperBound()) return items.upperBound();
   state_.LoopIndex = index - 1;
   while (state_.LoopIndex < items.upperBound() - 1) {
     ++state_.LoopIndex;
-    if (!on.test([&] { return container_.EventsWaiting(); })) {
-      on.step([&] { items.moveDownOnto(state_.LoopIndex); });
-      state_.LoopIndex = items.upperBound() - 1;
-      return;
-    }
+    if (!on.test([&] { return container_.EventsWaiting(); }))
+      return std::exchange(state_.LoopIndex, items.upperBound() - 1);
     on.step([&] { items.slot(state_.LoopIndex) = items.slot(state_.LoopIndex + 1); });
     on.step([&] { container_.DoEvents(); });
   }
+  return items.upperBound();
 }
 
 void nvList::ItemsClear() {
@@ -195,9 +198,9 @@ void nvList::ItemsSelectedRemove() {
     while (state_.ItemsDimensioned &&
            !on.test([&] { return state_.SweepIndex > state_.InsertIndex.toInt32(); })) {
       if (on.test([&] { return item(state_.SweepIndex).Selected(); })) {
-        on.step([&] { ItemsRemove(Variant(state_.SweepIndex)); });
-        on.step([&] { state_.SweepIndex = checked::subtract(state_.SweepIndex, 1); });
-        on.step([&] { state_.InsertIndex = checked::subtract(state_.InsertIndex.toInt32(), 1); });
+        const std::int64_t failures = Trap::failures();
+        removeSwept(on);
+        if (Trap::failures() == failures && sweepToLast(on)) removeSwept(on);
       }
       on.step([&] { yield(); });
       on.step([&] { state_.SweepIndex = checked::add(state_.SweepIndex, 1); });
@@ -209,6 +212,41 @@ void nvList::ItemsSelectedRemove() {
     on.step([&] { yield(); });
     if (state_.AutoRedraw) on.step([&] { Redraw(); });
   });
+}
+
+void nvList::removeSwept(Trap& on) {
+  on.step([&] { ItemsRemove(Variant(state_.SweepIndex)); });
+  on.step([&] { state_.SweepIndex = checked::subtract(state_.SweepIndex, 1); });
+  on.step([&] { state_.InsertIndex = checked::subtract(state_.InsertIndex.toInt32(), 1); });
+}
+
+/// Called after a removal without a failure. Removes the selected items from the next one on,
+/// except the last one, all at once, and moves the sweep to that last one. Returns false if it did
+/// nothing.
+///
+/// The last one adjusts and paints everything once more. Nobody can see what those before it would
+/// have painted: it ends where events are waiting, and it begins behind the rows in view, among
+/// which there may be one that cannot be painted.
+bool nvList::sweepToLast(Trap& on) {
+  const std::int32_t first = state_.SweepIndex + 1;
+  // After a repaint LoopIndex is the first item that was not painted.
+  if (state_.AutoRedraw && first < state_.LoopIndex) return false;
+  bool isDone = false;
+  on.ignoring([&] {
+    std::int32_t last = -1;
+    for (std::int32_t i = first; i <= state_.Items.upperBound() && !container_.EventsWaiting(); ++i)
+      if (item(i).Selected()) last = i;
+    if (last < first) return;
+    if (last > first) {
+      const std::int32_t removed = state_.Items.removeSelected(first, last);
+      if (removed > 0) state_.LoopIndex = state_.Items.upperBound();
+      state_.InsertIndex = checked::subtract(state_.InsertIndex.toInt32(), removed);
+      last -= removed;
+    }
+    state_.SweepIndex = last;
+    isDone = true;
+  });
+  return isDone;
 }
 
 std::int32_t nvList::ItemsCount() const {

@@ -14,9 +14,9 @@ Recordset& recordsetOf(const Ref<Object>& object) {
 }
 
 std::string firstFieldOf(const Ref<Object>& object) {
-  std::optional<Variant> value = recordsetOf(object).Value(0);
+  const std::optional<Variant> value = recordsetOf(object).Value(0);
   if (!value) throw Failure::invalidNull();
-  return std::move(*value).toText();
+  return value->toText();
 }
 
 }  // namespace

@@ -44,8 +44,9 @@ void reportCurrent(ReportAs&& reportAs) {
 
 }  // namespace
 
-// Not inline: where the library is a DLL, each module has an inline counter of its own.
+// Not inline: where the library is a DLL, each module has inline counters of its own.
 bool Trap::anyRuns() { return depth > 0; }
+std::int64_t Trap::failures() { return failureCount; }
 
 void Trap::failed(int line) const {
   try {
@@ -53,6 +54,7 @@ void Trap::failed(int line) const {
   } catch (const Left&) {
     throw;
   } catch (...) {
+    ++failureCount;
     if (Error::silent()) return;
     reportCurrent([&](std::int32_t number, std::string_view description) {
       report({number, description, procedure_, line, module_.kind, module_.name});

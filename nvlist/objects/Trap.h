@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <utility>
 
 #include <nvlist/values/Boolean.h>
@@ -35,6 +36,9 @@ class Trap {
   /// Whether a procedure is running on this thread. If so, a platform must not destroy a control,
   /// which may be in use further up the stack.
   static bool anyRuns();
+
+  /// The number of failures on this thread so far, those ignored under SilentError included.
+  static std::int64_t failures();
 
   /// Runs one statement.
   template <class Statement>
@@ -81,6 +85,7 @@ class Trap {
     Running& operator=(const Running&) = delete;
   };
   static inline thread_local int depth = 0;
+  static inline thread_local std::int64_t failureCount = 0;
 
   template <class Body>
   friend void trapped(const Module& module, const char* procedure, Body&& body);

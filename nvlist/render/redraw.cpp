@@ -96,6 +96,7 @@ void nvList::paintFace(Trap& on) {
 
   // Rows whose height rounds to 0 are not painted.
   const bool rowsHaveHeight = state_.ItemHeightValue > 0.5F;
+  if (rowsHaveHeight) passRowsAbove(on);
   while (rowsHaveHeight && !on.test([&] {
     return state_.LoopIndex > state_.Items.upperBound() ||
            surface_.CurrentY() + state_.ItemHeightValue > surface_.ScaleHeight();
@@ -110,6 +111,20 @@ void nvList::paintFace(Trap& on) {
   on.step([&] { VisibleItems(); });
   on.step([&] { ItemHeight(); });
   paintCorner(on);
+}
+
+/// Skips the rows above the surface, which a negative IndentTop may make as many as there are
+/// items. The last of them is painted, because the next row is measured with its font flags.
+void nvList::passRowsAbove(Trap& on) {
+  on.step([&] {
+    float y = surface_.CurrentY();
+    const std::int32_t first = state_.LoopIndex;
+    while (y + 2 * state_.ItemHeightValue < 0 && state_.LoopIndex < state_.Items.upperBound()) {
+      y += state_.ItemHeightValue;
+      ++state_.LoopIndex;
+    }
+    if (state_.LoopIndex > first) surface_.CurrentY(y);
+  });
 }
 
 /// Fills the square between the two scroll bars.

@@ -78,8 +78,10 @@ class Bar : public UserControl, protected ThumbEvents, protected ButtonEvents {
   void About();
 
   /// A text for the owner's use. Default: "False".
-  const std::string& Tag() const { return tag_; }
-  void Tag(std::string_view value) { tag_ = value; }
+  std::string_view Tag() const { return tag_; }
+  void Tag(std::string_view value) {
+    if (tag_ != value) tag_ = value;
+  }
 
   void UserControl_InitProperties() override;
   /// Keys and defaults are those of UserControl_WriteProperties. Each value passes through its

@@ -3,6 +3,8 @@
 
 #include <bit>
 #include <cmath>
+#include <cstring>
+#include <new>
 
 namespace norvane {
 namespace {
@@ -24,48 +26,32 @@ bool isFalseText(std::string_view text) {
 double Object::toNumber() const { throw Failure::typeMismatch(); }
 std::string Object::toText() const { throw Failure::typeMismatch(); }
 
-Variant::TextBlock* Variant::permanentBlock(std::string_view text) {
-  static TextBlock emptyText{{}, 1, true};
-  static TextBlock mark{std::string(defaultMark), 1, true};
-  if (text.empty()) return &emptyText;
-  return text == defaultMark ? &mark : nullptr;
-}
-
-void Variant::holdText(TextBlock* block) {
+std::uint64_t Variant::hold(std::string_view text) {
   static_assert(isAddressShort || alignof(TextBlock) > tagMask);
-  bits_ = packAddress(Type::Text, block);
+  void* const memory = ::operator new(sizeof(TextBlock) + text.size());
+  auto* const block = new (memory) TextBlock{.size = text.size()};
+  std::memcpy(block + 1, text.data(), text.size());
+  return packAddress(Type::Text, reinterpret_cast<std::uintptr_t>(block));
 }
 
-Variant::Variant(std::string text) {
-  TextBlock* block = permanentBlock(text);
-  holdText(block ? block : new TextBlock{std::move(text), 1, false});
-}
-
-Variant::Variant(std::string_view text) {
-  TextBlock* block = permanentBlock(text);
-  holdText(block ? block : new TextBlock{std::string(text), 1, false});
-}
-
-Variant::Variant(const Ref<Object>& object) : bits_(packAddress(Type::Object, object.get())) {
+Variant::Variant(const Ref<Object>& object)
+    : bits_(packAddress(Type::Object, reinterpret_cast<std::uintptr_t>(object.get()))) {
   static_assert(isAddressShort || alignof(Object) > tagMask);
   retain();
 }
 
 void Variant::retainShared() const {
-  if (isText()) {
-    if (!textBlock()->isPermanent) textBlock()->references.fetch_add(1, std::memory_order_relaxed);
-  } else if (address() != 0) {
+  if (isText())
+    textBlock()->references.fetch_add(1, std::memory_order_relaxed);
+  else
     objectAt(address())->retain();
-  }
 }
 
 void Variant::releaseShared() const {
-  if (isText()) {
-    if (!textBlock()->isPermanent &&
-        textBlock()->references.fetch_sub(1, std::memory_order_acq_rel) == 1)
-      delete textBlock();
-  } else if (address() != 0) {
+  if (!isText()) {
     if (objectAt(address())->releaseLast()) delete objectAt(address());
+  } else if (textBlock()->references.fetch_sub(1, std::memory_order_acq_rel) == 1) {
+    ::operator delete(textBlock());
   }
 }
 
@@ -126,7 +112,7 @@ Boolean Variant::toBoolean() const {
   return toNumber() != 0;
 }
 
-std::string Variant::toText() const& {
+std::string Variant::toText() const {
   switch (type()) {
     case Type::Empty:
       return {};
@@ -138,18 +124,12 @@ std::string Variant::toText() const& {
     case Type::Boolean:
       return toBoolean() ? "True" : "False";
     case Type::Text:
-      return textBlock()->text;
+      return std::string(text());
     case Type::Object:
       if (address() != 0) return objectAt(address())->toText();
       break;
   }
   throw Failure::typeMismatch();
-}
-
-std::string Variant::toText() && {
-  if (isText() && !textBlock()->isPermanent && textBlock()->references == 1)
-    return std::move(textBlock()->text);
-  return std::as_const(*this).toText();
 }
 
 std::partial_ordering compareText(std::string_view a, const Variant& b) {

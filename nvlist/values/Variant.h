@@ -56,9 +56,12 @@ class Variant {
   template <std::same_as<bool> Bool>
   constexpr Variant(Bool value) : Variant(Boolean(value)) {}
   Variant(std::nullptr_t) = delete;
-  Variant(std::string text);
-  Variant(std::string_view text);
-  Variant(const char* text) : Variant(std::string_view(text)) {}
+  constexpr Variant(std::string_view text)
+      : bits_(text.empty()          ? emptyText
+              : text == defaultText ? markText
+                                    : hold(text)) {}
+  Variant(const std::string& text) : Variant(std::string_view(text)) {}
+  constexpr Variant(const char* text) : Variant(std::string_view(text)) {}
   Variant(const Ref<Object>& object);
   constexpr Variant(const Variant& other) : bits_(other.bits_) { retain(); }
   constexpr Variant(Variant&& other) noexcept : bits_(std::exchange(other.bits_, 0)) {}
@@ -90,33 +93,30 @@ class Variant {
   /// False for 0 and the text "False", true for other numbers and the text "True". Case is ignored.
   Boolean toBoolean() const;
   /// Numbers in decimal, truth values as "True" and "False", empty as the empty text.
-  std::string toText() const&;
-  /// The same, moving out a text that is not shared.
-  std::string toText() &&;
+  std::string toText() const;
 
  private:
   struct TextBlock;
   static constexpr std::uint64_t tagMask = 7;
+  static constexpr std::string_view defaultText = "def";
 
-  /// The permanent block of a text that nearly every item has, or nullptr for other texts.
-  static TextBlock* permanentBlock(std::string_view text);
-  void holdText(TextBlock* block);
+  /// A new block for a text that needs one, as bits.
+  static std::uint64_t hold(std::string_view text);
 
   static constexpr std::uint64_t pack(Type type, std::uint32_t payload) {
     return std::uint64_t{payload} << 32 | static_cast<std::uint64_t>(type);
   }
-  std::uint32_t payload() const { return static_cast<std::uint32_t>(bits_ >> 32); }
+  constexpr std::uint32_t payload() const { return static_cast<std::uint32_t>(bits_ >> 32); }
   /// An address of 32 bits is packed like a number, so that none of its bits meets the tag: objects
   /// there begin at multiples of four.
   static constexpr bool isAddressShort = sizeof(void*) < sizeof(std::uint64_t);
-  static std::uint64_t packAddress(Type type, const void* at) {
-    const auto address = reinterpret_cast<std::uintptr_t>(at);
+  static constexpr std::uint64_t packAddress(Type type, std::uintptr_t address) {
     if constexpr (isAddressShort)
       return pack(type, static_cast<std::uint32_t>(address));
     else
       return address | static_cast<std::uint64_t>(type);
   }
-  std::uintptr_t address() const {
+  constexpr std::uintptr_t address() const {
     if constexpr (isAddressShort)
       return payload();
     else
@@ -124,11 +124,18 @@ class Variant {
   }
   TextBlock* textBlock() const { return reinterpret_cast<TextBlock*>(address()); }
 
+  // The two texts that nearly every item has need no block. Nothing else is at these addresses.
+  static constexpr std::uintptr_t markAddress = 8;
+  static constexpr auto emptyText = static_cast<std::uint64_t>(Type::Text);
+  static constexpr std::uint64_t markText = emptyText | std::uint64_t{markAddress}
+                                                            << (isAddressShort ? 32 : 0);
+
+  constexpr bool isShared() const { return type() >= Type::Text && address() > markAddress; }
   constexpr void retain() const {
-    if (type() >= Type::Text) retainShared();
+    if (isShared()) retainShared();
   }
   constexpr void release() const {
-    if (type() >= Type::Text) releaseShared();
+    if (isShared()) releaseShared();
   }
   void retainShared() const;
   void releaseShared() const;
@@ -136,15 +143,16 @@ class Variant {
   std::uint64_t bits_ = 0;
 };
 
-/// A text shared by variants. Permanent blocks are not counted or deleted.
+/// A text shared by variants. Its bytes follow it in memory.
 struct Variant::TextBlock {
-  std::string text;
   std::atomic<std::int32_t> references = 1;
-  bool isPermanent = false;
+  std::size_t size;
 };
 
 inline std::string_view Variant::text() const {
-  return isText() ? std::string_view(textBlock()->text) : std::string_view();
+  if (!isText() || address() == 0) return {};
+  if (address() == markAddress) return defaultText;
+  return {reinterpret_cast<const char*>(textBlock() + 1), textBlock()->size};
 }
 
 /// Compares as hosts do: two texts byte by byte; a text and a number as numbers (Failure 13 if the
@@ -156,7 +164,7 @@ std::partial_ordering compareText(std::string_view a, const Variant& b);
 /// The value of an item's colour that means "the default colour".
 inline constexpr std::string_view defaultMark = "def";
 inline bool isDefaultMark(const Variant& colour) {
-  return colour.isText() && colour.text() == defaultMark;
+  return colour.isIdentical(Variant(defaultMark));
 }
 
 }  // namespace norvane

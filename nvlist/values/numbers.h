@@ -20,13 +20,11 @@ Integer narrow(std::int64_t value) {
   return static_cast<Integer>(value);
 }
 
-/// The nearest integer, halves to the even one: 2.5 gives 2, 3.5 gives 4. NaN overflows too.
+/// The nearest integer, halves to the even one: 2.5 gives 2, 3.5 gives 4. NaN overflows too. The
+/// rounding mode of the thread must be the default.
 template <class Integer>
 Integer nearest(double value) {
-  const double floor = std::floor(value);
-  const double rest = value - floor;
-  const bool up = rest > 0.5 || (rest == 0.5 && std::fmod(floor, 2.0) != 0.0);
-  const double rounded = up ? floor + 1 : floor;
+  const double rounded = std::nearbyint(value);
   if (!(rounded >= std::numeric_limits<Integer>::min() &&
         rounded <= std::numeric_limits<Integer>::max()))
     throw Failure::overflow();

@@ -109,7 +109,7 @@ TEST(Variant, SharesTextsAndObjectsAndLetsThemGo) {
     EXPECT_EQ(alive, 0);
     EXPECT_TRUE(holder.isEmpty());
     const Variant twin = copy;
-    EXPECT_EQ(std::move(copy).toText(), twin.text());
+    EXPECT_EQ(copy.toText(), twin.text());
   }
   EXPECT_EQ(alive, 0);
 }

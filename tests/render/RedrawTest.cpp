@@ -51,6 +51,19 @@ TEST_F(Redraw, PaintsWholeRowsOnly) {
   EXPECT_EQ(list.VisibleItems(), 0);
 }
 
+TEST_F(Redraw, RowsAboveTheSurfaceArePassedOver) {
+  list.AutoRedraw(false);
+  for (int i = 0; i < 10'000; ++i) list.ItemsAdd(i);
+  list.IndentTop(-130 * 13);
+  list.Redraw();
+  EXPECT_EQ(rowsOf(headless.surface()).substr(0, 30), "128@-26 129@-13 130@0 131@13 1");
+  EXPECT_EQ(list.state().LoopIndex, 137);
+  list.IndentTop(-1e9F);
+  list.Redraw();
+  EXPECT_LT(headless.surface().image().calls.size(), 50U);
+  EXPECT_EQ(list.state().LoopIndex, 10'000);
+}
+
 TEST_F(Redraw, RowHeightsAreRoundedForCountingOnly) {
   add({"a", "b", "c"});
   list.MinHeight(16.5);

@@ -1,0 +1,121 @@
+#include <random>
+
+#include "../Lists.h"
+
+namespace norvane {
+namespace {
+
+/// Random changes of a long store, compared with a vector of the texts.
+TEST(ItemStore, EqualsAVectorThroughAllChanges) {
+  std::mt19937 random(7);
+  const auto below = [&](std::size_t end) {
+    return static_cast<std::int32_t>(random() % static_cast<unsigned>(end));
+  };
+  ItemStore store;
+  std::vector<std::string> model{""};
+  const auto at = [&](std::int32_t index) { return model.begin() + index; };
+  const auto expectSame = [&](std::int32_t index) {
+    ASSERT_EQ(store.touch(index).Text(), *at(index)) << index;
+  };
+  for (int step = 0; step < 8'000; ++step) {
+    // Grows to more than a thousand, shrinks to a few, and grows again.
+    const bool grows = step % 4'000 < 2'400;
+    const int action = below(100);
+    const std::int32_t index = below(3) == 0 ? 0 : below(model.size());
+    if (action < (grows ? 70 : 20)) {
+      store.grow();
+      store.setText(store.upperBound(), std::to_string(step));
+      store.move(store.upperBound(), index);
+      model.insert(at(index), std::to_string(step));
+    } else if (action < 90 && model.size() > 1) {
+      store.remove(index);
+      model.erase(at(index));
+    } else if (action < 99) {
+      const std::int32_t to = below(model.size());
+      store.move(index, to);
+      const std::string moved = *at(index);
+      model.erase(at(index));
+      model.insert(at(to), moved);
+    } else if (step % 5 == 0 && model.size() > 1) {
+      const std::int32_t end = index + 1 + below(model.size() - static_cast<std::size_t>(index));
+      std::vector<std::string> kept;
+      for (std::int32_t i = index; i < end; ++i) {
+        const bool isSelected = below(2) == 0 && i > 0;
+        store.touch(i).Selected(isSelected);
+        if (!isSelected) kept.push_back(*at(i));
+      }
+      const auto removed = static_cast<std::size_t>(end - index) - kept.size();
+      EXPECT_EQ(store.removeSelected(index, end), static_cast<std::int32_t>(removed));
+      model.erase(at(index), at(end));
+      model.insert(at(index), kept.begin(), kept.end());
+    }
+    ASSERT_EQ(store.upperBound() + 1, static_cast<std::int32_t>(model.size())) << step;
+    expectSame(below(model.size()));
+  }
+  for (std::int32_t i = 0; i <= store.upperBound(); ++i) expectSame(i);
+}
+
+/// A form on which a message waits at every yield, if it is busy.
+struct Form : HeadlessContainer {
+  using HeadlessContainer::HeadlessContainer;
+  bool isBusy = false;
+  bool EventsWaiting() override { return isBusy; }
+};
+
+using SelectedItems = ListTest;
+
+TEST_F(SelectedItems, AreRemovedAtOnceWithTheResultOfSingleSteps) {
+  struct Case {
+    const char* text;
+    bool (*isSelected)(int);
+    void (*prepare)(nvList&);
+    int frames = 30;
+  };
+  const auto everySecond = [](int i) { return i % 2 == 0; };
+  const auto all = [](int) { return true; };
+  const auto wide = [](nvList& on) { on.ScrollBars(vbBoth); };
+  const Case cases[] = {
+      {"every second", everySecond, [](nvList&) {}},
+      {"every second, both bars", everySecond, wide},
+      {"all", all, wide, 400},
+      {"all, without painting", all, [](nvList& on) { on.AutoRedraw(false); }, 2},
+      {"all, without fitting", all, [](nvList& on) { on.AutoCheckScroll(false); }, 400},
+      {"all but the first", [](int i) { return i > 0; }, wide, 400},
+      {"behind the view", [](int i) { return i > 30 && i < 290; }, wide},
+      {"an item that cannot be painted", everySecond,
+       [](nvList& on) { on.ItemForeColorSelect(40, "red"); }},
+      {"a row height that fails", everySecond, [](nvList& on) { on.MinHeight(1e30F); }, 400},
+      {"the view at the end", everySecond, [](nvList& on) { on.TopIndex(290); }, 400},
+  };
+  for (const Case& c : cases) {
+    const auto remove = [&](bool inSteps) {
+      Form form(200, 100);
+      nvList on(form);
+      on.UserControl_InitProperties();
+      on.AutoRedraw(false);
+      for (int i = 0; i < 300; ++i)
+        on.ItemsAdd(std::string(static_cast<std::size_t>(i % 37), 'x') + std::to_string(i));
+      for (int i = 0; i < 300; ++i) on.ItemSelected(i, c.isSelected(i));
+      on.TopIndex(0);
+      on.AutoRedraw(true);
+      c.prepare(on);
+      reports();
+      form.isBusy = inSteps;
+      const int before = form.ownSurface().frames();
+      on.ItemsSelectedRemove();
+      if (!inSteps) EXPECT_LE(form.ownSurface().frames() - before, c.frames) << c.text;
+      const ListState& state = on.state();
+      std::string result = form.picture() + reports();
+      for (const int number :
+           {on.ItemsCount(), state.LoopIndex, state.SweepIndex, state.InsertIndex.toInt32(),
+            state.MaxItemWidth, state.TopIndex, state.ListIndex, on.horizontalBar().Max()})
+        result += ' ' + std::to_string(number);
+      for (int i = 0; i < on.ItemsCount(); ++i) result += ' ' + on.ItemText(i);
+      return result;
+    };
+    EXPECT_EQ(remove(false), remove(true)) << c.text;
+  }
+}
+
+}  // namespace
+}  // namespace norvane
