@@ -16,7 +16,9 @@ constexpr UINT releaseInterval = 10;
 /// Enough for the built-in art and the icons of a long list.
 constexpr std::size_t maximumDecoded = 1024;
 
-thread_local std::weak_ptr<Apartment> ofThread;
+/// A plain pointer: the destructor of a thread_local object would keep the DLL loaded until its
+/// thread ends.
+thread_local Apartment* ofThread = nullptr;
 
 void registerClass(WNDPROC procedure) {
   WNDCLASSW look{};
@@ -38,10 +40,10 @@ HINSTANCE thisModule() {
 }
 
 std::shared_ptr<Apartment> Apartment::current() {
-  std::shared_ptr<Apartment> apartment = ofThread.lock();
+  std::shared_ptr<Apartment> apartment = ofThread ? ofThread->weak_from_this().lock() : nullptr;
   if (!apartment) {
     apartment = std::shared_ptr<Apartment>(new Apartment);
-    ofThread = apartment;
+    ofThread = apartment.get();
   }
   return apartment;
 }
@@ -56,6 +58,7 @@ Apartment::Apartment() {
 }
 
 Apartment::~Apartment() {
+  if (ofThread == this) ofThread = nullptr;
   SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
   DestroyWindow(window_);
 }

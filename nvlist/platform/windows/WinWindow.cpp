@@ -198,6 +198,7 @@ void WinWindow::draw(HDC target, const RECT& rectangle) {
   info.bmiHeader.biHeight = height;
   info.bmiHeader.biPlanes = 1;
   info.bmiHeader.biBitCount = 32;
+  info.bmiHeader.biSizeImage = static_cast<DWORD>(width * height * 4);  // for metafiles
   void* pixels = nullptr;
   const HDC dc = CreateCompatibleDC(nullptr);
   const HBITMAP bitmap = CreateDIBSection(dc, &info, DIB_RGB_COLORS, &pixels, nullptr, 0);

@@ -6,10 +6,13 @@
 //     Connect source, sink, prefix   routes the source's events to sink.<prefix><event>
 //     Disconnect
 //     Picture(path)                  the picture in a file
-//     Report                         what the error handler got since the last call; empty: nothing
-//     CanUnload                      whether nvList.ocx says that it can be unloaded
+//     Report                         the reports received since the last call; empty: none
+//     Handle kind                    what the error handler does: takes reports, fails, or is
+//     missing AnswerBox                      closes the next message box of this thread Box the
+//     texts of the boxes closed since the last call CanUnload                      whether
+//     nvList.ocx says that it can be unloaded
 //
-// It also is NorvaneErrorHandler.ErrorHandler, which gets the reports of the library.
+// It also provides NorvaneErrorHandler.ErrorHandler, which receives the reports of the library.
 #include <dispex.h>
 
 #include <functional>
@@ -24,7 +27,8 @@ namespace {
 
 HMODULE module;
 LONG alive;
-std::wstring reports;
+std::wstring reports, boxes;
+enum { takes, fails, isMissing } handling = takes;
 
 using Arguments = std::vector<VARIANT*>;  // first to last
 using Method = std::function<HRESULT(const Arguments&, VARIANT* result)>;
@@ -255,6 +259,33 @@ bool canUnload() {
   return ask() == S_OK;
 }
 
+// ---- message boxes ----
+
+std::wstring textOf(HWND window) {
+  wchar_t text[1000];
+  return {text, static_cast<std::size_t>(GetWindowTextW(window, text, 1000))};
+}
+
+BOOL CALLBACK addText(HWND child, LPARAM) {
+  boxes += L"|" + textOf(child);
+  return TRUE;
+}
+
+BOOL CALLBACK answerIfBox(HWND window, LPARAM timer) {
+  wchar_t name[20];
+  GetClassNameW(window, name, 20);
+  if (lstrcmpW(name, L"#32770") != 0) return TRUE;
+  KillTimer(nullptr, static_cast<UINT_PTR>(timer));
+  boxes += textOf(window);
+  EnumChildWindows(window, addText, 0);
+  PostMessageW(window, WM_COMMAND, IDOK, 0);
+  return FALSE;
+}
+
+void CALLBACK answerBox(HWND, UINT, UINT_PTR timer, DWORD) {
+  EnumThreadWindows(GetCurrentThreadId(), answerIfBox, static_cast<LPARAM>(timer));
+}
+
 ComPtr<IDispatch> newHelper() {
   return new Object(
       {{L"Make",
@@ -288,6 +319,16 @@ ComPtr<IDispatch> newHelper() {
         }},
        {L"Report", [](const Arguments&,
                       VARIANT* result) { return answerText(result, std::exchange(reports, {})); }},
+       {L"Handle",
+        [](const Arguments& given, VARIANT*) {
+          const std::wstring kind = given[0]->bstrVal;
+          handling = kind == L"fails" ? fails : kind == L"is missing" ? isMissing : takes;
+          return S_OK;
+        }},
+       {L"AnswerBox",
+        [](const Arguments&, VARIANT*) { return SetTimer(nullptr, 0, 20, answerBox), S_OK; }},
+       {L"Box", [](const Arguments&,
+                   VARIANT* result) { return answerText(result, std::exchange(boxes, {})); }},
        {L"CanUnload", [](const Arguments&, VARIANT* result) {
           result->boolVal = canUnload() ? VARIANT_TRUE : VARIANT_FALSE;
           result->vt = VT_BOOL;
@@ -295,8 +336,9 @@ ComPtr<IDispatch> newHelper() {
         }}});
 }
 
-/// Number, description, module and procedure, and the name of the program as its object tells it.
+/// Records number, description, module, procedure and the name of the program object.
 HRESULT report(const Arguments& given, VARIANT*) {
+  if (handling == fails) return E_FAIL;
   if (given.size() != 8 || given[1]->vt != VT_DISPATCH) return DISP_E_BADPARAMCOUNT;
   OleVariant name;
   DISPPARAMS none{};
@@ -308,7 +350,10 @@ HRESULT report(const Arguments& given, VARIANT*) {
   return S_OK;
 }
 
-ComPtr<IDispatch> newErrorHandler() { return new Object({{L"RaiseError", report}}); }
+ComPtr<IDispatch> newErrorHandler() {
+  if (handling == isMissing) return {};
+  return new Object({{L"RaiseError", report}});
+}
 
 struct Class {
   CLSID id;
@@ -327,7 +372,8 @@ class Factory final : public Counted<IClassFactory> {
  public:
   explicit Factory(const Class& made) : made_(made) {}
   STDMETHODIMP CreateInstance(IUnknown*, REFIID id, void** out) override {
-    return made_.make()->QueryInterface(id, out);
+    const ComPtr<IDispatch> object = made_.make();
+    return object ? object->QueryInterface(id, out) : E_FAIL;
   }
   STDMETHODIMP LockServer(BOOL) override { return S_OK; }
 

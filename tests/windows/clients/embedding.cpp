@@ -1,0 +1,297 @@
+// What a container does with a control, apart from drawing it.
+#include "Host.h"
+
+namespace norvane {
+
+void activation() {
+  Container site;
+  Sink sink;
+  auto list = make();
+  const auto object = asked<IOleObject>(list.get());
+  QACONTAINER container{};
+  container.cbSize = sizeof container;
+  container.pClientSite = &site;
+  container.pAdviseSink = reinterpret_cast<IAdviseSinkEx*>(static_cast<IAdviseSink*>(&sink));
+  container.pUnkEventSink = static_cast<IDispatch*>(&sink);
+  container.pPropertyNotifySink = &sink;
+  QACONTROL control{};
+  control.cbSize = sizeof control;
+  check(asked<IQuickActivate>(list.get())->QuickActivate(&container, &control) == S_OK &&
+            control.dwEventCookie != 0 && control.dwPropNotifyCookie != 0,
+        "quick activation connects everything");
+  check(control.dwMiscStatus & OLEMISC_ACTIVATEWHENVISIBLE, "quick activation gives the status");
+  asked<IPersistStreamInit>(list.get())->InitNew();
+  const RECT thumbnail{0, 0, 10, 10};
+  const HDC memory = CreateCompatibleDC(nullptr);
+  OleDraw(list.get(), DVASPECT_CONTENT, memory, const_cast<RECT*>(&thumbnail));
+  DeleteDC(memory);
+  sink.views = 0;
+  for (long i = 0; i < 50; ++i) add(list.get(), i);
+  check(sink.views == 1, "changes without a window are reported");
+
+  site.refusesActivation = true;
+  check(
+      FAILED(object->DoVerb(OLEIVERB_INPLACEACTIVATE, nullptr, &site, 0, site.frame, &site.place)),
+      "a container may refuse");
+  site.refusesActivation = false;
+  check(object->DoVerb(OLEIVERB_INPLACEACTIVATE, nullptr, &site, 0, site.frame, &site.place) ==
+                S_OK &&
+            site.calls["OnInPlaceActivate"] == 1 && site.calls["OnUIActivate"] == 0,
+        "in-place activation");
+  const HWND window = windowOf(list.get());
+  RECT shown{};
+  GetClientRect(window, &shown);
+  check(GetParent(window) == site.frame && shown.right == 260 && shown.bottom == 180,
+        "it stands in its place");
+  check(object->DoVerb(OLEIVERB_UIACTIVATE, nullptr, &site, 0, site.frame, &site.place) == S_OK &&
+            site.calls["OnUIActivate"] == 1 && site.calls["active"] == 1,
+        "UI activation");
+
+  list->put_ListIndex(3);
+  const auto active = asked<IOleInPlaceActiveObject>(list.get());
+  MSG key{window, WM_KEYDOWN, VK_DOWN, 0, 0, {}};
+  check(active->TranslateAccelerator(&key) == S_OK && listIndex(list.get()) == 4,
+        "an arrow is the list's");
+  key.wParam = VK_TAB;
+  check(active->TranslateAccelerator(&key) == S_FALSE && site.calls["TranslateAccelerator"] == 1,
+        "Tab is the container's");
+  site.takesAccelerators = true;
+  key.wParam = VK_RETURN;
+  check(active->TranslateAccelerator(&key) == S_OK && site.calls["TranslateAccelerator"] == 2,
+        "Return is the container's");
+  CONTROLINFO info{};
+  info.cb = sizeof info;
+  check(asked<IOleControl>(list.get())->GetControlInfo(&info) == S_OK && info.dwFlags == 0,
+        "no accelerators of its own");
+
+  sink.onEvent = [](DISPID id, DISPPARAMS& given) {
+    if (id == 12) *given.rgvarg[1].piVal = 0;  // swallows the key
+  };
+  SendMessageW(window, WM_KEYDOWN, VK_DOWN, 0);
+  check(sink.events[12] == 2 && listIndex(list.get()) == 4, "KeyDown is read back");
+  asked<IOleControl>(list.get())->FreezeEvents(TRUE);
+  SendMessageW(window, WM_KEYDOWN, VK_DOWN, 0);
+  check(sink.events[12] == 2 && listIndex(list.get()) == 5, "frozen events are not raised");
+  asked<IOleControl>(list.get())->FreezeEvents(FALSE);
+  sink.onEvent = [](DISPID, DISPPARAMS&) {};
+  PostMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(40, 20));
+  PostMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(40, 20));
+  pump(50);
+  check(sink.events[6] == 1 && sink.events[4] == 1 && sink.events[1] == 1, "press, release, click");
+
+  const auto place = asked<IOleInPlaceObject>(list.get());
+  const RECT moved{0, 0, 100, 80}, clip{0, 0, 50, 80};
+  place->SetObjectRects(&moved, &clip);
+  GetClientRect(window, &shown);
+  RECT visible{};
+  const HRGN region = CreateRectRgn(0, 0, 0, 0);
+  GetWindowRgn(window, region);
+  GetRgnBox(region, &visible);
+  DeleteObject(region);
+  check(shown.right == 100 && visible.right == 50, "SetObjectRects moves and clips");
+  check(place->UIDeactivate() == S_OK && site.calls["OnUIDeactivate"] == 1 &&
+            site.calls["inactive"] == 1,
+        "UI deactivation");
+  check(object->Close(OLECLOSE_SAVEIFDIRTY) == S_OK && site.calls["SaveObject"] == 1 &&
+            site.calls["OnInPlaceDeactivate"] == 1 && GetParent(window) != site.frame,
+        "closing saves and parks");
+  check(IsWindow(window) && windowOf(list.get()) == window, "the window stays the same");
+  object->SetClientSite(nullptr);
+}
+
+void ambients() {
+  Container site;
+  FONTDESC look{sizeof look, const_cast<LPOLESTR>(L"Tahoma"), {}, FW_BOLD, 0, FALSE, FALSE, FALSE};
+  look.cySize.int64 = 120000;
+  OleCreateFontIndirect(&look, IID_IFontDisp, site.font.putVoid());
+  site.isRunning = false;
+  auto list = make();
+  asked<IOleObject>(list.get())->SetClientSite(&site);
+  asked<IPersistPropertyBag>(list.get())->InitNew();
+  ComPtr<IFontDisp> font;
+  list->get_Font(font.put());
+  BOOL isBold = FALSE;
+  asked<IFont>(font.get())->get_Bold(&isBold);
+  check(isBold, "the ambient font is the default");
+  Bag bag;
+  const auto stored = asked<IPersistPropertyBag>(list.get());
+  check(stored->Save(&bag, TRUE, FALSE) == S_OK && bag.values.empty(), "defaults are not stored");
+  check(stored->Save(&bag, TRUE, TRUE) == S_OK && bag.values.size() == 33, "unless all are wanted");
+  const int asks = site.calls["DisplayName"];
+  site.name = L"Names";
+  asked<IOleControl>(list.get())->OnAmbientPropertyChange(DISPID_AMBIENT_DISPLAYNAME);
+  asked<IOleObject>(list.get())
+      ->DoVerb(OLEIVERB_INPLACEACTIVATE, nullptr, &site, 0, site.frame, &site.place);
+  pump(50);
+  check(site.calls["DisplayName"] > asks, "the preview of a designer shows the name");
+  asked<IOleObject>(list.get())->Close(OLECLOSE_NOSAVE);
+  asked<IOleObject>(list.get())->SetClientSite(nullptr);
+}
+
+/// Each property under its own name: another value, one notification, one value in the bag.
+void persistence() {
+  auto list = make();
+  Sink sink;
+  ComPtr<IConnectionPoint> point;
+  const DWORD cookie =
+      connect(list.get(), IID_IPropertyNotifySink, static_cast<IDispatch*>(&sink), point);
+  Bag all;
+  const auto stored = asked<IPersistPropertyBag>(list.get());
+  stored->Save(&all, TRUE, TRUE);
+  int wrong = 0;
+  for (const auto& [name, value] : all.values) {
+    if (name == L"Font" || name == L"ColorStyle") continue;  // ColorStyle sets another one
+    auto one = make();
+    const DWORD connected =
+        connect(one.get(), IID_IPropertyNotifySink, static_cast<IDispatch*>(&sink), point);
+    asked<IPersistStreamInit>(one.get())->InitNew();
+    sink.properties.clear();
+    OleVariant other(static_cast<const VARIANT&>(*value));
+    if (other.vt == VT_BOOL)
+      other.boolVal = static_cast<VARIANT_BOOL>(~other.boolVal);
+    else if (other.vt == VT_R4)
+      other.fltVal += 1;
+    else
+      VariantChangeType(&other, &other, 0, VT_I4), other.lVal += 1;
+    auto* text = const_cast<LPOLESTR>(name.c_str());
+    DISPID id = 0, put = DISPID_PROPERTYPUT;
+    one->GetIDsOfNames(IID_NULL, &text, 1, 0, &id);
+    DISPPARAMS given{&other, &put, 1, 1};
+    one->Invoke(id, IID_NULL, 0, DISPATCH_PROPERTYPUT, &given, nullptr, nullptr, nullptr);
+    Bag bag, again;
+    asked<IPersistPropertyBag>(one.get())->Save(&bag, TRUE, FALSE);
+    auto copy = make();
+    asked<IPersistPropertyBag>(copy.get())->Load(&bag, nullptr);
+    asked<IPersistPropertyBag>(copy.get())->Save(&again, TRUE, FALSE);
+    if (bag.values.size() == 1 && bag.values.contains(name) && again.values.size() == 1 &&
+        again.values.contains(name) && sink.properties.size() == 1 && sink.properties.contains(id))
+      continue;
+    ++wrong;
+    std::printf("wrong: %ls\n", name.c_str());
+    point->Unadvise(connected);
+  }
+  check(wrong == 0, "each property is stored and notified under its own name");
+
+  for (long i = 0; i < 3; ++i) add(list.get(), i);
+  const wchar_t* const names[] = {L"ItemChecked",
+                                  L"ItemBold",
+                                  L"ItemItalic",
+                                  L"ItemUnderline",
+                                  L"ItemEnabled",
+                                  L"ItemText",
+                                  L"ItemKey",
+                                  L"ItemTag",
+                                  L"ItemAllowEdit",
+                                  L"ItemAlignment",
+                                  L"ItemForeColor",
+                                  L"ItemBackColor",
+                                  L"ItemForeColorSelect",
+                                  L"ItemBackColorSelect",
+                                  L"ItemForeColorDis",
+                                  L"ItemBackColorDis"};
+  for (const wchar_t* name : names) {
+    auto* text = const_cast<LPOLESTR>(name);
+    DISPID id = 0, put = DISPID_PROPERTYPUT;
+    list->GetIDsOfNames(IID_NULL, &text, 1, 0, &id);
+    VARIANT arguments[] = {number(1), number(1)};
+    DISPPARAMS given{arguments, &put, 2, 1};
+    sink.properties.clear();
+    list->Invoke(id, IID_NULL, 0, DISPATCH_PROPERTYPUT, &given, nullptr, nullptr, nullptr);
+    check(sink.properties.size() == 1 && sink.properties.contains(id),
+          "a property of items is notified under its name");
+  }
+
+  list->put_MinHeight(31);
+  SIZEL size{5000, 4000};
+  asked<IOleObject>(list.get())->SetExtent(DVASPECT_CONTENT, &size);
+  ComPtr<IStream> stream;
+  CreateStreamOnHGlobal(nullptr, TRUE, stream.put());
+  const auto from = asked<IPersistStreamInit>(list.get());
+  auto copy = make();
+  const auto into = asked<IPersistStreamInit>(copy.get());
+  check(from->IsDirty() == S_OK && from->Save(stream.get(), TRUE) == S_OK &&
+            from->IsDirty() == S_FALSE,
+        "saved in a stream");
+  stream->Seek({}, STREAM_SEEK_SET, nullptr);
+  float height = 0;
+  SIZEL extent{};
+  check(into->Load(stream.get()) == S_OK && copy->get_MinHeight(&height) == S_OK && height == 31 &&
+            asked<IOleObject>(copy.get())->GetExtent(DVASPECT_CONTENT, &extent) == S_OK &&
+            extent.cx == 5000,
+        "read from a stream");
+  check(into->Load(stream.get()) == STG_E_READFAULT, "a stream that ends early");
+  Bag refusing;
+  refusing.refusesWriting = true;
+  check(stored->Save(&refusing, TRUE, FALSE) == STG_E_MEDIUMFULL, "a bag that refuses");
+  point.reset();
+  connect(list.get(), IID_IPropertyNotifySink, static_cast<IDispatch*>(&sink), point);
+  point->Unadvise(cookie);
+}
+
+void connections() {
+  auto list = make();
+  const auto container = asked<IConnectionPointContainer>(list.get());
+  ComPtr<IEnumConnectionPoints> points;
+  container->EnumConnectionPoints(points.put());
+  IConnectionPoint* found[3] = {};
+  ULONG got = 0;
+  check(points->Next(3, found, &got) == S_FALSE && got == 2, "two connection points");
+  IID id{};
+  found[0]->GetConnectionInterface(&id);
+  check(id == __uuidof(::__nvList), "the first is that of the events");
+  Sink first, second;
+  DWORD cookies[2] = {};
+  found[0]->Advise(static_cast<IDispatch*>(&first), &cookies[0]);
+  found[0]->Advise(static_cast<IDispatch*>(&second), &cookies[1]);
+  ComPtr<IEnumConnections> connected;
+  found[0]->EnumConnections(connected.put());
+  CONNECTDATA data[2] = {};
+  check(connected->Next(2, data, &got) == S_OK && data[1].dwCookie == cookies[1], "connections");
+  for (const CONNECTDATA& each : data) each.pUnk->Release();
+  add(list.get(), 1);
+  first.onEvent = [&](DISPID, DISPPARAMS& given) {
+    check(given.cArgs == 1 && given.rgvarg[0].vt == (VT_BYREF | VT_VARIANT),
+          "the index by reference");
+    found[0]->Unadvise(cookies[1]);
+    list->ItemsClear();
+  };
+  list->put_ListIndex(9);
+  check(first.events[21] == 1 && second.events[21] == 0, "a sink that went is not called");
+  check(found[0]->Unadvise(cookies[1]) == CONNECT_E_NOCONNECTION, "gone");
+  check(found[0]->Advise(nullptr, cookies) == E_POINTER, "no sink");
+  for (IConnectionPoint* each : {found[0], found[1]}) each->Release();
+
+  // The last reference goes inside an event.
+  auto doomed = make();
+  ComPtr<IConnectionPoint> point;
+  Sink last;
+  add(doomed.get(), 1);
+  connect(doomed.get(), __uuidof(::__nvList), static_cast<IDispatch*>(&last), point);
+  point.reset();
+  last.onEvent = [&](DISPID, DISPPARAMS&) { doomed.reset(); };
+  ::_nvList* const raw = doomed.get();
+  check(raw->put_ListIndex(9) == S_OK && last.events[21] == 1 && !doomed,
+        "released in its own event");
+}
+
+void badArguments() {
+  auto list = make();
+  check(list->get_ListIndex(nullptr) == E_POINTER && list->ItemsRemove(nullptr) == E_POINTER &&
+            list->get_ItemText(nullptr, nullptr) == E_POINTER && list->Sort(nullptr) == E_POINTER,
+        "null pointers of members");
+  const auto object = asked<IOleObject>(list.get());
+  check(
+      object->SetExtent(DVASPECT_CONTENT, nullptr) == E_POINTER &&
+          object->GetClientSite(nullptr) == E_POINTER &&
+          asked<IPersistStreamInit>(list.get())->Load(static_cast<IStream*>(nullptr)) == E_POINTER,
+      "null pointers of containers");
+  check(object->DoVerb(OLEIVERB_SHOW, nullptr, nullptr, 0, nullptr, nullptr) == E_UNEXPECTED,
+        "a verb without a site");
+  VARIANT object4 = number(0);
+  BSTR text = nullptr;
+  object4.vt = VT_NULL;
+  check(list->get_ItemText(&object4, &text) == S_OK && SysStringLen(text) == 0, "Null as index");
+  SysFreeString(text);
+}
+
+}  // namespace norvane
