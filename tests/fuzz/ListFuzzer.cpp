@@ -256,7 +256,8 @@ class Life final : private __nvList {
     react();
   }
   void ListSaving(Variant& Index) override {
-    if (input_.below(16) == 0) Index = input_.value();
+    // Without this test, a host that always goes back would keep the loop going for ever.
+    if (!input_.isEmpty() && input_.below(16) == 0) Index = input_.value();
     react();
   }
   void ListReading(Variant& Index) override { ListSaving(Index); }
