@@ -15,6 +15,7 @@ target_sources(nvlist PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FI
   nvlist/drawing/Recording.h
   nvlist/drawing/RecordingSurface.h
   nvlist/drawing/Surface.h
+  nvlist/drawing/SvgDocument.h
   nvlist/files/Recordset.h
   nvlist/input/Wheel.h
   nvlist/input/events.h

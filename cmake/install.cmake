@@ -5,12 +5,18 @@ include(GNUInstallDirs)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/nvList)
 
-# Installs the library `target`, which is exported as nvlist::`name`.
-function(install_library target name)
+# Installs the library `target`, which is exported as nvlist::`name`. `component` is the part of the
+# installation that holds the library itself; cmake/packages.cmake makes a package of each.
+function(install_library target name component)
   set_target_properties(${target} PROPERTIES
     EXPORT_NAME ${name} VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
-  install(TARGETS ${target} EXPORT ${target}_targets FILE_SET HEADERS)
-  install(EXPORT ${target}_targets NAMESPACE nvlist:: DESTINATION ${package_dir})
+  install(TARGETS ${target} EXPORT ${target}_targets
+    LIBRARY COMPONENT ${component} NAMELINK_COMPONENT development
+    RUNTIME COMPONENT ${component}
+    ARCHIVE COMPONENT development
+    FILE_SET HEADERS COMPONENT development)
+  install(EXPORT ${target}_targets NAMESPACE nvlist:: DESTINATION ${package_dir}
+    COMPONENT development)
 endfunction()
 
 # Installs the pkg-config file of the library `target`. Arguments: its description, and the packages
@@ -18,18 +24,19 @@ endfunction()
 function(install_pkg_config target description requires)
   string(REPLACE _ - package ${target})
   configure_file(${PROJECT_SOURCE_DIR}/cmake/package.pc.in ${PROJECT_BINARY_DIR}/${package}.pc @ONLY)
-  install(FILES ${PROJECT_BINARY_DIR}/${package}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+  install(FILES ${PROJECT_BINARY_DIR}/${package}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
+    COMPONENT development)
 endfunction()
 
 file(RELATIVE_PATH prefix_from_pkgconfig
   ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
 
 set(components)
-install_library(nvlist nvlist)
+install_library(nvlist nvlist library)
 install_pkg_config(nvlist "${PROJECT_DESCRIPTION}" "")
 if(TARGET nvlist_json)
   list(APPEND components json)
-  install_library(nvlist_json json)
+  install_library(nvlist_json json library)
   # A static library leaves it to its users to link what it uses itself.
   set(json_requires "nvlist = ${PROJECT_VERSION}")
   if(NOT BUILD_SHARED_LIBS)
@@ -39,13 +46,13 @@ if(TARGET nvlist_json)
 endif()
 if(TARGET nvlist_qt)
   list(APPEND components qt)
-  install_library(nvlist_qt qt)
+  install_library(nvlist_qt qt qt)
   install_pkg_config(nvlist_qt "nvList as a widget of Qt 6"
     "nvlist = ${PROJECT_VERSION}, Qt6Widgets >= 6.2")
 endif()
 if(TARGET nvlist_qt_sql)
   list(APPEND components qt_sql)
-  install_library(nvlist_qt_sql qt_sql)
+  install_library(nvlist_qt_sql qt_sql qt)
 endif()
 
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/nvListConfig.cmake.in
@@ -55,4 +62,4 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/nvListConfigVersion.cmake
 install(FILES
   ${PROJECT_BINARY_DIR}/nvListConfig.cmake
   ${PROJECT_BINARY_DIR}/nvListConfigVersion.cmake
-  DESTINATION ${package_dir})
+  DESTINATION ${package_dir} COMPONENT development)

@@ -28,7 +28,8 @@ need() {
 
 build_packages=(g++ cmake ninja-build)
 qt_packages=(qt6-base-dev qt6-qpa-plugins libqt6sql6-sqlite libgl-dev fonts-dejavu-core)
-test_packages=(libgtest-dev pkgconf)
+json_packages=(libsimdjson-dev)
+test_packages=("${json_packages[@]}" libgtest-dev pkgconf)
 clang_packages=(clang libclang-rt-dev)
 windows_packages=(g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix)
 benchmark_packages=(libbenchmark-dev)

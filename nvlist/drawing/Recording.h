@@ -81,10 +81,10 @@ class Recording {
  public:
   std::vector<SurfaceCall> calls;
 
-  /// One line per call, such as `Line 38 (0, 3)-(200, 16) #FFFFFF`. Colours are written as #RRGGBB,
-  /// system colours as `system 17`; unprintable bytes of texts as \xNN. A picture is written as its
-  /// size and its description, if it has one; a bitmap as its size, the first pixel of its lowest
-  /// row and the last pixel of its highest row.
+  /// One line per call, such as `Line 38 (0, 3)-(200, 16) #FFFFFF`. Colours are written as
+  /// `#RRGGBB`, system colours as `system 17`; unprintable bytes of texts as `\xNN`. A picture is
+  /// written as its size and its description, if it has one; a bitmap as its size, the first pixel
+  /// of its lowest row and the last pixel of its highest row.
   std::string text() const;
 
   /// Repeats the calls on another surface.

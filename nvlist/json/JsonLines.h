@@ -23,6 +23,7 @@ struct Problem {
 
 struct Result {
   std::int32_t items = 0;      ///< number of items saved or loaded
+  bool hasProperties = false;  ///< whether the file that was loaded has properties of the list
   bool isStopped = false;      ///< whether `progress` returned false
   std::uint64_t problems = 0;  ///< number of all problems
   /// The first problems, at most `mostKept`.

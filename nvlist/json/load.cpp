@@ -134,12 +134,14 @@ void Loader::readHeader(const dom::object& header) {
     throw Failure(321, "Invalid file format: this version cannot be read");
   PropertyBag bag;
   for (const dom::key_value_pair field : header) {
-    if (field.key == format::properties)
+    if (field.key == format::properties) {
       readProperties(field.value, bag);
-    else if (field.key == format::itemCount)
+      report_.result.hasProperties = true;
+    } else if (field.key == format::itemCount) {
       static_cast<void>(field.value.get(announced_));
-    else if (field.key != format::marker)
+    } else if (field.key != format::marker) {
       report_.unknownField(field.key);
+    }
   }
   if (options_.takesProperties)
     list_.UserControl_ReadProperties(bag);

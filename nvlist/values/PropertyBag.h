@@ -34,7 +34,7 @@ class PropertyBag {
 
 /// The store as text with one property a line: `ForeColor = 255`. Numbers above 65535 and below 0
 /// are written in hexadecimal with &H, as suits colours; truth values as True and False; texts in
-/// double quotes with the escapes \" \\ and \xNN; a font as
+/// double quotes with the escapes `\"`, `\\` and `\xNN`; a font as
 /// `font "Tahoma" 8.25 bold italic underline strikethrough`. Other objects are omitted.
 std::string propertyText(const PropertyBag& bag);
 

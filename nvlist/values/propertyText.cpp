@@ -31,7 +31,7 @@ std::string_view trimmed(std::string_view text) {
   return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
-std::string quoted(std::string_view text) {
+std::string inQuotes(std::string_view text) {
   std::string result = "\"";
   for (const char c : text) {
     if (static_cast<unsigned char>(c) < 0x20)
@@ -45,7 +45,7 @@ std::string quoted(std::string_view text) {
 }
 
 std::string fontText(const FontObject& font) {
-  std::string result = std::string(fontWord) + quoted(font.Name) + " " + textOf(font.Size);
+  std::string result = std::string(fontWord) + inQuotes(font.Name) + " " + textOf(font.Size);
   for (const FontFlag& flag : fontFlags)
     if (font.*flag.flag) result += " " + std::string(flag.word);
   return result;
@@ -54,7 +54,7 @@ std::string fontText(const FontObject& font) {
 std::optional<std::string> valueText(const Variant& value) {
   switch (value.type()) {
     case Variant::Type::Text:
-      return quoted(value.text());
+      return inQuotes(value.text());
     case Variant::Type::Int32:
       if (const std::int32_t number = value.toInt32(); number < 0 || number > 65535)
         return "&H" + hexTextOf(static_cast<std::uint32_t>(number), 8);
