@@ -67,8 +67,10 @@ class Disk : public ListTest, protected __nvList {
 };
 
 TEST_F(Disk, FindsFilesByWildcards) {
-  for (const char* name : {"one.txt", "two.list", "bare", "#[1]", "\u00fc.nvl"})
-    std::ofstream(at(name)) << name;
+  for (const char* name : {"one.txt", "two.list", "bare", "#[1]", "\u00fc.nvl"}) {
+    const std::string path = at(name);
+    std::ofstream(fs::path(std::u8string(path.begin(), path.end()))) << name;
+  }
   for (const char* there :
        {"one.txt", "*.txt", "?ne.txt", "*.*", "bare.*", "fol*", "#[?]", "?.nvl"})
     EXPECT_TRUE(FileExists(at(there))) << there;

@@ -68,6 +68,7 @@ void ambients();
 void persistence();
 void drawing();
 void connections();
+void events();
 void badArguments();
 
 }  // namespace norvane

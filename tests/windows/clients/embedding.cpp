@@ -274,6 +274,121 @@ void connections() {
         "released in its own event");
 }
 
+/// Each event with its arguments, first to last, which all are passed by reference.
+void events() {
+  Container site;
+  Sink sink;
+  const auto list = make();
+  const auto object = asked<IOleObject>(list.get());
+  object->SetClientSite(&site);
+  object->DoVerb(OLEIVERB_INPLACEACTIVATE, nullptr, &site, 0, site.frame, &site.place);
+  list->put_Style(::cCheckBoxes);
+  list->put_MinHeight(20);
+  for (long i = 0; i < 30; ++i) add(list.get(), 100 + i);
+  ComPtr<IConnectionPoint> point;
+  const DWORD cookie =
+      connect(list.get(), __uuidof(::__nvList), static_cast<IDispatch*>(&sink), point);
+
+  DISPID awaited = 0;
+  std::wstring seen;
+  std::function<void(DISPPARAMS&)> answer;
+  sink.onEvent = [&](DISPID id, DISPPARAMS& given) {
+    if (id != awaited) return;
+    for (UINT i = given.cArgs; i-- > 0;) {
+      OleVariant text(given.rgvarg[i]);
+      VariantChangeType(&text, &text, 0, VT_BSTR);
+      seen += std::to_wstring(given.rgvarg[i].vt & ~VT_BYREF) + L":" + text.bstrVal +
+              (given.rgvarg[i].vt & VT_BYREF ? L" " : L"! ");
+    }
+    seen += L"; ";
+    if (answer) answer(given);
+  };
+  const auto send = [&](UINT message, WPARAM first, int x, int y) {
+    SendMessageW(windowOf(list.get()), message, first, MAKELPARAM(x, y));
+  };
+  const auto file = [&](bool isSaved, const wchar_t* path) {
+    BSTR name = SysAllocString(path);
+    isSaved ? list->ListSave(&name, 0) : list->ListInput(&name, 0);
+    SysFreeString(name);
+  };
+  const auto setIndex = [](long index) {
+    return [index](DISPPARAMS& given) {
+      VariantClear(given.rgvarg[0].pvarVal);
+      *given.rgvarg[0].pvarVal = number(index);
+    };
+  };
+  // A property store image that holds a number of items, and nothing else of them.
+  const wchar_t *const saved = L"nvlist-saved.nvl", *const image = L"nvlist-image.nvl";
+  constexpr char bytes[] = "\x11\x20\1\0\x0F\0\0\0\0\0\0\0PBAG\5\0count\2\0\x1E";
+  if (std::FILE* const out = _wfopen(image, L"wb")) {
+    std::fwrite(bytes, 1, sizeof bytes, out);
+    std::fclose(out);
+  }
+  const struct {
+    const char* name;
+    DISPID id;
+    std::function<void()> cause;
+    std::wstring arguments;
+    std::function<void(DISPPARAMS&)> answer;
+  } cases[] = {
+      {"Click",
+       1,
+       [&] {
+         send(WM_LBUTTONDOWN, MK_LBUTTON, 60, 30);
+         send(WM_LBUTTONUP, 0, 60, 30);
+       },
+       L"; ",
+       {}},
+      {"DblClick", 2, [&] { send(WM_LBUTTONDBLCLK, MK_LBUTTON, 60, 30); }, L"; ", {}},
+      {"ItemCheck", 3,
+       [&] {
+         VARIANT index = number(1);
+         list->put_ItemChecked(&index, VARIANT_FALSE);
+         send(WM_LBUTTONDOWN, MK_LBUTTON, 9, 32);
+       },
+       L"3:1 11:0 ; ", [](DISPPARAMS& given) { *given.rgvarg[0].pboolVal = VARIANT_TRUE; }},
+      {"MouseUp", 4, [&] { send(WM_RBUTTONUP, 0, 41, 52); }, L"2:2 2:0 4:41 4:52 ; ", {}},
+      {"MouseMove",
+       5,
+       [&] { send(WM_MOUSEMOVE, 0, 43, 52); },
+       L"12:102 3:2 2:0 2:0 4:43 4:52 ; ",
+       {}},
+      {"MouseDown",
+       6,
+       [&] { send(WM_RBUTTONDOWN, MK_RBUTTON, 42, 52); },
+       L"2:2 2:0 4:42 4:52 ; ",
+       {}},
+      {"ErrorListInput", 7, [&] { file(false, L"C:\\none\\none"); }, L"; ", {}},
+      {"ErrorListSave", 8, [&] { file(true, L"C:\\none\\none"); }, L"; ", {}},
+      {"ListSaving", 9, [&] { file(true, saved); }, L"12:0 ; 12:1 ; ",
+       [&](DISPPARAMS& given) {
+         if (seen.size() > 8) setIndex(29)(given);
+       }},
+      {"ListReading", 10, [&] { file(false, image); }, L"12:0 ; ", setIndex(29)},
+      {"Scroll", 11, [&] { send(WM_MOUSEWHEEL, MAKEWPARAM(0, -120), 60, 30); }, L"; ; ", {}},
+      {"KeyDown", 12, [&] { send(WM_KEYDOWN, VK_F6, 0, 0); }, L"2:117 2:0 ; ", {}},
+      {"KeyPress", 13, [&] { send(WM_CHAR, 'x', 0, 0); }, L"2:120 ; ", {}},
+      {"KeyUp", 14, [&] { send(WM_KEYUP, VK_F6, 0, 0); }, L"2:117 2:0 ; ", {}},
+      {"ErrorWrongIndex", 21, [&] { list->put_ListIndex(99); }, L"12:99 ; ", {}}};
+  for (const auto& each : cases) {
+    awaited = each.id;
+    answer = each.answer;
+    seen.clear();
+    each.cause();
+    check(seen == each.arguments, each.name);
+    if (seen != each.arguments) std::printf("  %ls\n", seen.c_str());
+    if (each.id != 3) continue;
+    VARIANT index = number(1);
+    VARIANT_BOOL isChecked = VARIANT_TRUE;
+    check(list->get_ItemChecked(&index, &isChecked) == S_OK && !isChecked, "Cancel is read back");
+  }
+  DeleteFileW(saved);
+  DeleteFileW(image);
+  point->Unadvise(cookie);
+  object->Close(OLECLOSE_NOSAVE);
+  object->SetClientSite(nullptr);
+}
+
 void badArguments() {
   auto list = make();
   check(list->get_ListIndex(nullptr) == E_POINTER && list->ItemsRemove(nullptr) == E_POINTER &&

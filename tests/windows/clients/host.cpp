@@ -124,10 +124,11 @@ int main(int count, char** arguments) {
   const struct {
     const char* name;
     void (*run)();
-  } tests[] = {{"activation", activation},   {"ambients", ambients},
-               {"persistence", persistence}, {"drawing", drawing},
-               {"connections", connections}, {"bad arguments", badArguments},
-               {"apartments", apartments},   {"lifetimes", lifetimes}};
+  } tests[] = {{"activation", activation},      {"ambients", ambients},
+               {"persistence", persistence},    {"drawing", drawing},
+               {"connections", connections},    {"events", events},
+               {"bad arguments", badArguments}, {"apartments", apartments},
+               {"lifetimes", lifetimes}};
   for (const auto& test : tests) {
     test.run();
     pump(30);

@@ -176,11 +176,12 @@ Check "a text that is no index", c.ItemText("abc") & helper.Report, "13 Type mis
 silent.SilentError = True
 Check "silent", c.ItemText(99) & helper.Report & helper.Make("Norvane.Error").SilentError, "True"
 silent.SilentError = False
-Dim kind
+Dim kind, shown
 For Each kind In Array("fails", "is missing")
     helper.Handle kind : helper.AnswerBox
     Check "a report while the handler " & kind, c.ItemText(99), ""
-    Check "a box while the handler " & kind, Split(Replace(helper.Box, vbCrLf, "/"), "Version")(0), _
+    shown = Replace(helper.Box, vbCrLf, "/")
+    Check "a box while the handler " & kind, Left(shown, InStr(shown, "Version") - 1), _
         "Error||OK|Error no.: 9/Error description: Subscript out of range/Project: cscript/" & _
         "Module: Benutzersteuerelement nvList/Line/Procedure: 10/ItemText/"
 Next
