@@ -245,6 +245,14 @@ class nvList final : public UserControl,
   Boolean ItemSelected(const Variant& Index);
   void ItemSelected(const Variant& Index, Boolean value);
 
+  // For platforms, whose widgets offer more than the published operations:
+
+  /// Clears the selection and repaints if AutoRedraw is on. ListIndex is kept.
+  void clearSelection();
+  /// The indexes of the selected items, in order. Without a selection, and usually with one
+  /// selected item, takes constant time; otherwise visits every item. Empty after a failure.
+  std::vector<std::int32_t> selectedIndexes();
+
   // ---- properties of items: core/itemProperties.cpp ----
   //
   // `Index` is rounded to the nearest whole number; keys are not looked up. An index that is not a
@@ -459,6 +467,10 @@ class nvList final : public UserControl,
   /// height is 0 or less.
   std::int32_t VisibleItems();
 
+  /// Height of a row, rounded to whole pixels. The mouse is matched to rows of this height; they
+  /// are painted with the height that is not rounded (ListState::ItemHeightValue).
+  std::int32_t ItemHeight();
+
   // ---- size and scroll bars: render/scrollfit.cpp ----
 
   void UserControl_Resize() override;
@@ -617,7 +629,6 @@ class nvList final : public UserControl,
 
   // render/redraw.cpp
   Boolean IsDesignMode();
-  std::int32_t ItemHeight();
   float unroundedItemHeight();
   void paintPreview(Trap& on);
   void paintFace(Trap& on);

@@ -49,6 +49,7 @@ void nvList::ItemsAdd(NewItem values) {
       });
     } else {
       on.step([&] { items.reset(); });
+      state_.Selection.removedAll();
       state_.ItemsDimensioned = true;
       state_.InsertIndex = 0;
     }
@@ -154,6 +155,7 @@ void nvList::ItemsRemove(Variant& Index) {
   trapped(here, "ItemsRemove", [&](Trap& on) {
     if (!state_.ItemsDimensioned || on.test([&] { return WrongIndex(Index); })) return;
     on.step([&] { Index = Index.toInt32(); });
+    on.step([&] { state_.Selection.removing(state_.Items, Index.toInt32()); });
     const std::int32_t removed = shiftDownOnto(on, Index.toInt32());
     if (ItemsCount() < 2)
       on.step([&] { ItemsClear(); });
@@ -183,6 +185,7 @@ std::int32_t nvList::shiftDownOnto(Trap& on, std::int32_t index) {
 void nvList::ItemsClear() {
   trapped(here, "ItemsClear", [&](Trap& on) {
     on.step([&] { state_.Items.reset(); });
+    state_.Selection.removedAll();
     state_.ItemsDimensioned = false;
     state_.MaxItemWidth = 0;
     state_.ListIndex = 0;
@@ -238,6 +241,7 @@ bool nvList::sweepToLast(Trap& on) {
       if (item(i).Selected()) last = i;
     if (last < first) return;
     if (last > first) {
+      for (std::int32_t i = first; i < last; ++i) state_.Selection.removing(state_.Items, i);
       const std::int32_t removed = state_.Items.removeSelected(first, last);
       if (removed > 0) state_.LoopIndex = state_.Items.upperBound();
       state_.InsertIndex = checked::subtract(state_.InsertIndex.toInt32(), removed);

@@ -65,6 +65,21 @@ void nvList::SetNoneSelected() {
   trapped(here, "SetNoneSelected", [&](Trap& on) { clearMarks(on); });
 }
 
+void nvList::clearSelection() {
+  trapped(here, "clearSelection", [&](Trap& on) {
+    clearMarks(on);
+    repaint(on);
+  });
+}
+
+std::vector<std::int32_t> nvList::selectedIndexes() {
+  std::vector<std::int32_t> indexes;
+  trapped(here, "selectedIndexes", [&](Trap& on) {
+    if (state_.ItemsDimensioned) on.step([&] { indexes = state_.Selection.indexes(state_.Items); });
+  });
+  return indexes;
+}
+
 void nvList::clearMarks(Trap& on) {
   on.step([&] { state_.Selection.clear(state_.Items); });
   state_.LoopIndex = state_.Items.upperBound();

@@ -64,6 +64,7 @@ void nvList::inputImage(Boolean ReadItemPropertiesIfExists) {
   const Boolean isStored = image.ReadProperty("sip", false).toBoolean();
   const bool readsProperties = ReadItemPropertiesIfExists && isStored;
   state_.Items.recreate(believedCount(count, image.size(), smallestImageItem));
+  state_.Selection.removedAll();
   state_.LoopIndex = 0;
   while (state_.LoopIndex <= state_.Items.upperBound()) {
     inputImageItem(image, readsProperties);

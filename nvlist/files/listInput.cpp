@@ -136,7 +136,7 @@ void nvList::ListFile::readRecords() {
       isSelected = static_cast<bool>(item.Selected);
       items.assign(index, std::move(item));
     }
-    if (isSelected) list_.state_.Selection.set(items, index, true);
+    if (isSelected) list_.state_.Selection.setLoaded(items, index);
   }
   oneMade();
 }
@@ -273,6 +273,7 @@ void nvList::inputItems(const std::string& Filename, Boolean ReadItemPropertiesI
   state_.ItemsDimensioned = false;
   if (reader->isEmpty()) return;
   state_.Items.recreate(reader->load(*file), reader);
+  state_.Selection.removedAll();
   reader->readRecords();
   file->close();
   state_.ItemsDimensioned = true;

@@ -1,9 +1,13 @@
 #include <nvlist/objects/Trap.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <new>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include <nvlist/objects/Error.h>
 #include <nvlist/objects/reporter.h>
@@ -42,7 +46,36 @@ void reportCurrent(ReportAs&& reportAs) {
   }
 }
 
+/// Null entries are watches that ended while the loop in Trap::ended was running.
+thread_local std::vector<Trap::Watch*> watches;
+thread_local int watchLoops = 0;
+
 }  // namespace
+
+Trap::Watch::Watch(std::function<void()> onEnd) : onEnd_(std::move(onEnd)) {
+  watches.push_back(this);
+  isWatched = true;
+}
+
+Trap::Watch::~Watch() {
+  std::ranges::replace(watches, this, nullptr);
+  if (watchLoops == 0) std::erase(watches, nullptr);
+  isWatched = !watches.empty();
+}
+
+void Trap::ended() {
+  if (anyRuns()) return;
+  ++watchLoops;
+  for (std::size_t i = 0; i < watches.size(); ++i) {
+    if (!watches[i]) continue;
+    // A copy: the function may destroy its watch.
+    const auto onEnd = watches[i]->onEnd_;
+    onEnd();
+  }
+  if (--watchLoops > 0) return;
+  std::erase(watches, nullptr);
+  isWatched = !watches.empty();
+}
 
 // Not inline: where the library is a DLL, each module has inline counters of its own.
 bool Trap::anyRuns() { return depth > 0; }

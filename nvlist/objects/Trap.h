@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <utility>
 
 #include <nvlist/values/Boolean.h>
@@ -39,6 +40,21 @@ class Trap {
 
   /// The number of failures on this thread so far, those ignored under SilentError included.
   static std::int64_t failures();
+
+  /// While one exists, `onEnd` is called each time the outermost procedure on this thread has
+  /// ended. Then no procedure runs, so the function may call any operation and destroy any control.
+  /// It may destroy the watch, too. It must not throw.
+  class Watch {
+   public:
+    explicit Watch(std::function<void()> onEnd);
+    Watch(const Watch&) = delete;
+    Watch& operator=(const Watch&) = delete;
+    ~Watch();
+
+   private:
+    friend class Trap;
+    std::function<void()> onEnd_;
+  };
 
   /// Runs one statement.
   template <class Statement>
@@ -86,6 +102,8 @@ class Trap {
   };
   static inline thread_local int depth = 0;
   static inline thread_local std::int64_t failureCount = 0;
+  /// Whether this thread has a Watch.
+  static inline thread_local bool isWatched = false;
 
   template <class Body>
   friend void trapped(const Module& module, const char* procedure, Body&& body);
@@ -93,6 +111,9 @@ class Trap {
   /// Called while the exception is being handled. Returns if SilentError is on; otherwise reports
   /// the failure and throws Left.
   void failed(int line) const;
+
+  /// Calls the watches if no procedure is running.
+  static void ended();
 
   const Module& module_;
   const char* procedure_;
@@ -102,12 +123,15 @@ class Trap {
 template <class Body>
 void trapped(const Module& module, const char* procedure, Body&& body) {
   Trap on(module, procedure);
-  const Trap::Running running;
-  try {
-    body(on);
-  } catch (const Trap::Left&) {
-    // Already reported.
+  {
+    const Trap::Running running;
+    try {
+      body(on);
+    } catch (const Trap::Left&) {
+      // Already reported.
+    }
   }
+  if (Trap::isWatched) Trap::ended();
 }
 
 }  // namespace norvane

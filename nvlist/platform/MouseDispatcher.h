@@ -46,6 +46,8 @@ class MouseDispatcher {
   /// The outermost control gets none: it would complete a pending move of an item.
   void holdLost();
 
+  /// The foremost place at a point of the form that takes the mouse, or nullptr.
+  Place* hit(Point at) const;
   /// The place of the control that was pressed, while a button is down; nullptr otherwise.
   Place* pressed() const { return pressed_; }
   /// The place with the capture, or nullptr.
@@ -58,8 +60,6 @@ class MouseDispatcher {
  private:
   struct EndOfHold;
 
-  /// The foremost place at a point of the form that takes the mouse, or nullptr.
-  Place* hit(Point at) const;
   void notifyMove(Place* target, Point at, std::int16_t buttons, std::int16_t shift);
 
   Place& root_;

@@ -1,28 +1,40 @@
 #include <nvlist/platform/qt/NvListWidget.h>
 
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMetaMethod>
 #include <QPaintEvent>
+#include <QPointer>
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <string>
+#include <string_view>
 
 #include <nvlist/platform/qt/QtApplication.h>
+#include <nvlist/platform/qt/QtListSignals.h>
 
 namespace norvane {
 
 /// The list and its place, which may have to outlive the widget for a moment.
 struct NvListWidget::Core {
-  explicit Core(QWidget& widget) : place(widget), list(place) {}
+  explicit Core(NvListWidget& widget) : place(widget), list(place), notifier(widget, list) {
+    list.addSink(notifier);
+  }
 
   QtPlace place;
   nvList list;
+  QtListSignals notifier;
 };
 
-NvListWidget::NvListWidget(QWidget* parent)
-    : QWidget(parent), core_(std::make_shared<Core>(*this)) {
+NvListWidget::NvListWidget(QWidget* parent) : QWidget(parent) {
+  core_ = std::make_shared<Core>(*this);
   QtApplication::ensure();
   setFocusPolicy(Qt::StrongFocus);
   core_->place.onPropertyChanged = [this](std::string_view name) {
-    // A copy: the handler may replace itself.
-    const auto handler = onPropertyChanged;
-    if (handler) handler(name);
+    core_->notifier.propertyChanged(name);
   };
+  core_->place.onEdited = [this] { core_->notifier.edited(); };
   connect(this, &QObject::objectNameChanged, this,
           [this] { list().UserControl_AmbientChanged("DisplayName"); });
   list().UserControl_InitProperties();
@@ -30,6 +42,8 @@ NvListWidget::NvListWidget(QWidget* parent)
 
 NvListWidget::~NvListWidget() {
   core_->place.onPropertyChanged = nullptr;
+  core_->place.onEdited = nullptr;
+  core_->notifier.end();
   // The host may be destroyed with its window, while the list is still in the middle of a call.
   core_->list.removeAllSinks();
   core_->place.detach();
@@ -48,9 +62,138 @@ void NvListWidget::setDesignMode(bool on) {
   list().Redraw();
 }
 
+// ---- items ----
+
+namespace {
+
+QString qtText(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+/// A pattern that matches the text alone.
+std::string patternOf(const QString& text) {
+  std::string pattern;
+  for (const char c : text.toStdString()) {
+    const bool isSpecial = std::string_view("?*#[").find(c) != std::string_view::npos;
+    pattern += isSpecial ? std::string{'[', c, ']'} : std::string{c};
+  }
+  return pattern;
+}
+
+}  // namespace
+
+int NvListWidget::count() const { return core_->list.ItemsCount(); }
+
+int NvListWidget::addItem(const QString& text, const QString& key) {
+  list().ItemsAdd({.aText = text.toStdString(), .aKey = key.toStdString()});
+  return list().NewIndex();
+}
+
+QString NvListWidget::itemText(int index) const { return qtText(core_->list.ItemText(index)); }
+
+void NvListWidget::setItemText(int index, const QString& text) {
+  list().ItemText(index, text.toStdString());
+}
+
+QString NvListWidget::itemKey(int index) const {
+  return qtText(core_->list.ItemKey(index).toText());
+}
+
+void NvListWidget::setItemKey(int index, const QString& key) {
+  list().ItemKey(index, key.toStdString());
+}
+
+int NvListWidget::indexOfText(const QString& text) const {
+  return core_->list.IsInList(patternOf(text));
+}
+
+int NvListWidget::indexOfKey(const QString& key) const {
+  return core_->list.IndexByKey(key.toStdString());
+}
+
+int NvListWidget::indexAt(const QPoint& point) const {
+  // The row at the top of a press, as the list finds it (input/mouse.cpp).
+  constexpr int pressOrigin = 4;
+  QtPlace& place = core_->place;
+  nvList& list = core_->list;
+  const Point at{static_cast<float>(point.x()), static_cast<float>(point.y())};
+  if (place.mouse().hit(at) != &place) return -1;
+  const std::int64_t height = list.ItemHeight();
+  if (height <= 0 || point.y() > height * list.ItemsCount()) return -1;
+  const std::int64_t row = point.y() < pressOrigin ? -1 : (point.y() - pressOrigin) / height;
+  const std::int64_t index = list.verticalBar().Value() + row;
+  return index >= 0 && index < list.ItemsCount() ? static_cast<int>(index) : -1;
+}
+
+QRect NvListWidget::itemRect(int index) const {
+  const nvList& list = core_->list;
+  if (index < 0 || index >= list.ItemsCount()) return {};
+  const double height = list.state().ItemHeightValue;
+  const double top = list.IndentTop() + (index - std::max(list.TopIndex(), 0)) * height;
+  const auto limited = [](double y) {
+    constexpr double far = 1 << 24;
+    return static_cast<int>(std::lround(std::clamp(y, -far, far)));
+  };
+  const nvVScroll& bar = list.verticalBar();
+  const int right = bar.Visible() ? limited(bar.Left()) : width();
+  return {QPoint(0, limited(top)), QPoint(right - 1, limited(top + height) - 1)};
+}
+
+void NvListWidget::scrollTo(int index) {
+  if (index < 0 || index >= count()) return;
+  const int visible = list().VisibleItems();
+  const int top = list().TopIndex();
+  if (index < top)
+    list().TopIndex(index);
+  else if (index >= std::max(top, 0) + visible)
+    list().TopIndex(index - visible + 1);
+}
+
+QList<int> NvListWidget::selectedIndexes() const {
+  const auto indexes = core_->list.selectedIndexes();
+  return {indexes.begin(), indexes.end()};
+}
+
+void NvListWidget::clearSelection() { list().clearSelection(); }
+
+// ---- events ----
+
 bool NvListWidget::event(QEvent* event) {
   // Events come before the list exists, and after it.
-  return (core_ && core_->place.event(event)) || QWidget::event(event);
+  if (!core_) return QWidget::event(event);
+  std::shared_ptr<Core> core = core_;
+  const bool isTaken = core->notifier.during([&] { return core->place.event(event); });
+  if (core->notifier.hasEnded()) {
+    QtPlace::endLater(std::move(core));
+    return true;
+  }
+  if (!isTaken && event->type() == QEvent::ContextMenu &&
+      contextMenuPolicy() == Qt::DefaultContextMenu)
+    return requestContextMenu(*static_cast<QContextMenuEvent*>(event));
+  return isTaken || QWidget::event(event);
+}
+
+/// Returns true if somebody is connected. A slot may destroy the widget.
+bool NvListWidget::requestContextMenu(QContextMenuEvent& event) {
+  static const QMetaMethod signal = QMetaMethod::fromSignal(&NvListWidget::contextMenuRequested);
+  const bool isByMouse = event.reason() == QContextMenuEvent::Mouse;
+  const int index = isByMouse ? indexAt(event.pos()) : list().ListIndex();
+  const QRect item = itemRect(index);
+  event.setAccepted(isConnected(signal));
+  if (event.isAccepted())
+    emit contextMenuRequested(item.isEmpty() ? -1 : index,
+                              isByMouse ? event.pos() : item.bottomLeft());
+  return true;
+}
+
+/// As in Qt's own views, Return is also left to the form, whose default button it may press.
+void NvListWidget::keyPressEvent(QKeyEvent* event) {
+  const QPointer<QWidget> guard(this);
+  const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  const int index = list().ListIndex();
+  if (isReturn && index >= 0 && index < count() && list().ItemEnabled(index))
+    emit itemActivated(index);
+  if (guard) QWidget::keyPressEvent(event);
 }
 
 void NvListWidget::paintEvent(QPaintEvent* event) { core_->place.paint(event->region()); }
@@ -58,6 +201,14 @@ void NvListWidget::paintEvent(QPaintEvent* event) { core_->place.paint(event->re
 void NvListWidget::resizeEvent(QResizeEvent*) {
   core_->place.resize();
   list().UserControl_Resize();
+}
+
+void NvListWidget::connectNotify(const QMetaMethod&) {
+  if (core_) core_->notifier.connectionsChanged();
+}
+
+void NvListWidget::disconnectNotify(const QMetaMethod&) {
+  if (core_) core_->notifier.connectionsChanged();
 }
 
 }  // namespace norvane

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <QList>
+#include <QPointF>
 #include <QWidget>
-#include <functional>
 #include <memory>
-#include <string_view>
 
 #include <nvlist/nvList.h>
 #include <nvlist/platform/qt/QtPlace.h>
@@ -14,16 +14,23 @@ namespace norvane {
 ///
 ///     auto* names = new NvListWidget(form);
 ///     names->list().ItemsAdd("Ada");
+///     connect(names, &NvListWidget::itemActivated, [=](int index) { open(names->itemText(index));
+///     });
 ///
 /// The list starts with the font of the widget. It belongs to the thread of the QApplication.
+/// Indexes are those of the list; points are in pixels of the widget. docs/qt.md lists all signals
+/// and properties.
 class NvListWidget : public QWidget {
+  Q_OBJECT
+
  public:
   /// The first widget puts the Qt platform's services to use, apart from those that the host has
   /// made already (QtApplication::ensure).
   explicit NvListWidget(QWidget* parent = nullptr);
   ~NvListWidget() override;
 
-  /// Valid as long as the widget. A handler of one of its events may destroy the widget.
+  /// Valid as long as the widget. A handler of one of its events, or a slot, may destroy the
+  /// widget.
   nvList& list();
   /// The place of the list, which contains those of its bars. Valid as long as the widget.
   QtPlace& place();
@@ -33,18 +40,106 @@ class NvListWidget : public QWidget {
   bool isDesignMode() const;
   void setDesignMode(bool on);
 
-  /// Called after each change of a property of the list, with its exact name. Default: none.
-  std::function<void(std::string_view name)> onPropertyChanged;
+  // ---- items, with Qt's texts ----
+
+  /// The number of items.
+  int count() const;
+  /// Adds an item with a text, and a key if that is not empty, at the end. Returns its index.
+  int addItem(const QString& text, const QString& key = {});
+  /// The text, or the key, of an item. A bad index is a failure, and the result is empty.
+  QString itemText(int index) const;
+  void setItemText(int index, const QString& text);
+  QString itemKey(int index) const;
+  void setItemKey(int index, const QString& key);
+  /// The first item with exactly this text, or key; -1 if there is none.
+  int indexOfText(const QString& text) const;
+  int indexOfKey(const QString& key) const;
+
+  // ---- where items are ----
+
+  /// The item that a click at this point would hit, or -1. Near the edge of a row this may be
+  /// another one than the row that is painted there: the list hits rows one pixel lower than it
+  /// paints them, and above the first row the item before it.
+  int indexAt(const QPoint& point) const;
+  /// Where an item is painted, without the part behind the vertical scroll bar. An item that is
+  /// scrolled out of view has a rectangle outside of the widget; without such an item it is empty.
+  QRect itemRect(int index) const;
+  /// Scrolls as little as necessary to make the item visible. A bad index is ignored.
+  void scrollTo(int index);
+
+  // ---- the selection ----
+
+  /// The indexes of the selected items, in order. Visits all items if several are selected.
+  QList<int> selectedIndexes() const;
+  /// Clears the selection. The current item stays.
+  void clearSelection();
 
   QSize sizeHint() const override { return {240, 200}; }
+
+ signals:
+  // Emitted when the call or the event that caused them has ended, at most once for each.
+
+  /// The list has another current index; -1 for none. An item that takes the index of another one
+  /// is no change.
+  void currentChanged(int index);
+  /// Other items are selected.
+  void selectionChanged();
+  /// The rows have moved in the widget: by a scroll bar, the wheel, a key or the host.
+  void scrolled();
+  /// The user has checked or cleared the check box of an item.
+  void itemChecked(int index, bool isChecked);
+  /// The user has ended editing the text of an item with Return. The text may be the old one.
+  void itemEdited(int index, const QString& text);
+  /// The user has dragged an item to another place. Items between the two have moved by one.
+  void itemMoved(int from, int to);
+  /// A double click on an enabled item that does not open the edit box, or Return while the list
+  /// has the focus.
+  void itemActivated(int index);
+  /// The context menu was requested at a point of the widget, on an item or (-1) beside all. By the
+  /// menu key: on the current item, at its lower left corner. Not emitted, and the request is left
+  /// to the parent, while nobody is connected or contextMenuPolicy() is another than the default.
+  void contextMenuRequested(int index, const QPoint& point);
+
+  // The events of the list in Qt's types.
+
+  void clicked();
+  void doubleClicked();
+  void mousePressed(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, const QPointF& point);
+  void mouseReleased(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, const QPointF& point);
+  /// `index` is the item under the pointer, or -1.
+  void mouseMoved(int index, Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers,
+                  const QPointF& point);
+  /// The list refused to make this index, which has no enabled item, the current one.
+  void wrongIndex(int index);
+  /// A list file could not be loaded, or not be saved.
+  void inputFailed();
+  void saveFailed();
+
+  // Emitted in the middle of a call. A slot may call any operation, but must not open a dialog.
+
+  /// The user is about to change the check mark of an item. A slot that sets `cancel` prevents it.
+  void itemAboutToBeChecked(int index, bool& cancel);
+  /// A list file is being loaded, or saved, and this item is done.
+  void itemRead(int index);
+  void itemSaved(int index);
+  /// A property of the list has changed, or was set to the same value again. `name` is its exact
+  /// name in the list, such as "ListIndex".
+  void propertyChanged(const QString& name);
 
  protected:
   bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void connectNotify(const QMetaMethod& signal) override;
+  void disconnectNotify(const QMetaMethod& signal) override;
 
  private:
+  friend class QtListSignals;
   struct Core;
+
+  bool isConnected(const QMetaMethod& signal) const { return isSignalConnected(signal); }
+  bool requestContextMenu(QContextMenuEvent& event);
 
   std::shared_ptr<Core> core_;
 };

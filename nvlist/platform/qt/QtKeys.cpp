@@ -53,6 +53,14 @@ std::int16_t shiftOf(Qt::KeyboardModifiers modifiers) {
                                    (modifiers & Qt::AltModifier ? 4 : 0));
 }
 
+Qt::KeyboardModifiers modifiersOf(std::int16_t shift) {
+  Qt::KeyboardModifiers modifiers;
+  modifiers.setFlag(Qt::ShiftModifier, shift & 1);
+  modifiers.setFlag(Qt::ControlModifier, shift & 2);
+  modifiers.setFlag(Qt::AltModifier, shift & 4);
+  return modifiers;
+}
+
 std::int16_t buttonsOf(Qt::MouseButtons buttons) {
   // Qt uses the same numbers for these three.
   return static_cast<std::int16_t>(buttons & (Qt::LeftButton | Qt::RightButton | Qt::MiddleButton));

@@ -89,13 +89,22 @@ std::unique_ptr<Container> QtPlace::addChild() {
 }
 
 std::unique_ptr<TextBox> QtPlace::addTextBox(std::function<void(std::int16_t&)> keyPress) {
-  return std::make_unique<QtTextBox>(*form().widget_, std::move(keyPress),
-                                     [this](QEvent::Type type) {
-                                       if (type == QEvent::Enter)
-                                         mouse().pointerLeft(shiftNow());
-                                       else if (control())
-                                         focusEvent(type, FocusOf::editBox);
-                                     });
+  auto typed = [this, keyPress = std::move(keyPress)](std::int16_t& character) {
+    constexpr std::int16_t keyReturn = 13;
+    const bool isReturn = character == keyReturn;
+    keyPress(character);
+    // The list takes Return out of the box if it has taken the text.
+    if (!isReturn || character != 0 || !form().onEdited) return;
+    // A copy: a slot may destroy the widget.
+    const auto handler = form().onEdited;
+    handler();
+  };
+  return std::make_unique<QtTextBox>(*form().widget_, std::move(typed), [this](QEvent::Type type) {
+    if (type == QEvent::Enter)
+      mouse().pointerLeft(shiftNow());
+    else if (control())
+      focusEvent(type, FocusOf::editBox);
+  });
 }
 
 std::unique_ptr<Timer> QtPlace::addTimer(std::function<void()> tick) {

@@ -30,6 +30,10 @@ class QtPlace : public Place {
   /// Called with the name of each property of the control that has changed. Default: none.
   std::function<void(std::string_view name)> onPropertyChanged;
 
+  /// Called after Return in the edit box has changed an item; read at the outermost place. Default:
+  /// none.
+  std::function<void()> onEdited;
+
   /// Called with what a handler of the program threw while the control let events run (DoEvents);
   /// the control then goes on as if nothing had been thrown. Read at the outermost place. Default:
   /// none; what is thrown is then a failure of the control, after which a list may stay unpainted

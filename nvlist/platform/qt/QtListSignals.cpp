@@ -1,0 +1,175 @@
+#include <nvlist/platform/qt/QtListSignals.h>
+
+#include <QMetaMethod>
+#include <QScopedValueRollback>
+#include <QTimer>
+#include <algorithm>
+#include <iterator>
+#include <memory>
+#include <utility>
+
+#include <nvlist/platform/qt/NvListWidget.h>
+#include <nvlist/platform/qt/QtKeys.h>
+
+namespace norvane {
+
+template <auto signal>
+bool QtListSignals::isConnected() const {
+  static const QMetaMethod method = QMetaMethod::fromSignal(signal);
+  return widget_ && widget_->isConnected(method);
+}
+
+template <auto signal, class... Arguments>
+void QtListSignals::later(Arguments... arguments) {
+  if (!isConnected<signal>()) return;
+  waiting_.push_back([widget = widget_, arguments...] { emit(widget->*signal)(arguments...); });
+  watch();
+}
+
+// ---- when signals are emitted ----
+
+void QtListSignals::end() {
+  watch_.reset();
+  widget_ = nullptr;
+}
+
+bool QtListSignals::during(const std::function<bool()>& event) {
+  bool result = false;
+  {
+    const QScopedValueRollback<int> inEvent(events_, events_ + 1);
+    currentBeforeEvent_ = list_.ListIndex();
+    result = event();
+  }
+  emitWaiting();
+  return result;
+}
+
+void QtListSignals::connectionsChanged() {
+  if (isCompared() && !watch_) seen_ = look();
+  watch();
+}
+
+bool QtListSignals::isCompared() const {
+  return isConnected<&NvListWidget::currentChanged>() ||
+         isConnected<&NvListWidget::selectionChanged>() || isConnected<&NvListWidget::scrolled>();
+}
+
+/// Calls of the host are watched only while there may be something to emit after them.
+void QtListSignals::watch() {
+  const bool isNeeded = !waiting_.empty() || !checks_.empty() || isCompared();
+  if (!isNeeded)
+    watch_.reset();
+  else if (!watch_)
+    watch_.emplace([this] { emitWaiting(); });
+}
+
+QtListSignals::Look QtListSignals::look() const {
+  return {list_.ListIndex(), list_.state().Selection.signature(), list_.verticalBar().Value(),
+          list_.horizontalBar().Value()};
+}
+
+/// Emits what has changed or happened since the last time. A slot may destroy the widget; the list
+/// then lives until the event loop runs, as the caller may be a part of it.
+void QtListSignals::emitWaiting() {
+  if (events_ > 0 || isCollecting_ || !watch_) return;
+  isCollecting_ = true;
+  const Look before = std::exchange(seen_, look());
+  const Look now = seen_;
+  const auto checks = std::exchange(checks_, {});
+  const auto happened = std::exchange(waiting_, {});
+  const auto isFlipped = [&](const Check& check) {
+    return check.index >= 0 && check.index < list_.ItemsCount() &&
+           static_cast<bool>(list_.ItemChecked(check.index)) != check.wasChecked;
+  };
+  std::vector<Check> flipped;
+  std::ranges::copy_if(checks, std::back_inserter(flipped), isFlipped);
+  watch();
+  isCollecting_ = false;
+
+  NvListWidget& widget = *widget_;
+  const std::shared_ptr<void> list = widget.core_;
+  const auto ifAlive = [&](auto&& emission) {
+    if (!hasEnded()) emission();
+  };
+  if (now.current != before.current) ifAlive([&] { emit widget.currentChanged(now.current); });
+  if (now.selection != before.selection) ifAlive([&] { emit widget.selectionChanged(); });
+  if (now.top != before.top || now.left != before.left) ifAlive([&] { emit widget.scrolled(); });
+  for (const Check& check : flipped)
+    ifAlive([&] { emit widget.itemChecked(check.index, !check.wasChecked); });
+  for (const auto& emission : happened) ifAlive(emission);
+  if (hasEnded()) QTimer::singleShot(0, [list] { QtPlace::endLater(list); });
+}
+
+// ---- what happens ----
+
+void QtListSignals::propertyChanged(std::string_view name) {
+  if (isConnected<&NvListWidget::propertyChanged>())
+    emit widget_->propertyChanged(
+        QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+}
+
+void QtListSignals::edited() {
+  const std::int32_t index = list_.ListIndex();
+  if (isConnected<&NvListWidget::itemEdited>())
+    later<&NvListWidget::itemEdited>(index, QString::fromStdString(list_.ItemText(index)));
+  emitWaiting();
+}
+
+void QtListSignals::Click() { later<&NvListWidget::clicked>(); }
+
+void QtListSignals::DblClick() {
+  later<&NvListWidget::doubleClicked>();
+  const ListState& state = list_.state();
+  const std::int32_t index = state.ListIndex;
+  const int hit =
+      widget_->indexAt(QPointF(state.MouseDownX.toNumber(), state.MouseDownY.toNumber()).toPoint());
+  // A double click that edits the item is no command, and neither is one on another, disabled item.
+  if (!state.EditActive && hit >= 0 && hit == index) later<&NvListWidget::itemActivated>(index);
+}
+
+void QtListSignals::ItemCheck(std::int32_t& Item, Boolean& Cancel) {
+  if (isConnected<&NvListWidget::itemChecked>()) {
+    checks_.push_back({Item, static_cast<bool>(list_.ItemChecked(Item))});
+    watch();
+  }
+  if (!isConnected<&NvListWidget::itemAboutToBeChecked>()) return;
+  bool cancel = static_cast<bool>(Cancel);
+  emit widget_->itemAboutToBeChecked(Item, cancel);
+  if (cancel != static_cast<bool>(Cancel)) Cancel = cancel;
+}
+
+void QtListSignals::MouseDown(std::int16_t& Button, std::int16_t& Shift, float& X, float& Y) {
+  later<&NvListWidget::mousePressed>(Qt::MouseButton(Button), modifiersOf(Shift), QPointF(X, Y));
+}
+
+void QtListSignals::MouseUp(std::int16_t& Button, std::int16_t& Shift, float& X, float& Y) {
+  // The list has moved the item before it raises this event.
+  const std::int32_t current = list_.ListIndex();
+  if (list_.AllowItemMoving() && events_ > 0 && current != currentBeforeEvent_)
+    later<&NvListWidget::itemMoved>(currentBeforeEvent_, current);
+  later<&NvListWidget::mouseReleased>(Qt::MouseButton(Button), modifiersOf(Shift), QPointF(X, Y));
+}
+
+void QtListSignals::MouseMove(Variant&, std::int32_t& IndexUnderMouse, std::int16_t& Button,
+                              std::int16_t& Shift, float& X, float& Y) {
+  later<&NvListWidget::mouseMoved>(IndexUnderMouse < list_.ItemsCount() ? IndexUnderMouse : -1,
+                                   Qt::MouseButtons(Button), modifiersOf(Shift), QPointF(X, Y));
+}
+
+void QtListSignals::ErrorListInput() { later<&NvListWidget::inputFailed>(); }
+
+void QtListSignals::ErrorListSave() { later<&NvListWidget::saveFailed>(); }
+
+void QtListSignals::ListSaving(Variant& Index) {
+  if (isConnected<&NvListWidget::itemSaved>()) emit widget_->itemSaved(Index.toInt32());
+}
+
+void QtListSignals::ListReading(Variant& Index) {
+  if (isConnected<&NvListWidget::itemRead>()) emit widget_->itemRead(Index.toInt32());
+}
+
+void QtListSignals::ErrorWrongIndex(Variant& Index) {
+  later<&NvListWidget::wrongIndex>(Index.toInt32());
+}
+
+}  // namespace norvane
