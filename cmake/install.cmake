@@ -55,6 +55,11 @@ if(TARGET nvlist_qt_sql)
   install_library(nvlist_qt_sql qt_sql qt)
 endif()
 
+# Designer looks in this folder of Qt's own installation, and where QT_PLUGIN_PATH says.
+if(TARGET nvlist_designer)
+  install(TARGETS nvlist_designer LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/qt6/plugins/designer)
+endif()
+
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/nvListConfig.cmake.in
   ${PROJECT_BINARY_DIR}/nvListConfig.cmake INSTALL_DESTINATION ${package_dir})
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/nvListConfigVersion.cmake

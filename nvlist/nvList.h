@@ -112,6 +112,9 @@ class nvList final : public UserControl,
   /// Closes the edit box if it is open. With `keepsText` its text is written to the current item,
   /// as Return does; otherwise it is discarded.
   void closeEdit(bool keepsText);
+  /// Scrolls to the side as dragging the thumb of the horizontal bar does: `left` is the new value
+  /// of the bar, limited to its range. Ignored if the bar is not visible.
+  void userScrollsTo(std::int32_t left);
   /// Whether the release of the mouse moves the current item only if a drag has marked where to.
   /// Otherwise a mere click moves it to the top under AllowItemMoving. Default: false.
   bool movesOnlyToMark() const { return movesOnlyToMark_; }
@@ -470,6 +473,12 @@ class nvList final : public UserControl,
   /// Height of a row, rounded to whole pixels. The mouse is matched to rows of this height; they
   /// are painted with the height that is not rounded (ListState::ItemHeightValue).
   std::int32_t ItemHeight();
+
+  /// Whether a text that is higher than its row begins at the top of the row and is clipped to it.
+  /// Otherwise it is centred on the row, and covers the rows beside. Does not repaint. Default:
+  /// false.
+  bool clipsTexts() const { return state_.ClipsTexts; }
+  void clipsTexts(bool value) { state_.ClipsTexts = value; }
 
   // ---- size and scroll bars: render/scrollfit.cpp ----
 

@@ -12,8 +12,10 @@
 #include "Pages.h"
 
 using norvane::nvHScroll;
+using norvane::NvHScrollWidget;
 using norvane::NvScrollWidget;
 using norvane::nvVScroll;
+using norvane::NvVScrollWidget;
 
 namespace gallery {
 namespace {
@@ -66,9 +68,9 @@ void setStyle(nvHScroll& bar, const Family& family) {
 }
 
 /// An enlarged picture of a real bar, with all parts in the same state.
-template <class Bar>
+template <class Widget>
 QPixmap specimen(const Family& family, State state) {
-  NvScrollWidget<Bar> widget;
+  Widget widget;
   widget.setAttribute(Qt::WA_DontShowOnScreen);
   widget.resize(specimenLength, specimenLength);
   widget.show();
@@ -105,7 +107,7 @@ QWidget* verticalSpecimens() {
   for (const Family& family : families) {
     grid->addWidget(new QLabel(family.name), 0, column, 1, 4);
     for (const auto& [name, state] : states) {
-      grid->addWidget(shown(specimen<nvVScroll>(family, state)), 1, column);
+      grid->addWidget(shown(specimen<NvVScrollWidget>(family, state)), 1, column);
       grid->addWidget(new QLabel(name), 2, column++, Qt::AlignHCenter);
     }
     grid->setColumnMinimumWidth(column++, 12);
@@ -126,7 +128,7 @@ QWidget* horizontalSpecimens() {
     int column = 0;
     for (const auto& [name, state] : states) {
       if (row == 1) grid->addWidget(new QLabel(name), 0, column, Qt::AlignHCenter);
-      grid->addWidget(shown(specimen<nvHScroll>(family, state)), row, column++);
+      grid->addWidget(shown(specimen<NvHScrollWidget>(family, state)), row, column++);
     }
     grid->addWidget(new QLabel(family.name), row++, column);
     grid->setColumnStretch(column, 1);
@@ -137,11 +139,11 @@ QWidget* horizontalSpecimens() {
 }
 
 /// A bar to use, and a label that shows its value and how often each event was raised.
-template <class Bar>
+template <class Widget>
 std::pair<QWidget*, QLabel*> live(const Family& family, int max, const char* separator) {
-  auto* widget = new NvScrollWidget<Bar>;
-  widget->bar().Max(max);
-  widget->bar().Value(max / 3);
+  auto* widget = new Widget;
+  widget->setMaximum(max);
+  widget->setValue(max / 3);
   setStyle(widget->bar(), family);
   auto* label = new QLabel;
   struct Counts {
@@ -150,13 +152,13 @@ std::pair<QWidget*, QLabel*> live(const Family& family, int max, const char* sep
   };
   const auto counts = std::make_shared<Counts>();
   const auto tell = [=] {
-    const QStringList parts = {QString("Value %1").arg(widget->bar().Value()),
+    const QStringList parts = {QString("Value %1").arg(widget->value()),
                                QString("Change %1").arg(counts->change),
                                QString("Scroll %1").arg(counts->scroll)};
     label->setText(parts.join(separator));
   };
-  widget->onChange = [=] { ++counts->change, tell(); };
-  widget->onScroll = [=] { ++counts->scroll, tell(); };
+  QObject::connect(widget, &NvScrollWidget::changed, [=] { ++counts->change, tell(); });
+  QObject::connect(widget, &NvScrollWidget::scrolled, [=] { ++counts->scroll, tell(); });
   tell();
   return {widget, label};
 }
@@ -168,7 +170,7 @@ QWidget* liveBars() {
   grid->setHorizontalSpacing(8);
   int column = 0;
   for (const Family& family : families) {
-    const auto [bar, label] = live<nvVScroll>(family, 40, "\n");
+    const auto [bar, label] = live<NvVScrollWidget>(family, 40, "\n");
     bar->setObjectName(QString("VScroll %1").arg(family.name));
     label->setMinimumWidth(72);
     grid->addWidget(bar, 0, column++, 4, 1);
@@ -176,7 +178,7 @@ QWidget* liveBars() {
   }
   int row = 0;
   const auto addRow = [&](const Family& family) {
-    const auto [bar, label] = live<nvHScroll>(family, 150, "   ");
+    const auto [bar, label] = live<NvHScrollWidget>(family, 150, "   ");
     bar->setObjectName(QString("HScroll %1").arg(family.name));
     label->setMinimumWidth(210);
     grid->addWidget(bar, row, column);

@@ -74,6 +74,7 @@ struct ListState {
   Variant MouseDownY;
   Boolean MouseDownActive = false;
   Boolean EditActive = false;
+  std::uint32_t Edits = 0;  ///< texts that the edit box has written so far
   Boolean ShiftDown = false;
   Boolean CtrlDown = false;
   std::int32_t SelectAnchor = -1;  ///< where a range selection starts; -1: not set
@@ -85,6 +86,7 @@ struct ListState {
   float ItemHeightValue = 0;      ///< cached row height, not rounded
   std::int32_t MaxItemWidth = 0;  ///< widest item measured
   Boolean WheelMoved = false;
+  bool ClipsTexts = false;  ///< texts stay within their rows
 
   SelectionMarks Selection;  ///< sets and clears the Selected marks
 };

@@ -73,6 +73,7 @@ void nvList::Text1_KeyPress(std::int16_t& KeyAscii) {
     // Written to the item that is current now, without the PropertyChanged notification of
     // ItemText.
     on.step([&] { state_.Items.setText(state_.ListIndex, Text1->Text()); });
+    ++state_.Edits;
     state_.EditActive = false;
     on.step([&] { Text1->Visible(false); });
     on.step([&] { Redraw(); });

@@ -35,6 +35,16 @@ void nvList::userSelects(std::int32_t anchor, std::int32_t end, std::int32_t cur
   });
 }
 
+void nvList::userScrollsTo(std::int32_t left) {
+  trapped(here, "userScrollsTo", [&](Trap& on) {
+    if (!HScroll1.Visible()) return;
+    left = std::max(HScroll1.Min(), std::min(left, HScroll1.Max()));
+    if (left == HScroll1.Value()) return;
+    on.step([&] { HScroll1.Value(left); });
+    on.step([&] { HScroll1_Change(); });
+  });
+}
+
 void nvList::closeEdit(bool keepsText) {
   trapped(here, "closeEdit", [&](Trap& on) {
     if (!state_.EditActive) return;

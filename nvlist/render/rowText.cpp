@@ -78,6 +78,13 @@ void nvList::Row::paintText() {
   // Extends to the bottom of the surface: a text of several lines continues over the rows below.
   on_.step([&] { rect.Bottom = nearest<std::int32_t>(surface_.ScaleHeight()); });
 
+  if (state_.ClipsTexts) {
+    on_.step([&] { rect.Top = std::max(rect.Top, nearest<std::int32_t>(surface_.CurrentY())); });
+    on_.step([&] {
+      rect.Bottom = std::min(rect.Bottom, nearest<std::int32_t>(surface_.CurrentY() + height()));
+    });
+  }
+
   setFontFlags();
   std::size_t marker = std::string_view::npos;
   on_.step([&] { marker = markerIn(text()); });

@@ -20,6 +20,9 @@ constexpr Colour systemColour(std::uint8_t index) {
 constexpr bool isSystemColour(Colour colour) { return colour < 0; }
 
 namespace colours {
+constexpr Colour window = systemColour(0x05);
+constexpr Colour windowText = systemColour(0x08);
+constexpr Colour workspace = systemColour(0x0C);
 constexpr Colour white = 0xFFFFFF;
 constexpr Colour greyText = systemColour(0x11);
 constexpr Colour light3D = systemColour(0x16);

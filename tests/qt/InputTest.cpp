@@ -230,6 +230,7 @@ TEST_F(Input, WhatIsEditedCanBeReadOnADesktopOfAnyColours) {
 }
 
 TEST_F(Input, AWheelIsHeardInItsMessages) {
+  list->setPassesFineWheel(true);
   turn(-120);
   EXPECT_EQ(heard(), "Scroll Scroll");
   turn(0);

@@ -28,19 +28,21 @@ class NvScrollWidgetTest : public testing::Test {
     form.setLayout(layout);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(widget);
-    widget->onChange = [this] { tell("Change"); };
-    widget->onScroll = [this] { tell("Scroll"); };
+    QObject::connect(widget, &NvScrollWidget::changed, &form, [this] {
+      tell("Change");
+      if (onChange) onChange();
+    });
+    QObject::connect(widget, &NvScrollWidget::scrolled, &form, [this] {
+      tell("Scroll");
+      if (onScroll) onScroll();
+    });
     length(200);
     form.show();
     QCoreApplication::processEvents();
   }
-  ~NvScrollWidgetTest() override {
-    if (widget) widget->onChange = widget->onScroll = nullptr;
-  }
 
   void tell(const char* event) {
-    told += (told.empty() ? "" : ", ") + std::string(event) + " " +
-            std::to_string(widget->bar().Value());
+    told += (told.empty() ? "" : ", ") + std::string(event) + " " + std::to_string(widget->value());
   }
   std::string heard() { return std::exchange(told, {}); }
 
@@ -63,6 +65,7 @@ class NvScrollWidgetTest : public testing::Test {
   QWidget form;
   QPointer<Widget> widget{new Widget};
   std::string told;
+  std::function<void()> onChange, onScroll;
 };
 
 using BothWidgets = testing::Types<NvVScrollWidget, NvHScrollWidget>;
@@ -102,10 +105,7 @@ TYPED_TEST(NvScrollWidgetTest, aPressEndsAlsoWhereAHandlerTakesTheMouseAway) {
   for (const int place : {195, 130})
     for (const auto& deed : deeds) {
       this->widget->bar().Value(0);
-      this->widget->onChange = [&] {
-        this->tell("Change");
-        deed();
-      };
+      this->onChange = deed;
       this->press(place);
       // A hidden window may not receive it.
       const bool isHidden = !this->form.isVisible();
@@ -118,8 +118,8 @@ TYPED_TEST(NvScrollWidgetTest, aPressEndsAlsoWhereAHandlerTakesTheMouseAway) {
       if (isHidden) this->release(place);
     }
   // The thumb is not left hanging where the mouse has had it.
-  this->widget->onChange = nullptr;
-  this->widget->onScroll = openDialog;
+  this->onChange = nullptr;
+  this->onScroll = openDialog;
   this->press(50);
   this->moveTo(60);
   this->release(60);
@@ -130,7 +130,7 @@ TYPED_TEST(NvScrollWidgetTest, aPressEndsAlsoWhereAHandlerTakesTheMouseAway) {
 }
 
 TYPED_TEST(NvScrollWidgetTest, mayEndInAHandlerOfItsOwn) {
-  this->widget->onScroll = [this] { delete this->widget; };
+  this->onScroll = [this] { delete this->widget; };
   this->press(50);
   this->moveTo(60);
   EXPECT_FALSE(this->widget);

@@ -1,10 +1,14 @@
 #include <nvlist/platform/qt/NvListWidget.h>
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMetaMethod>
 #include <QPaintEvent>
 #include <QPointer>
+#include <QScrollEvent>
+#include <QScrollPrepareEvent>
+#include <QStyleHints>
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -12,7 +16,9 @@
 #include <string_view>
 
 #include <nvlist/platform/qt/QtApplication.h>
+#include <nvlist/platform/qt/QtFont.h>
 #include <nvlist/platform/qt/QtListSignals.h>
+#include <nvlist/platform/qt/QtRows.h>
 
 namespace norvane {
 
@@ -27,22 +33,29 @@ struct NvListWidget::Core {
   QtListSignals notifier;
 };
 
-NvListWidget::NvListWidget(QWidget* parent) : QWidget(parent) {
+NvListWidget::NvListWidget(QWidget* parent) : NvListProperties(parent) {
   core_ = std::make_shared<Core>(*this);
   QtApplication::ensure();
   setFocusPolicy(Qt::StrongFocus);
   core_->place.onPropertyChanged = [this](std::string_view name) {
     core_->notifier.propertyChanged(name);
   };
-  core_->place.onEdited = [this] { core_->notifier.edited(); };
   connect(this, &QObject::objectNameChanged, this,
           [this] { list().UserControl_AmbientChanged("DisplayName"); });
+  connect(QGuiApplication::styleHints(), &QStyleHints::wheelScrollLinesChanged, this,
+          &NvListWidget::followWheelSettings);
+  core_->place.wheel.onSideways = [this](int pixels) {
+    const std::int64_t left = std::int64_t{list().horizontalBar().Value()} + pixels;
+    list().userScrollsTo(static_cast<std::int32_t>(std::clamp<std::int64_t>(left, 0, INT32_MAX)));
+  };
   list().UserControl_InitProperties();
+  followedFont_ = CloneFont(list().Font());
+  if (!isEnabled()) list().Enabled(false);
 }
 
 NvListWidget::~NvListWidget() {
   core_->place.onPropertyChanged = nullptr;
-  core_->place.onEdited = nullptr;
+  core_->place.wheel.onSideways = nullptr;
   core_->notifier.end();
   // The host may be destroyed with its window, while the list is still in the middle of a call.
   core_->list.removeAllSinks();
@@ -54,12 +67,95 @@ QtPlace& NvListWidget::place() { return core_->place; }
 
 nvList& NvListWidget::list() { return core_->list; }
 
+const nvList& NvListWidget::list() const { return core_->list; }
+
 bool NvListWidget::isDesignMode() const { return core_->place.isDesignMode; }
 
 void NvListWidget::setDesignMode(bool on) {
   if (isDesignMode() == on) return;
   core_->place.isDesignMode = on;
   list().Redraw();
+}
+
+// ---- comfort ----
+
+void NvListWidget::setFollowsPalette(bool on) {
+  if (followsPalette_ == on) return;
+  followsPalette_ = on;
+  core_->place.makesReadable(on);
+  const struct {
+    Colour (nvList::*get)() const;
+    void (nvList::*set)(Colour);
+    Colour usual, ofPalette;
+  } properties[] = {
+      {&nvList::ForeColor, &nvList::ForeColor, 0, colours::windowText},
+      {&nvList::BackColor, &nvList::BackColor, colours::white, colours::window},
+      {&nvList::GridLineColor, &nvList::GridLineColor, 0xC0C0C0, colours::workspace},
+  };
+  for (const auto& property : properties) {
+    const Colour from = on ? property.usual : property.ofPalette;
+    const Colour to = on ? property.ofPalette : property.usual;
+    if ((list().*property.get)() == from) (list().*property.set)(to);
+  }
+}
+
+bool NvListWidget::clipsTexts() const { return list().clipsTexts(); }
+
+void NvListWidget::setClipsTexts(bool on) {
+  if (clipsTexts() == on) return;
+  list().clipsTexts(on);
+  list().Redraw();
+}
+
+bool NvListWidget::passesFineWheel() const { return core_->place.wheel.passesParts; }
+
+void NvListWidget::setPassesFineWheel(bool on) { core_->place.wheel.passesParts = on; }
+
+void NvListWidget::setFollowsWheelSettings(bool on) {
+  followsWheelSettings_ = on;
+  followWheelSettings();
+}
+
+void NvListWidget::followWheelSettings() {
+  if (followsWheelSettings_) list().WheelScrollLines(QApplication::wheelScrollLines());
+}
+
+/// An inherited font, which also changes with the program's, does not replace one that the host has
+/// given the list.
+void NvListWidget::followFont() {
+  const norvane::Font own = fontFrom(font());
+  const norvane::Font current = list().Font();
+  const bool isFollowing = current && followedFont_ && current->isSame(*followedFont_);
+  if (!testAttribute(Qt::WA_SetFont) && !isFollowing) return;
+  followedFont_ = own;
+  if (!current || !current->isSame(*own)) list().Font(own);
+}
+
+void NvListWidget::changeEvent(QEvent* event) {
+  const QPointer<QWidget> guard(this);
+  if (core_ && event->type() == QEvent::FontChange) followFont();
+  if (core_ && event->type() == QEvent::EnabledChange) list().Enabled(isEnabled());
+  if (guard) QWidget::changeEvent(event);
+}
+
+/// QScroller scrolls by touch: by whole rows, since the list has no other places.
+void NvListWidget::prepareScroller(QScrollPrepareEvent& event) {
+  const double height = list().state().ItemHeightValue;
+  const nvHScroll& bar = list().horizontalBar();
+  const int last = std::max(count() - list().VisibleItems(), 0);
+  event.setViewportSize(size());
+  event.setContentPosRange({0, 0, bar.Visible() ? bar.Max() : 0.0, last * height});
+  event.setContentPos({bar.Visible() ? bar.Value() : 0.0, std::max(list().TopIndex(), 0) * height});
+  event.accept();
+}
+
+void NvListWidget::followScroller(const QScrollEvent& event) {
+  const double height = list().state().ItemHeightValue;
+  if (!(height > 0)) return;
+  const auto top = static_cast<std::int32_t>(std::lround(event.contentPos().y() / height));
+  const QPointer<QWidget> guard(this);
+  if (top != list().TopIndex()) list().TopIndex(top);
+  if (guard) list().userScrollsTo(static_cast<std::int32_t>(std::lround(event.contentPos().x())));
 }
 
 // ---- items ----
@@ -81,6 +177,10 @@ std::string patternOf(const QString& text) {
 }
 
 }  // namespace
+
+int NvListWidget::currentIndex() const { return list().ListIndex(); }
+
+void NvListWidget::setCurrentIndex(int index) { list().ListIndex(index); }
 
 int NvListWidget::count() const { return core_->list.ItemsCount(); }
 
@@ -126,17 +226,8 @@ int NvListWidget::indexAt(const QPoint& point) const {
 }
 
 QRect NvListWidget::itemRect(int index) const {
-  const nvList& list = core_->list;
-  if (index < 0 || index >= list.ItemsCount()) return {};
-  const double height = list.state().ItemHeightValue;
-  const double top = list.IndentTop() + (index - std::max(list.TopIndex(), 0)) * height;
-  const auto limited = [](double y) {
-    constexpr double far = 1 << 24;
-    return static_cast<int>(std::lround(std::clamp(y, -far, far)));
-  };
-  const nvVScroll& bar = list.verticalBar();
-  const int right = bar.Visible() ? limited(bar.Left()) : width();
-  return {QPoint(0, limited(top)), QPoint(right - 1, limited(top + height) - 1)};
+  const bool isItem = index >= 0 && index < count();
+  return isItem ? paintedRow(core_->list, size(), index) : QRect();
 }
 
 void NvListWidget::scrollTo(int index) {
@@ -165,6 +256,14 @@ bool NvListWidget::event(QEvent* event) {
   const bool isTaken = core->notifier.during([&] { return core->place.event(event); });
   if (core->notifier.hasEnded()) {
     QtPlace::endLater(std::move(core));
+    return true;
+  }
+  if (event->type() == QEvent::ScrollPrepare) {
+    prepareScroller(*static_cast<QScrollPrepareEvent*>(event));
+    return true;
+  }
+  if (event->type() == QEvent::Scroll) {
+    followScroller(*static_cast<QScrollEvent*>(event));
     return true;
   }
   if (!isTaken && event->type() == QEvent::ContextMenu &&
@@ -204,11 +303,11 @@ void NvListWidget::resizeEvent(QResizeEvent*) {
 }
 
 void NvListWidget::connectNotify(const QMetaMethod&) {
-  if (core_) core_->notifier.connectionsChanged();
+  if (core_) core_->notifier.watch();
 }
 
 void NvListWidget::disconnectNotify(const QMetaMethod&) {
-  if (core_) core_->notifier.connectionsChanged();
+  if (core_) core_->notifier.watch();
 }
 
 }  // namespace norvane

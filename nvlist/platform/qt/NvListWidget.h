@@ -2,11 +2,15 @@
 
 #include <QList>
 #include <QPointF>
-#include <QWidget>
+#include <QPointer>
 #include <memory>
 
-#include <nvlist/nvList.h>
+#include <nvlist/platform/qt/NvListProperties.h>
 #include <nvlist/platform/qt/QtPlace.h>
+
+class QContextMenuEvent;
+class QScrollEvent;
+class QScrollPrepareEvent;
 
 namespace norvane {
 
@@ -17,11 +21,19 @@ namespace norvane {
 ///     connect(names, &NvListWidget::itemActivated, [=](int index) { open(names->itemText(index));
 ///     });
 ///
-/// The list starts with the font of the widget. It belongs to the thread of the QApplication.
-/// Indexes are those of the list; points are in pixels of the widget. docs/qt.md lists all signals
-/// and properties.
-class NvListWidget : public QWidget {
+/// The list has the font of the widget, until the host gives the list itself another one; setFont
+/// replaces that again. Its Enabled is that of the widget. It belongs to the thread of the
+/// QApplication. Indexes are those of the list; points are in pixels of the widget. docs/qt.md
+/// lists all signals and properties.
+class NvListWidget : public NvListProperties {
   Q_OBJECT
+  Q_PROPERTY(int count READ count STORED false)
+  Q_PROPERTY(int currentIndex READ currentIndex WRITE setCurrentIndex NOTIFY currentChanged
+                 DESIGNABLE false STORED false USER true)
+  Q_PROPERTY(bool followsPalette READ followsPalette WRITE setFollowsPalette)
+  Q_PROPERTY(bool clipsTexts READ clipsTexts WRITE setClipsTexts)
+  Q_PROPERTY(bool passesFineWheel READ passesFineWheel WRITE setPassesFineWheel)
+  Q_PROPERTY(bool followsWheelSettings READ followsWheelSettings WRITE setFollowsWheelSettings)
 
  public:
   /// The first widget puts the Qt platform's services to use, apart from those that the host has
@@ -31,7 +43,8 @@ class NvListWidget : public QWidget {
 
   /// Valid as long as the widget. A handler of one of its events, or a slot, may destroy the
   /// widget.
-  nvList& list();
+  nvList& list() override;
+  const nvList& list() const override;
   /// The place of the list, which contains those of its bars. Valid as long as the widget.
   QtPlace& place();
 
@@ -39,6 +52,27 @@ class NvListWidget : public QWidget {
   /// form. Default: false.
   bool isDesignMode() const;
   void setDesignMode(bool on);
+
+  // ---- comfort beyond the list's own properties ----
+
+  /// Whether the colours come from the palette: the properties ForeColor, BackColor and
+  /// GridLineColor of the list, each if it has its default value, become system colours, and the
+  /// texts of disabled rows are made readable. Turned off, those that still are such become the
+  /// defaults again. The colours of selection and scroll bars stay. Default: false.
+  bool followsPalette() const { return followsPalette_; }
+  void setFollowsPalette(bool on);
+  /// Whether a text that is higher than its row is clipped to it (nvList::clipsTexts). Default:
+  /// false.
+  bool clipsTexts() const;
+  void setClipsTexts(bool on);
+  /// Whether turns of the wheel by less than a notch, as of a touchpad, reach the list one by one;
+  /// it then scrolls to the end at each. Otherwise they are added up to notches. Default: false.
+  bool passesFineWheel() const;
+  void setPassesFineWheel(bool on);
+  /// Whether WheelScrollLines is kept at the number of lines in the settings of the system.
+  /// Default: false.
+  bool followsWheelSettings() const { return followsWheelSettings_; }
+  void setFollowsWheelSettings(bool on);
 
   // ---- items, with Qt's texts ----
 
@@ -61,13 +95,17 @@ class NvListWidget : public QWidget {
   /// another one than the row that is painted there: the list hits rows one pixel lower than it
   /// paints them, and above the first row the item before it.
   int indexAt(const QPoint& point) const;
-  /// Where an item is painted, without the part behind the vertical scroll bar. An item that is
-  /// scrolled out of view has a rectangle outside of the widget; without such an item it is empty.
+  /// Where the row of an item is painted, inside the frame and left of the vertical bar; outside of
+  /// the widget if it is scrolled out of view. Empty if there is no such item.
   QRect itemRect(int index) const;
   /// Scrolls as little as necessary to make the item visible. A bad index is ignored.
   void scrollTo(int index);
 
-  // ---- the selection ----
+  // ---- the current item and the selection ----
+
+  /// The list's ListIndex.
+  int currentIndex() const;
+  void setCurrentIndex(int index);
 
   /// The indexes of the selected items, in order. Visits all items if several are selected.
   QList<int> selectedIndexes() const;
@@ -88,7 +126,7 @@ class NvListWidget : public QWidget {
   void scrolled();
   /// The user has checked or cleared the check box of an item.
   void itemChecked(int index, bool isChecked);
-  /// The user has ended editing the text of an item with Return. The text may be the old one.
+  /// The edit box has written its text to an item. It may be the old one.
   void itemEdited(int index, const QString& text);
   /// The user has dragged an item to another place. Items between the two have moved by one.
   void itemMoved(int from, int to);
@@ -131,6 +169,7 @@ class NvListWidget : public QWidget {
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void changeEvent(QEvent* event) override;
   void connectNotify(const QMetaMethod& signal) override;
   void disconnectNotify(const QMetaMethod& signal) override;
 
@@ -141,7 +180,16 @@ class NvListWidget : public QWidget {
   bool isConnected(const QMetaMethod& signal) const { return isSignalConnected(signal); }
   bool requestContextMenu(QContextMenuEvent& event);
 
+  void followFont();
+  void followWheelSettings();
+  void prepareScroller(QScrollPrepareEvent& event);
+  void followScroller(const QScrollEvent& event);
+
   std::shared_ptr<Core> core_;
+  /// The font that the widget gave the list last.
+  norvane::Font followedFont_;
+  bool followsPalette_ = false;
+  bool followsWheelSettings_ = false;
 };
 
 }  // namespace norvane

@@ -1,7 +1,7 @@
 #include <nvlist/platform/qt/NvScrollWidget.h>
 
 #include <QPaintEvent>
-#include <type_traits>
+#include <QPointer>
 
 #include <nvlist/platform/qt/QtApplication.h>
 #include <nvlist/platform/qt/QtPlace.h>
@@ -13,44 +13,40 @@ constexpr int across = 17;
 constexpr int usualLength = 150;
 constexpr int shortestLength = across + static_cast<int>(scroll::shortestTrack) + across;
 
-template <class Bar>
-constexpr bool isVertical = std::is_same_v<Bar, nvVScroll>;
-
-template <class Bar>
-QSize sizeOf(int length) {
-  return isVertical<Bar> ? QSize(across, length) : QSize(length, across);
-}
-
 }  // namespace
 
 /// The bar and the place around its own, which may have to outlive the widget for a moment.
-template <class Bar>
-struct NvScrollWidget<Bar>::Core final : nvVScrollEvents, nvHScrollEvents {
-  explicit Core(NvScrollWidget& owner)
-      : widget(&owner), place(owner), bar(place.addChild(), *this) {}
-
-  void VScroll1_Change() override { tell(&NvScrollWidget::onChange); }
-  void VScroll1_Scroll() override { tell(&NvScrollWidget::onScroll); }
-  void HScroll1_Change() override { tell(&NvScrollWidget::onChange); }
-  void HScroll1_Scroll() override { tell(&NvScrollWidget::onScroll); }
-
-  void tell(std::function<void()> NvScrollWidget::*event) {
-    if (!widget) return;
-    // A copy: the handler may replace itself.
-    const auto handler = widget->*event;
-    if (handler) handler();
+struct NvScrollWidget::Core final : nvVScrollEvents, nvHScrollEvents {
+  Core(NvScrollWidget& owner, Qt::Orientation orientation) : widget(&owner), place(owner) {
+    if (orientation == Qt::Vertical)
+      bar = std::make_unique<nvVScroll>(place.addChild(), *this);
+    else
+      bar = std::make_unique<nvHScroll>(place.addChild(), *this);
   }
 
-  NvScrollWidget* widget;
+  void VScroll1_Change() override { changed(); }
+  void VScroll1_Scroll() override { scrolled(); }
+  void HScroll1_Change() override { changed(); }
+  void HScroll1_Scroll() override { scrolled(); }
+
+  void changed() {
+    if (widget) emit widget->changed(bar->Value());
+  }
+  void scrolled() {
+    if (widget) emit widget->scrolled(bar->Value());
+  }
+
+  NvScrollWidget* widget;  ///< nullptr after its end
   QtPlace place;
-  Bar bar;
+  std::unique_ptr<scroll::Bar> bar;
 };
 
-template <class Bar>
-NvScrollWidget<Bar>::NvScrollWidget(QWidget* parent)
-    : QWidget(parent), core_(std::make_shared<Core>(*this)) {
+NvScrollWidget::NvScrollWidget(Qt::Orientation orientation, QWidget* parent)
+    : QWidget(parent),
+      orientation_(orientation),
+      core_(std::make_shared<Core>(*this, orientation)) {
   QtApplication::ensure();
-  if (isVertical<Bar>) {
+  if (orientation == Qt::Vertical) {
     setFixedWidth(across);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
   } else {
@@ -58,49 +54,38 @@ NvScrollWidget<Bar>::NvScrollWidget(QWidget* parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   }
   bar().UserControl_InitProperties();
+  if (!isEnabled()) bar().Enabled(false);
   bar().Visible(true);
 }
 
-template <class Bar>
-NvScrollWidget<Bar>::~NvScrollWidget() {
+NvScrollWidget::~NvScrollWidget() {
   core_->widget = nullptr;
   core_->place.detach();
   QtPlace::endLater(std::move(core_));
 }
 
-template <class Bar>
-Bar& NvScrollWidget<Bar>::bar() {
-  return core_->bar;
+scroll::Bar& NvScrollWidget::bar() { return *core_->bar; }
+
+const scroll::Bar& NvScrollWidget::bar() const { return *core_->bar; }
+
+QtPlace& NvScrollWidget::place() { return core_->place; }
+
+QSize NvScrollWidget::sizeOf(int length) const {
+  return orientation_ == Qt::Vertical ? QSize(across, length) : QSize(length, across);
 }
 
-template <class Bar>
-QtPlace& NvScrollWidget<Bar>::place() {
-  return core_->place;
-}
+QSize NvScrollWidget::sizeHint() const { return sizeOf(usualLength); }
 
-template <class Bar>
-QSize NvScrollWidget<Bar>::sizeHint() const {
-  return sizeOf<Bar>(usualLength);
-}
+QSize NvScrollWidget::minimumSizeHint() const { return sizeOf(shortestLength); }
 
-template <class Bar>
-QSize NvScrollWidget<Bar>::minimumSizeHint() const {
-  return sizeOf<Bar>(shortestLength);
-}
-
-template <class Bar>
-bool NvScrollWidget<Bar>::event(QEvent* event) {
+bool NvScrollWidget::event(QEvent* event) {
   // Events come before the bar exists, and after it.
   return (core_ && core_->place.event(event)) || QWidget::event(event);
 }
 
-template <class Bar>
-void NvScrollWidget<Bar>::paintEvent(QPaintEvent* event) {
-  core_->place.paint(event->region());
-}
+void NvScrollWidget::paintEvent(QPaintEvent* event) { core_->place.paint(event->region()); }
 
-template <class Bar>
-void NvScrollWidget<Bar>::resizeEvent(QResizeEvent*) {
+void NvScrollWidget::resizeEvent(QResizeEvent*) {
   core_->place.resize();
   bar().Move({0, 0, static_cast<float>(width()), static_cast<float>(height())});
   // The thumb takes its length from the new length of the bar, and then its position.
@@ -108,7 +93,10 @@ void NvScrollWidget<Bar>::resizeEvent(QResizeEvent*) {
   bar().Value(bar().Value());
 }
 
-template class NvScrollWidget<nvVScroll>;
-template class NvScrollWidget<nvHScroll>;
+void NvScrollWidget::changeEvent(QEvent* event) {
+  const QPointer<QWidget> guard(this);
+  if (core_ && event->type() == QEvent::EnabledChange) bar().Enabled(isEnabled());
+  if (guard) QWidget::changeEvent(event);
+}
 
 }  // namespace norvane

@@ -11,10 +11,13 @@
 #include <QSettings>
 #include <QThread>
 #include <QTime>
+#include <QTimer>
 #include <QVersionNumber>
 
+#include <nvlist/platform/qt/QtFailures.h>
 #include <nvlist/platform/qt/QtMouse.h>
 #include <nvlist/platform/qt/QtPicture.h>
+#include <nvlist/platform/qt/QtPlace.h>
 #include <nvlist/platform/qt/QtSound.h>
 #include <nvlist/platform/qt/QtTipWindow.h>
 #include <nvlist/platform/qt/QtWindow.h>
@@ -144,6 +147,11 @@ Variant QtProgram::readSetting(std::string_view key, std::string_view name) {
   return Variant(text.toStdString());
 }
 
+std::shared_ptr<ErrorHandler> QtProgram::createErrorHandler() {
+  const auto registered = Program::createErrorHandler();
+  return registered ? registered : QtFailures::handler();
+}
+
 void QtProgram::appendToFile(const std::string& path, const std::string& text) {
   QString name = qtText(path);
   if (!isWindows()) name.replace(u'\\', u'/');
@@ -189,6 +197,13 @@ std::shared_ptr<TipWindow> QtDesktop::createTipWindow(std::int32_t form) {
 
 void QtProgram::MsgBox(std::string_view text, std::int32_t style, std::string_view title) {
   if (!canShow()) return Program::MsgBox(text, style, title);
+  if (QtPlace::anyPaints()) {
+    QTimer::singleShot(0, QCoreApplication::instance(),
+                       [text = std::string(text), style, title = std::string(title)] {
+                         Program::inUse().MsgBox(text, style, title);
+                       });
+    return;
+  }
   // The window, and the box with it, may be destroyed while the box is open.
   const QPointer<QMessageBox> box =
       new QMessageBox(iconOf(style), qtText(title), qtText(text).replace("\r\n", "\n"),

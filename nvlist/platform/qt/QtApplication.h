@@ -25,11 +25,14 @@ class QtProgram : public Program {
   Variant readSetting(std::string_view key, std::string_view name) override;
   /// Throws Failure 75 if the file cannot be written.
   void appendToFile(const std::string& path, const std::string& text) override;
+  /// The registered handler, or the one of the program's failure mode (QtFailures).
+  std::shared_ptr<ErrorHandler> createErrorHandler() override;
   /// In the user's short format.
   std::string dateText() override;
   /// In the user's format with seconds, without the time zone.
   std::string timeText() override;
-  /// Without a QApplication, and on other threads than the application's, writes both texts to the
+  /// While a list is being painted, the box opens after that, and the call returns at once. Without
+  /// a QApplication, and on other threads than the application's, writes both texts to the
   /// standard error stream.
   void MsgBox(std::string_view text, std::int32_t style, std::string_view title) override;
 };

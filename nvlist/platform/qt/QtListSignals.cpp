@@ -44,28 +44,23 @@ bool QtListSignals::during(const std::function<bool()>& event) {
   return result;
 }
 
-void QtListSignals::connectionsChanged() {
-  if (isCompared() && !watch_) seen_ = look();
-  watch();
-}
-
 bool QtListSignals::isCompared() const {
   return isConnected<&NvListWidget::currentChanged>() ||
-         isConnected<&NvListWidget::selectionChanged>() || isConnected<&NvListWidget::scrolled>();
+         isConnected<&NvListWidget::selectionChanged>() ||
+         isConnected<&NvListWidget::itemEdited>() || isConnected<&NvListWidget::scrolled>();
 }
 
-/// Calls of the host are watched only while there may be something to emit after them.
 void QtListSignals::watch() {
   const bool isNeeded = !waiting_.empty() || !checks_.empty() || isCompared();
-  if (!isNeeded)
-    watch_.reset();
-  else if (!watch_)
-    watch_.emplace([this] { emitWaiting(); });
+  if (!isNeeded) return watch_.reset();
+  if (watch_) return;
+  seen_ = look();
+  watch_.emplace([this] { emitWaiting(); });
 }
 
 QtListSignals::Look QtListSignals::look() const {
   return {list_.ListIndex(), list_.state().Selection.signature(), list_.verticalBar().Value(),
-          list_.horizontalBar().Value()};
+          list_.horizontalBar().Value(), list_.state().Edits};
 }
 
 /// Emits what has changed or happened since the last time. A slot may destroy the widget; the list
@@ -83,6 +78,9 @@ void QtListSignals::emitWaiting() {
   };
   std::vector<Check> flipped;
   std::ranges::copy_if(checks, std::back_inserter(flipped), isFlipped);
+  // Return writes the text to the item that is current then.
+  QString edited;
+  if (now.edits != before.edits) edited = QString::fromStdString(list_.ItemText(now.current));
   watch();
   isCollecting_ = false;
 
@@ -94,6 +92,7 @@ void QtListSignals::emitWaiting() {
   if (now.current != before.current) ifAlive([&] { emit widget.currentChanged(now.current); });
   if (now.selection != before.selection) ifAlive([&] { emit widget.selectionChanged(); });
   if (now.top != before.top || now.left != before.left) ifAlive([&] { emit widget.scrolled(); });
+  if (now.edits != before.edits) ifAlive([&] { emit widget.itemEdited(now.current, edited); });
   for (const Check& check : flipped)
     ifAlive([&] { emit widget.itemChecked(check.index, !check.wasChecked); });
   for (const auto& emission : happened) ifAlive(emission);
@@ -106,13 +105,6 @@ void QtListSignals::propertyChanged(std::string_view name) {
   if (isConnected<&NvListWidget::propertyChanged>())
     emit widget_->propertyChanged(
         QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
-}
-
-void QtListSignals::edited() {
-  const std::int32_t index = list_.ListIndex();
-  if (isConnected<&NvListWidget::itemEdited>())
-    later<&NvListWidget::itemEdited>(index, QString::fromStdString(list_.ItemText(index)));
-  emitWaiting();
 }
 
 void QtListSignals::Click() { later<&NvListWidget::clicked>(); }

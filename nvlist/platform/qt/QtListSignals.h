@@ -27,10 +27,9 @@ class QtListSignals final : public __nvList {
   /// Runs a function that passes an event of the widget to the list, and then emits what it caused.
   /// Returns its result. A slot may have destroyed the widget.
   bool during(const std::function<bool()>& event);
-  /// Called when a slot was connected or disconnected.
-  void connectionsChanged();
-  /// Called after the edit box has written its text to the current item.
-  void edited();
+  /// Watches the calls of the host as long as there may be something to emit after them. Called
+  /// when a slot was connected or disconnected.
+  void watch();
   void propertyChanged(std::string_view name);
 
  private:
@@ -40,6 +39,7 @@ class QtListSignals final : public __nvList {
     std::uint64_t selection = 0;
     std::int32_t top = 0;
     std::int32_t left = 0;
+    std::uint32_t edits = 0;
   };
   struct Check {
     std::int32_t index;
@@ -66,7 +66,6 @@ class QtListSignals final : public __nvList {
   void later(Arguments... arguments);
   bool isCompared() const;
   Look look() const;
-  void watch();
   void emitWaiting();
 
   NvListWidget* widget_;  ///< nullptr after its end

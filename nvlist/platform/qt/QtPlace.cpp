@@ -13,6 +13,7 @@
 
 #include <nvlist/objects/Trap.h>
 #include <nvlist/platform/UserControl.h>
+#include <nvlist/platform/qt/QtColour.h>
 #include <nvlist/platform/qt/QtFont.h>
 #include <nvlist/platform/qt/QtKeys.h>
 #include <nvlist/platform/qt/QtTextBox.h>
@@ -28,6 +29,7 @@ using SteadyClock = std::chrono::steady_clock;
 unsigned timesAsked = 0;
 SteadyClock::time_point lastDone = SteadyClock::now();
 int eventLoops = 0;
+int paints = 0;
 
 /// A handler may cause the event that calls it again; from here on it has to wait.
 constexpr int mostEventLoops = 16;
@@ -61,13 +63,13 @@ class HoldWatch final : public QObject {
 
 QtPlace::QtPlace(QWidget& widget) : Place(nullptr), widget_(&widget) {
   widget_->setMouseTracking(true);
-  surface_.setPalette(widget_->palette());
+  takePalette();
   newImage(widget_->size());
   surface_.onDrawn = [this] { changed(); };
 }
 
 QtPlace::QtPlace(QtPlace* around) : Place(around) {
-  if (const QWidget* const widget = form().widget_) surface_.setPalette(widget->palette());
+  takePalette();
   newImage({});
   surface_.onDrawn = [this] { changed(); };
 }
@@ -89,22 +91,13 @@ std::unique_ptr<Container> QtPlace::addChild() {
 }
 
 std::unique_ptr<TextBox> QtPlace::addTextBox(std::function<void(std::int16_t&)> keyPress) {
-  auto typed = [this, keyPress = std::move(keyPress)](std::int16_t& character) {
-    constexpr std::int16_t keyReturn = 13;
-    const bool isReturn = character == keyReturn;
-    keyPress(character);
-    // The list takes Return out of the box if it has taken the text.
-    if (!isReturn || character != 0 || !form().onEdited) return;
-    // A copy: a slot may destroy the widget.
-    const auto handler = form().onEdited;
-    handler();
-  };
-  return std::make_unique<QtTextBox>(*form().widget_, std::move(typed), [this](QEvent::Type type) {
-    if (type == QEvent::Enter)
-      mouse().pointerLeft(shiftNow());
-    else if (control())
-      focusEvent(type, FocusOf::editBox);
-  });
+  return std::make_unique<QtTextBox>(*form().widget_, std::move(keyPress),
+                                     [this](QEvent::Type type) {
+                                       if (type == QEvent::Enter)
+                                         mouse().pointerLeft(shiftNow());
+                                       else if (control())
+                                         focusEvent(type, FocusOf::editBox);
+                                     });
 }
 
 std::unique_ptr<Timer> QtPlace::addTimer(std::function<void()> tick) {
@@ -211,18 +204,34 @@ void QtPlace::setOpaque() {
   widget_->setAttribute(Qt::WA_OpaquePaintEvent, control() && ratio == std::floor(ratio));
 }
 
+void QtPlace::takePalette() {
+  const QtPlace& all = form();
+  if (!all.widget_) return;
+  const QPalette palette = all.widget_->palette();
+  surface_.setPalette(all.makesReadable_ ? readablePalette(palette) : palette);
+}
+
+void QtPlace::makesReadable(bool on) {
+  if (makesReadable_ == on) return;
+  makesReadable_ = on;
+  renewImages();
+}
+
 /// The look of the screen or of the program has changed, and the images are of no use any more.
 void QtPlace::renewImages() {
   const QWidget* const widget = form().widget_;
   if (!widget) return;
-  surface_.setPalette(widget->palette());
+  takePalette();
   newImage(surface_.size());
   if (control()) control()->UserControl_Paint();
   for (Place* place : places()) static_cast<QtPlace*>(place)->renewImages();
 }
 
+bool QtPlace::anyPaints() { return paints > 0; }
+
 void QtPlace::paint(const QRegion& region) {
   if (!widget_) return;
+  const QScopedValueRollback<int> paint(paints, paints + 1);
   forEachVisible([&](Place& place, Point, const Bounds&) {
     if (!region.intersects(static_cast<QtPlace&>(place).geometry())) return;
     // What is drawn now is shown below.
@@ -347,20 +356,51 @@ bool QtPlace::keyEvent(QEvent* event) {
 }
 
 bool QtPlace::wheelEvent(QEvent* event) {
-  const auto* wheel = static_cast<const QWheelEvent*>(event);
-  int turn = wheel->angleDelta().y();
+  const auto* turned = static_cast<const QWheelEvent*>(event);
+  int turn = turned->angleDelta().y();
   // Some systems turn the wheel sideways while Alt is down.
-  if (turn == 0 && (wheel->modifiers() & Qt::AltModifier)) turn = wheel->angleDelta().x();
-  turn = std::clamp(turn, -32768, 32767);
+  if (turn == 0 && (turned->modifiers() & Qt::AltModifier)) turn = turned->angleDelta().x();
   // In a designer the wheel is not hooked.
-  if (!wheelProcedure_ || isDesignMode || !widget_->isEnabled() || turn == 0) return false;
-  const QPoint position = wheel->globalPosition().toPoint();
-  const auto packed = [](int high, int low) { return high * 0x10000 + (low & 0xFFFF); };
+  if (!wheelProcedure_ || isDesignMode || !widget_->isEnabled()) return false;
+  if (turn == 0) return turnSideways(*turned);
   event->accept();
+  if (!wheel.passesParts) {
+    if (turned->phase() == Qt::ScrollBegin) restOfNotch_ = 0;
+    turn = wholeNotches(turn);
+    if (turn == 0) return true;
+  }
+  turn = std::clamp(turn, -32768, 32767);
+  const QPoint position = turned->globalPosition().toPoint();
+  const auto packed = [](int high, int low) { return high * 0x10000 + (low & 0xFFFF); };
   // A copy: a handler of the host may end the hook.
   const auto procedure = wheelProcedure_;
-  procedure(packed(turn, wheelKeysOf(wheel->buttons(), wheel->modifiers())),
+  procedure(packed(turn, wheelKeysOf(turned->buttons(), turned->modifiers())),
             packed(static_cast<std::int16_t>(position.y()), position.x()));
+  return true;
+}
+
+/// Adds a turn to what earlier ones have left, and takes the whole notches from that. A turn in the
+/// other direction starts anew.
+int QtPlace::wholeNotches(int turn) {
+  constexpr int notch = 120;
+  if ((turn < 0) != (restOfNotch_ < 0)) restOfNotch_ = 0;
+  restOfNotch_ += turn;
+  const int whole = restOfNotch_ / notch * notch;
+  restOfNotch_ -= whole;
+  return whole;
+}
+
+bool QtPlace::turnSideways(const QWheelEvent& event) {
+  if (!wheel.onSideways || event.angleDelta().x() == 0) return false;
+  constexpr double pixelsOfLine = 16;
+  const double ofNotch = pixelsOfLine * QApplication::wheelScrollLines();
+  const int exact = event.pixelDelta().x();
+  restOfPixel_ -= exact != 0 ? exact : event.angleDelta().x() * ofNotch / 120;
+  const double whole = std::trunc(restOfPixel_);
+  restOfPixel_ -= whole;
+  // A copy: a handler of the host may destroy the widget.
+  const auto handler = wheel.onSideways;
+  if (whole != 0) handler(static_cast<int>(whole));
   return true;
 }
 

@@ -13,6 +13,8 @@
 #include <nvlist/platform/Place.h>
 #include <nvlist/platform/qt/QtSurface.h>
 
+class QWheelEvent;
+
 namespace norvane {
 
 /// The place of a control in a widget. The outermost place has the widget; the places in it are
@@ -30,9 +32,16 @@ class QtPlace : public Place {
   /// Called with the name of each property of the control that has changed. Default: none.
   std::function<void(std::string_view name)> onPropertyChanged;
 
-  /// Called after Return in the edit box has changed an item; read at the outermost place. Default:
-  /// none.
-  std::function<void()> onEdited;
+  /// What the wheel does besides whole notches; read at the outermost place.
+  struct WheelOptions {
+    /// Whether each turn reaches the control as it comes. Otherwise parts of a notch, as touchpads
+    /// and fine wheels send them, are added up, and the control gets whole notches. Default: false.
+    bool passesParts = false;
+    /// Called with the pixels to scroll to the right (negative: to the left) when a wheel is turned
+    /// to the side. Default: none; the turn is then left to the form.
+    std::function<void(int pixels)> onSideways;
+  };
+  WheelOptions wheel;
 
   /// Called with what a handler of the program threw while the control let events run (DoEvents);
   /// the control then goes on as if nothing had been thrown. Read at the outermost place. Default:
@@ -47,11 +56,17 @@ class QtPlace : public Place {
   void paint(const QRegion& region);
   /// Gives the image the size of the widget. A new size clears the image.
   void resize();
+  /// Whether system colours are changed where texts of disabled rows could not be read
+  /// (readablePalette). Called at the outermost place. Default: false.
+  void makesReadable(bool on);
   /// Called before the widget is destroyed, if the control lives on: from now on nothing is shown.
   void detach() { widget_ = nullptr; }
   /// Destroys a control and its place as soon as no procedure of the library runs: a handler of the
   /// host may have destroyed the widget around them.
   static void endLater(std::shared_ptr<void> control);
+
+  /// Whether any widget with a place is being painted. No window may be opened meanwhile.
+  static bool anyPaints();
 
   /// In whole pixels of the widget.
   QRect geometry() const;
@@ -91,18 +106,25 @@ class QtPlace : public Place {
   bool mouseEvent(QEvent* event);
   bool keyEvent(QEvent* event);
   bool wheelEvent(QEvent* event);
+  int wholeNotches(int turn);
+  bool turnSideways(const QWheelEvent& event);
   void focusEvent(QEvent::Type type, FocusOf of);
   bool isFocusInside() const;
   void watchHold();
   void newImage(QSize size);
   void setOpaque();
+  void takePalette();
   void renewImages();
 
   QtSurface surface_;
   std::function<void(std::int32_t, std::int32_t)> wheelProcedure_;
   // In use at the outermost place only.
   QWidget* widget_ = nullptr;
+  bool makesReadable_ = false;
   bool isPainting_ = false;
+  /// What turns have left of a notch, or of a pixel.
+  int restOfNotch_ = 0;
+  double restOfPixel_ = 0;
   bool isEntered_ = false;
   std::unique_ptr<QObject> holdWatch_;
 };
