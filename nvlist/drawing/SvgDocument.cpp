@@ -156,6 +156,7 @@ class SvgDocument::SvgSurface final : public Surface {
   }
   void appendText(float x, float y, std::string_view text, const char* anchor, bool expandsTabs);
   std::string fontAttributes() const;
+  std::string decoration() const;
 
   const float x_, y_, width_, height_;
   RecordingSurface measuring_{0, 0};
@@ -212,13 +213,15 @@ std::string SvgDocument::SvgSurface::fontAttributes() const {
   result += attribute("font-size", font_.Size * pixelsPerPoint);
   if (font_.Bold) result += " font-weight=\"bold\"";
   if (font_.Italic) result += " font-style=\"italic\"";
-  if (font_.Underline || font_.Strikethrough) {
-    result += " text-decoration=\"";
-    if (font_.Underline) result += "underline ";
-    if (font_.Strikethrough) result += "line-through";
-    result += "\"";
-  }
   return result + " fill=\"" + svgColour(foreColor_) + "\"";
+}
+
+/// Texts do not inherit this one, so each has it.
+std::string SvgDocument::SvgSurface::decoration() const {
+  if (!font_.Underline && !font_.Strikethrough) return {};
+  return std::string(" text-decoration=\"") + (font_.Underline ? "underline" : "") +
+         (font_.Underline && font_.Strikethrough ? " " : "") +
+         (font_.Strikethrough ? "line-through" : "") + "\"";
 }
 
 /// Writes lines from the point on down.
@@ -230,7 +233,7 @@ void SvgDocument::SvgSurface::appendText(float x, float y, std::string_view text
   elements_ += "<g" + fontAttributes() + " xml:space=\"preserve\" text-anchor=\"" + anchor + "\">";
   forEachLine(text, [&](std::string_view line) {
     elements_ += "<text" + attribute("x", x) +
-                 attribute("y", y + std::round(lineHeight * baseline)) + ">" +
+                 attribute("y", y + std::round(lineHeight * baseline)) + decoration() + ">" +
                  escapedLine(line, expandsTabs) + "</text>";
     y += lineHeight;
     return true;

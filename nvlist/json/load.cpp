@@ -138,7 +138,8 @@ void Loader::readHeader(const dom::object& header) {
       readProperties(field.value, bag);
       report_.result.hasProperties = true;
     } else if (field.key == format::itemCount) {
-      static_cast<void>(field.value.get(announced_));
+      if (field.value.get(announced_) != simdjson::SUCCESS)
+        problem(std::string(format::itemCount) + ": a whole number is needed");
     } else if (field.key != format::marker) {
       report_.unknownField(field.key);
     }

@@ -51,6 +51,8 @@ constexpr Drawn drawings[] = {
      },
      " font-family=\"A&amp;&quot;, Tahoma, 'DejaVu Sans Condensed', 'DejaVu Sans', sans-serif\" "
      "font-size=\"16\" font-weight=\"bold\""},
+    {"an underlined text", [](Surface& s) { s.FontUnderline(true), s.Print("x"); },
+     "y=\"10\" text-decoration=\"underline\">x</text>"},
     {"runs of equal pixels of a bitmap",
      [](Surface& s) {
        s.StretchDIBits(s.hDC(), {0, 0, 6, 2}, {3, 1, {1, 1, 1, 1, 1, 1, 9, 9, 9}});
