@@ -30,7 +30,8 @@ std::uint64_t Variant::hold(std::string_view text) {
   static_assert(isAddressShort || alignof(TextBlock) > tagMask);
   void* const memory = ::operator new(sizeof(TextBlock) + text.size());
   auto* const block = new (memory) TextBlock{.size = text.size()};
-  std::memcpy(block + 1, text.data(), text.size());
+  // To GCC, bytes behind the block are part of it.
+  std::memcpy(static_cast<void*>(block + 1), text.data(), text.size());
   return packAddress(Type::Text, reinterpret_cast<std::uintptr_t>(block));
 }
 
