@@ -79,8 +79,10 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     if (verb == "fill") fill(code);
     else if (verb == "clear") list.ItemsClear();
     else if (verb == "add") each([&](auto& text) { list.ItemsAdd(text); });
+    else if (verb == "many") for (int i = 0; i < code; ++i) list.ItemsAdd(i);
     else if (verb == "insert") list.ItemsAdd(value(0), value(1));
     else if (verb == "remove") each([&](auto& index) { list.ItemsRemove(Variant(index)); });
+    else if (verb == "removeFirst") for (int i = 0; i < code; ++i) list.ItemsRemove(0);
     else if (verb == "removeSelected") list.ItemsSelectedRemove();
     else if (verb == "setIndex") list.ListIndex(value(0).toInt32());
     else if (verb == "setTop") list.TopIndex(value(0).toInt32());
@@ -137,6 +139,7 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     else if (verb == "texts") return "<" + texts() + ">";
     else if (verb == "index") return textOf(list.ListIndex());
     else if (verb == "top") return textOf(list.TopIndex());
+    else if (verb == "range") return textOf(list.verticalBar().Max());
     else if (verb == "bar") return textOf(list.verticalBar().Value());
     else if (verb == "new") return textOf(list.NewIndex());
     else if (verb == "isSelected") return list.ItemSelected(value(0)) ? "yes" : "no";

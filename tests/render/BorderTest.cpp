@@ -52,16 +52,5 @@ TEST_F(Border, ThePiecesLieOnTheEdgesAlsoWhileTheyAreHidden) {
   EXPECT_EQ(reports(), "");
 }
 
-TEST_F(Border, ANewSizeIsFittedAndPaintedTwiceAndMeasuresNothing) {
-  fill(20);
-  list.ItemsAdd("0");
-  const std::int32_t width = list.state().MaxItemWidth;
-  heard();
-  headless.resize(200, 100);
-  EXPECT_EQ(heard(), "**");
-  EXPECT_EQ(list.verticalBar().Max(), 21 - 7);
-  EXPECT_EQ(list.state().MaxItemWidth, width);
-}
-
 }  // namespace
 }  // namespace norvane

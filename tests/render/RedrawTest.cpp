@@ -1,4 +1,4 @@
-#include "../Lists.h"
+#include "../ListScript.h"
 
 #include <cmath>
 #include <functional>
@@ -7,6 +7,32 @@
 
 namespace norvane {
 namespace {
+
+// clang-format off
+const Scenario scenarios[] = {
+  {"whole rows only",
+   "resize 200 29; visible; resize 200 28; rows; visible; resize 200 15; rows; visible",
+   "2 / <0@3> / 1 / <> / 0"},
+  {"row heights are rounded for counting only",
+   "fill 3; MinHeight 16.5; rows; visible; MinHeight 17.5; visible", "<0@5 1@21 2@38> / 8 / 7"},
+  {"the top index keeps the last row in the window",
+   "resize 200 55; fill 40; setTop 5; rows; setTop 1000; bar; setTop -4; top; setTop 2147483647;"
+   "reports", "<5@3 6@16 7@29 8@42> / 36 / 0 / 6 TopIndex"},
+  {"a short list may have a negative top index and is still shown",
+   "resize 200 100; fill 2; setTop 0; top; rows", "-5 / <0@3 1@16>"},
+  {"the top index of a list that has grown is repaired",
+   "fill 2; setTop 0; redraw; top; many 38; redraw; top; setIndex 3; top", "-8 / 0 / 0"},
+  {"a top index past the end is repaired",
+   "fill 40; setTop 30; AutoRedraw 0; removeFirst 38; AutoRedraw 1; rows; top",
+   "<38@3 39@16> / 0"},
+  {"a new size is fitted and painted twice and measures nothing",
+   "fill 20; add '0'; width; forget; resize 200 100; events; width; range", "22 / ** / 22 / 14"},
+};
+// clang-format on
+
+using RedrawScenarios = ListScript;
+TEST_P(RedrawScenarios, GiveTheirOutputs) { check(); }
+INSTANTIATE_TEST_SUITE_P(Render, RedrawScenarios, testing::ValuesIn(scenarios), nameOf);
 
 using Redraw = ListTest;
 
@@ -20,37 +46,6 @@ std::string rowsOf(const RecordingSurface& surface) {
   return result;
 }
 
-TEST_F(Redraw, PaintsARowCallByCall) {
-  list.ItemsAdd("Vienna");
-  EXPECT_EQ(headless.face(),
-            "Cls\n"
-            "CurrentY 3\n"
-            "CurrentX 3\n"
-            "Line 38 (0, 3)-(200, 16) #FFFFFF\n"
-            "CurrentY 3\n"
-            "CurrentY 3\n"
-            "CurrentX 3\n"
-            "ForeColor #000000\n"
-            "FontBold off\n"
-            "FontItalic off\n"
-            "FontUnderline off\n"
-            "DrawTextA \"Vienna\" (3, 3)-(200, 100) 64\n"
-            "CurrentY 16\n"
-            "CurrentX 3\n");
-}
-
-TEST_F(Redraw, PaintsWholeRowsOnly) {
-  add({"a", "b", "c"});
-  headless.resize(200, 29);
-  EXPECT_EQ(list.VisibleItems(), 2);
-  headless.resize(200, 28);
-  EXPECT_EQ(rowsOf(headless.surface()), "a@3");
-  EXPECT_EQ(list.VisibleItems(), 1);
-  headless.resize(200, 15);
-  EXPECT_EQ(rowsOf(headless.surface()), "");
-  EXPECT_EQ(list.VisibleItems(), 0);
-}
-
 TEST_F(Redraw, RowsAboveTheSurfaceArePassedOver) {
   list.AutoRedraw(false);
   for (int i = 0; i < 10'000; ++i) list.ItemsAdd(i);
@@ -62,15 +57,6 @@ TEST_F(Redraw, RowsAboveTheSurfaceArePassedOver) {
   list.Redraw();
   EXPECT_LT(headless.surface().image().calls.size(), 50U);
   EXPECT_EQ(list.state().LoopIndex, 10'000);
-}
-
-TEST_F(Redraw, RowHeightsAreRoundedForCountingOnly) {
-  add({"a", "b", "c"});
-  list.MinHeight(16.5);
-  EXPECT_EQ(rowsOf(headless.surface()), "a@5 b@21 c@38");
-  EXPECT_EQ(list.VisibleItems(), 6);
-  list.MinHeight(17.5);
-  EXPECT_EQ(list.VisibleItems(), 5);
 }
 
 TEST_F(Redraw, RowsWithoutHeightShowNothingAndEnd) {
@@ -87,56 +73,10 @@ TEST_F(Redraw, RowsWithoutHeightShowNothingAndEnd) {
   EXPECT_EQ(reports(), "11 ItemsAdd");
 }
 
-TEST_F(Redraw, RepairsATopIndexPastTheEnd) {
-  for (int i = 0; i < 40; ++i) list.ItemsAdd(i);
-  list.TopIndex(30);
-  list.AutoRedraw(false);
-  for (int i = 0; i < 38; ++i) list.ItemsRemove(0);
-  list.AutoRedraw(true);
-  EXPECT_EQ(list.TopIndex(), 0);
-  EXPECT_EQ(rowsOf(headless.surface()), "38@3 39@16");
-}
-
-TEST_F(Redraw, RepairsATopIndexOfAListThatHasGrown) {
-  headless.resize(200, 133);
-  add({"0", "1"});
-  list.TopIndex(0);
-  list.Redraw();
-  EXPECT_EQ(list.TopIndex(), -8);
-  for (int i = 2; i < 40; ++i) list.ItemsAdd(i);
-  list.Redraw();
-  EXPECT_EQ(list.TopIndex(), 0);
-  list.ListIndex(3);
-  EXPECT_EQ(list.TopIndex(), 0);
-}
-
-TEST_F(Redraw, TopIndexKeepsTheLastRowInTheWindow) {
-  for (int i = 0; i < 40; ++i) list.ItemsAdd(i);
-  list.TopIndex(5);
-  EXPECT_EQ(rowsOf(headless.surface()).substr(0, 8), "5@3 6@16");
-  list.TopIndex(1000);
-  EXPECT_EQ(list.verticalBar().Value(), 33);
-  list.TopIndex(-4);
-  EXPECT_EQ(list.TopIndex(), 0);
-  list.TopIndex(std::numeric_limits<std::int32_t>::max());
-  EXPECT_EQ(reports(), "6 TopIndex");
-}
-
-TEST_F(Redraw, AShortListMayHaveANegativeTopIndexAndIsStillShown) {
-  add({"a", "b"});
-  list.TopIndex(0);
-  EXPECT_EQ(list.TopIndex(), -5);
-  EXPECT_EQ(rowsOf(headless.surface()), "a@3 b@16");
-}
-
 /// A list whose surface calls the host while a row is painted.
 struct HostedList {
   struct Surface : RecordingSurface {
     using RecordingSurface::RecordingSurface;
-    float TextHeight(std::string_view text) override {
-      if (text != "A") onMeasure();
-      return RecordingSurface::TextHeight(text);
-    }
     void DrawTextA(std::uintptr_t hDC, std::string_view text, std::int32_t length,
                    const Rectangle& rectangle, TextFormat format) override {
       RecordingSurface::DrawTextA(hDC, text, length, rectangle, format);
@@ -146,7 +86,6 @@ struct HostedList {
       RecordingSurface::ForeColor(colour);
       onColour();
     }
-    std::function<void()> onMeasure = [] {};
     std::function<void()> onColour = [] {};
     std::function<void(std::string_view)> onText = [](std::string_view) {};
   } surface{200, 100};
@@ -205,15 +144,6 @@ TEST_F(Redraw, ACallFromInsideARepaintIsDropped) {
   own.surface.onText = [&](std::string_view) { own.list.Redraw(); };
   EXPECT_EQ(own.repaints(), 1);
   EXPECT_EQ(rowsOf(own.surface), "a@3 b@16");
-}
-
-TEST_F(Redraw, AHostThatChangesTheListInTheMiddleOfARowIsSurvived) {
-  HostedList own({"a text too long to stand in the item itself", "b"});
-  own.surface.onMeasure = [&] { own.list.ItemsClear(); };
-  own.list.Redraw();
-  // Only the blank slot is left; the position is back at the top.
-  EXPECT_EQ(rowsOf(own.surface), "@0");
-  EXPECT_EQ(own.list.ItemsCount(), 0);
 }
 
 TEST_F(Redraw, PropertiesReadAnewInTheMiddleOfARowEndTheRepaint) {

@@ -242,34 +242,6 @@ TEST_F(Rows, PicturesThatAreNoneAreSkipped) {
   EXPECT_EQ(reports(), "");
 }
 
-TEST_F(Rows, WhateverTheSurfaceThrowsIsReportedOnce) {
-  struct Failing : RecordingSurface {
-    using RecordingSurface::RecordingSurface;
-    float CurrentY() const override {
-      if (--questionsLeft == 0) throw std::runtime_error("no answer");
-      return RecordingSurface::CurrentY();
-    }
-    mutable int questionsLeft = 0;
-  };
-  bool hasFailed = true;
-  for (int question = 1; hasFailed; ++question) {
-    Failing surface(200, 40);
-    HeadlessContainer container(surface);
-    nvList own(container);
-    own.UserControl_InitProperties();
-    own.Style(cCheckBoxesIcons);
-    own.FullRowSelect(false);
-    own.GridLines(true);
-    own.ItemsAdd({.aText = "a", .aAlignment = cCenter});
-    own.ItemSelected(0, true);
-    surface.questionsLeft = question;
-    own.Redraw();
-    hasFailed = surface.questionsLeft <= 0;
-    EXPECT_EQ(application.boxes.size(), hasFailed ? 1U : 0U) << question;
-    reports();
-  }
-}
-
 TEST_F(Rows, BarsTakeTheirWidthAndAScrollItsDistance) {
   list.ScrollBars(vbBoth);
   list.FullRowSelect(false);

@@ -116,7 +116,7 @@ TEST_F(ScrollFit, TheWidestOfManyIsKnownWhateverBecomesOfThem) {
     return static_cast<int>(random() % (static_cast<unsigned>(most) + 1));
   };
   list.AutoCheckScroll(false);
-  for (int round = 0; round < 3000; ++round) {
+  for (int round = 0; round < 300; ++round) {
     const int last = list.ItemsCount() - 1;
     list.AutoRedraw(false);
     for (int deeds = upTo(3); deeds >= 0; --deeds) {
