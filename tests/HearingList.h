@@ -155,16 +155,18 @@ class HearingListTest : public ListTest, public __nvList {
   Boolean cancel;
   std::string arguments;  ///< of the last mouse event
 
+ protected:
+  void hear(const std::string& event) {
+    hearRepaints();
+    told += (told.empty() ? "" : " ") + event;
+    onEvent(event);
+  }
+
  private:
   void hearRepaints() {
     const int repaints =
         headless.surface().frames() - std::exchange(frames, headless.surface().frames());
     told += std::string(static_cast<std::size_t>(repaints), '*');
-  }
-  void hear(const std::string& event) {
-    hearRepaints();
-    told += (told.empty() ? "" : " ") + event;
-    onEvent(event);
   }
   void hearMouse(const std::string& event, std::int16_t Button, std::int16_t& Shift, float& X,
                  float& Y) {

@@ -3,6 +3,7 @@
 #include "HearingList.h"
 
 #include <algorithm>
+#include <cctype>
 #include <sstream>
 
 #include <nvlist/core/storedProperties.h>
@@ -80,6 +81,7 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     else if (verb == "clear") list.ItemsClear();
     else if (verb == "add") each([&](auto& text) { list.ItemsAdd(text); });
     else if (verb == "many") for (int i = 0; i < code; ++i) list.ItemsAdd(i);
+    else if (verb == "wide") wide(code, number(1));
     else if (verb == "insert") list.ItemsAdd(value(0), value(1));
     else if (verb == "remove") each([&](auto& index) { list.ItemsRemove(Variant(index)); });
     else if (verb == "removeFirst") for (int i = 0; i < code; ++i) list.ItemsRemove(0);
@@ -107,6 +109,7 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     else if (verb == "pressAt") form.press(real(0), real(1), number(2, 1), number(3));
     else if (verb == "moveTo") form.moveTo(real(0), real(1), number(2), number(3));
     else if (verb == "releaseAt") form.release(real(0), real(1), number(2, 1));
+    else if (verb == "step") step(value(0).toInt32(), value(1).toInt32(), number(2, 1));
     else if (verb == "wheel") EXPECT_TRUE(form.turnWheel(code));
     else if (verb == "wait") wait(code);
     else if (verb == "key") lastCode = textOf(int{key(code, number(1))});
@@ -117,7 +120,7 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     else if (verb == "ambient") list.UserControl_AmbientChanged(rest);
     else if (verb == "type") box().typeText(rest);
     else if (verb == "character") return box().typeCharacter(code) ? "kept" : "taken";
-    // What happens in events and messages: "throw", or a command.
+    // What happens in events and messages: "throw", or a command, whose output becomes an event.
     else if (verb == "posts") for (int i = 0; i < code; ++i) form.post({});
     else if (verb == "drain") while (form.waiting() > 0) form.DoEvents();
     else if (verb == "post") form.post([this, rest] { obey(rest); });
@@ -139,6 +142,7 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     else if (verb == "texts") return "<" + texts() + ">";
     else if (verb == "index") return textOf(list.ListIndex());
     else if (verb == "top") return textOf(list.TopIndex());
+    else if (verb == "bars") return told(list.verticalBar()) + ", " + told(list.horizontalBar());
     else if (verb == "range") return textOf(list.verticalBar().Max());
     else if (verb == "bar") return textOf(list.verticalBar().Value());
     else if (verb == "new") return textOf(list.NewIndex());
@@ -167,7 +171,34 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
   }
   void obey(const std::string& deed) {
     if (deed == "throw") throw Failure(1000, "own");
-    run(deed);
+    if (const std::string output = run(deed); !output.empty()) hear("[" + output + "]");
+  }
+  /// So many items, the first one of a number of characters, with everything fitted anew.
+  void wide(int count, std::int16_t characters) {
+    list.AutoCheckScroll(false);
+    fill(0);
+    list.AutoRedraw(false);
+    for (int i = 0; i < count; ++i)
+      list.ItemsAdd(i == 0 ? std::string(static_cast<std::size_t>(characters), 'm') : "i");
+    list.AutoCheckScroll(true);
+    list.AutoRedraw(true);
+  }
+  /// Clicks on a part of a bar: 0 is the thumb, 1 the near button, 2 the far button.
+  void step(int bar, int part, int times) {
+    HeadlessContainer& place = *form.children().at(static_cast<std::size_t>(bar));
+    for (int i = 0; i < times; ++i) {
+      place.children().at(static_cast<std::size_t>(part))->press(8, 3);
+      form.release(0, 0);
+    }
+  }
+  /// "on 13 at 5 (182 1 17x98)": whether the list shows the bar, its maximum, value and bounds.
+  template <class Bar>
+  static std::string told(const Bar& bar) {
+    const bool isOn = bar.Tag() == "True";
+    EXPECT_EQ(static_cast<bool>(bar.Visible()), isOn);
+    return (isOn ? "on " : "off ") + textOf(bar.Max()) + " at " + textOf(bar.Value()) + " (" +
+           textOf(bar.Left()) + " " + textOf(bar.Top()) + " " + textOf(bar.Width()) + "x" +
+           textOf(bar.Height()) + ")";
   }
   /// The texts drawn, each with its top edge: "<a@3 b@16>".
   std::string rows() {
@@ -191,7 +222,8 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
 
 inline std::string nameOf(const testing::TestParamInfo<Scenario>& test) {
   std::string name = test.param.name;
-  std::ranges::replace(name, ' ', '_');
+  std::ranges::replace_if(
+      name, [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
   return name;
 }
 

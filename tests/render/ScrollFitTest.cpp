@@ -1,106 +1,79 @@
-#include "../Lists.h"
+#include "../ListScript.h"
 
 #include <random>
-#include <sstream>
-#include <tuple>
 
 namespace norvane {
 namespace {
 
 using std::chrono::milliseconds;
 
-/// "on 13 at 5, 182 1 17x98": whether the list shows the bar, its maximum, value and bounds.
-template <class Bar>
-std::string told(const Bar& bar) {
-  EXPECT_EQ(static_cast<bool>(bar.Visible()), bar.Tag() == "True");
-  std::ostringstream text;
-  text << (bar.Tag() == "True" ? "on " : "off ") << bar.Max() << " at " << bar.Value() << ", "
-       << bar.Left() << " " << bar.Top() << " " << bar.Width() << "x" << bar.Height();
-  return text.str();
-}
-std::string range(const std::string& bar) { return bar.substr(0, bar.find(',')); }
-std::string place(const std::string& bar) { return bar.substr(bar.find(',') + 2); }
+// Of 200 by 100 pixels, seven rows, and six above a horizontal bar. A character is 7 wide.
+// clang-format off
+const Scenario scenarios[] = {
+  {"the content is as wide as the widest item and what its style puts beside it",
+   "wide 3 4; AutoRedraw 0; Style 0; measure; width; Style 1; measure; width; Style 2; IconW 16.5;"
+   "measure; width; Style 3; IconW 16; measure; width; Style 7; measure; width",
+   "32 / 45 / 48 / 61 / 28"},
+  {"each item added widens the content by the padding again",
+   "clear; measure; ScrollBars 3; resize 200 1000; many 48; bars; add 'i'; bars;"
+   "add 'mmmmmmmmmmmmmmmmmmmmmmmmmmmmmm'; width; remove 49; width; bars", "off 0 at 0 (0 0 17x0), off 0 at 0 (0 0 0x17) / off 0 at 0 (0 0 17x0), on 3 at 0 (1 982 198x17)"
+   " / 214 / 18 / off 0 at 0 (0 0 17x0), off 0 at 0 (1 982 0x17)"},
+  {"a horizontal bar alone", "resize 200 100; ScrollBars 1; wide 20 40; bars", "off 0 at 0 (0 0 17x0), on 84 at 0 (1 82 198x17)"},
+  // The horizontal range includes the width of the vertical bar even without a horizontal bar.
+  {"a vertical bar alone", "resize 200 100; ScrollBars 2; wide 20 40; bars", "on 13 at 0 (182 1 17x98), off 17 at 0 (0 0 0x17)"},
+  {"both bars only if needed",
+   "resize 200 100; ScrollBars 3; wide 7 28; bars; wide 7 29; bars; ScrollBars 0; bars; measure;"
+   "bars; ScrollBars 3; resize 200 10; range", "off 0 at 0 (0 0 17x0), off 0 at 0 (0 0 0x17) / on 1 at 0 (182 1 17x81), on 24 at 0 (1 82 181x17)"
+   " / on 1 at 0 (182 1 17x81), on 24 at 0 (1 82 181x17)"
+   " / off 0 at 0 (182 1 17x0), off 0 at 0 (1 82 0x17) / 7"},
+  {"the bars lie inside the frame and the corner is the list's",
+   "resize 200 100; ScrollBars 3; BorderVisible 0; wide 20 40; bars; BorderVisible 1; measure;"
+   "bars; face Line 38 (182; resize 10 5; bars", "on 14 at 0 (183 0 17x83), on 101 at 0 (0 83 183x17)"
+   " / on 14 at 0 (182 1 17x81), on 101 at 0 (1 82 181x17)"
+   " / <Line 38 (182, 82)-(200, 100) #FFFFFF> / on 20 at 0 (-8 1 17x0), on 291 at 0 (1 -13 0x17)"},
+  {"a shrinking horizontal range goes back to the start",
+   "ScrollBars 1; wide 2 40; step 1 2 5; measure;"
+   "add 'mmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmm'; bars; remove 2; bars", "off 0 at 0 (0 0 17x0), on 154 at 5 (1 115 198x17)"
+   " / off 0 at 0 (0 0 17x0), on 84 at 0 (1 115 198x17)"},
+  {"the vertical value is kept whatever the range and lost when hidden",
+   "resize 200 100; ScrollBars 3; wide 20 40; step 0 2 14; remove 1 1 1 1; bars; top; step 1 2 5;"
+   "wide 7 1; bars", "on 10 at 14 (182 1 17x81), on 101 at 0 (1 82 181x17) / 14"
+   " / off 0 at 0 (182 1 17x0), off 0 at 0 (1 82 0x17)"},
+  {"the list follows the buttons",
+   "wide 1000 1; forget; step 0 2; events; top; step 0 1; events; top; ScrollBars 3; wide 5 40;"
+   "forget; step 1 2; events", "* Scroll / 1 / * Scroll / 0 / * Scroll"},
+  {"the list follows the thumb",
+   "resize 200 100; wide 1000 1; pressAt 190 20; forget; moveTo 190 400 1; events; top;"
+   "releaseAt 190 400; events; top", "* Scroll / 993 / * Scroll / 993"},
+  {"a scroll drops the edit, yields, paints and raises its event",
+   "wide 20 40; AllowEdit 1; editable 0; edit 0; type typed; forget; post top;"
+   "step 0 2; events; editing", "[1]* Scroll / closed"},
+};
+// clang-format on
 
-/// A list of 200 by 100 pixels; a character is 7 wide and a row 13 high, which makes seven rows,
-/// and six above a horizontal bar.
-class ScrollFit : public ListTest, public __nvList {
+using ScrollFitScenarios = ListScript;
+TEST_P(ScrollFitScenarios, GiveTheirOutputs) { check(); }
+INSTANTIATE_TEST_SUITE_P(Render, ScrollFitScenarios, testing::ValuesIn(scenarios), nameOf);
+
+class ScrollFit : public HearingListTest {
  protected:
-  ScrollFit() { list.addSink(*this); }
-
-  void Scroll() override {
-    ++scrolls;
-    onScroll();
-  }
-
-  /// New items, the first one of so many characters, and everything fitted anew.
-  void fill(int count, std::size_t width = 1) {
-    list.AutoRedraw(false);
-    list.AutoCheckScroll(false);
-    list.ItemsClear();
-    for (int i = 0; i < count; ++i) list.ItemsAdd(i == 0 ? std::string(width, 'm') : "i");
-    scanAnew();
-    list.AutoRedraw(true);
-  }
-  void scanAnew() { list.AutoCheckScroll(true); }
-
-  std::string vertical() { return told(list.verticalBar()); }
-  std::string horizontal() { return told(list.horizontalBar()); }
-  std::int32_t contentWidth() { return list.state().MaxItemWidth; }
-  /// The surface on which items are measured.
-  RecordingSurface& label() { return form.children().at(6)->ownSurface(); }
-
-  /// A part of a bar: 0 thumb, 1 near button, 2 far button.
-  HeadlessContainer& part(int bar, int index) {
-    return *form.children()[static_cast<std::size_t>(bar)]
-                ->children()[static_cast<std::size_t>(index)];
-  }
-  void click(int bar, int index, int times = 1) {
-    for (int i = 0; i < times; ++i) {
-      part(bar, index).press(8, 3);
-      form.release(0, 0);
-    }
-  }
-
   HeadlessContainer& form = headless.container();
-  int scrolls = 0;
-  std::function<void()> onScroll = [] {};
+  std::int32_t contentWidth() { return list.state().MaxItemWidth; }
 };
 
-TEST_F(ScrollFit, TheContentIsAsWideAsTheWidestItemAndWhatItsStylePutsBesideIt) {
-  fill(3, 4);
-  list.AutoRedraw(false);
-  list.ItemBold(0, true);
-  // Halves are rounded to even; an unknown style adds nothing; font flags do not count.
-  for (const auto& [style, iconWidth, width] :
-       {std::tuple(0, 16.0F, 32), {1, 16, 45}, {2, 16.5F, 48}, {3, 16, 61}, {7, 16, 28}}) {
-    list.IconW(iconWidth);
-    list.Style(static_cast<cListStyle>(style));
-    scanAnew();
-    EXPECT_EQ(contentWidth(), width) << style << " " << iconWidth;
-  }
-}
-
-TEST_F(ScrollFit, EachItemAddedWidensTheContentByThePaddingAgain) {
-  list.ScrollBars(vbBoth);
-  for (int i = 0; i < 48; ++i) list.ItemsAdd("i");
-  EXPECT_EQ(list.horizontalBar().Tag(), "False");
-  list.ItemsAdd("i");
-  EXPECT_EQ(list.horizontalBar().Tag(), "True");
-  list.ItemsAdd(std::string(30, 'm'));
-  EXPECT_EQ(contentWidth(), 210 + 4);
-  list.ItemsRemove(49);
-  EXPECT_EQ(contentWidth(), 11);
-  EXPECT_EQ(list.horizontalBar().Tag(), "False");
-}
-
 TEST_F(ScrollFit, AWidthIsKeptUntilTheTextOrTheFontChanges) {
-  fill(3, 10);
-  label().fontMeasure({9, 9, 13});
+  RecordingSurface& label = form.children().at(6)->ownSurface();  // measures the items
+  const auto scanAnew = [&] { list.AutoCheckScroll(true); };
+  list.AutoRedraw(false);
+  add({"mmmmmmmmmm", "i", "i"});
+  scanAnew();
+  list.AutoRedraw(true);
+  label.fontMeasure({9, 9, 13});
   list.ItemText(0, "mmmmm");
   scanAnew();
   EXPECT_EQ(contentWidth(), 5 * 9 + 4);
   list.ItemsAdd("mmmmmmm");
-  label().fontMeasure({20.5F, 20, 13});
+  label.fontMeasure({20.5F, 20, 13});
   scanAnew();
   EXPECT_EQ(contentWidth(), 7 * 9 + 4);
   list.Font(list.Font());
@@ -138,130 +111,6 @@ TEST_F(ScrollFit, TheWidestOfManyIsKnownWhateverBecomesOfThem) {
     std::size_t widest = 0;
     for (int i = 0; i < list.ItemsCount(); ++i) widest = std::max(widest, item(i).Text.size());
     ASSERT_EQ(contentWidth(), 7 * static_cast<int>(widest) + 4) << round;
-  }
-}
-
-TEST_F(ScrollFit, TheChoiceOfBarsAndTheirRanges) {
-  struct Case {
-    ScrollBarConstants bars;
-    int count;
-    std::size_t width;
-    const char* ranges;
-  };
-  constexpr Case cases[] = {
-      {vbHorizontal, 20, 40, "off 0 at 0, on 84 at 0"},
-      // The horizontal range includes the width of the vertical bar even without a horizontal bar.
-      {vbVertical, 20, 40, "on 13 at 0, off 17 at 0"},
-      {vbBoth, 7, 28, "off 0 at 0, off 0 at 0"},
-      // One row fewer fits above the horizontal bar.
-      {vbBoth, 7, 29, "on 1 at 0, on 24 at 0"},
-  };
-  for (const Case& c : cases) {
-    list.ScrollBars(c.bars);
-    fill(c.count, c.width);
-    EXPECT_EQ(range(vertical()) + ", " + range(horizontal()), c.ranges) << c.bars << " " << c.width;
-  }
-  // A new choice takes effect at the next CheckScroll.
-  list.ScrollBars(vbSBNone);
-  EXPECT_EQ(list.verticalBar().Tag(), "True");
-  scanAnew();
-  EXPECT_EQ(range(vertical()), "off 0 at 0");
-  // If no row fits, the range includes every item.
-  list.ScrollBars(vbBoth);
-  headless.resize(200, 10);
-  EXPECT_EQ(list.verticalBar().Max(), 7);
-}
-
-TEST_F(ScrollFit, ThePlacesLieInsideTheFrameAndTheCornerIsTheLists) {
-  // A hidden bar keeps its position and has no length.
-  for (const auto& [bars, hasBorder, places] :
-       {std::tuple(vbBoth, false, "183 0 17x83, 0 83 183x17"),
-        {vbVertical, true, "182 1 17x98, 1 82 0x17"},
-        {vbBoth, true, "182 1 17x81, 1 82 181x17"}}) {
-    list.BorderVisible(hasBorder);
-    list.ScrollBars(bars);
-    fill(20, 40);
-    EXPECT_EQ(place(vertical()) + ", " + place(horizontal()), places);
-  }
-  list.BackColor(0x00FF00);
-  const std::string picture = headless.face();
-  EXPECT_EQ(picture.substr(picture.rfind("Line")), "Line 38 (182, 82)-(200, 100) #00FF00\n");
-  // Smaller than the bars themselves.
-  headless.resize(10, 5);
-  EXPECT_EQ(vertical(), "on 20 at 0, -8 1 17x0");
-  EXPECT_EQ(reports(), "");
-}
-
-TEST_F(ScrollFit, AShrinkingRangeGoesBackToTheStart) {
-  list.ScrollBars(vbHorizontal);
-  fill(2, 40);
-  click(1, 2, 5);
-  list.CheckScroll();
-  list.ItemsAdd(std::string(50, 'm'));
-  EXPECT_EQ(range(horizontal()), "on 154 at 5");
-  list.ItemsRemove(2);
-  EXPECT_EQ(range(horizontal()), "on 84 at 0");
-  list.ScrollBars(vbBoth);
-  fill(20, 40);
-  // The vertical value is kept, whatever the range.
-  click(0, 2, 14);
-  for (int i = 0; i < 4; ++i) list.ItemsRemove(1);
-  EXPECT_EQ(range(vertical()), "on 10 at 14");
-  EXPECT_EQ(list.TopIndex(), 14);
-  // A bar that is hidden loses its value.
-  click(1, 2, 5);
-  fill(7);
-  EXPECT_EQ(range(vertical()) + ", " + range(horizontal()), "off 0 at 0, off 0 at 0");
-}
-
-TEST_F(ScrollFit, TheListFollowsButtonsTrackAndThumb) {
-  fill(1000);
-  const auto heard = [&] {
-    return std::to_string(std::exchange(scrolls, 0)) + " to " + std::to_string(list.TopIndex());
-  };
-  part(0, 2).press(8, 8);
-  EXPECT_EQ(heard(), "1 to 1");
-  form.release(0, 0);
-  part(0, 0).press(8, 3);
-  form.moveTo(190, 400, 1);
-  EXPECT_EQ(heard(), "1 to 993");
-  form.release(190, 400);
-  EXPECT_EQ(heard(), "1 to 993");
-  EXPECT_NE(headless.face().find("DrawTextA \"i\" (3, 3)"), std::string::npos);
-
-  list.ScrollBars(vbBoth);
-  fill(5, 40);
-  click(1, 2);
-  EXPECT_EQ(heard(), "1 to 0");
-  EXPECT_NE(headless.face().find("(2, 3)-(284, 100)"), std::string::npos);
-}
-
-TEST_F(ScrollFit, AScrollStoresDropsTheEditYieldsPaintsAndTells) {
-  list.ScrollBars(vbBoth);
-  list.AllowEdit(true);
-  for (const int bar : {0, 1}) {
-    fill(20, 40);
-    list.ItemAllowEdit(0, true);
-    list.SetEdit(0);
-    form.textBoxes().at(0)->typeText("typed");
-    ASSERT_TRUE(list.state().EditActive.isTrue());
-    const int frames = headless.surface().frames();
-    std::string order;
-    form.post([&] {
-      order = "yield at " + std::to_string(list.TopIndex());
-      EXPECT_FALSE(list.state().EditActive);
-      EXPECT_TRUE(list.state().SuppressRedraw.isTrue());
-      EXPECT_EQ(headless.surface().frames(), frames);
-    });
-    onScroll = [&] {
-      order += ", Scroll";
-      EXPECT_FALSE(list.state().SuppressRedraw);
-      EXPECT_EQ(headless.surface().frames(), frames + 1);
-    };
-    click(bar, 2);
-    onScroll = [] {};
-    EXPECT_EQ(order, "yield at 1, Scroll");
-    EXPECT_EQ(list.ItemText(0), std::string(40, 'm'));
   }
 }
 
