@@ -148,7 +148,7 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     else if (verb == "new") return textOf(list.NewIndex());
     else if (verb == "isSelected") return list.ItemSelected(value(0)) ? "yes" : "no";
     else if (verb == "visible") return textOf(list.VisibleItems());
-    else if (verb == "rows") return rows();
+    else if (verb == "rows") return "<" + rowsOf(headless.surface()) + ">";
     else if (verb == "count") return textOf(list.ItemsCount());
     else if (verb == "loop") return textOf(list.state().LoopIndex);
     else if (verb == "anchor") return textOf(list.state().SelectAnchor);
@@ -199,14 +199,6 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     return (isOn ? "on " : "off ") + textOf(bar.Max()) + " at " + textOf(bar.Value()) + " (" +
            textOf(bar.Left()) + " " + textOf(bar.Top()) + " " + textOf(bar.Width()) + "x" +
            textOf(bar.Height()) + ")";
-  }
-  /// The texts drawn, each with its top edge: "<a@3 b@16>".
-  std::string rows() {
-    std::string result;
-    for (const SurfaceCall& call : headless.surface().image().calls)
-      if (const auto* text = std::get_if<calls::DrawTextA>(&call))
-        result += (result.empty() ? "" : " ") + text->text + "@" + textOf(text->rectangle.Top);
-    return "<" + result + ">";
   }
   std::string face(const std::string& beginning) {
     std::string result;

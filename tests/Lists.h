@@ -12,6 +12,16 @@
 
 namespace norvane {
 
+/// The texts drawn, top to bottom, each with its top edge: "a@3 b@16".
+inline std::string rowsOf(const RecordingSurface& surface) {
+  std::string result;
+  for (const SurfaceCall& call : surface.image().calls)
+    if (const auto* text = std::get_if<calls::DrawTextA>(&call))
+      result +=
+          (result.empty() ? "" : " ") + text->text + "@" + std::to_string(text->rectangle.Top);
+  return result;
+}
+
 /// A headless list in a program that collects all reports.
 class ListTest : public testing::Test {
  protected:

@@ -179,7 +179,7 @@ TEST_F(ListInput, BringsBackWhatWasSaved) {
       result += characters[below(below(2) == 0 ? 2 : 6)];
     return result;
   };
-  for (int round = 0; round < 20; ++round) {
+  for (int round = 0; round < 5; ++round) {
     list.ItemsClear();
     std::vector<std::string> expected;
     for (int i = below(300); i >= 0; --i) {

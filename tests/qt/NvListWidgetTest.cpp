@@ -4,9 +4,6 @@
 
 #include <QApplication>
 #include <QPalette>
-#include <QTimer>
-
-#include <nvlist/objects/Error.h>
 
 namespace norvane {
 namespace {
@@ -89,24 +86,6 @@ TEST_F(NvListWidgetTest, theDesignerSeesAPreview) {
   EXPECT_GT(inkOf(shown()), shortName);
   widget.setDesignMode(false);
   EXPECT_EQ(inkOf(shown()), 0);
-}
-
-TEST_F(NvListWidgetTest, handlersMayChangeTheListWhileItCounts) {
-  widget.list().AutoRedraw(false);
-  for (int i = 0; i < 200'000; ++i) widget.list().ItemsAdd(i);
-  bool hasRun = false;
-  QTimer::singleShot(0, [&] {
-    hasRun = true;
-    widget.list().ItemsClear();
-    widget.resize(220, 160);
-  });
-  Error().SilentError(true);
-  for (int i = 0; i < 1000 && !hasRun; ++i) widget.list().ItemsSelectCount();
-  Error().SilentError(false);
-  EXPECT_TRUE(hasRun);
-  widget.list().AutoRedraw(true);
-  widget.list().ItemsAdd("after");
-  EXPECT_EQ(widget.list().ItemsCount(), 1);
 }
 
 }  // namespace

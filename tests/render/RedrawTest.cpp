@@ -36,16 +36,6 @@ INSTANTIATE_TEST_SUITE_P(Render, RedrawScenarios, testing::ValuesIn(scenarios), 
 
 using Redraw = ListTest;
 
-/// The texts drawn, top to bottom, each with its top edge: "a@3 b@16".
-std::string rowsOf(const RecordingSurface& surface) {
-  std::string result;
-  for (const SurfaceCall& call : surface.image().calls)
-    if (const auto* text = std::get_if<calls::DrawTextA>(&call))
-      result +=
-          (result.empty() ? "" : " ") + text->text + "@" + std::to_string(text->rectangle.Top);
-  return result;
-}
-
 TEST_F(Redraw, RowsAboveTheSurfaceArePassedOver) {
   list.AutoRedraw(false);
   for (int i = 0; i < 10'000; ++i) list.ItemsAdd(i);

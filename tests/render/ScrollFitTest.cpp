@@ -5,8 +5,6 @@
 namespace norvane {
 namespace {
 
-using std::chrono::milliseconds;
-
 // Of 200 by 100 pixels, seven rows, and six above a horizontal bar. A character is 7 wide.
 // clang-format off
 const Scenario scenarios[] = {
@@ -111,28 +109,6 @@ TEST_F(ScrollFit, TheWidestOfManyIsKnownWhateverBecomesOfThem) {
     std::size_t widest = 0;
     for (int i = 0; i < list.ItemsCount(); ++i) widest = std::max(widest, item(i).Text.size());
     ASSERT_EQ(contentWidth(), 7 * static_cast<int>(widest) + 4) << round;
-  }
-}
-
-TEST_F(ScrollFit, WhateverIsDoneNoBoxComesUp) {
-  std::mt19937 random(4);
-  const auto upTo = [&](unsigned most) { return static_cast<int>(random() % (most + 1)); };
-  const auto length = [&](unsigned most) { return static_cast<float>(upTo(most)); };
-  for (int round = 0; round < 1000; ++round) {
-    const int deed = upTo(7);
-    if (deed == 0) headless.resize(length(300), length(200));
-    if (deed == 1) list.ScrollBars(static_cast<ScrollBarConstants>(upTo(3)));
-    if (deed == 2) list.ItemsRemove(upTo(60));
-    if (deed == 3) list.TopIndex(upTo(80) - 20);
-    if (deed == 4) {
-      form.press(length(200), length(100));
-      form.moveTo(length(200), length(100), 1);
-      form.clock().advance(milliseconds(upTo(900)));
-      form.release(0, 0);
-    }
-    if (deed > 4) list.ItemsAdd(std::string(static_cast<std::size_t>(upTo(40)), 'm'));
-    ASSERT_EQ(reports(), "") << round;
-    ASSERT_LE(list.verticalBar().Max(), list.ItemsCount());
   }
 }
 
