@@ -9,6 +9,7 @@ namespace gallery {
 Chooser::Chooser(const QList<Page>& pages) {
   constexpr int iconSize = 32;
   setObjectName("chooser");
+  setFollowsPalette(true);
   norvane::nvList& own = list();
   own.AutoRedraw(false);
   own.Style(norvane::cIcons);

@@ -56,17 +56,12 @@ void fillChecks(Stage& stage) {
       {.aText = "Look at the pictures in the manual", .aItalic = true},
       {.aText = "Two translations are still missing", .aForeColor = hostColour(0xB22222)},
       {.aText = "The day itself", .aForeColor = navy, .aBackColor = heading, .aBold = true},
-      {.aText = "Freeze the branch (done by the server)",
-       .aChecked = true,
-       .aEnabled = false,
-       .aBackColorDis = hostColour(0xF4F4F4)},
+      {.aText = "Freeze the branch (done by the server)", .aChecked = true, .aEnabled = false},
       {.aText = "Build and sign the packages"},
       {.aText = "Ask Ada for the second signature",
        .aForeColor = hostColour(0x6A4A00),
        .aBackColor = hostColour(0xFFF6CC)},
-      {.aText = "Publish (needs both signatures)",
-       .aEnabled = false,
-       .aBackColorDis = hostColour(0xF4F4F4)},
+      {.aText = "Publish (needs both signatures)", .aEnabled = false},
       {.aText = "Afterwards", .aForeColor = navy, .aBackColor = heading, .aBold = true},
       {.aText = "Announcement to the readers",
        .aForeColor = hostColour(0x1A5FB4),
@@ -311,6 +306,7 @@ Colour hostColour(QRgb rgb) { return qRed(rgb) | qGreen(rgb) << 8 | qBlue(rgb) <
 nvList& Stage::addList(const QString& name, const QString& caption) {
   auto* widget = new NvListWidget;
   widget->setObjectName(name);
+  widget->setFollowsPalette(true);
   auto* column = new QVBoxLayout;
   column->setSpacing(4);
   if (!caption.isEmpty()) column->addWidget(new QLabel(caption));
