@@ -218,6 +218,35 @@ TEST_F(WidgetProperties, aTextOfSeveralLinesStaysInItsRow) {
   EXPECT_GT(inkIn(1), 0);
 }
 
+TEST_F(WidgetProperties, theLayoutIsMirroredOnRequest) {
+  const auto shown = [&] { return widget.grab().toImage(); };
+  list.AutoRedraw(false);
+  for (int i = 0; i < 40; ++i) list.ItemText(i, "");
+  list.AutoRedraw(true);
+  list.ListIndex(1);
+  const QImage plain = shown();
+  widget.setLayoutDirection(Qt::RightToLeft);
+  EXPECT_EQ(shown(), plain);
+  widget.setMirrorsLayout(true);
+  EXPECT_EQ(shown().mirrored(true, false), plain);
+  EXPECT_EQ(widget.itemRect(1).left(), 200 - 182);
+
+  list.Style(cCheckBoxes);
+  QTest::mouseClick(&widget, Qt::LeftButton, {}, {200 - 1 - 9, 12 + 32});
+  EXPECT_TRUE(list.ItemChecked(2));
+  QTest::mouseClick(&widget, Qt::LeftButton, {}, {9, 144});  // the lower button of the bar
+  EXPECT_EQ(list.TopIndex(), 1);
+  list.Style(cDefault);
+  list.ItemText(5, "A");
+  const QImage row = widget.grab(widget.itemRect(5)).toImage();
+  int left = row.width();
+  for (int y = 0; y < row.height(); ++y)
+    for (int x = 0; x < row.width(); ++x)
+      if (row.pixelColor(x, y) == Qt::black) left = std::min(left, x);
+  EXPECT_GT(left, row.width() - 20);
+  EXPECT_LT(left, row.width());
+}
+
 TEST(Failures, goWhereTheProgramWants) {
   QtApplication application;
   NvListWidget widget;

@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QScrollEvent>
 #include <QScrollPrepareEvent>
+#include <QStyle>
 #include <QStyleHints>
 #include <algorithm>
 #include <cmath>
@@ -45,7 +46,8 @@ NvListWidget::NvListWidget(QWidget* parent) : NvListProperties(parent) {
   connect(QGuiApplication::styleHints(), &QStyleHints::wheelScrollLinesChanged, this,
           &NvListWidget::followWheelSettings);
   core_->place.wheel.onSideways = [this](int pixels) {
-    const std::int64_t left = std::int64_t{list().horizontalBar().Value()} + pixels;
+    const std::int64_t change = core_->place.isMirrored() ? -pixels : pixels;
+    const std::int64_t left = list().horizontalBar().Value() + change;
     list().userScrollsTo(static_cast<std::int32_t>(std::clamp<std::int64_t>(left, 0, INT32_MAX)));
   };
   list().UserControl_InitProperties();
@@ -99,6 +101,17 @@ void NvListWidget::setFollowsPalette(bool on) {
   }
 }
 
+void NvListWidget::setMirrorsLayout(bool on) {
+  mirrorsLayout_ = on;
+  followDirection();
+}
+
+void NvListWidget::followDirection() { core_->place.mirror(mirrorsLayout_ && isRightToLeft()); }
+
+QPointF NvListWidget::mirrored(const QPointF& point) const {
+  return core_->place.isMirrored() ? QPointF(width() - 1 - point.x(), point.y()) : point;
+}
+
 bool NvListWidget::clipsTexts() const { return list().clipsTexts(); }
 
 void NvListWidget::setClipsTexts(bool on) {
@@ -134,6 +147,7 @@ void NvListWidget::followFont() {
 void NvListWidget::changeEvent(QEvent* event) {
   const QPointer<QWidget> guard(this);
   if (core_ && event->type() == QEvent::FontChange) followFont();
+  if (core_ && event->type() == QEvent::LayoutDirectionChange) followDirection();
   if (core_ && event->type() == QEvent::EnabledChange) list().Enabled(isEnabled());
   if (guard) QWidget::changeEvent(event);
 }
@@ -216,7 +230,8 @@ int NvListWidget::indexAt(const QPoint& point) const {
   constexpr int pressOrigin = 4;
   QtPlace& place = core_->place;
   nvList& list = core_->list;
-  const Point at{static_cast<float>(point.x()), static_cast<float>(point.y())};
+  const QPointF inList = mirrored(point);
+  const Point at{static_cast<float>(inList.x()), static_cast<float>(inList.y())};
   if (place.mouse().hit(at) != &place) return -1;
   const std::int64_t height = list.ItemHeight();
   if (height <= 0 || point.y() > height * list.ItemsCount()) return -1;
@@ -227,7 +242,9 @@ int NvListWidget::indexAt(const QPoint& point) const {
 
 QRect NvListWidget::itemRect(int index) const {
   const bool isItem = index >= 0 && index < count();
-  return isItem ? paintedRow(core_->list, size(), index) : QRect();
+  if (!isItem) return {};
+  const QRect row = paintedRow(core_->list, size(), index);
+  return core_->place.isMirrored() ? QStyle::visualRect(Qt::RightToLeft, rect(), row) : row;
 }
 
 void NvListWidget::scrollTo(int index) {

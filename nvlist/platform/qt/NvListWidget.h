@@ -31,6 +31,7 @@ class NvListWidget : public NvListProperties {
   Q_PROPERTY(int currentIndex READ currentIndex WRITE setCurrentIndex NOTIFY currentChanged
                  DESIGNABLE false STORED false USER true)
   Q_PROPERTY(bool followsPalette READ followsPalette WRITE setFollowsPalette)
+  Q_PROPERTY(bool mirrorsLayout READ mirrorsLayout WRITE setMirrorsLayout)
   Q_PROPERTY(bool clipsTexts READ clipsTexts WRITE setClipsTexts)
   Q_PROPERTY(bool passesFineWheel READ passesFineWheel WRITE setPassesFineWheel)
   Q_PROPERTY(bool followsWheelSettings READ followsWheelSettings WRITE setFollowsWheelSettings)
@@ -61,6 +62,11 @@ class NvListWidget : public NvListProperties {
   /// defaults again. The colours of selection and scroll bars stay. Default: false.
   bool followsPalette() const { return followsPalette_; }
   void setFollowsPalette(bool on);
+  /// Whether the list is mirrored while layoutDirection() is right to left: check boxes and texts
+  /// begin at the right, and the vertical bar is at the left. The edit box and the sinks of the
+  /// list keep the places of the layout from left to right. Default: false.
+  bool mirrorsLayout() const { return mirrorsLayout_; }
+  void setMirrorsLayout(bool on);
   /// Whether a text that is higher than its row is clipped to it (nvList::clipsTexts). Default:
   /// false.
   bool clipsTexts() const;
@@ -180,6 +186,9 @@ class NvListWidget : public NvListProperties {
   bool isConnected(const QMetaMethod& signal) const { return isSignalConnected(signal); }
   bool requestContextMenu(QContextMenuEvent& event);
 
+  /// Between a point of the widget and one of the list, which may be mirrored in it.
+  QPointF mirrored(const QPointF& point) const;
+  void followDirection();
   void followFont();
   void followWheelSettings();
   void prepareScroller(QScrollPrepareEvent& event);
@@ -189,6 +198,7 @@ class NvListWidget : public NvListProperties {
   /// The font that the widget gave the list last.
   norvane::Font followedFont_;
   bool followsPalette_ = false;
+  bool mirrorsLayout_ = false;
   bool followsWheelSettings_ = false;
 };
 

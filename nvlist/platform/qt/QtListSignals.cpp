@@ -113,8 +113,9 @@ void QtListSignals::DblClick() {
   later<&NvListWidget::doubleClicked>();
   const ListState& state = list_.state();
   const std::int32_t index = state.ListIndex;
-  const int hit =
-      widget_->indexAt(QPointF(state.MouseDownX.toNumber(), state.MouseDownY.toNumber()).toPoint());
+  const int hit = widget_->indexAt(
+      widget_->mirrored(QPointF(state.MouseDownX.toNumber(), state.MouseDownY.toNumber()))
+          .toPoint());
   // A double click that edits the item is no command, and neither is one on another, disabled item.
   if (!state.EditActive && hit >= 0 && hit == index) later<&NvListWidget::itemActivated>(index);
 }
@@ -131,7 +132,8 @@ void QtListSignals::ItemCheck(std::int32_t& Item, Boolean& Cancel) {
 }
 
 void QtListSignals::MouseDown(std::int16_t& Button, std::int16_t& Shift, float& X, float& Y) {
-  later<&NvListWidget::mousePressed>(Qt::MouseButton(Button), modifiersOf(Shift), QPointF(X, Y));
+  later<&NvListWidget::mousePressed>(Qt::MouseButton(Button), modifiersOf(Shift),
+                                     widget_->mirrored(QPointF(X, Y)));
 }
 
 void QtListSignals::MouseUp(std::int16_t& Button, std::int16_t& Shift, float& X, float& Y) {
@@ -139,13 +141,15 @@ void QtListSignals::MouseUp(std::int16_t& Button, std::int16_t& Shift, float& X,
   const std::int32_t current = list_.ListIndex();
   if (list_.AllowItemMoving() && events_ > 0 && current != currentBeforeEvent_)
     later<&NvListWidget::itemMoved>(currentBeforeEvent_, current);
-  later<&NvListWidget::mouseReleased>(Qt::MouseButton(Button), modifiersOf(Shift), QPointF(X, Y));
+  later<&NvListWidget::mouseReleased>(Qt::MouseButton(Button), modifiersOf(Shift),
+                                      widget_->mirrored(QPointF(X, Y)));
 }
 
 void QtListSignals::MouseMove(Variant&, std::int32_t& IndexUnderMouse, std::int16_t& Button,
                               std::int16_t& Shift, float& X, float& Y) {
   later<&NvListWidget::mouseMoved>(IndexUnderMouse < list_.ItemsCount() ? IndexUnderMouse : -1,
-                                   Qt::MouseButtons(Button), modifiersOf(Shift), QPointF(X, Y));
+                                   Qt::MouseButtons(Button), modifiersOf(Shift),
+                                   widget_->mirrored(QPointF(X, Y)));
 }
 
 void QtListSignals::ErrorListInput() { later<&NvListWidget::inputFailed>(); }

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QScopeGuard>
 #include <QScopedValueRollback>
+#include <QStyle>
 #include <QTimer>
 #include <QWheelEvent>
 #include <algorithm>
@@ -172,8 +173,24 @@ void QtPlace::show(bool isVisible) {
 
 QRect QtPlace::geometry() const {
   const Point origin = toRoot({});
-  return {static_cast<int>(origin.x), static_cast<int>(origin.y),
-          static_cast<int>(surface_.ScaleWidth()), static_cast<int>(surface_.ScaleHeight())};
+  const QRect plain(static_cast<int>(origin.x), static_cast<int>(origin.y),
+                    static_cast<int>(surface_.ScaleWidth()),
+                    static_cast<int>(surface_.ScaleHeight()));
+  return form().shown(plain);
+}
+
+/// Where the widget shows an area of the layout from left to right.
+QRect QtPlace::shown(const QRect& area) const {
+  if (!isMirrored_ || !widget_) return area;
+  return QStyle::visualRect(Qt::RightToLeft, widget_->rect(), area);
+}
+
+void QtPlace::mirror(bool on) {
+  if (isMirrored_ == on) return;
+  isMirrored_ = on;
+  surface_.mirror(on);
+  renewImages();
+  if (widget_) widget_->update();
 }
 
 void QtPlace::showAnew(const QRect& area) {
@@ -244,10 +261,14 @@ void QtPlace::paint(const QRegion& region) {
   forEachVisible([&](Place& place, Point origin, const Bounds& clip) {
     auto& shown = static_cast<QtPlace&>(place);
     if (!place.control() || !region.intersects(shown.geometry())) return;
-    const QRect seen(static_cast<int>(clip.Left), static_cast<int>(clip.Top),
-                     static_cast<int>(clip.Width), static_cast<int>(clip.Height));
+    const QRect seen = this->shown({static_cast<int>(clip.Left), static_cast<int>(clip.Top),
+                                    static_cast<int>(clip.Width), static_cast<int>(clip.Height)});
     painter.setClipRect(seen, seen == shown.geometry() ? Qt::NoClip : Qt::ReplaceClip);
-    painter.drawImage(QPointF(aligned(origin.x), aligned(origin.y)), shown.image());
+    // Places in the outermost one have no texts, so their images may be reversed.
+    const bool isReversed = isMirrored_ && &place != this;
+    const float left = isReversed ? static_cast<float>(shown.geometry().left()) : origin.x;
+    painter.drawImage(QPointF(aligned(left), aligned(origin.y)),
+                      isReversed ? shown.image().mirrored(true, false) : shown.image());
   });
   // Not every change of the ratio is reported, and a control must not draw while its window is
   // painted.
@@ -298,7 +319,8 @@ bool QtPlace::mouseEvent(QEvent* event) {
   const std::int16_t button = buttonsOf(mouseEvent->button());
   const std::int16_t buttons = buttonsOf(mouseEvent->buttons());
   const std::int16_t shift = shiftOf(mouseEvent->modifiers());
-  const Point at{static_cast<float>(mouseEvent->position().x()),
+  const auto x = static_cast<float>(mouseEvent->position().x());
+  const Point at{isMirrored_ ? static_cast<float>(widget_->width() - 1) - x : x,
                  static_cast<float>(mouseEvent->position().y())};
   const bool isMove = event->type() == QEvent::MouseMove;
   const bool isRelease = event->type() == QEvent::MouseButtonRelease;

@@ -59,6 +59,11 @@ class QtPlace : public Place {
   /// Whether system colours are changed where texts of disabled rows could not be read
   /// (readablePalette). Called at the outermost place. Default: false.
   void makesReadable(bool on);
+  /// Whether left and right are exchanged, for layouts from right to left. The control is not
+  /// notified: its points and places are those of the layout from left to right. Called at the
+  /// outermost place. Default: false.
+  void mirror(bool on);
+  bool isMirrored() const { return form().isMirrored_; }
   /// Called before the widget is destroyed, if the control lives on: from now on nothing is shown.
   void detach() { widget_ = nullptr; }
   /// Destroys a control and its place as soon as no procedure of the library runs: a handler of the
@@ -68,7 +73,7 @@ class QtPlace : public Place {
   /// Whether any widget with a place is being painted. No window may be opened meanwhile.
   static bool anyPaints();
 
-  /// In whole pixels of the widget.
+  /// In whole pixels of the widget, in which it may be mirrored.
   QRect geometry() const;
   /// What the place shows, without the places in it.
   const QImage& image() { return surface_.image(); }
@@ -101,6 +106,7 @@ class QtPlace : public Place {
   const QtPlace& form() const { return const_cast<QtPlace*>(this)->form(); }
   void changed() override;
   void showAnew(const QRect& area);
+  QRect shown(const QRect& area) const;
 
   bool dispatch(QEvent* event);
   bool mouseEvent(QEvent* event);
@@ -121,6 +127,7 @@ class QtPlace : public Place {
   // In use at the outermost place only.
   QWidget* widget_ = nullptr;
   bool makesReadable_ = false;
+  bool isMirrored_ = false;
   bool isPainting_ = false;
   /// What turns have left of a notch, or of a pixel.
   int restOfNotch_ = 0;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <nvlist/drawing/DeferredSurface.h>
+#include <nvlist/drawing/MirroredSurface.h>
 #include <nvlist/platform/qt/QtCanvas.h>
 
 namespace norvane {
@@ -10,7 +11,7 @@ namespace norvane {
 class QtSurface final : public DeferredSurface {
  public:
   /// Starts with one pixel in white.
-  QtSurface() : DeferredSurface(canvas_) {}
+  QtSurface() : DeferredSurface(mirror_) {}
 
   /// See QtCanvas::resize.
   void resize(QSize logical, qreal dpr) {
@@ -25,6 +26,8 @@ class QtSurface final : public DeferredSurface {
     return canvas_.image();
   }
   qreal devicePixelRatio() const { return canvas_.devicePixelRatio(); }
+  /// Whether what is drawn from now on is mirrored. Default: false.
+  void mirror(bool on) { mirror_.turn(on); }
   /// As last given to resize.
   QSize size() const { return canvas_.size(); }
 
@@ -37,6 +40,7 @@ class QtSurface final : public DeferredSurface {
 
  private:
   QtCanvas canvas_;
+  MirroredSurface mirror_{canvas_};
 };
 
 }  // namespace norvane
