@@ -3,10 +3,12 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
+#include <QProgressDialog>
 #include <QToolButton>
 #include <memory>
 #include <utility>
 
+#include "JsonFiles.h"
 #include "ListFiles.h"
 #include "Pages.h"
 
@@ -17,6 +19,7 @@ namespace {
 
 constexpr int iconSize = 24;
 constexpr int many = 1000000;
+constexpr auto jsonKind = "JSON Lines: all texts and properties (*.jsonl *.ndjson)";
 constexpr auto listKind = "List files (*.nvl)";
 constexpr auto anyKind = "All files (*)";
 constexpr auto olderKind = "Older list files: texts alone, read item by item (*.nvl)";
@@ -46,26 +49,68 @@ struct Action {
   void (*run)(const Desk&);
 };
 
-void open(const Desk& desk) {
-  const QString kinds = QString("%1;;%2").arg(listKind, anyKind);
-  const QString path = QFileDialog::getOpenFileName(desk.stage, "Open a list", {}, kinds);
-  if (path.isEmpty()) return;
+/// Shows the progress of long work with a button that stops it, and keeps the user from closing the
+/// window meanwhile.
+class Box {
+ public:
+  Box(const Desk& desk, const QString& what) : dialog_(what, "Stop", 0, 100, desk.stage) {
+    dialog_.setWindowModality(Qt::WindowModal);
+  }
+
+  Continues continues() {
+    return [this](int percent) {
+      dialog_.setValue(percent);
+      return !dialog_.wasCanceled();
+    };
+  }
+
+ private:
+  QProgressDialog dialog_;
+};
+
+/// Shows a file instead of the items, or says why it cannot.
+void openPath(const Desk& desk, const QString& path) {
   // Only files in the older format can be counted before they are read.
   const std::int32_t count = desk.list->ListFileItemsCount(path.toStdString());
   desk.stage->tell(count > 0 ? QString("Opening %1: %2 items").arg(path).arg(count)
                              : "Opening " + path);
   // Their items are read one by one, and the remaining old ones would be visible meanwhile.
   if (count > 0) desk.list->ItemsClear();
-  openListFile(*desk.list, path, desk.properties());
+  try {
+    Box box(desk, "Opening " + QFileInfo(path).fileName());
+    for (const QString& remark : openAnyFile(*desk.list, path, desk.properties(), box.continues()))
+      desk.stage->tell(remark);
+  } catch (const QString& message) {
+    desk.stage->tell(message);
+  }
+}
+
+void open(const Desk& desk) {
+  const QString kinds =
+      QString("Lists and texts (*.jsonl *.ndjson *.nvl *.txt);;%1;;%2").arg(listKind, anyKind);
+  const QString path = QFileDialog::getOpenFileName(desk.stage, "Open a list", {}, kinds);
+  if (!path.isEmpty()) openPath(desk, path);
 }
 
 void save(const Desk& desk) {
-  const QString kinds = QString("%1;;%2;;%3").arg(listKind, olderKind, anyKind);
+  QStringList kinds{listKind, olderKind, anyKind};
+  if (hasJsonLines()) kinds.prepend(jsonKind);
   QString kind;
-  const QString path =
-      QFileDialog::getSaveFileName(desk.stage, "Save the list", "list.nvl", kinds, &kind);
+  const QString path = QFileDialog::getSaveFileName(desk.stage, "Save the list",
+                                                    hasJsonLines() ? "list.jsonl" : "list.nvl",
+                                                    kinds.join(";;"), &kind);
   if (path.isEmpty()) return;
   desk.stage->tell("Saving " + path);
+  if (kind == jsonKind) {
+    try {
+      Box box(desk, "Saving " + QFileInfo(path).fileName());
+      for (const QString& remark : saveJsonLines(*desk.list, path, box.continues()))
+        desk.stage->tell(remark);
+    } catch (const QString& message) {
+      desk.stage->tell(message);
+    }
+    return;
+  }
   if (kind != olderKind) return saveListFile(*desk.list, path, desk.properties());
   const QString problem = saveOlderFile(*desk.list, path);
   if (!problem.isEmpty()) desk.stage->tell(problem);
@@ -87,11 +132,10 @@ void addMany(const Desk& desk) {
 }
 
 constexpr Action fileActions[] = {
-    {"Open...", "Show a list file instead of these items", open},
+    {"Open...", "Show a list, JSON Lines or the lines of a text instead of these items", open},
     {"Save...",
-     "Save the items to a list file.\nThe dialog also offers the older format, which is read item "
-     "by "
-     "item.",
+     "Save the items as JSON Lines or as a list file.\nThe dialog also offers the older format, "
+     "which is read item by item.",
      save},
 };
 constexpr Action textActions[] = {
@@ -164,6 +208,11 @@ void fillFiles(Stage& stage) {
   const Desk desk{&stage, &list, new QCheckBox("Properties"), delimiterBox()};
   desk.keeps->setChecked(true);
   desk.keeps->setToolTip("Save and read colours, fonts, keys and pictures too, not only texts");
+  stage.onDropped = [desk](const QString& path) {
+    if (std::exchange(*desk.isBusy, true)) return;
+    openPath(desk, path);
+    *desk.isBusy = false;
+  };
   QHBoxLayout* row = stage.addRow();
   addButtons(row, fileActions, desk);
   row->addWidget(desk.keeps);

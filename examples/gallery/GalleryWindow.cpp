@@ -1,10 +1,12 @@
 #include "GalleryWindow.h"
 
 #include <QApplication>
+#include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QToolButton>
@@ -174,6 +176,7 @@ void GalleryWindow::showHints() {
 }
 
 void GalleryWindow::connectParts() {
+  setAcceptDrops(true);
   chooser_->onChosen = [this](int index) { showPage(index); };
   tools_->onUsed = [this](const QString& what) {
     log_->write(what);
@@ -215,6 +218,26 @@ void GalleryWindow::showPage(int index) {
   const bool hasLists = !stage->lists().empty();
   for (QWidget* part : aboutLists_) part->setVisible(hasLists);
   setSubject(hasLists ? stage->lists().front() : nullptr);
+}
+
+void GalleryWindow::openFile(const QString& path) {
+  for (int i = 0; i < pages_.size(); ++i) {
+    if (QString(pages_[i].name) != "files") continue;
+    showPage(i);
+    stages_[i]->onDropped(path);
+  }
+}
+
+void GalleryWindow::dragEnterEvent(QDragEnterEvent* event) {
+  const QList<QUrl> urls = event->mimeData()->urls();
+  if (urls.size() == 1 && urls.first().isLocalFile()) event->acceptProposedAction();
+}
+
+void GalleryWindow::dropEvent(QDropEvent* event) {
+  const QString path = event->mimeData()->urls().first().toLocalFile();
+  event->acceptProposedAction();
+  // The program that the file comes from waits until this handler returns.
+  QTimer::singleShot(0, this, [this, path] { openFile(path); });
 }
 
 QPixmap GalleryWindow::picture() {

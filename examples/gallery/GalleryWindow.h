@@ -31,11 +31,16 @@ class GalleryWindow : public QMainWindow {
   /// Shows a page and fills it the first time.
   void showPage(int index);
 
+  /// Opens a list, JSON Lines or a text on the page of files.
+  void openFile(const QString& path);
+
   /// A picture of the window. Works without a screen.
   QPixmap picture();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 
  private:
   void layOut();

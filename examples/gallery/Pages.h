@@ -39,6 +39,9 @@ class Stage : public QWidget {
     if (onTold) onTold(what);
   }
 
+  /// Opens a file, on a page that can.
+  std::function<void(const QString& path)> onDropped;
+
   /// Call it once the lists are filled: paints them from the top.
   void ready();
 

@@ -5,10 +5,12 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QOperatingSystemVersion>
+#include <QTimer>
 
 #include <cstdio>
 
 #include "GalleryWindow.h"
+#include "ListFiles.h"
 
 namespace {
 
@@ -41,6 +43,13 @@ QStringList linesOf(const QString& path) {
   return text.isEmpty() ? QStringList() : text.split('\n');
 }
 
+/// Whether the file is shown on the page of files, which opens files of any kind and size with a
+/// progress, and not as the text of the first page. Throws a message if it cannot be shown at all.
+bool isForFilesPage(const QString& path) {
+  constexpr qint64 largestText = 4 << 20;
+  return gallery::kindOf(path) != gallery::FileKind::text || QFileInfo(path).size() > largestText;
+}
+
 gallery::SampleText sampleText(const QStringList& files) {
   if (files.isEmpty()) return {"Places of the world", linesOf(":/sample/places.txt")};
   return {QFileInfo(files.first()).fileName(), linesOf(files.first())};
@@ -69,7 +78,7 @@ int main(int argumentCount, char** arguments) {
   options.setApplicationDescription("Shows what nvList can do, and a text file as a list.");
   options.addHelpOption();
   options.addVersionOption();
-  options.addPositionalArgument("file", "Text file whose lines to show.", "[file]");
+  options.addPositionalArgument("file", "Text, list file or JSON Lines to show.", "[file]");
   const QCommandLineOption screenshot("screenshot", "Draw the window into a picture file and quit.",
                                       "out.png");
   options.addOption(screenshot);
@@ -83,9 +92,11 @@ int main(int argumentCount, char** arguments) {
   const QStringList files = options.positionalArguments();
   if (files.size() > 1) return fail("give one file only", wrongArguments);
   QList<gallery::Page> pages;
+  QString listFile;
   int first = 0;
   try {
-    pages = gallery::allPages(sampleText(files));
+    if (!files.isEmpty() && isForFilesPage(files.first())) listFile = files.first();
+    pages = gallery::allPages(sampleText(listFile.isEmpty() ? files : QStringList()));
     if (options.isSet(page)) first = pageNamed(options.value(page), pages);
   } catch (const QString& message) {
     return fail(message, cannotRead);
@@ -103,6 +114,12 @@ int main(int argumentCount, char** arguments) {
 
   gallery::GalleryWindow window(std::move(pages));
   window.showPage(first);
+  if (!listFile.isEmpty() && !options.isSet(page)) {
+    if (options.isSet(screenshot) || !hasDisplay())
+      window.openFile(listFile);
+    else
+      QTimer::singleShot(0, &window, [&] { window.openFile(listFile); });
+  }
   if (options.isSet(screenshot)) return saveScreenshot(window, options.value(screenshot));
   if (!hasDisplay()) return saveScreenshot(window, "gallery.png");
   window.show();

@@ -119,5 +119,50 @@ TEST_F(FilesTest, aQueryFillsTheListAndABadOneIsTold) {
   EXPECT_TRUE(rows.AutoRedraw());
 }
 
+TEST_F(FilesTest, anyFileIsOpenedByItsContentsOrRefused) {
+  struct Case {
+    const char* name;
+    QByteArray bytes;
+    const char* shown;  ///< the first item, or the beginning of the message
+    int count;          ///< 0: refused
+  };
+  const Case cases[] = {
+      {"a text", "one\r\ntwo", "one", 2},
+      {"JSON Lines", " {\"Text\":\"eins\"}\n{\"x\":1}\n{", "eins", 2},
+      {"a list file", QByteArray("\0\0\0\0\0\x11\x01\2\0\0\0ab", 13), "ab", 1},
+      {"a program", QByteArray("MZ\x90\0\3\0\0\0", 8), "is neither a list nor a text", 0},
+      {"a picture", QByteArray("\x89PNG\r\n\x1A\n\0", 9), "is neither a list nor a text", 0}};
+  showPage("files");
+  norvane::nvList& files = list("files");
+  for (const auto& [name, bytes, shown, count] : cases) {
+    QFile file(folder.filePath(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+    file.close();
+    window->openFile(file.fileName());
+    if (count > 0) {
+      EXPECT_EQ(files.ItemsCount(), count) << name;
+      EXPECT_EQ(files.ItemText(0), shown) << name;
+    } else {
+      EXPECT_TRUE(logged().contains(file.fileName() + " " + shown)) << name;
+    }
+  }
+  EXPECT_TRUE(logged().contains("No field is called x"));
+  EXPECT_TRUE(logged().contains("Line 3: invalid JSON"));
+  window->openFile(folder.path());
+  EXPECT_TRUE(logged().contains("is a folder"));
+}
+
+TEST_F(FilesTest, aLongTextIsStoppedWhenAsked) {
+  showPage("files");
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(QByteArray("line\n").repeated(50000));
+  file.close();
+  openAnyFile(list("files"), path, Properties::kept, [](int percent) { return percent < 50; });
+  EXPECT_GE(list("files").ItemsCount(), 25000);
+  EXPECT_LT(list("files").ItemsCount(), 50000);
+}
+
 }  // namespace
 }  // namespace gallery
