@@ -155,16 +155,15 @@ TEST_F(Signals, mayPreventACheck) {
 /// Several changes in one call, or in a handler that it calls, are one change.
 TEST_F(Signals, waitForTheEndOfTheCall) {
   struct Host : __nvList {
-    explicit Host(nvList& list) : list(list) {}
+    Host(nvList& of, const std::string& record) : calls(of), heardSoFar(record) {}
     void Click() override {
-      list.ListIndex(8);
-      list.ListIndex(9);
-      EXPECT_EQ(*told, "");
+      calls.ListIndex(8);
+      calls.ListIndex(9);
+      EXPECT_EQ(heardSoFar, "");
     }
-    nvList& list;
-    std::string* told = nullptr;
-  } host(*list);
-  host.told = &told;
+    nvList& calls;
+    const std::string& heardSoFar;
+  } host(*list, told);
   list->addSink(host);
   QTest::mousePress(widget, Qt::LeftButton, {}, row(2));
   heard();
