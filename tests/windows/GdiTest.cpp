@@ -172,7 +172,91 @@ TEST(Gdi, BlendsATransparentPicture) {
   EXPECT_FALSE(OlePicture::fromBytes({begin, 20}));
 }
 
-TEST(Gdi, ASurfaceDrawsWhenItIsLookedAt) {
+std::vector<std::byte> bytesOf(std::string_view hex) {
+  std::vector<std::byte> result;
+  for (std::size_t i = 0; i < hex.size(); i += 2)
+    result.push_back(static_cast<std::byte>(std::stoi(std::string(hex.substr(i, 2)), nullptr, 16)));
+  return result;
+}
+
+/// A metafile of 8 by 8 red pixels: the placeable form of 16 bits, or the enhanced one.
+std::vector<std::byte> metafile(bool isEnhanced) {
+  const SIZEL size = himetricOf({8, 8});
+  const RECT frame{0, 0, size.cx, size.cy};
+  const RECT whole{0, 0, 8, 8};
+  const HDC dc =
+      isEnhanced ? CreateEnhMetaFileW(nullptr, nullptr, &frame, nullptr) : CreateMetaFileW(nullptr);
+  if (!isEnhanced) SetWindowExtEx(dc, 8, 8, nullptr);
+  const HBRUSH brush = CreateSolidBrush(RGB(255, 0, 0));
+  FillRect(dc, &whole, brush);
+  DeleteObject(brush);
+  std::vector<std::byte> result;
+  if (isEnhanced) {
+    const HENHMETAFILE file = CloseEnhMetaFile(dc);
+    result.resize(GetEnhMetaFileBits(file, 0, nullptr));
+    GetEnhMetaFileBits(file, static_cast<UINT>(result.size()),
+                       reinterpret_cast<BYTE*>(result.data()));
+    DeleteEnhMetaFile(file);
+    return result;
+  }
+  // Signature, bounds, 96 units an inch, checksum.
+  result = bytesOf("d7cdc69a000000000000080008006000000000007157");
+  const HMETAFILE file = CloseMetaFile(dc);
+  const UINT count = GetMetaFileBitsEx(file, 0, nullptr);
+  result.resize(22 + count);
+  GetMetaFileBitsEx(file, count, result.data() + 22);
+  DeleteMetaFile(file);
+  return result;
+}
+
+TEST(Gdi, ShowsAndKeepsPicturesOfEachFormat) {
+  CoInitialize(nullptr);
+  const struct {
+    const char* name;
+    std::vector<std::byte> file;
+    int width;
+  } cases[] = {
+      {"bmp",
+       bytesOf("424d3a0000000000000036000000280000000100000001000000010018000000000004000000000000"
+               "000000000000000000000000000000ff00"),
+       1},
+      {"gif",
+       bytesOf("47494638396102000100f00000ff000000000021f90400000000002c0000000002000100000202040a"
+               "003b"),
+       2},
+      {"jpg",
+       bytesOf("ffd8ffe000104a46494600010100000100010000ffdb00430050373c463c32504641465a55505f78"
+               "c882786e6e78f5afb991c8ffffffffffffffffffffffffffffffffffffffffffffffffffffffffff"
+               "ffffffffffffffffffffdb004301555a5a786978eb8282ebffffffffffffffffffffffffffffffff"
+               "ffffffffffffffffffffffffffffffffffffffffffffffffffffffffffffffffffffffffffffffc0"
+               "0011080008000803011100021101031101ffc40014000100000000000000000000000000000003ff"
+               "c40014100100000000000000000000000000000000ffc40015010101000000000000000000000000"
+               "00000304ffc40014110100000000000000000000000000000000ffda000c03010002110311003f00"
+               "21ac7fffd9"),
+       8},
+      {"ico",
+       bytesOf(
+           "000001000100020200000100200040000000160000002800000002000000040000000100200000000000"
+           "0000000000000000000000000000000000000000"
+           "0000ffff0000ffff0000ffff0000ffff0000000000000000"),
+       2},
+      {"wmf", metafile(false), 8},
+      {"emf", metafile(true), 8}};
+  for (const auto& [name, file, width] : cases) {
+    const Picture picture = OlePicture::fromBytes(file);
+    ASSERT_TRUE(picture) << name;
+    EXPECT_EQ(width, picture->width()) << name;
+    EXPECT_TRUE(file == picture->fileBytes()) << name;
+    GdiCanvas canvas;
+    canvas.resize(width, 1);
+    canvas.PaintPicture(picture, 0, 0);
+    const std::uint32_t colour = pixelsOf(canvas).values[0];
+    EXPECT_NEAR(255, colour >> 16, 10) << name;
+    EXPECT_NEAR(0, colour & 0xFFFF, 10 << 8) << name;
+  }
+}
+
+TEST(Gdi, ASurfaceDrawsWhenItIsPainted) {
   GdiSurface surface;
   surface.resize(4, 4);
   int reports = 0;

@@ -2,6 +2,7 @@
 #include <nvlist/platform/windows/WinApplication.h>
 #include <nvlist/platform/windows/WinList.h>
 #include <nvlist/platform/windows/WinTimer.h>
+#include <nvlist/platform/windows/failures.h>
 #include <nvlist/values/Failure.h>
 
 #include <filesystem>
@@ -183,16 +184,23 @@ TEST_F(WinWindowTest, KeysReachTheControlAndCanBeSwallowed) {
   list().removeSink(keys);
 }
 
-TEST_F(WinWindowTest, ARepaintInvalidatesOnce) {
-  RECT dirty;
+TEST_F(WinWindowTest, OnlyTheFirstRepaintInvalidates) {
+  const auto isDirty = [&] {
+    RECT dirty;
+    return GetUpdateRect(list_.window(), &dirty, FALSE) != 0;
+  };
   pump(50);
-  ValidateRect(list_.window(), nullptr);
-  for (int i = 0; i < 100; ++i) list().Redraw();
-  ASSERT_TRUE(GetUpdateRect(list_.window(), &dirty, FALSE));
-  pump(20);
-  EXPECT_FALSE(GetUpdateRect(list_.window(), &dirty, FALSE));
+  ASSERT_FALSE(isDirty());
   list().Redraw();
-  EXPECT_TRUE(GetUpdateRect(list_.window(), &dirty, FALSE));
+  EXPECT_TRUE(isDirty());
+  // A further call would make it dirty again.
+  ValidateRect(list_.window(), nullptr);
+  list().Redraw();
+  EXPECT_FALSE(isDirty());
+  InvalidateRect(list_.window(), nullptr, FALSE);
+  pump(20);
+  list().Redraw();
+  EXPECT_TRUE(isDirty()) << "after it has been painted";
 }
 
 /// The colour of a pixel in the drawing of a whole window.
@@ -367,6 +375,28 @@ TEST(WinDesktop, TipsAreKeptByTheSystemsControl) {
   EXPECT_EQ(3, tips->margin().Right);
   tips->deleteTool(tool);
   EXPECT_EQ(0, tips->toolCount());
+}
+
+TEST(Failures, BecomeHresultsWithATextWhereThereIsOne) {
+  const struct {
+    std::function<void()> body;
+    HRESULT expected;
+    const wchar_t* text;
+  } cases[] = {
+      {[] {}, S_OK, nullptr},
+      {[] { throw Failure::typeMismatch(); }, static_cast<HRESULT>(0x800A000D), L"Type mismatch"},
+      {[] { throw std::bad_alloc(); }, E_OUTOFMEMORY, nullptr},
+      {[] { throw 1; }, E_UNEXPECTED, nullptr}};
+  for (const auto& [body, expected, text] : cases) {
+    SetErrorInfo(0, nullptr);
+    EXPECT_EQ(expected, guarded(body));
+    ComPtr<IErrorInfo> info;
+    BSTR description = nullptr;
+    if (GetErrorInfo(0, info.put()) == S_OK) info->GetDescription(&description);
+    EXPECT_EQ(text ? std::wstring(text) : L"", description ? description : L"")
+        << std::hex << expected;
+    SysFreeString(description);
+  }
 }
 
 TEST(WinProgram, ReadsSettingsOfEachType) {

@@ -1,9 +1,7 @@
 #include <nvlist/platform/windows/ErrorReporter.h>
 
-#include <array>
+#include <algorithm>
 #include <iterator>
-
-#include <nvlist/values/Failure.h>
 
 namespace norvane {
 namespace {
@@ -80,16 +78,6 @@ class ProgramObject final : public IDispatch {
   ULONG references_ = 0;
 };
 
-void setText(VARIANT& value, std::string_view text) {
-  value.vt = VT_BSTR;
-  value.bstrVal = newBstr(text);
-}
-
-void setNumber(VARIANT& value, std::int32_t number) {
-  value.vt = VT_I4;
-  value.lVal = number;
-}
-
 }  // namespace
 
 std::shared_ptr<ErrorHandler> ErrorReporter::create() {
@@ -98,37 +86,18 @@ std::shared_ptr<ErrorHandler> ErrorReporter::create() {
   if (FAILED(CLSIDFromProgID(programmaticName, &id)) ||
       FAILED(CoCreateInstance(id, nullptr, CLSCTX_SERVER, IID_IDispatch, object.putVoid())))
     return nullptr;
-  return std::shared_ptr<ErrorHandler>(new ErrorReporter(std::move(object)));
+  return std::shared_ptr<ErrorHandler>(new ErrorReporter(object.get()));
 }
 
 void ErrorReporter::RaiseError(std::string_view programPath, const ApplicationFacts& application,
                                std::int32_t Number, std::string_view Description,
                                std::string_view Procedure, std::int32_t Line, std::string_view Kind,
                                std::string_view Module) {
-  const ComPtr<IDispatch> program = new ProgramObject(application);
-  // The last argument comes first.
-  std::array<OleVariant, 8> arguments;
-  setText(arguments[7], programPath);
-  arguments[6].vt = VT_DISPATCH;
-  arguments[6].pdispVal = ComPtr(program).detach();
-  setNumber(arguments[5], Number);
-  setText(arguments[4], Description);
-  setText(arguments[3], Procedure);
-  setNumber(arguments[2], Line);
-  setText(arguments[1], Kind);
-  setText(arguments[0], Module);
-
-  wchar_t name[] = L"RaiseError";
-  LPOLESTR names[] = {name};
-  DISPID id = DISPID_UNKNOWN;
-  HRESULT answer = object_->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id);
-  if (SUCCEEDED(answer)) {
-    DISPPARAMS given{arguments.data(), nullptr, static_cast<UINT>(arguments.size()), 0};
-    OleVariant result;
-    answer = object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &given, &result,
-                             nullptr, nullptr);
-  }
-  if (FAILED(answer)) throw Failure::automation("RaiseError");
+  OleVariant program;
+  program.vt = VT_DISPATCH;
+  program.pdispVal = ComPtr<IDispatch>(new ProgramObject(application)).detach();
+  handler_.call(L"RaiseError", {programPath, fromOle(program), Number, Description, Procedure, Line,
+                                Kind, Module});
 }
 
 }  // namespace norvane

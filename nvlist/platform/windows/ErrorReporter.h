@@ -3,7 +3,7 @@
 #include <memory>
 
 #include <nvlist/platform/Program.h>
-#include <nvlist/platform/windows/ole.h>
+#include <nvlist/platform/windows/LateBound.h>
 
 namespace norvane {
 
@@ -15,15 +15,15 @@ class ErrorReporter final : public ErrorHandler {
   /// Returns nullptr if no such object is installed.
   static std::shared_ptr<ErrorHandler> create();
 
-  /// Calls the object's method of that name. Throws Failure 440 if the call fails.
+  /// Calls the object's method of that name. Throws the failure of the call.
   void RaiseError(std::string_view programPath, const ApplicationFacts& application,
                   std::int32_t Number, std::string_view Description, std::string_view Procedure,
                   std::int32_t Line, std::string_view Kind, std::string_view Module) override;
 
  private:
-  explicit ErrorReporter(ComPtr<IDispatch> object) : object_(std::move(object)) {}
+  explicit ErrorReporter(IDispatch* handler) : handler_(handler) {}
 
-  ComPtr<IDispatch> object_;
+  LateBound handler_;
 };
 
 }  // namespace norvane

@@ -44,7 +44,7 @@ class Arguments {
   UINT count() const { return static_cast<UINT>(count_); }
 
  private:
-  OleVariant values_[4];
+  OleVariant values_[8];
   std::size_t count_;
 };
 

@@ -14,15 +14,12 @@ configure_file(nvList.rc.in ${made}/nvList.rc @ONLY)
 add_library(nvlist_ocx MODULE
   Automation.cpp
   ConnectionPoint.cpp
-  LateBound.cpp
   ListControl.cpp
   OleControl.cpp
   OleFont.cpp
   OlePersistence.cpp
-  OleValues.cpp
   OleView.cpp
   dll.cpp
-  failures.cpp
   objects.cpp
   registration.cpp
   ${made}/nvList.rc
