@@ -9,30 +9,31 @@
 
 namespace norvane {
 
-/// The fields of an item that many items of a list have in common. The names are those of ListItem.
+/// The fields of an item that many items of a list have in common.
+///
+/// The four variant colours hold a colour or the text "def", which means that the item has no
+/// colour of its own and takes the one that the style of the list gives. The two colours of the
+/// disabled state are always colours.
 struct ItemLook {
-  Boolean AllowEdit;
-  Boolean Enabled;
+  Boolean AllowEdit;  ///< may be edited in place if the list's AllowEdit is set too
+  Boolean Enabled;    ///< a disabled item cannot become the current one
   Boolean Bold;
   Boolean Italic;
   Boolean Underline;
-  Boolean CheckedAs = true;   ///< what Checked reads while the check mark is set
-  Boolean SelectedAs = true;  ///< what Selected reads while the item is selected
   cItemAlignment Alignment = cLeft;
-  Colour ForeColorDis = 0;
-  Colour BackColorDis = 0;
-  Variant ForeColor;
-  Variant BackColor;
-  Variant ForeColorSelect;
-  Variant BackColorSelect;
+  Colour ForeColorDis = 0;  ///< text colour while disabled
+  Colour BackColorDis = 0;  ///< background colour while disabled
+  Variant ForeColor;        ///< text colour
+  Variant BackColor;        ///< background colour
+  Variant ForeColorSelect;  ///< text colour while selected
+  Variant BackColorSelect;  ///< background colour while selected
   Picture Icon;
-  Picture IconSelected;
+  Picture IconSelected;  ///< icon while selected; empty: Icon is shown then too
 
   /// Whether both hold the same values. Texts and objects are the same if they are one.
   bool isSame(const ItemLook& other) const {
     return AllowEdit == other.AllowEdit && Enabled == other.Enabled && Bold == other.Bold &&
-           Italic == other.Italic && Underline == other.Underline && CheckedAs == other.CheckedAs &&
-           SelectedAs == other.SelectedAs && Alignment == other.Alignment &&
+           Italic == other.Italic && Underline == other.Underline && Alignment == other.Alignment &&
            ForeColorDis == other.ForeColorDis && BackColorDis == other.BackColorDis &&
            ForeColor.isIdentical(other.ForeColor) && BackColor.isIdentical(other.BackColor) &&
            ForeColorSelect.isIdentical(other.ForeColorSelect) &&

@@ -66,49 +66,29 @@ void ItemStore::assign(StoredItem& item, std::int32_t index, ListItem& values) c
   item.Text(values.Text);
   item.Key(values.Key);
   item.Tag(std::move(values.Tag));
-  ItemLook look;
-  look.AllowEdit = values.AllowEdit;
-  look.Enabled = values.Enabled;
-  look.Bold = values.Bold;
-  look.Italic = values.Italic;
-  look.Underline = values.Underline;
-  if (values.Checked) look.CheckedAs = values.Checked;
-  if (values.Selected) look.SelectedAs = values.Selected;
-  look.Alignment = values.Alignment;
-  look.ForeColorDis = values.ForeColorDis;
-  look.BackColorDis = values.BackColorDis;
-  look.ForeColor = std::move(values.ForeColor);
-  look.BackColor = std::move(values.BackColor);
-  look.ForeColorSelect = std::move(values.ForeColorSelect);
-  look.BackColorSelect = std::move(values.BackColorSelect);
-  look.Icon = std::move(values.Icon);
-  look.IconSelected = std::move(values.IconSelected);
-  setLook(item, index, look);
   item.Checked(values.Checked);
   item.Selected(values.Selected);
+  setLook(item, index, values);
 }
 
 void ItemStore::setLook(StoredItem& item, std::int32_t index, const ItemLook& look) const {
-  if (const StoredItem* const alike = alikeBefore(index, look))
-    item.shareLookOf(*alike);
-  else
-    item.ownLook() = look;
+  if (!sharesLook(item, index, look)) item.ownLook() = look;
 }
 
 void ItemStore::shareLook(std::int32_t index) {
   if (!holds(index)) return;
   StoredItem& item = touch(index);
-  if (const StoredItem* const alike = alikeBefore(index, item.look())) item.shareLookOf(*alike);
+  sharesLook(item, index, item.look());
 }
 
 /// Compares with a few items only: a list of which neighbours all differ would gain little by more.
-const StoredItem* ItemStore::alikeBefore(std::int32_t index, const ItemLook& look) const {
+bool ItemStore::sharesLook(StoredItem& item, std::int32_t index, const ItemLook& look) const {
   constexpr std::int32_t reach = 8;
   for (std::int32_t i = index - 1; i >= std::max(0, index - reach); --i) {
     const Ref<StoredItem>& other = slots_.peek(i);
-    if (other && other->look().isSame(look)) return other.get();
+    if (other && item.shareLookOf(*other, look)) return true;
   }
-  return nullptr;
+  return false;
 }
 
 void ItemStore::makeAllItems() {

@@ -127,7 +127,7 @@ class ItemStore {
   Ref<StoredItem>& peek(std::int32_t index) const;
   void makeItem(Ref<StoredItem>& reference, std::int32_t index) const;
   void assign(StoredItem& item, std::int32_t index, ListItem& values) const;
-  const StoredItem* alikeBefore(std::int32_t index, const ItemLook& look) const;
+  bool sharesLook(StoredItem& item, std::int32_t index, const ItemLook& look) const;
   void makeAllItems();
 
   /// Mutable, because reading a slot may create its item.

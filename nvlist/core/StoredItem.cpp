@@ -4,31 +4,10 @@
 
 namespace norvane {
 
-const ItemLook StoredItem::blankLook;
+const StoredItem::SharedLook StoredItem::blank;
 
 ListItem StoredItem::record() const {
-  const ItemLook& shared = look();
-  ListItem result;
-  result.Checked = Checked();
-  result.AllowEdit = shared.AllowEdit;
-  result.Enabled = shared.Enabled;
-  result.Selected = Selected();
-  result.Bold = shared.Bold;
-  result.Italic = shared.Italic;
-  result.Underline = shared.Underline;
-  result.Alignment = shared.Alignment;
-  result.ForeColorDis = shared.ForeColorDis;
-  result.BackColorDis = shared.BackColorDis;
-  result.ForeColor = shared.ForeColor;
-  result.BackColor = shared.BackColor;
-  result.ForeColorSelect = shared.ForeColorSelect;
-  result.BackColorSelect = shared.BackColorSelect;
-  result.Icon = shared.Icon;
-  result.IconSelected = shared.IconSelected;
-  result.Text = Text();
-  result.Tag = Tag();
-  result.Key = Key();
-  return result;
+  return {look(), Checked(), Selected(), std::string(Text()), Tag(), std::string(Key())};
 }
 
 void StoredItem::Key(CompactText key) {
@@ -48,17 +27,26 @@ void StoredItem::Tag(Variant tag) {
 }
 
 void StoredItem::Checked(Boolean checked) {
-  if (checked && look().CheckedAs != checked) ownLook().CheckedAs = checked;
+  if (checked && shared().checkedAs != checked) own().checkedAs = checked;
   isChecked_ = static_cast<bool>(checked);
 }
 
 void StoredItem::Selected(Boolean selected) {
-  if (selected && look().SelectedAs != selected) ownLook().SelectedAs = selected;
+  if (selected && shared().selectedAs != selected) own().selectedAs = selected;
   isSelected_ = static_cast<bool>(selected);
 }
 
-ItemLook& StoredItem::ownLook() {
-  if (!look_ || !look_->isHeldOnce()) look_ = makeRef<SharedLook>(look());
+bool StoredItem::shareLookOf(const StoredItem& other, const ItemLook& look) {
+  const SharedLook& mine = shared();
+  const SharedLook& others = other.shared();
+  if (mine.checkedAs != others.checkedAs || mine.selectedAs != others.selectedAs) return false;
+  if (!others.fields.isSame(look)) return false;
+  look_ = other.look_;
+  return true;
+}
+
+StoredItem::SharedLook& StoredItem::own() {
+  if (!look_ || !look_->isHeldOnce()) look_ = makeRef<SharedLook>(shared());
   return *look_;
 }
 

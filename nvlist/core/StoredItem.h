@@ -31,35 +31,38 @@ class StoredItem final : public SharedInThread {
   void Key(CompactText key);
   Variant Tag() const;
   void Tag(Variant tag);
-  Boolean Checked() const { return isChecked_ ? look().CheckedAs : Boolean(); }
+  Boolean Checked() const { return isChecked_ ? shared().checkedAs : Boolean(); }
   void Checked(Boolean checked);
-  Boolean Selected() const { return isSelected_ ? look().SelectedAs : Boolean(); }
+  Boolean Selected() const { return isSelected_ ? shared().selectedAs : Boolean(); }
   void Selected(Boolean selected);
 
   /// The shared fields, for reading. They live until the look changes.
-  const ItemLook& look() const { return look_ ? *look_ : blankLook; }
+  const ItemLook& look() const { return shared().fields; }
   /// The shared fields, for changing those of this item alone. They live until the look is shared
   /// again or the item goes.
-  ItemLook& ownLook();
-  /// Takes the look of another item.
-  void shareLookOf(const StoredItem& other) { look_ = other.look_; }
-  bool sharesLookOf(const StoredItem& other) const { return look_ == other.look_; }
+  ItemLook& ownLook() { return own().fields; }
+  /// Takes the look of another item if that is `look` and both items' marks read alike. Returns
+  /// whether it did.
+  bool shareLookOf(const StoredItem& other, const ItemLook& look);
 
   /// Width of the text in the list's font, in pixels.
   std::uint16_t textWidth = notMeasured;
   static constexpr std::uint16_t notMeasured = 0xFFFF;
 
  private:
-  struct SharedLook : SharedInThread, ItemLook {
-    SharedLook() = default;
-    explicit SharedLook(const ItemLook& look) : ItemLook(look) {}
+  struct SharedLook : SharedInThread {
+    ItemLook fields;
+    Boolean checkedAs = true;   ///< what Checked reads while the check mark is set
+    Boolean selectedAs = true;  ///< what Selected reads while the item is selected
   };
   struct Labels {
     CompactText key;
     Variant tag;
   };
-  static const ItemLook blankLook;
+  static const SharedLook blank;
 
+  const SharedLook& shared() const { return look_ ? *look_ : blank; }
+  SharedLook& own();
   Labels& labels();
 
   bool isChecked_ : 1 = false;

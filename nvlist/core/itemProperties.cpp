@@ -70,8 +70,11 @@ Variant nvList::ItemKey(const Variant& Index) {
   return readItem("ItemKey", Index, [](const StoredItem& item) { return Variant(item.Key()); });
 }
 void nvList::ItemKey(const Variant& Index, const Variant& value) {
-  writeItem("ItemKey", Index, ItemRepaint::no,
-            [&](std::int32_t index) { state_.Items.setKey(index, value.toText()); });
+  writeItem("ItemKey", Index, ItemRepaint::no, [&](std::int32_t index) {
+    // A bad index is reported rather than a bad value.
+    item(index);
+    state_.Items.setKey(index, value.toText());
+  });
 }
 
 Boolean nvList::ItemAllowEdit(const Variant& Index) {

@@ -101,7 +101,6 @@ void nvList::writeFields(Trap& on, StoredItem& item, NewItem& values) {
   const bool isReadable = isNumber(values.aForeColorDis) && isNumber(values.aBackColorDis);
   ItemLook collected;
   ItemLook& look = isReadable ? collected : item.ownLook();
-  look.CheckedAs = item.look().CheckedAs;
   look.Icon = std::move(values.aIcon);
   look.IconSelected = std::move(values.aIconSelected);
   look.ForeColor = std::move(values.aForeColor);
@@ -130,7 +129,7 @@ void nvList::ItemsAppend(ListItem added) {
       else
         items.reset();
       state_.ItemsDimensioned = true;
-      const Boolean isSelected = added.Selected;
+      const Boolean isSelected = std::exchange(added.Selected, false);
       items.assign(items.upperBound(), std::move(added));
       if (isSelected) state_.Selection.set(items, items.upperBound(), isSelected);
     });
@@ -234,6 +233,9 @@ bool nvList::sweepToLast(Trap& on) {
   const std::int32_t first = state_.SweepIndex + 1;
   // After a repaint LoopIndex is the first item that was not painted.
   if (state_.AutoRedraw && first < state_.LoopIndex) return false;
+  // Of a style without pictures each repaint of a thumb is reported.
+  if (state_.ScrollColorStyle < cXPScrollBlue || state_.ScrollColorStyle > cXPScrollOlive)
+    return false;
   bool isDone = false;
   on.ignoring([&] {
     std::int32_t last = -1;
@@ -243,9 +245,13 @@ bool nvList::sweepToLast(Trap& on) {
     if (last > first) {
       for (std::int32_t i = first; i < last; ++i) state_.Selection.removing(state_.Items, i);
       const std::int32_t removed = state_.Items.removeSelected(first, last);
-      if (removed > 0) state_.LoopIndex = state_.Items.upperBound();
       state_.InsertIndex = checked::subtract(state_.InsertIndex.toInt32(), removed);
       last -= removed;
+      if (removed > 0) {
+        state_.LoopIndex = state_.Items.upperBound();
+        // A fit that hides a bar gives the other one its length, and the next its thumb.
+        updateAfterChange(on);
+      }
     }
     state_.SweepIndex = last;
     isDone = true;

@@ -28,9 +28,9 @@ struct Accessor {
   std::string heard;
 };
 
-template <class Value, class Given, class Field>
+template <class Value, class Given, class Field, class Owner>
 Accessor of(const char* name, Value (nvList::*get)(const Variant&),
-            void (nvList::*let)(const Variant&, Given), Field ListItem::*field,
+            void (nvList::*let)(const Variant&, Given), Field Owner::*field,
             const std::type_identity_t<Value>& value, const std::string& repaint = "*") {
   const auto read = [=](nvList& list, const Variant& at) { return shown((list.*get)(at)); };
   const auto write = [=](nvList& list, const Variant& at) { (list.*let)(at, value); };
@@ -149,6 +149,8 @@ TEST_F(ItemProperties, AnIndexIsRoundedAndAValueConverted) {
   };
   EXPECT_EQ(setBadly(), "");
   EXPECT_EQ(reports(), "13 ItemForeColorDis, 6 ItemBackColorDis");
+  list.ItemKey(9, Ref<Object>(makeRef<Object>()));
+  EXPECT_EQ(reports(), "9 ItemKey");
   silent();
   EXPECT_EQ(setBadly(), "ItemForeColorDis* ItemBackColorDis*");
 }

@@ -128,12 +128,12 @@ class ItemObject final : public AutomationObject<::_ListItem> {
  private:
   using Item = norvane::ListItem;
 
-  template <class Out, class Value>
-  HRESULT get(Out* out, Value Item::*field) {
+  template <class Out, class Value, class Owner>
+  HRESULT get(Out* out, Value Owner::*field) {
     return result(out, [&] { return item_.*field; });
   }
-  template <class In, class Value>
-  HRESULT put(const In& in, Value Item::*field) {
+  template <class In, class Value, class Owner>
+  HRESULT put(const In& in, Value Owner::*field) {
     return guarded([&] { item_.*field = static_cast<Value>(fromOle(in)); });
   }
 
