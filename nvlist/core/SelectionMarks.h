@@ -9,8 +9,8 @@
 namespace norvane {
 
 /// Sets the `Selected` marks of the items. It remembers enough to clear them without visiting a
-/// million items: nothing is visited if no mark was set, and only one item if one mark was set and
-/// that item's index is still known.
+/// million items: only those from the first to the last index at which a mark was set are visited,
+/// unless a marked item is no longer found there.
 class SelectionMarks {
  public:
   /// Throws Failure 9 outside the bounds.
@@ -33,17 +33,16 @@ class SelectionMarks {
   /// items. 0 if no item is marked.
   std::uint64_t signature() const { return signature_; }
 
-  /// To be called when an item has been moved, or all items have been reordered, so that the marked
-  /// item is found again.
-  void itemMoved(std::int32_t from, std::int32_t to) {
-    if (lastIndex_ == from) lastIndex_ = to;
-  }
+  /// To be called when an item has been moved, or all items have been reordered, so that a single
+  /// marked item is found again.
+  void itemMoved(std::int32_t from, std::int32_t to);
   void reordered(std::span<const std::int32_t> order);
 
  private:
   std::uint64_t marksSet_ = 0;   ///< since the last clear; an upper bound for the marked items
   std::uint64_t signature_ = 0;  ///< the sum of a number of each marked item
-  std::int32_t lastIndex_ = 0;
+  std::int32_t first_ = 0;       ///< the range of their indexes when they were set
+  std::int32_t last_ = 0;
 };
 
 }  // namespace norvane
