@@ -117,6 +117,12 @@ void ambients() {
   const auto stored = asked<IPersistPropertyBag>(list.get());
   check(stored->Save(&bag, TRUE, FALSE) == S_OK && bag.values.empty(), "defaults are not stored");
   check(stored->Save(&bag, TRUE, TRUE) == S_OK && bag.values.size() == 33, "unless all are wanted");
+  auto copy = make();
+  asked<IPersistPropertyBag>(copy.get())->Load(&bag, nullptr);
+  copy->get_Font(font.put());
+  isBold = FALSE;
+  asked<IFont>(font.get())->get_Bold(&isBold);
+  check(isBold, "a font is read from a bag");
   const int asks = site.calls["DisplayName"];
   site.name = L"Names";
   asked<IOleControl>(list.get())->OnAmbientPropertyChange(DISPID_AMBIENT_DISPLAYNAME);

@@ -144,7 +144,10 @@ c.ListSave path, True
 c.ItemsClear : c.ListInput path, True
 Check "ListSave, ListInput", Texts & c.ItemKey(1) & c.ItemBold(1), "one twok2True"
 Check "a date comes back as its text", c.ItemTag(0), CStr(CDate(46347))
-c.ListSave path : c.ListInput path
+Fill "one two" : c.ItemBold(1) = True
+c.ListSave path, True : c.ListInput path
+Check "properties of the file, not read", Texts & c.ItemBold(1), "one twoFalse"
+c.ListSave path : c.ListInput path, True
 Check "without properties", Texts & c.ItemKey(1) & c.ItemBold(1), "one twoFalse"
 Check "ListFileItemsCount", c.ListFileItemsCount(folder & "none") & " " & c.ListFileItemsCount(path), "-1 0"
 Dim text : Set text = files.CreateTextFile(folder & "text.txt") : text.Write "a;b;c" : text.Close
