@@ -259,7 +259,7 @@ Stage* GalleryWindow::makeStage(int index) {
   for (NvListWidget* widget : stage->lists()) {
     widget->list().addSink(progress_);
     widget->installEventFilter(this);
-    widget->onPropertyChanged = [this](std::string_view) { refreshSoon(); };
+    connect(widget, &NvListWidget::propertyChanged, this, [this] { refreshSoon(); });
   }
   stack_->addWidget(stage);
   return stage;

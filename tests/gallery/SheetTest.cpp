@@ -45,7 +45,8 @@ class SheetTest : public testing::Test {
     widget.resize(200, 100);
     for (const char* text : {"Graz", "Linz", "Vienna"}) widget.list().ItemsAdd(text);
     widget.list().ListIndex(1);
-    widget.onPropertyChanged = [this](std::string_view name) { told.emplace_back(name); };
+    QObject::connect(&widget, &norvane::NvListWidget::propertyChanged,
+                     [this](const QString& name) { told.push_back(name.toStdString()); });
   }
 
   /// Edits every property of a sheet that can be edited without a dialog.

@@ -76,7 +76,8 @@ long live(long at, const NamedTrouble& trouble) {
   widget->show();
   nvList& list = widget->list();
   list.addSink(host);
-  widget->onPropertyChanged = [&](std::string_view) { out(); };
+  const auto changes =
+      QObject::connect(widget, &NvListWidget::propertyChanged, widget, [&] { out(); });
   const Step* current = nullptr;
   int depth = 0;
   const std::string_view name = trouble.name;
@@ -122,7 +123,7 @@ long live(long at, const NamedTrouble& trouble) {
     list.UserControl_ReadProperties(PropertyBag());
     list.ItemsAdd("end");
     EXPECT_EQ(list.ItemText(0), "end") << trouble.name << " at " << at;
-    widget->onPropertyChanged = nullptr;
+    QObject::disconnect(changes);
     widget->grab();
   }
   delete widget;
