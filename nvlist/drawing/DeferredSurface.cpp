@@ -12,6 +12,7 @@ constexpr std::size_t maximumWaiting = 20000;
 }  // namespace
 
 void DeferredSurface::dropWaiting() {
+  drawAnew();
   forget();
   drawn();
 }
@@ -21,17 +22,33 @@ void DeferredSurface::drawWaiting() {
   isChangeReported_ = false;
 }
 
+bool DeferredSurface::isChanged() {
+  if (isChangeReported_ && isShown()) drawWaiting();
+  return isChangeReported_;
+}
+
+void DeferredSurface::drawAnew() { std::vector<SurfaceCall>().swap(shown_.recording.calls); }
+
+bool DeferredSurface::isShown() { return !shown_.recording.calls.empty() && frame() == shown_; }
+
 void DeferredSurface::flush() {
-  try {
-    replay(canvas_);
-  } catch (...) {
-    // Memory ran out within a frame. The next frame may succeed.
+  const std::vector<SurfaceCall>& waiting = frame().recording.calls;
+  if (!waiting.empty() && !isShown()) {
+    bool isWhole = std::holds_alternative<calls::Cls>(waiting.front());
+    try {
+      frame().replay(canvas_);
+    } catch (...) {
+      // Memory ran out within a frame. The next frame may succeed.
+      isWhole = false;
+    }
+    std::swap(frame(), shown_);
+    if (!isWhole) drawAnew();
   }
   forget();
 }
 
 void DeferredSurface::drawn() {
-  if (image().calls.size() > maximumWaiting) flush();
+  if (frame().recording.calls.size() > maximumWaiting) flush();
   if (std::exchange(isChangeReported_, true)) return;
   if (onDrawn) onDrawn();
 }

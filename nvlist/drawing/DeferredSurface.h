@@ -7,7 +7,8 @@
 namespace norvane {
 
 /// A recording that is drawn onto a canvas when its image is needed. Each Cls discards what has not
-/// been drawn. Texts are measured, and pictures checked, immediately.
+/// been drawn. A recording that equals the one drawn last is not drawn again. Texts are measured,
+/// and pictures checked, immediately.
 class DeferredSurface : public RecordingSurface {
  public:
   /// Called on the first change after each drawWaiting(). It must not draw on this surface.
@@ -17,6 +18,11 @@ class DeferredSurface : public RecordingSurface {
   /// Draws the pending calls onto the canvas. A failure leaves that frame incomplete and is not
   /// reported: a window that is painting itself has no caller that could handle it.
   void drawWaiting();
+  /// Whether drawWaiting() would change the image. If not, the pending calls are discarded.
+  bool isChanged();
+  /// Draws the next recording even if it equals the last one: what the canvas makes of it has
+  /// changed, for example the system colours.
+  void drawAnew();
 
   /// Throws Failure 5 for an empty reference, and Failure 481 for a picture that cannot be decoded.
   void PaintPicture(const Picture& picture, float x, float y) override;
@@ -44,8 +50,11 @@ class DeferredSurface : public RecordingSurface {
 
  private:
   void flush();
+  bool isShown();
 
   Surface& canvas_;
+  /// The recording that the canvas shows. Empty if more was drawn than one recording.
+  Frame shown_;
   bool isChangeReported_ = false;
 };
 

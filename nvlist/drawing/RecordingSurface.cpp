@@ -15,7 +15,7 @@ void RecordingSurface::resize(float width, float height) {
 
 const Recording& RecordingSurface::image() const {
   if (beforeLook) beforeLook();
-  return image_;
+  return frame_.recording;
 }
 
 int RecordingSurface::frames() const {
@@ -25,34 +25,46 @@ int RecordingSurface::frames() const {
 
 Colour RecordingSurface::background() const {
   if (beforeLook) beforeLook();
-  return settingsOfImage_.backColor;
+  return frame_.settings.backColor;
 }
 
 void RecordingSurface::replay(Surface& onto) const {
   if (beforeLook) beforeLook();
-  onto.BackColor(settingsOfImage_.backColor);
-  onto.Font(settingsOfImage_.font);
-  onto.ForeColor(settingsOfImage_.foreColor);
-  onto.FontBold(settingsOfImage_.bold);
-  onto.FontItalic(settingsOfImage_.italic);
-  onto.FontUnderline(settingsOfImage_.underline);
-  image_.replay(onto);
+  frame_.replay(onto);
+}
+
+void RecordingSurface::Frame::replay(Surface& onto) const {
+  onto.BackColor(settings.backColor);
+  onto.Font(settings.font);
+  onto.ForeColor(settings.foreColor);
+  onto.FontBold(settings.bold);
+  onto.FontItalic(settings.italic);
+  onto.FontUnderline(settings.underline);
+  recording.replay(onto);
+}
+
+bool RecordingSurface::Settings::operator==(const Settings& other) const {
+  return backColor == other.backColor && foreColor == other.foreColor && bold == other.bold &&
+         italic == other.italic && underline == other.underline && isSameFont(font, other.font);
 }
 
 void RecordingSurface::forget() {
-  settingsOfImage_ = settings_;
+  frame_.settings = settings_;
   // Swapped out first, because destroying a picture may run host code that draws. The memory is
   // reused.
+  std::vector<SurfaceCall>& calls = frame_.recording.calls;
   std::vector<SurfaceCall> old;
-  old.swap(image_.calls);
+  old.swap(calls);
   old.clear();
-  if (image_.calls.empty()) image_.calls.swap(old);
+  if (calls.empty()) calls.swap(old);
 }
 
-void RecordingSurface::set(SurfaceCall&& call) { image_.calls.push_back(std::move(call)); }
+void RecordingSurface::set(SurfaceCall&& call) {
+  frame_.recording.calls.push_back(std::move(call));
+}
 
 void RecordingSurface::draw(SurfaceCall&& call) {
-  image_.calls.push_back(std::move(call));
+  frame_.recording.calls.push_back(std::move(call));
   drawn();
 }
 

@@ -60,7 +60,7 @@ class RecordingSurface : public Surface {
   void FontItalic(Boolean on) override;
   void FontUnderline(Boolean on) override;
   /// The calls that take a handle throw Failure 5 for any other.
-  std::uintptr_t hDC() const override { return reinterpret_cast<std::uintptr_t>(&image_); }
+  std::uintptr_t hDC() const override { return reinterpret_cast<std::uintptr_t>(&frame_); }
   void DrawTextA(std::uintptr_t hDC, std::string_view text, std::int32_t length,
                  const Rectangle& rectangle, TextFormat format) override;
   void DrawFocusRect(std::uintptr_t hDC, const Rectangle& rectangle) override;
@@ -68,11 +68,6 @@ class RecordingSurface : public Surface {
   void Print(std::string_view text) override;
 
  protected:
-  /// Called after each call that draws; not after those that only set a colour, a font or the
-  /// position. It must not draw.
-  virtual void drawn() {}
-
- private:
   /// The settings that persist until they are changed.
   struct Settings {
     Colour backColor = colours::white;
@@ -81,8 +76,27 @@ class RecordingSurface : public Surface {
     Boolean bold = false;
     Boolean italic = false;
     Boolean underline = false;
+
+    bool operator==(const Settings& other) const;
   };
 
+  /// A recording with the settings at its beginning.
+  struct Frame {
+    Settings settings;
+    Recording recording;
+
+    bool operator==(const Frame&) const = default;
+    void replay(Surface& onto) const;
+  };
+
+  /// The calls since the last Cls, without calling beforeLook.
+  Frame& frame() { return frame_; }
+
+  /// Called after each call that draws; not after those that only set a colour, a font or the
+  /// position. It must not draw.
+  virtual void drawn() {}
+
+ private:
   void set(SurfaceCall&& call);
   void draw(SurfaceCall&& call);
   void requireOwn(std::uintptr_t hDC) const;
@@ -93,8 +107,7 @@ class RecordingSurface : public Surface {
   float currentX_ = 0;
   float currentY_ = 0;
   Settings settings_;
-  Settings settingsOfImage_;
-  Recording image_;
+  Frame frame_;
   int frames_ = 0;
 };
 

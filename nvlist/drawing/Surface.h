@@ -33,6 +33,8 @@ struct Bitmap24 {
   std::int32_t height = 0;
   std::vector<std::uint8_t> bytes;
 
+  bool operator==(const Bitmap24&) const = default;
+
   /// Whether the bitmap has pixels, and enough bytes for all of them.
   bool isComplete() const {
     return width > 0 && height > 0 &&

@@ -34,6 +34,9 @@ inline bool FontObject::isSame(const Object& other) const {
 /// A reference to a font object; it may be empty.
 using Font = Ref<FontObject>;
 
+/// Whether two references are empty, or their fonts equal in all fields.
+inline bool isSameFont(const Font& a, const Font& b) { return a && b ? a->isSame(*b) : a == b; }
+
 /// An independent copy of a font; empty for an empty reference.
 inline Font CloneFont(const Font& font) { return font ? font->Clone() : Font(); }
 

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <functional>
 
 namespace norvane {
 namespace {
@@ -43,6 +44,33 @@ class NvListWidgetTest : public testing::Test {
 
   ScreenedWidget widget;
 };
+
+TEST_F(NvListWidgetTest, framesAreOnlyPaintedForWhatLooksDifferent) {
+  struct Counter : QObject {
+    int frames = 0;
+    bool eventFilter(QObject*, QEvent* event) override {
+      frames += event->type() == QEvent::Paint;
+      return false;
+    }
+  } counter;
+  widget.installEventFilter(&counter);
+  const auto framesFor = [&](const std::function<void()>& work) {
+    counter.frames = 0;
+    work();
+    // The first turn finds out what has changed.
+    for (int turn = 0; turn < 2; ++turn) QCoreApplication::processEvents();
+    return counter.frames;
+  };
+  nvList& list = widget.list();
+  EXPECT_EQ(framesFor([&] { list.ItemsAdd("a"); }), 1);
+  // From here on the thumb has its shortest length.
+  for (int i = 0; i < 300; ++i) list.ItemsAdd("a");
+  QCoreApplication::processEvents();
+  EXPECT_EQ(framesFor([&] { list.ItemsAdd("a"); }), 0);
+  EXPECT_EQ(framesFor([&] { list.Redraw(); }), 0);
+  EXPECT_EQ(framesFor([&] { list.ItemText(0, "b"); }), 1);
+  EXPECT_EQ(framesFor([&] { list.TopIndex(20); }), 1);
+}
 
 TEST_F(NvListWidgetTest, showsWhatWasAdded) {
   widget.list().ItemsAdd("Ada");

@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <QBuffer>
+#include <QPainter>
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <string>
 
@@ -132,8 +134,31 @@ TEST_F(QtSurfaceTest, measuresAsTheLayoutOfQtDoes) {
   font.Size = 9;
   const QFontMetricsF metrics(toQFont(font), &image);
   for (const char* text :
-       {"AVATAR To Wave", "office affluent fish", "a\x7F", "Grüße, Łódź", "日本"})
-    EXPECT_NEAR(surface.TextWidth(text), metrics.horizontalAdvance(QString(text)), 1) << text;
+       {"AVATAR To Wave", "office affluent fish", "a\x7F", "Grüße, Łódź – „Tå“, ÄV TÖ",
+        "ΓΑ ΤΟ ΑΥ, ᾬχυ", "ГА ТД УЖ, съешь", "Ґ1 Vα Гa", "日本語、テスト。", "「〉漢 AV", "한글 AV",
+        "שלום, V", "वि लि", "ệ e\u0301"})
+    EXPECT_NEAR(surface.TextWidth(text), metrics.horizontalAdvance(QString(text)), 0.5) << text;
+}
+
+TEST_F(QtSurfaceTest, textsLookAsAPainterDrawsThem) {
+  constexpr Rectangle where{3, 5, 400, 120};
+  for (const qreal dpr : {1.0, 1.5, 2.0}) {
+    renew(dpr);
+    for (const char* text :
+         {"item 12", "Grüße ", "ab שלום cd", "שלום עולם ", "漢字", "soft\u00ADhyphen"}) {
+      surface.Cls();
+      QImage expected = surface.image().copy();
+      QPainter painter(&expected);
+      QFont font("DejaVu Sans");
+      font.setPointSizeF(9);
+      painter.setFont(font);
+      painter.drawText(QPointF(3, 5 + qRound(QFontMetricsF(font, &expected).ascent())), text);
+      painter.end();
+      // The first time the text is laid out, the second time it is known.
+      for (int time = 0; time < 2; ++time)
+        EXPECT_EQ(drawn(text, TextFormat::expandTabs, where), expected) << text << " at " << dpr;
+    }
+  }
 }
 
 TEST_F(QtSurfaceTest, anAmpersandUnderlinesAndIsNotShown) {
@@ -269,6 +294,43 @@ TEST_F(QtSurfaceTest, handedOutImagesStayAndChangesAreTold) {
   EXPECT_FALSE(ink(surface.image()).isEmpty());
   surface.Cls();
   EXPECT_EQ(told, 2);
+}
+
+TEST_F(QtSurfaceTest, whatLooksTheSameIsNotDrawnAgain) {
+  const auto draw = [&](int rows) {
+    surface.Cls();
+    surface.FontBold(true);
+    for (int i = 0; i < rows; ++i) this->draw("n", {0, 20 * i, 50, 120});
+    surface.FontBold(false);
+  };
+  const auto change = [&](const char* what, bool isChange, const std::function<void()>& work) {
+    draw(2);
+    surface.image();
+    draw(2);
+    EXPECT_FALSE(surface.isChanged()) << what;
+    work();
+    EXPECT_EQ(surface.isChanged(), isChange) << what;
+    surface.image();
+  };
+  change("nothing", false, [] {});
+  change("the same", false, [&] { draw(2); });
+  change("fewer calls", true, [&] { draw(1); });
+  change("another call", true, [&] { surface.PSet(0, 0, red); });
+  change("more calls before the same ones", true, [&] {
+    surface.PSet(0, 0, red);
+    surface.image();
+    draw(2);
+  });
+  change("another background", true, [&] {
+    surface.BackColor(red);
+    draw(2);
+    surface.BackColor(0xFFFFFF);
+  });
+  change("another palette", true, [&] {
+    surface.setPalette(QPalette(Qt::red));
+    draw(2);
+  });
+  change("another size", true, [&] { surface.resize({200, 120}, 1); });
 }
 
 TEST_F(QtSurfaceTest, anImageWithoutAreaIsNoTrouble) {

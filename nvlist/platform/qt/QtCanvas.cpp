@@ -17,18 +17,7 @@ namespace {
 /// Beyond any image, and small enough to calculate with.
 constexpr int farOut = 1 << 24;
 
-/// Texts are laid out in pieces of this many characters, since a very long line is visible only in
-/// part.
-constexpr qsizetype pieceLength = 512;
-
 constexpr std::size_t maximumForeign = 256;
-
-constexpr unsigned firstPrintable = 0x20;
-constexpr unsigned lastPrintable = 0x7E;
-constexpr unsigned printableCount = lastPrintable - firstPrintable + 1;
-/// Takes the place of the character after the last one.
-constexpr unsigned textEnd = lastPrintable + 1;
-constexpr float neverAsked = -1e6F;
 
 int nearestPixel(float coordinate) {
   if (!(coordinate > -farOut)) return -farOut;
@@ -60,18 +49,7 @@ qsizetype characterLength(QStringView text, qsizetype at) {
                                                                                              : 1;
 }
 
-/// The end of the piece that begins at `from`: before a tab, and not inside a surrogate pair.
-qsizetype pieceEnd(QStringView text, qsizetype from) {
-  qsizetype end = std::min(from + pieceLength, text.size());
-  if (end < text.size() && text[end].isLowSurrogate()) ++end;
-  const qsizetype tab = text.sliced(from, end - from).indexOf(u'\t');
-  return tab < 0 ? end : from + tab;
-}
-
 double nextTabStop(double x, int tabStop) { return (std::floor(x / tabStop) + 1) * tabStop; }
-
-unsigned codeOf(QChar character) { return character.unicode(); }
-unsigned codeOf(char character) { return static_cast<unsigned char>(character); }
 
 }  // namespace
 
@@ -123,7 +101,7 @@ const QImage& QtCanvas::image() {
 
 QPainter& QtCanvas::painter() {
   if (!painter_.isActive()) painter_.begin(&image_);
-  const Face& wanted = face();
+  const QtFace& wanted = face();
   if (painterFace_ != &wanted) {
     painterFace_ = &wanted;
     painter_.setFont(wanted.font);
@@ -216,6 +194,7 @@ void QtCanvas::PSet(float x, float y, Colour colour) {
 
 void QtCanvas::Cls() {
   image_.fill(rgb(backColor_));
+  isPictureMissing_ = false;
   currentX_ = 0;
   currentY_ = 0;
 }
@@ -274,7 +253,10 @@ void QtCanvas::PaintPicture(const Picture& picture, float x, float y) {
 
 void QtCanvas::PaintPicture(const Picture& picture, float x, float y, float width, float height) {
   const QImage image = drawable(picture).image();
-  if (image.isNull()) return;
+  if (image.isNull()) {
+    isPictureMissing_ = true;
+    return;
+  }
   const QRect target(nearestPixel(x), nearestPixel(y), nearestPixel(width), nearestPixel(height));
   if (target.width() <= 0 || target.height() <= 0) return;
   QPainter& on = painter();
@@ -325,65 +307,16 @@ void QtCanvas::Font(const norvane::Font& font) {
   painterFace_ = nullptr;
 }
 
-QtCanvas::Face& QtCanvas::face() {
-  std::optional<Face>& face = faces_[flags_];
-  if (face) return *face;
-  QFont font = toQFont(font_);
-  font.setBold((flags_ & bold) != 0);
-  font.setItalic((flags_ & italic) != 0);
-  font.setUnderline((flags_ & underline) != 0);
-  const QFontMetricsF metrics(font, &image_);
-  face = Face{font,
-              metrics,
-              std::max(qRound(metrics.height()), 1),
-              qRound(metrics.ascent()),
-              8 * std::max(qRound(metrics.averageCharWidth()), 1),
-              std::max(qRound(metrics.underlinePos()), 1),
-              std::max(qRound(metrics.lineWidth()), 1),
-              std::vector<float>(std::size_t{printableCount} * (printableCount + 1), neverAsked)};
+QtFace& QtCanvas::face() {
+  std::unique_ptr<QtFace>& face = faces_[flags_];
+  if (!face) {
+    QFont font = toQFont(font_);
+    font.setBold((flags_ & bold) != 0);
+    font.setItalic((flags_ & italic) != 0);
+    font.setUnderline((flags_ & underline) != 0);
+    face = std::make_unique<QtFace>(font, &image_);
+  }
   return *face;
-}
-
-double QtCanvas::Face::widthOf(QStringView text) {
-  if (const auto width = widthOfPrintable(text)) return *width;
-  double width = 0;
-  for (qsizetype at = 0; at < text.size();) {
-    const qsizetype end = std::max(pieceEnd(text, at), at + 1);
-    width += metrics.horizontalAdvance(text.sliced(at, end - at).toString());
-    at = end;
-  }
-  return width;
-}
-
-/// Adds up the advances of pairs of characters. A list measures each of its texts, which may be a
-/// million, and the full layout of one takes microseconds.
-template <class Text>
-std::optional<double> QtCanvas::Face::widthOfPrintable(Text text) {
-  const auto isPrintable = [](unsigned code) { return code - firstPrintable < printableCount; };
-  const auto length = static_cast<std::size_t>(text.size());
-  if (length == 0) return 0;
-  double width = 0;
-  unsigned character = codeOf(text.front());
-  for (std::size_t at = 1; isPrintable(character); ++at) {
-    if (at == length) return width + advance(character, textEnd);
-    const unsigned next = codeOf(text[static_cast<typename Text::size_type>(at)]);
-    if (!isPrintable(next)) break;
-    width += advance(character, next);
-    character = next;
-  }
-  return {};
-}
-
-float QtCanvas::Face::advance(unsigned character, unsigned next) {
-  float& known =
-      advances[(character - firstPrintable) * (printableCount + 1) + (next - firstPrintable)];
-  if (known > neverAsked) return known;
-  const QChar pair[] = {QChar(character), QChar(next)};
-  const QStringView text(pair, 2);
-  known = next == textEnd ? static_cast<float>(metrics.horizontalAdvance(pair[0]))
-                          : static_cast<float>(metrics.horizontalAdvance(text.toString()) -
-                                               metrics.horizontalAdvance(pair[1]));
-  return known;
 }
 
 double QtCanvas::widthWithTabs(const QString& line) {
@@ -399,7 +332,7 @@ double QtCanvas::widthWithTabs(const QString& line) {
 }
 
 float QtCanvas::TextWidth(std::string_view text) {
-  if (const auto width = face().widthOfPrintable(text))
+  if (const auto width = face().widthWithoutLayout(text))
     return static_cast<float>(std::nearbyint(*width));
   double widest = 0;
   forEachLine(text, [&](std::string_view line) {
@@ -416,7 +349,7 @@ float QtCanvas::TextHeight(std::string_view text) {
 /// Draws a line from `x` on, as far as it is visible.
 void QtCanvas::drawLine(const ShownLine& line, double x, double tabOrigin, double baseline,
                         const QRect& clip) {
-  Face& face = this->face();
+  QtFace& face = this->face();
   const QString& text = line.text;
   // Slanted letters extend into the space of their neighbours.
   const int overhang = face.lineHeight;
@@ -426,12 +359,12 @@ void QtCanvas::drawLine(const ShownLine& line, double x, double tabOrigin, doubl
       ++at;
       continue;
     }
-    const qsizetype end = pieceEnd(text, at);
+    const qsizetype end = QtFace::pieceEnd(text, at);
     const QString piece = text.sliced(at, end - at);
     const double width = end < text.size() ? face.widthOf(piece) : 0;
     if (end == text.size() || x + width >= clip.left() - overhang) {
-      painter_.drawText(QPointF(x, baseline), piece);
-      underlineMarked(line, at, end, x, baseline);
+      face.draw(painter_, {x, baseline}, piece, clip);
+      underlineMarked(line, at, end, x, baseline, clip);
     }
     x += width;
     at = end;
@@ -440,9 +373,11 @@ void QtCanvas::drawLine(const ShownLine& line, double x, double tabOrigin, doubl
 
 /// Underlines the marked characters of one piece, which begins at `x`.
 void QtCanvas::underlineMarked(const ShownLine& line, qsizetype from, qsizetype to, double x,
-                               double baseline) {
-  Face& face = this->face();
+                               double baseline, const QRect& clip) {
+  QtFace& face = this->face();
   const QStringView text(line.text);
+  if (line.underlined.empty()) return;
+  painter_.setClipRect(clip);
   auto mark = std::lower_bound(line.underlined.begin(), line.underlined.end(), from);
   for (; mark != line.underlined.end() && *mark < to; ++mark) {
     const double left = x + face.widthOf(text.sliced(from, *mark - from));
@@ -460,8 +395,8 @@ void QtCanvas::DrawTextA(std::uintptr_t hDC, std::string_view text, std::int32_t
   const QRect clip = visiblePart(rectangle);
   if (clip.isEmpty() || text.empty()) return;
 
-  painter().setClipRect(clip);
-  Face& face = this->face();
+  painter();
+  QtFace& face = this->face();
   std::int64_t top = rectangle.Top;
   forEachLine(text, [&](std::string_view line) {
     if (top > clip.bottom()) return false;
@@ -478,8 +413,8 @@ void QtCanvas::DrawTextA(std::uintptr_t hDC, std::string_view text, std::int32_t
 }
 
 void QtCanvas::Print(std::string_view text) {
-  painter().setClipping(false);
-  const Face& face = this->face();
+  painter();
+  const QtFace& face = this->face();
   const QRect whole(QPoint(0, 0), size_);
   int x = nearestPixel(currentX_);
   int top = nearestPixel(currentY_);

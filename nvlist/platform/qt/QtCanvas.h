@@ -1,19 +1,16 @@
 #pragma once
 
-#include <QFont>
-#include <QFontMetricsF>
 #include <QImage>
 #include <QPainter>
 #include <QPalette>
 #include <QRect>
 #include <QSize>
 #include <array>
-
 #include <map>
-#include <optional>
-#include <vector>
+#include <memory>
 
 #include <nvlist/drawing/Surface.h>
+#include <nvlist/platform/qt/QtFace.h>
 
 namespace norvane {
 
@@ -45,6 +42,8 @@ class QtCanvas final : public Surface {
 
   /// Throws what PaintPicture would throw for a picture.
   void requireDrawable(const Picture& picture) { drawable(picture); }
+  /// Whether a picture was not painted since the last Cls, because it could not be decoded again.
+  bool isPictureMissing() const { return isPictureMissing_; }
 
   void Cls() override;
   /// Coordinates are rounded to the nearest pixel, ties to the even one.
@@ -82,32 +81,10 @@ class QtCanvas final : public Surface {
  private:
   enum Flag : unsigned { bold = 1, italic = 2, underline = 4 };
 
-  /// A font with the measures that the layout needs, in whole pixels except for `metrics`.
-  struct Face {
-    QFont font;
-    QFontMetricsF metrics;
-    int lineHeight;
-    int ascent;
-    int tabStop;
-    int underlineTop;
-    int underlineHeight;
-    /// What a printable ASCII character adds to a width, by the character after it, with kerning;
-    /// the last entry is for the end of a text. Below -1000 if not measured yet.
-    std::vector<float> advances;
-
-    double widthOf(QStringView text);
-    /// Empty if a character is not printable ASCII.
-    template <class Text>
-    std::optional<double> widthOfPrintable(Text text);
-
-   private:
-    float advance(unsigned character, unsigned next);
-  };
-
   struct ShownLine;
 
   void setFlag(Flag flag, Boolean on) { flags_ = on ? flags_ | flag : flags_ & ~flag; }
-  Face& face();
+  QtFace& face();
   QRgb rgb(Colour colour) const;
 
   /// The active painter on the image, with the current font and text colour.
@@ -125,13 +102,13 @@ class QtCanvas final : public Surface {
   void drawLine(const ShownLine& line, double x, double tabOrigin, double baseline,
                 const QRect& clip);
   void underlineMarked(const ShownLine& line, qsizetype from, qsizetype to, double x,
-                       double baseline);
+                       double baseline, const QRect& clip);
 
   QSize size_{1, 1};
   qreal dpr_ = 1;
   QImage image_;
   QPainter painter_;
-  const Face* painterFace_ = nullptr;
+  const QtFace* painterFace_ = nullptr;
 
   QPalette palette_;
   float currentX_ = 0;
@@ -140,7 +117,8 @@ class QtCanvas final : public Surface {
   Colour foreColor_ = 0;
   FontObject font_;
   unsigned flags_ = 0;
-  std::array<std::optional<Face>, 8> faces_;
+  bool isPictureMissing_ = false;
+  std::array<std::unique_ptr<QtFace>, 8> faces_;
   /// Pictures of other platforms with their conversions. The reference keeps the address unique.
   std::map<const PictureObject*, std::pair<Picture, Picture>> foreign_;
 };

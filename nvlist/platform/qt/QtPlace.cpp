@@ -35,6 +35,9 @@ int paints = 0;
 /// A handler may cause the event that calls it again; from here on it has to wait.
 constexpr int mostEventLoops = 16;
 
+/// Sent to the widget when something was drawn.
+const auto drawnEvent = static_cast<QEvent::Type>(QEvent::registerEventType());
+
 /// In pixels; further than any screen, and no widget takes more.
 constexpr float farOut = 1 << 24;
 
@@ -199,8 +202,27 @@ void QtPlace::showAnew(const QRect& area) {
     all.widget_->update(area);
 }
 
+/// What was drawn often looks the same: the bars are painted after every added item. The recording
+/// is complete when the event arrives.
 void QtPlace::changed() {
-  if (isShown()) showAnew(geometry());
+  QtPlace& all = form();
+  if (!all.widget_ || all.isPainting_ || !isShown()) return;
+  if (std::exchange(all.isCheckPosted_, true)) return;
+  QCoreApplication::postEvent(all.widget_, new QEvent(drawnEvent));
+}
+
+void QtPlace::showChanges() {
+  isCheckPosted_ = false;
+  // A widget that becomes visible is painted as a whole.
+  if (!widget_->isVisible()) return;
+  forEachVisible([&](Place& place, Point, const Bounds&) {
+    auto& drawn = static_cast<QtPlace&>(place);
+    {
+      const QScopedValueRollback<bool> painting(isPainting_, true);
+      place.paintPending();
+    }
+    if (drawn.surface_.isChanged()) showAnew(drawn.geometry());
+  });
 }
 
 void QtPlace::resize() {
@@ -286,6 +308,10 @@ bool QtPlace::event(QEvent* event) {
 }
 
 bool QtPlace::dispatch(QEvent* event) {
+  if (event->type() == drawnEvent) {
+    showChanges();
+    return true;
+  }
   switch (event->type()) {
     case QEvent::PaletteChange:
     case QEvent::ScreenChangeInternal:

@@ -107,6 +107,7 @@ class QtPlace : public Place {
   void changed() override;
   void showAnew(const QRect& area);
   QRect shown(const QRect& area) const;
+  void showChanges();
 
   bool dispatch(QEvent* event);
   bool mouseEvent(QEvent* event);
@@ -129,6 +130,7 @@ class QtPlace : public Place {
   bool makesReadable_ = false;
   bool isMirrored_ = false;
   bool isPainting_ = false;
+  bool isCheckPosted_ = false;
   /// What turns have left of a notch, or of a pixel.
   int restOfNotch_ = 0;
   double restOfPixel_ = 0;

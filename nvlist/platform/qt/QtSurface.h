@@ -23,17 +23,24 @@ class QtSurface final : public DeferredSurface {
   /// long as the surface; a copy does not show what is drawn later.
   const QImage& image() {
     drawWaiting();
+    if (canvas_.isPictureMissing()) drawAnew();
     return canvas_.image();
   }
   qreal devicePixelRatio() const { return canvas_.devicePixelRatio(); }
   /// Whether what is drawn from now on is mirrored. Default: false.
-  void mirror(bool on) { mirror_.turn(on); }
+  void mirror(bool on) {
+    mirror_.turn(on);
+    drawAnew();
+  }
   /// As last given to resize.
   QSize size() const { return canvas_.size(); }
 
   /// The source of the system colours. Default: the palette of the application. What was drawn
   /// already keeps its colours.
-  void setPalette(const QPalette& palette) { canvas_.setPalette(palette); }
+  void setPalette(const QPalette& palette) {
+    canvas_.setPalette(palette);
+    drawAnew();
+  }
 
  protected:
   void requireDrawable(const Picture& picture) override { canvas_.requireDrawable(picture); }

@@ -223,6 +223,7 @@ void WinWindow::setResolution(WinPlace& place, int dpi) {
 }
 
 void WinWindow::repaint(Place& place) {
+  static_cast<WinPlace&>(place).image().drawAnew();
   if (place.control()) place.control()->UserControl_Paint();
   for (std::size_t i = 0; i < place.places().size(); ++i) repaint(*place.places()[i]);
 }
