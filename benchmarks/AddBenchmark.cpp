@@ -59,22 +59,103 @@ void fillShown(benchmark::State& state, Widget make, Fill fillList) {
 
 void addShown(int count) {
   const std::string work = "AddShown/" + std::to_string(count);
-  add(work, subject::nvList, false, [count](benchmark::State& state) {
+  const bool isLong = count >= manyItems;
+  add(work, subject::nvList, isLong, [count](benchmark::State& state) {
     texts(count);
     fillShown(
         state, [] { return makeNvList(true); },
         [count](auto& widget) { fill(widget.list(), count); });
   });
-  add(work, subject::listWidget, false, [count](benchmark::State& state) {
+  add(work, subject::listWidget, isLong, [count](benchmark::State& state) {
     qtTexts(count);
     fillShown(
         state, [] { return makeListWidget(true); }, [count](auto& widget) { fill(widget, count); });
   });
 }
 
+/// Every item has a key, a tag, a colour and a check mark of its own.
+void addAllFields(int count) {
+  const std::string work = "AddAllFields/" + std::to_string(count);
+  addFresh(
+      work, subject::nvList, count,
+      [count] {
+        texts(count), keys(count);
+        return makeNvList(false);
+      },
+      [count](auto& widget) {
+        for (int i = 0; i < count; ++i) {
+          const auto at = static_cast<std::size_t>(i);
+          widget->list().ItemsAdd({.aText = texts(count)[at],
+                                   .aChecked = i % 2 == 0,
+                                   .aForeColor = i % 8,
+                                   .aTag = keys(count)[at],
+                                   .aKey = keys(count)[at]});
+        }
+      });
+  addFresh(
+      work, subject::listWidget, count,
+      [count] {
+        qtTexts(count);
+        return makeListWidget(false);
+      },
+      [count](auto& widget) {
+        for (int i = 0; i < count; ++i) {
+          const QString& text = qtTexts(count)[static_cast<std::size_t>(i)];
+          auto* item = new QListWidgetItem(text);
+          item->setCheckState(i % 2 == 0 ? Qt::Checked : Qt::Unchecked);
+          item->setForeground(QColor(i % 8, 0, 0));
+          item->setData(Qt::UserRole, text);
+          item->setData(Qt::UserRole + 1, text);
+          widget->addItem(item);
+        }
+      });
+}
+
+/// Each item is on the screen before the next one is added.
+void addFrames(int count) {
+  const std::string work = "AddFrames/" + std::to_string(count);
+  const auto processed = [count](auto add) {
+    for (int i = 0; i < count; ++i) {
+      add(static_cast<std::size_t>(i));
+      QApplication::processEvents();
+    }
+  };
+  addFresh(
+      work, subject::nvList, count, [] { return makeNvList(true); },
+      [=](auto& widget) {
+        processed([&](std::size_t i) { widget->list().ItemsAdd(texts(count)[i]); });
+      });
+  add(work, subject::listWidget, true, [=](benchmark::State& state) {
+    measure(
+        state, false, [] { return makeListWidget(true); },
+        [=](auto& widget) {
+          processed([&](std::size_t i) { widget->addItem(qtTexts(count)[i]); });
+        });
+  });
+}
+
+template <class Make>
+void addDestroy(const char* who, int count, Make make) {
+  addFresh(
+      "Destroy/" + std::to_string(count), who, count,
+      [=] {
+        auto widget = make();
+        if constexpr (requires { widget->list(); })
+          fill(widget->list(), count);
+        else
+          fill(*widget, count);
+        return widget;
+      },
+      [](auto& widget) { widget.reset(); });
+}
+
 }  // namespace
 
 void addAddBenchmarks() {
-  for (const int count : {1'000, 10'000, 100'000, 1'000'000}) addHidden(count);
-  addShown(10'000);
+  for (const int count : {10'000, 1'000'000}) addHidden(count);
+  for (const int count : {10'000, 1'000'000}) addShown(count);
+  addAllFields(1'000'000);
+  addFrames(10'000);
+  addDestroy(subject::nvList, 1'000'000, [] { return makeNvList(false); });
+  addDestroy(subject::listWidget, 1'000'000, [] { return makeListWidget(false); });
 }

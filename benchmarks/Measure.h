@@ -14,6 +14,7 @@ inline constexpr const char* nvList = "nvList";
 inline constexpr const char* headless = "headless";
 inline constexpr const char* listWidget = "QListWidget";
 inline constexpr const char* dataStream = "QDataStream";
+inline constexpr const char* fltk = "FLTK";
 inline constexpr const char* floor = "floor";
 }  // namespace subject
 
@@ -50,8 +51,7 @@ void add(const std::string& work, const char* who, bool once, Function&& functio
   if (std::ranges::find(works, work) == works.end()) works.push_back(work);
   auto* added = benchmark::RegisterBenchmark((work + '|' + who).c_str(), function)
                     ->UseManualTime()
-                    ->Unit(benchmark::kMillisecond)
-                    ->Repetitions(5);
+                    ->Unit(benchmark::kMillisecond);
   if (once) added->Iterations(1);
 }
 
@@ -83,6 +83,10 @@ void addPaintBenchmarks();
 void addScrollBenchmarks();
 void addMemoryBenchmarks();
 void addListFileBenchmarks();
+void addSelectionBenchmarks();
+void addWidthBenchmarks();
+/// Built only where FLTK is installed.
+void addFltkBenchmarks();
 
 /// Prints how the time of each operation grows with the list. False if one grows too much.
 bool printGrowth();

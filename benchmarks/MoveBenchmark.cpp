@@ -72,9 +72,49 @@ void addRemove(int count) {
       });
 }
 
+/// The same in a list on the screen, and `ItemsSelectedRemove` of every second item.
+void addMovesShown(int count) {
+  const std::string number = '/' + std::to_string(count);
+  addFresh(
+      "InsertFrontShown" + number, subject::nvList, count, [] { return makeNvList(true); },
+      [count](auto& widget) { insertAtFront(widget->list(), count); });
+  addFresh(
+      "InsertFrontShown" + number, subject::listWidget, count, [] { return makeListWidget(true); },
+      [count](auto& widget) { insertAtFront(*widget, count); });
+  const auto filledList = [count] {
+    auto widget = makeNvList(true);
+    fill(widget->list(), count);
+    return widget;
+  };
+  addFresh("RemoveFrontShown" + number, subject::nvList, count, filledList, [count](auto& widget) {
+    for (int i = 0; i < count; ++i) widget->list().ItemsRemove(0);
+  });
+  addFresh(
+      "RemoveFrontShown" + number, subject::listWidget, count,
+      [count] {
+        auto widget = makeListWidget(true);
+        fill(*widget, count);
+        return widget;
+      },
+      [count](auto& widget) {
+        for (int i = 0; i < count; ++i) delete widget->takeItem(0);
+      });
+  addFresh(
+      "ItemsSelectedRemove" + number, subject::nvList, count,
+      [=] {
+        auto widget = filledList();
+        widget->list().AutoRedraw(false);
+        for (int i = 0; i < count; i += 2) widget->list().ItemSelected(i, true);
+        widget->list().AutoRedraw(true);
+        return widget;
+      },
+      [](auto& widget) { widget->list().ItemsSelectedRemove(); });
+}
+
 }  // namespace
 
 void addMoveBenchmarks() {
+  for (const int count : {10'000, 100'000}) addMovesShown(count);
   for (const int count : {10'000, 100'000}) {
     addInsert(count);
     addRemove(count);

@@ -2,6 +2,7 @@
 #include <QFontMetrics>
 #include <QImage>
 #include <QPainter>
+#include <QScrollBar>
 #include <string>
 
 #include <nvlist/platform/qt/QtPicture.h>
@@ -25,6 +26,13 @@ std::unique_ptr<QListWidget> shownListWidget(int count) {
   return widget;
 }
 
+/// Scrolls by one row, back and forth: a frame that looks the same is not drawn again.
+void scroll(norvane::nvList& list) { list.TopIndex(1 - list.TopIndex()); }
+void scroll(QListWidget& list) {
+  QScrollBar& bar = *list.verticalScrollBar();
+  bar.setValue(1 - bar.value());
+}
+
 /// The minimum of one repaint: the visible rows, each with a background and a text.
 void paintRows(QImage& image) {
   QPainter painter(&image);
@@ -43,13 +51,14 @@ void addImage(int count) {
       work, subject::nvList, false, [count] { return shownNvList(count); },
       [](auto& widget) {
         static QImage image(400, 300, QImage::Format_RGB32);
-        widget->list().Redraw();
+        scroll(widget->list());
         widget->render(&image);
       });
   addShared(
       work, subject::listWidget, false, [count] { return shownListWidget(count); },
       [](auto& widget) {
         static QImage image(400, 300, QImage::Format_RGB32);
+        scroll(*widget);
         widget->render(&image);
       });
   addShared(
@@ -65,12 +74,15 @@ void addWindow(int count) {
   addShared(
       work, subject::nvList, false, [count] { return shownNvList(count); },
       [](auto& widget) {
-        widget->list().Redraw();
+        scroll(widget->list());
         widget->repaint();
       });
   addShared(
       work, subject::listWidget, false, [count] { return shownListWidget(count); },
-      [](auto& widget) { widget->viewport()->repaint(); });
+      [](auto& widget) {
+        scroll(*widget);
+        widget->viewport()->repaint();
+      });
 }
 
 /// One repaint with check boxes, icons and a selection: 400 by 300 pixels, a thousand items.
@@ -95,7 +107,7 @@ void addFrame() {
       },
       [](auto& widget) {
         static QImage image(400, 300, QImage::Format_RGB32);
-        widget->list().Redraw();
+        scroll(widget->list());
         widget->render(&image);
       });
   addShared(
@@ -114,6 +126,7 @@ void addFrame() {
       },
       [](auto& widget) {
         static QImage image(400, 300, QImage::Format_RGB32);
+        scroll(*widget);
         widget->render(&image);
       });
   static QImage box(13, 13, QImage::Format_RGB32);

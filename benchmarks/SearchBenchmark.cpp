@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "Measure.h"
@@ -69,9 +70,41 @@ void addByKey() {
             });
 }
 
+/// The first search for a text since the list has changed, and a million searches for keys in a
+/// list that does not change.
+void addExact() {
+  static const std::string last = textOf(count - 1);
+  static const QString qtLast = QString::fromStdString(last);
+  addShared("IsInList exact/1000000", subject::nvList, false, filledNvList, [](auto& widget) {
+    widget->list().ItemText(0, "changed");
+    benchmark::DoNotOptimize(widget->list().IsInList(last));
+  });
+  addShared("IsInList exact/1000000", subject::listWidget, true, filledListWidget,
+            [](auto& widget) {
+              benchmark::DoNotOptimize(
+                  widget->findItems(qtLast, Qt::MatchExactly | Qt::MatchCaseSensitive));
+            });
+  addShared("IndexByKey of all keys/1000000", subject::nvList, true, filledNvList,
+            [](auto& widget) {
+              for (const std::string& key : keys(count))
+                benchmark::DoNotOptimize(widget->list().IndexByKey(key));
+            });
+  addShared(
+      "IndexByKey of all keys/1000000", subject::floor, true,
+      [] {
+        std::unordered_map<std::string, int> map;
+        for (const std::string& key : keys(count)) map.emplace(key, static_cast<int>(map.size()));
+        return map;
+      },
+      [](const auto& map) {
+        for (const std::string& key : keys(count)) benchmark::DoNotOptimize(map.find(key));
+      });
+}
+
 }  // namespace
 
 void addSearchBenchmarks() {
+  addExact();
   addWildcard("IsInList/1000000", norvane::cFindBinary, Qt::MatchWildcard | Qt::MatchCaseSensitive);
   addWildcard("IsInList any case/1000000", norvane::cFindText, Qt::MatchWildcard);
   addByKey();

@@ -22,6 +22,11 @@ int main(int argc, char** argv) {
   addScrollBenchmarks();
   addMemoryBenchmarks();
   addListFileBenchmarks();
+  addSelectionBenchmarks();
+  addWidthBenchmarks();
+#ifdef NVLIST_BENCHMARK_FLTK
+  addFltkBenchmarks();
+#endif
 
   TableReporter table;
   benchmark::RunSpecifiedBenchmarks(&table);
