@@ -215,6 +215,7 @@ void QtPlace::showChanges() {
   isCheckPosted_ = false;
   // A widget that becomes visible is painted as a whole.
   if (!widget_->isVisible()) return;
+  const QScopedValueRollback<int> paint(paints, paints + 1);
   forEachVisible([&](Place& place, Point, const Bounds&) {
     auto& drawn = static_cast<QtPlace&>(place);
     {
