@@ -109,12 +109,14 @@ class nvList final : public UserControl,
   /// Later presses with Shift select from `anchor`. Raises no event and does not scroll. Ignored if
   /// the list is empty.
   void userSelects(std::int32_t anchor, std::int32_t end, std::int32_t current);
-  /// Closes the edit box if it is open. With `keepsText` its text is written to the current item,
-  /// as Return does; otherwise it is discarded.
-  void closeEdit(bool keepsText);
   /// Scrolls to the side as dragging the thumb of the horizontal bar does: `left` is the new value
   /// of the bar, limited to its range. Ignored if the bar is not visible.
   void userScrollsTo(std::int32_t left);
+  /// Flips the selection mark of an item and makes it the current one, as a press with Ctrl does
+  /// under MultiSelect. Ignored if the item is disabled or outside the list.
+  void userToggles(std::int32_t index);
+  /// Closes the edit box, if it is open, without writing its text.
+  void closeEdit();
   /// Whether the release of the mouse moves the current item only if a drag has marked where to.
   /// Otherwise a mere click moves it to the top under AllowItemMoving. Default: false.
   bool movesOnlyToMark() const { return movesOnlyToMark_; }

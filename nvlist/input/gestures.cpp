@@ -3,12 +3,6 @@
 #include <nvlist/nvList.h>
 
 namespace norvane {
-namespace {
-
-constexpr std::int16_t keyReturn = 13;
-
-}  // namespace
-
 void nvList::userChecks() {
   trapped(here, "userChecks", [&](Trap& on) {
     if (!state_.ItemsDimensioned || !state_.Items.holds(state_.ListIndex)) return;
@@ -45,14 +39,20 @@ void nvList::userScrollsTo(std::int32_t left) {
   });
 }
 
-void nvList::closeEdit(bool keepsText) {
+void nvList::userToggles(std::int32_t index) {
+  trapped(here, "userToggles", [&](Trap& on) {
+    if (!state_.ItemsDimensioned || !state_.Items.holds(index)) return;
+    if (on.test([&] { return !item(index).look().Enabled; })) return;
+    on.step([&] { state_.Selection.set(state_.Items, index, ~item(index).Selected()); });
+    state_.ListIndex = index;
+    on.step([&] { container_.PropertyChanged("ListIndex"); });
+    on.step([&] { Redraw(); });
+  });
+}
+
+void nvList::closeEdit() {
   trapped(here, "closeEdit", [&](Trap& on) {
     if (!state_.EditActive) return;
-    if (keepsText) {
-      std::int16_t key = keyReturn;
-      on.step([&] { Text1_KeyPress(key); });
-      return;
-    }
     state_.EditActive = false;
     on.step([&] { Text1->Visible(false); });
   });

@@ -109,6 +109,8 @@ TEST_F(NvListKeysTest, extendsTheSelection) {
   EXPECT_EQ(state(), "1 (1 2 3)");
   press(Qt::Key_A, Qt::ControlModifier);
   EXPECT_EQ(state(), "1 (0 1 2 3 5 6 7 8)");
+  press(Qt::Key_Space, Qt::ControlModifier);
+  EXPECT_EQ(state(), "1 (0 2 3 5 6 7 8)");
   press(Qt::Key_Down);
   EXPECT_EQ(state(), "2 (2)");
 }

@@ -44,7 +44,7 @@ constexpr int marginOfEdit = 2;
 NvListKeys::NvListKeys(NvListWidget& widget)
     : QObject(&widget),
       widget_(widget),
-      edit_(widget.findChild<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly)),
+      edit_(widget.editBox()),
       typingInterval_(QApplication::keyboardInputInterval()) {
   list().addSink(*this);
   list().movesOnlyToMark(true);
@@ -84,6 +84,9 @@ void NvListKeys::KeyDown(std::int16_t& KeyCode, std::int16_t& Shift) {
     } else if (key == keyA && isMany) {
       KeyCode = 0;
       list().userSelects(0, count - 1, current);
+    } else if (key == keySpace && isMany) {
+      KeyCode = 0;
+      list().userToggles(current);
     }
     return;
   }
@@ -232,7 +235,7 @@ bool NvListKeys::eventFilter(QObject* watched, QEvent* event) {
   const QPointer<NvListKeys> guard(this);
   if (watched == edit_) return editEvent(event) || !guard;
   if (event->type() == QEvent::Wheel) {
-    list().closeEdit(true);
+    writeEdit();
   } else if (event->type() == QEvent::Resize) {
     // Once the list has moved its bar.
     QTimer::singleShot(0, this, [this] { placeEdit(); });
@@ -256,16 +259,22 @@ bool NvListKeys::editEvent(QEvent* event) {
       return false;
     case QEvent::FocusOut:
       // The context menu of the edit box takes the focus for a moment.
-      if (static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason)
-        list().closeEdit(true);
+      if (static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) writeEdit();
       return false;
     case QEvent::KeyPress:
       if (static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape) return false;
-      list().closeEdit(false);
+      list().closeEdit();
       return true;
     default:
       return false;
   }
+}
+
+/// As the user does, so that the widget emits itemEdited.
+void NvListKeys::writeEdit() {
+  if (!edit_ || !list().state().EditActive) return;
+  QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r");
+  QCoreApplication::sendEvent(edit_, &press);
 }
 
 /// Over the current row, whose text Return would write.

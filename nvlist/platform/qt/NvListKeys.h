@@ -19,7 +19,8 @@ namespace norvane {
 ///     new NvListKeys(*widget);
 ///
 /// - Home, End, Page Up and Page Down move the current row; with Shift they and the arrows extend
-///   the selection from where it began, and Ctrl+A selects all, both under MultiSelect.
+///   the selection from where it began, Ctrl+Space flips the mark of the current row and Ctrl+A
+///   selects all; these three need MultiSelect.
 /// - Typing goes to the next enabled row that begins with what was typed, from the current row on;
 ///   one letter again and again visits all rows that begin with it.
 /// - Space flips the check mark of the current row, if the style shows check boxes (ItemCheck may
@@ -70,6 +71,7 @@ class NvListKeys : public QObject, private __nvList {
   void edit();
   void copy();
   bool editEvent(QEvent* event);
+  void writeEdit();
   void placeEdit();
 
   NvListWidget& widget_;

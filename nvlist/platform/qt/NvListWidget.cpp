@@ -2,7 +2,9 @@
 
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QHelpEvent>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMetaMethod>
 #include <QPaintEvent>
 #include <QPointer>
@@ -20,6 +22,8 @@
 #include <nvlist/platform/qt/QtFont.h>
 #include <nvlist/platform/qt/QtListSignals.h>
 #include <nvlist/platform/qt/QtRows.h>
+#include <nvlist/platform/qt/accessibility.h>
+#include <nvlist/platform/qt/cutTexts.h>
 
 namespace norvane {
 
@@ -37,6 +41,7 @@ struct NvListWidget::Core {
 NvListWidget::NvListWidget(QWidget* parent) : NvListProperties(parent) {
   core_ = std::make_shared<Core>(*this);
   QtApplication::ensure();
+  makeListsAccessible();
   setFocusPolicy(Qt::StrongFocus);
   core_->place.onPropertyChanged = [this](std::string_view name) {
     core_->notifier.propertyChanged(name);
@@ -70,6 +75,10 @@ QtPlace& NvListWidget::place() { return core_->place; }
 nvList& NvListWidget::list() { return core_->list; }
 
 const nvList& NvListWidget::list() const { return core_->list; }
+/// The first child: the list makes it before a host can add one.
+QLineEdit* NvListWidget::editBox() const {
+  return findChild<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly);
+}
 
 bool NvListWidget::isDesignMode() const { return core_->place.isDesignMode; }
 
@@ -286,6 +295,9 @@ bool NvListWidget::event(QEvent* event) {
   if (!isTaken && event->type() == QEvent::ContextMenu &&
       contextMenuPolicy() == Qt::DefaultContextMenu)
     return requestContextMenu(*static_cast<QContextMenuEvent*>(event));
+  if (!isTaken && event->type() == QEvent::ToolTip && showsCutTexts_ && toolTip().isEmpty() &&
+      showCutText(*this, *static_cast<QHelpEvent*>(event)))
+    return true;
   return isTaken || QWidget::event(event);
 }
 

@@ -11,6 +11,7 @@
 class QContextMenuEvent;
 class QScrollEvent;
 class QScrollPrepareEvent;
+class QLineEdit;
 
 namespace norvane {
 
@@ -35,6 +36,7 @@ class NvListWidget : public NvListProperties {
   Q_PROPERTY(bool clipsTexts READ clipsTexts WRITE setClipsTexts)
   Q_PROPERTY(bool passesFineWheel READ passesFineWheel WRITE setPassesFineWheel)
   Q_PROPERTY(bool followsWheelSettings READ followsWheelSettings WRITE setFollowsWheelSettings)
+  Q_PROPERTY(bool showsCutTexts READ showsCutTexts WRITE setShowsCutTexts)
 
  public:
   /// The first widget puts the Qt platform's services to use, apart from those that the host has
@@ -48,6 +50,8 @@ class NvListWidget : public NvListProperties {
   const nvList& list() const override;
   /// The place of the list, which contains those of its bars. Valid as long as the widget.
   QtPlace& place();
+  /// The edit box of the list, hidden while nothing is edited; valid as long as the widget.
+  QLineEdit* editBox() const;
 
   /// In design mode the list shows a preview instead of its items and leaves the mouse wheel to the
   /// form. Default: false.
@@ -79,6 +83,10 @@ class NvListWidget : public NvListProperties {
   /// Default: false.
   bool followsWheelSettings() const { return followsWheelSettings_; }
   void setFollowsWheelSettings(bool on);
+  /// Whether a text that does not fit into its row is shown whole as a tool tip. A tip that the
+  /// host sets, by setToolTip or QI, is shown instead. Default: true.
+  bool showsCutTexts() const { return showsCutTexts_; }
+  void setShowsCutTexts(bool on) { showsCutTexts_ = on; }
 
   // ---- items, with Qt's texts ----
 
@@ -200,6 +208,7 @@ class NvListWidget : public NvListProperties {
   bool followsPalette_ = false;
   bool mirrorsLayout_ = false;
   bool followsWheelSettings_ = false;
+  bool showsCutTexts_ = true;
 };
 
 }  // namespace norvane

@@ -147,6 +147,9 @@ bool QtTipWindow::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::MouseButtonPress:
       if (tool_ && (tool_ == &widget || tool_->isAncestorOf(&widget))) hide();
       break;
+    case QEvent::ToolTip:
+      // The widget shows no tip of its own making besides, only one that the host has set.
+      return isTool(widget) && widget.toolTip().isEmpty();
     default:
       break;
   }

@@ -1,0 +1,109 @@
+#include <nvlist/platform/qt/AccessibleWatch.h>
+
+#include <QEvent>
+#include <algorithm>
+#include <utility>
+
+#include <nvlist/platform/qt/AccessibleList.h>
+#include <nvlist/platform/qt/QtRows.h>
+
+namespace norvane {
+namespace {
+
+AccessibleList* accessibleOf(NvListWidget& widget) {
+  return dynamic_cast<AccessibleList*>(QAccessible::queryAccessibleInterface(&widget));
+}
+
+}  // namespace
+
+AccessibleWatch::AccessibleWatch(NvListWidget& widget) : QObject(&widget), widget_(widget) {
+  before_ = take();
+  widget.installEventFilter(this);
+  comparing_.setSingleShot(true);
+  comparing_.callOnTimeout(this, [this] { compare(); });
+}
+
+bool AccessibleWatch::eventFilter(QObject*, QEvent* event) {
+  const QEvent::Type type = event->type();
+  // Later, when the list is not in the middle of something.
+  if (type == QEvent::Paint || type == QEvent::FocusIn || type == QEvent::FocusOut)
+    comparing_.start(0);
+  return false;
+}
+
+AccessibleWatch::Shown AccessibleWatch::take() const {
+  nvList& list = widget_.list();
+  Shown shown;
+  shown.count = list.ItemsCount();
+  shown.current = list.ListIndex();
+  shown.top = std::max(list.TopIndex(), 0);
+  shown.hasFocus = widget_.hasFocus();
+  shown.vertical = list.verticalBar().Value();
+  shown.horizontal = list.horizontalBar().Value();
+  const int end = std::min(rowPaintedAt(list, widget_.height()) + 1, shown.count);
+  for (int i = shown.top; i < end; ++i) {
+    const ListItem item = list.state().Items.at(i);
+    shown.rows.push_back({readableText(item.Text), static_cast<bool>(item.Enabled),
+                          static_cast<bool>(item.Checked), static_cast<bool>(item.Selected)});
+  }
+  return shown;
+}
+
+void AccessibleWatch::compare() {
+  const Shown before = std::exchange(before_, take());
+  const Shown& now = before_;
+  AccessibleList* const list = accessibleOf(widget_);
+  if (!list) return;
+  if (now.count != before.count) {
+    // Rows are known by their indexes: those at the end have come or gone.
+    const bool isMore = now.count > before.count;
+    list->forgetRows(now.count);
+    using Change = QAccessibleTableModelChangeEvent;
+    Change change(&widget_, isMore ? Change::RowsInserted : Change::RowsRemoved);
+    change.setFirstRow(std::min(now.count, before.count));
+    change.setLastRow(std::max(now.count, before.count) - 1);
+    send(change);
+    QAccessibleEvent order(&widget_, QAccessible::ObjectReorder);
+    send(order);
+  }
+  if (now.vertical != before.vertical) reportBar(*list, Qt::Vertical);
+  if (now.horizontal != before.horizontal) reportBar(*list, Qt::Horizontal);
+  const int end = std::min(now.top + static_cast<int>(now.rows.size()),
+                           before.top + static_cast<int>(before.rows.size()));
+  for (int i = std::max(now.top, before.top); i < end; ++i)
+    report(i, before.rows[static_cast<std::size_t>(i - before.top)],
+           now.rows[static_cast<std::size_t>(i - now.top)]);
+  if ((now.current != before.current || now.hasFocus != before.hasFocus) && now.hasFocus &&
+      now.current >= 0 && now.current < now.count)
+    reportRow(now.current, QAccessible::Focus);
+}
+
+void AccessibleWatch::report(int index, const ShownRow& before, const ShownRow& now) {
+  if (now.text != before.text) reportRow(index, QAccessible::NameChanged);
+  if (now.isSelected != before.isSelected)
+    reportRow(index, now.isSelected ? QAccessible::SelectionAdd : QAccessible::SelectionRemove);
+  QAccessible::State changed;
+  changed.checked = now.isChecked != before.isChecked;
+  changed.disabled = now.isEnabled != before.isEnabled;
+  changed.selected = now.isSelected != before.isSelected;
+  if (!changed.checked && !changed.disabled && !changed.selected) return;
+  QAccessibleStateChangeEvent event(&widget_, changed);
+  event.setChild(index);
+  send(event);
+}
+
+void AccessibleWatch::reportRow(int index, QAccessible::Event type) {
+  QAccessibleEvent event(&widget_, type);
+  event.setChild(index);
+  send(event);
+}
+
+void AccessibleWatch::reportBar(const AccessibleList& list, Qt::Orientation orientation) {
+  QAccessibleInterface* const bar = list.bar(orientation);
+  QAccessibleValueChangeEvent event(bar, bar->valueInterface()->currentValue());
+  send(event);
+}
+
+void AccessibleWatch::send(QAccessibleEvent& event) { QAccessible::updateAccessibility(&event); }
+
+}  // namespace norvane
