@@ -103,7 +103,9 @@ TEST_F(SelectedItems, AreRemovedAtOnceWithTheResultOfSingleSteps) {
       form.isBusy = inSteps;
       const int before = form.ownSurface().frames();
       on.ItemsSelectedRemove();
-      if (!inSteps) EXPECT_LE(form.ownSurface().frames() - before, c.frames) << c.text;
+      if (!inSteps) {
+        EXPECT_LE(form.ownSurface().frames() - before, c.frames) << c.text;
+      }
       const ListState& state = on.state();
       std::string result = form.picture() + reports();
       for (const int number :

@@ -49,6 +49,12 @@ std::string textOfList(const nvList& list) {
   return result;
 }
 
+ListItem itemOf(const std::string& text) {
+  ListItem result;
+  result.Text = text;
+  return result;
+}
+
 class JsonLines : public ListTest {
  protected:
   JsonLines() { list.AutoRedraw(false); }
@@ -127,7 +133,7 @@ TEST_F(JsonLines, KeepsTextsInEveryScript) {
     item.ForeColor = text;
     list.ItemsAppend(item);
   }
-  list.ItemsAppend({.Text = std::string("zero\0inside", 11)});
+  list.ItemsAppend(itemOf(std::string("zero\0inside", 11)));
   expectSameAgain();
 }
 
@@ -291,12 +297,12 @@ TEST_F(JsonLines, ProblemsAreBounded) {
 
 TEST_F(JsonLines, LinesMayCrossBlocks) {
   const std::string large(600'000, 'x');
-  for (int i = 0; i < 5; ++i) list.ItemsAppend({.Text = large + std::to_string(i)});
+  for (int i = 0; i < 5; ++i) list.ItemsAppend(itemOf(large + std::to_string(i)));
   expectSameAgain(json::Fields::changed);
 }
 
 TEST_F(JsonLines, StopsWhenAsked) {
-  for (int i = 0; i < 4000; ++i) list.ItemsAppend({.Text = std::to_string(i)});
+  for (int i = 0; i < 4000; ++i) list.ItemsAppend(itemOf(std::to_string(i)));
   std::vector<std::uint64_t> done;
   const auto stopAtSecond = [&](std::uint64_t part, std::uint64_t whole) {
     EXPECT_LE(part, whole);
