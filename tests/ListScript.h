@@ -38,8 +38,8 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
       std::vector<std::string> words;
       std::string verb, rest;
       std::getline(in >> verb >> std::ws, rest);
-      std::istringstream arguments(rest);
-      for (std::string word; arguments >> word;) words.push_back(word);
+      std::istringstream text(rest);
+      for (std::string word; text >> word;) words.push_back(word);
       const std::string output = perform(verb, words, rest);
       if (!output.empty()) outputs += (outputs.empty() ? "" : " / ") + output;
     }
