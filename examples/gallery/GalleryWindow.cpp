@@ -14,11 +14,13 @@
 #include <algorithm>
 #include <utility>
 
+#include <nvlist/platform/qt/NvListKeys.h>
 #include <nvlist/platform/qt/QtWindow.h>
 
 #include "Settings.h"
 
 using norvane::nvList;
+using norvane::NvListKeys;
 using norvane::NvListWidget;
 
 namespace gallery {
@@ -92,6 +94,7 @@ GalleryWindow::GalleryWindow(QList<Page> pages)
       chooser_(new Chooser(pages_)),
       stack_(new QStackedWidget),
       about_(new QLabel),
+      keys_(button("Keys", "Page, Home, End, F2, Space, Ctrl+A, Ctrl+C and search as you type")),
       tools_(new Tools),
       listSheet_(new Sheet(propertiesOfTheList())),
       itemSheet_(new Sheet(propertiesOfItems())),
@@ -136,13 +139,19 @@ void GalleryWindow::layOut() {
 QWidget* GalleryWindow::pagePanel() {
   QToolButton* again = button("Start over", "Fill the page anew, with the settings it starts from");
   connect(again, &QToolButton::clicked, this, [this] { startOver(); });
+  keys_->setCheckable(true);
+  keys_->setChecked(true);
+  connect(keys_, &QToolButton::toggled, this, [this] {
+    for (const Stage* stage : stages_)
+      if (stage) giveKeys(*stage);
+  });
   auto* content = new QWidget;
   auto* column = new QVBoxLayout(content);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(2);
   column->addWidget(tools_);
   column->addWidget(stack_, 1);
-  return panel(about_, content, {again});
+  return panel(about_, content, {keys_, again});
 }
 
 QWidget* GalleryWindow::sheetPanels() {
@@ -261,8 +270,16 @@ Stage* GalleryWindow::makeStage(int index) {
     widget->installEventFilter(this);
     connect(widget, &NvListWidget::propertyChanged, this, [this] { refreshSoon(); });
   }
+  giveKeys(*stage);
   stack_->addWidget(stage);
   return stage;
+}
+
+void GalleryWindow::giveKeys(const Stage& stage) {
+  for (NvListWidget* widget : stage.lists()) {
+    delete widget->findChild<NvListKeys*>(QString(), Qt::FindDirectChildrenOnly);
+    if (keys_->isChecked()) new NvListKeys(*widget);
+  }
 }
 
 void GalleryWindow::startOver() {

@@ -52,6 +52,8 @@ class GalleryWindow : public QMainWindow {
   QWidget* sheetPanels();
   void connectParts();
   Stage* makeStage(int index);
+  /// Installs NvListKeys on the lists of a page, or removes it, as the switch says.
+  void giveKeys(const Stage& stage);
   void tell(const QString& what);
   void startOver();
   void save();
@@ -75,6 +77,7 @@ class GalleryWindow : public QMainWindow {
   Chooser* chooser_;
   QStackedWidget* stack_;
   QLabel* about_;
+  QToolButton* keys_;  ///< whether the lists have more keys than Up and Down
   Tools* tools_;
   Sheet* listSheet_;
   Sheet* itemSheet_;

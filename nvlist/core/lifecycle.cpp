@@ -1,5 +1,6 @@
 #include <nvlist/nvList.h>
 #include <nvlist/objects/about.h>
+#include <nvlist/values/Failure.h>
 
 namespace norvane {
 namespace {
@@ -7,16 +8,6 @@ namespace {
 /// The initial bounds of the edit box: the text position of a row in a list with check boxes and
 /// icons and default margins.
 constexpr Bounds newEditBox{37, 3, 100, 14};
-
-/// For destructors and timers, which must not throw even if the reporter of a failure fails.
-template <class Statement>
-void ignoringFailures(Statement&& statement) {
-  try {
-    statement();
-  } catch (...) {
-    // The failure cannot be reported.
-  }
-}
 
 }  // namespace
 
@@ -28,6 +19,7 @@ nvList::nvList(Container& place)
              BorderPiece(container_.addChild()), BorderPiece(container_.addChild())}},
       lblWidth(container_.addChild()),
       Text1(container_.addTextBox([this](std::int16_t& KeyAscii) { Text1_KeyPress(KeyAscii); })),
+      // The reporter may fail, and a timer has no caller.
       tmrMouseAction(
           container_.addTimer([this] { ignoringFailures([&] { tmrMouseAction_Timer(); }); })),
       Wheel1(container_, *this) {

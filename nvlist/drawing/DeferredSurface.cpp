@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include <nvlist/values/Failure.h>
+
 namespace norvane {
 namespace {
 
@@ -34,15 +36,11 @@ bool DeferredSurface::isShown() { return !shown_.recording.calls.empty() && fram
 void DeferredSurface::flush() {
   const std::vector<SurfaceCall>& waiting = frame().recording.calls;
   if (!waiting.empty() && !isShown()) {
-    bool isWhole = std::holds_alternative<calls::Cls>(waiting.front());
-    try {
-      frame().replay(canvas_);
-    } catch (...) {
-      // Memory ran out within a frame. The next frame may succeed.
-      isWhole = false;
-    }
+    const bool isWhole = std::holds_alternative<calls::Cls>(waiting.front());
+    // Memory may run out within a frame. The next one may succeed.
+    const bool isDrawn = ignoringFailures([&] { frame().replay(canvas_); });
     std::swap(frame(), shown_);
-    if (!isWhole) drawAnew();
+    if (!isWhole || !isDrawn) drawAnew();
   }
   forget();
 }

@@ -1,16 +1,14 @@
 #include <nvlist/files/FileWriter.h>
 
 #include <nvlist/files/windows1252.h>
+#include <nvlist/values/Failure.h>
 #include <nvlist/values/numbers.h>
 
 namespace norvane {
 
+/// Callers that need to know of a failure call flush().
 FileWriter::~FileWriter() {
-  try {
-    if (!buffer_.empty()) flush();
-  } catch (...) {
-    // Callers that need to know call flush().
-  }
+  if (!buffer_.empty()) ignoringFailures([&] { flush(); });
 }
 
 void FileWriter::flush() {

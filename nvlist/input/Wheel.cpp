@@ -3,6 +3,7 @@
 #include <utility>
 
 #include <nvlist/objects/Trap.h>
+#include <nvlist/values/Failure.h>
 #include <nvlist/values/numbers.h>
 
 namespace norvane {
@@ -39,11 +40,7 @@ void Wheel::DisableWheel() {
 
 /// Removes the hook whether or not the window still has a handle: the hook refers to this object.
 Wheel::~Wheel() {
-  try {
-    unhook("UserControl_Terminate");
-  } catch (...) {
-    // The reporter failed too. A destructor must not throw.
-  }
+  ignoringFailures([&] { unhook("UserControl_Terminate"); });
 }
 
 void Wheel::unhook(const char* procedure) {

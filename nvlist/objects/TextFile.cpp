@@ -13,12 +13,9 @@ constexpr std::size_t blockSize = 1 << 16;
 
 }  // namespace
 
+/// Callers that need to know of a failure call close().
 TextFile::~TextFile() {
-  try {
-    close();
-  } catch (...) {
-    // Callers that need to know call close().
-  }
+  ignoringFailures([&] { close(); });
 }
 
 void TextFile::openForInput(const std::string& path) {

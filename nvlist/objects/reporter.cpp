@@ -6,23 +6,13 @@
 #include <string>
 
 #include <nvlist/platform/Program.h>
+#include <nvlist/values/Failure.h>
 #include <nvlist/values/text.h>
 
 namespace norvane {
 namespace {
 
 constexpr std::int32_t criticalStopWithOk = 16;
-
-/// Whether the statement succeeded.
-template <class Statement>
-bool ignoringFailures(Statement&& statement) {
-  try {
-    statement();
-    return true;
-  } catch (...) {
-    return false;
-  }
-}
 
 /// Runs a part of the report that is left out when memory is exhausted. Any other failure is thrown
 /// to the caller of the report.

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <nvlist/values/Failure.h>
+
 namespace norvane {
 
 UserControl::UserControl(Container& place) : container_(place), surface_(place.surface()) {
@@ -15,11 +17,7 @@ UserControl::UserControl(std::unique_ptr<Container> place)
 }
 
 UserControl::~UserControl() {
-  try {
-    container_.attach(nullptr);
-  } catch (...) {
-    // A destructor must not throw.
-  }
+  ignoringFailures([&] { container_.attach(nullptr); });
 }
 
 void UserControl::UserControl_MouseDown(std::int16_t, std::int16_t, float, float) {}

@@ -1,6 +1,7 @@
 #include <nvlist/scroll/RepeatButton.h>
 
 #include <nvlist/scroll/art.h>
+#include <nvlist/values/Failure.h>
 #include <nvlist/values/numbers.h>
 
 namespace norvane::scroll {
@@ -16,13 +17,8 @@ RepeatButton::RepeatButton(std::unique_ptr<Container> place, ButtonEvents& owner
     : UserControl(std::move(place)),
       owner_(owner),
       kind_(kind),
-      Timer1_(container_.addTimer([this] {
-        try {
-          Timer1_Timer();
-        } catch (...) {
-          // The reporter failed, and a timer has no caller to report to.
-        }
-      })) {
+      // The reporter may fail, and a timer has no caller.
+      Timer1_(container_.addTimer([this] { ignoringFailures([&] { Timer1_Timer(); }); })) {
   const Picture picture = art::button(kind_.arrow, 1);
   Move({0, 0, picture->width(), picture->height()});
 }

@@ -154,7 +154,9 @@ TEST_F(JsonLines, KeepsEveryFieldOfRandomItems) {
                systemColour(17), std::bit_cast<float>(number()), 2.0F, -0.0F, 1e-40F,
                std::numeric_limits<float>::infinity(), Variant());
   };
-  const auto colour = [&] { return random() % 2 ? systemColour(number() & 0xFF) : number(); };
+  const auto colour = [&] {
+    return random() % 2 ? systemColour(static_cast<std::uint8_t>(number())) : number();
+  };
   const Picture pictures[] = {nullptr, makeRef<BytePicture>("a"),
                               makeRef<BytePicture>(std::string("\0\xFF b", 4))};
   for (int i = 0; i < 400; ++i) {
