@@ -335,8 +335,4 @@ void NvListWidget::connectNotify(const QMetaMethod&) {
   if (core_) core_->notifier.watch();
 }
 
-void NvListWidget::disconnectNotify(const QMetaMethod&) {
-  if (core_) core_->notifier.watch();
-}
-
 }  // namespace norvane

@@ -185,7 +185,6 @@ class NvListWidget : public NvListProperties {
   void keyPressEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;
   void connectNotify(const QMetaMethod& signal) override;
-  void disconnectNotify(const QMetaMethod& signal) override;
 
  private:
   friend class QtListSignals;

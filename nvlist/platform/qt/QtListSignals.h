@@ -28,7 +28,8 @@ class QtListSignals final : public __nvList {
   /// Returns its result. A slot may have destroyed the widget.
   bool during(const std::function<bool()>& event);
   /// Watches the calls of the host as long as there may be something to emit after them. Called
-  /// when a slot was connected or disconnected.
+  /// when a slot was connected. A disconnection is noticed after the next call: Qt reports it while
+  /// it holds a lock, under which nobody can ask what is connected.
   void watch();
   void propertyChanged(std::string_view name);
 
