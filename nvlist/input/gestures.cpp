@@ -3,6 +3,7 @@
 #include <nvlist/nvList.h>
 
 namespace norvane {
+
 void nvList::userChecks() {
   trapped(here, "userChecks", [&](Trap& on) {
     if (!state_.ItemsDimensioned || !state_.Items.holds(state_.ListIndex)) return;
@@ -18,7 +19,7 @@ void nvList::userSelects(std::int32_t anchor, std::int32_t end, std::int32_t cur
     const std::int32_t last = state_.Items.upperBound();
     const auto inside = [&](std::int32_t index) { return std::clamp(index, 0, last); };
     clearMarks(on);
-    const auto [from, to] = std::minmax(inside(anchor), inside(end));
+    const auto [from, to] = std::minmax({inside(anchor), inside(end)});
     for (std::int32_t i = from; i <= to; ++i)
       if (on.test([&] { return static_cast<bool>(item(i).look().Enabled); }))
         on.step([&] { state_.Selection.set(state_.Items, i, true); });

@@ -9,8 +9,6 @@
 #include <nvlist/input/events.h>
 #include <nvlist/platform/qt/NvListWidget.h>
 
-class QLineEdit;
-
 namespace norvane {
 
 /// The keys that users know from other lists. The list itself has only Up and Down; a host installs
@@ -75,7 +73,7 @@ class NvListKeys : public QObject, private __nvList {
   void placeEdit();
 
   NvListWidget& widget_;
-  QPointer<QLineEdit> edit_;
+  QPointer<QWidget> edit_;  ///< no QLineEdit any more when it reports its end
   QPointer<QWidget> border_;
   int typingInterval_;
   QString typed_;
