@@ -12,3 +12,6 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-static")
 set(CMAKE_MODULE_LINKER_FLAGS_INIT "-static")
 set(CMAKE_SHARED_LINKER_FLAGS_INIT "-static")
+# Numbers are rounded as in 64 bits, and as other compilers for Windows do. The registers of the old
+# unit keep more digits, so that a value could differ from itself once it was stored.
+set(CMAKE_CXX_FLAGS_INIT "-msse2 -mfpmath=sse")
