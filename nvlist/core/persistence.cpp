@@ -142,9 +142,10 @@ void nvList::UserControl_ReadProperties(const PropertyBag& PropBag) {
       });
     state_.SuppressRedraw = false;
     state_.ClickPending = true;
-    // A form that does not say whether it is in a designer counts as running.
-    Boolean isRunning = true;
-    on.ignoring([&] { isRunning = container_.UserMode(); });
+    // A form that does not say whether it is in a designer counts as running. GCC 12 for 32-bit
+    // Windows loses the value of a Boolean here if the call throws; it keeps that of a bool.
+    bool isRunning = true;
+    on.ignoring([&] { isRunning = static_cast<bool>(container_.UserMode()); });
     on.ignoring([&] {
       if (!isRunning) return;
       Wheel1.hWndCapture(container_.hwnd());

@@ -56,8 +56,8 @@ void nvList::drag(Trap& on, float y, std::int32_t row, std::int32_t height) {
 
 void nvList::tmrMouseAction_Timer() {
   trapped(here, "tmrMouseAction_Timer", [&](Trap& on) {
-    Boolean userMode = true;
-    on.ignoring([&] { userMode = container_.UserMode(); });
+    bool userMode = true;
+    on.ignoring([&] { userMode = static_cast<bool>(container_.UserMode()); });
     if (!userMode) {
       on.step([&] { tmrMouseAction->Enabled(false); });
       state_.HoverIndex = -1;
