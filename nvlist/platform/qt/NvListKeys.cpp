@@ -140,7 +140,8 @@ bool NvListKeys::hasChecks() {
 
 // ---- rows ----
 
-/// The nearest enabled row from an index on, itself included; -1 if there is none.
+/// The first enabled row at an index or beyond it in the direction of `step`; -1 if all are
+/// disabled.
 std::int32_t NvListKeys::enabledFrom(std::int32_t index, int step) {
   const std::int32_t count = list().ItemsCount();
   for (; index >= 0 && index < count; index += step)
@@ -168,16 +169,7 @@ void NvListKeys::goTo(std::int32_t index, bool extends) {
   if (!isAnchorSelected) anchor = list().ListIndex() >= 0 ? list().ListIndex() : index;
   const QPointer<NvListKeys> guard(this);
   list().userSelects(extends ? anchor : index, index, index);
-  if (guard) scrollTo(index);
-}
-
-void NvListKeys::scrollTo(std::int32_t index) {
-  const std::int32_t visible = std::max(list().VisibleItems(), 1);
-  const std::int32_t top = std::max(list().TopIndex(), 0);
-  if (index < top)
-    list().TopIndex(index);
-  else if (index >= top + visible)
-    list().TopIndex(index - visible + 1);
+  if (guard) widget_.scrollTo(index);
 }
 
 // ---- typing ----
@@ -199,8 +191,8 @@ void NvListKeys::type(const QString& text) {
   if (found >= 0) goTo(found, false);
 }
 
-/// The first enabled row with that beginning, from `from` on and then from the top; -1 if there is
-/// none.
+/// The first enabled row with that beginning, from `from` on and then from the top; -1 if no row
+/// has it.
 std::int32_t NvListKeys::rowBeginningWith(const QString& prefix, std::int32_t from) {
   const std::int32_t count = list().ItemsCount();
   // Of a long text only as much is converted as is compared.
@@ -227,7 +219,7 @@ void NvListKeys::edit() {
   const std::int32_t current = list().ListIndex();
   if (current < 0 || current >= list().ItemsCount()) return;
   const QPointer<NvListKeys> guard(this);
-  scrollTo(current);
+  widget_.scrollTo(current);
   if (guard) list().SetEdit(current);
 }
 

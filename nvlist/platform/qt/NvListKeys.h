@@ -65,7 +65,6 @@ class NvListKeys : public QObject, private __nvList {
   std::int32_t enabledFrom(std::int32_t index, int step);
   std::int32_t pageFrom(std::int32_t index, int direction);
   void goTo(std::int32_t index, bool extends);
-  void scrollTo(std::int32_t index);
   void edit();
   void copy();
   bool editEvent(QEvent* event);

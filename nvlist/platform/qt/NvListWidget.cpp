@@ -75,6 +75,7 @@ QtPlace& NvListWidget::place() { return core_->place; }
 nvList& NvListWidget::list() { return core_->list; }
 
 const nvList& NvListWidget::list() const { return core_->list; }
+
 /// The first child: the list makes it before a host can add one.
 QLineEdit* NvListWidget::editBox() const {
   return findChild<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly);
@@ -258,7 +259,7 @@ QRect NvListWidget::itemRect(int index) const {
 
 void NvListWidget::scrollTo(int index) {
   if (index < 0 || index >= count()) return;
-  const int visible = list().VisibleItems();
+  const int visible = std::max(list().VisibleItems(), 1);
   const int top = list().TopIndex();
   if (index < top)
     list().TopIndex(index);

@@ -99,7 +99,7 @@ class NvListWidget : public NvListProperties {
   void setItemText(int index, const QString& text);
   QString itemKey(int index) const;
   void setItemKey(int index, const QString& key);
-  /// The first item with exactly this text, or key; -1 if there is none.
+  /// The first item with exactly this text, or key; -1 if no item has it.
   int indexOfText(const QString& text) const;
   int indexOfKey(const QString& key) const;
 
