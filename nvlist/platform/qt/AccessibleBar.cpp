@@ -11,15 +11,6 @@ const scroll::Bar& AccessibleBar::bar() const {
   return list.horizontalBar();
 }
 
-QWindow* AccessibleBar::window() const {
-  const QAccessibleInterface* const around = parent();
-  return around ? around->window() : nullptr;
-}
-
-QAccessibleInterface* AccessibleBar::parent() const {
-  return QAccessible::queryAccessibleInterface(widget_);
-}
-
 QString AccessibleBar::text(QAccessible::Text which) const {
   if (which != QAccessible::Name) return {};
   return orientation_ == Qt::Vertical ? QCoreApplication::translate("NvListWidget", "Vertical")

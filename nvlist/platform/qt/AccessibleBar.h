@@ -1,28 +1,18 @@
 #pragma once
 
-#include <QAccessible>
-#include <QPointer>
-
-#include <nvlist/platform/qt/NvListWidget.h>
+#include <nvlist/platform/qt/AccessiblePart.h>
 
 namespace norvane {
 
 /// A scroll bar of a list, as screen readers see it. A bar that is hidden is not valid.
-class AccessibleBar final : public QAccessibleInterface, public QAccessibleValueInterface {
+class AccessibleBar final : public AccessiblePart, public QAccessibleValueInterface {
  public:
   AccessibleBar(NvListWidget& widget, Qt::Orientation orientation)
-      : widget_(&widget), orientation_(orientation) {}
+      : AccessiblePart(widget), orientation_(orientation) {}
 
   Qt::Orientation orientation() const { return orientation_; }
 
   bool isValid() const override { return widget_ && bar().Visible(); }
-  QObject* object() const override { return nullptr; }
-  QWindow* window() const override;
-  QAccessibleInterface* parent() const override;
-  QAccessibleInterface* child(int) const override { return nullptr; }
-  QAccessibleInterface* childAt(int, int) const override { return nullptr; }
-  int childCount() const override { return 0; }
-  int indexOfChild(const QAccessibleInterface*) const override { return -1; }
   QString text(QAccessible::Text which) const override;
   void setText(QAccessible::Text, const QString&) override {}
   QRect rect() const override;
@@ -40,7 +30,6 @@ class AccessibleBar final : public QAccessibleInterface, public QAccessibleValue
  private:
   const scroll::Bar& bar() const;
 
-  QPointer<NvListWidget> widget_;
   const Qt::Orientation orientation_;
 };
 

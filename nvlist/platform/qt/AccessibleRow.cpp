@@ -6,15 +6,6 @@ namespace norvane {
 
 bool AccessibleRow::isValid() const { return widget_ && index_ < list().ItemsCount(); }
 
-QWindow* AccessibleRow::window() const {
-  const QAccessibleInterface* const around = parent();
-  return around ? around->window() : nullptr;
-}
-
-QAccessibleInterface* AccessibleRow::parent() const {
-  return QAccessible::queryAccessibleInterface(widget_);
-}
-
 QString AccessibleRow::text(QAccessible::Text which) const {
   if (!isValid() || which != QAccessible::Name) return {};
   return readableText(list().ItemText(index_)).replace('\t', ", ");

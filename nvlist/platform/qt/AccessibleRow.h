@@ -1,30 +1,20 @@
 #pragma once
 
-#include <QAccessible>
-#include <QPointer>
-
-#include <nvlist/platform/qt/NvListWidget.h>
+#include <nvlist/platform/qt/AccessiblePart.h>
 
 namespace norvane {
 
 /// A row of a list, as screen readers see it. It is known by its index: after a removal it is the
 /// row that has the index then, and not valid if none has.
-class AccessibleRow final : public QAccessibleInterface,
+class AccessibleRow final : public AccessiblePart,
                             public QAccessibleActionInterface,
                             public QAccessibleTableCellInterface {
  public:
-  AccessibleRow(NvListWidget& widget, int index) : widget_(&widget), index_(index) {}
+  AccessibleRow(NvListWidget& widget, int index) : AccessiblePart(widget), index_(index) {}
 
   int index() const { return index_; }
 
   bool isValid() const override;
-  QObject* object() const override { return nullptr; }
-  QWindow* window() const override;
-  QAccessibleInterface* parent() const override;
-  QAccessibleInterface* child(int) const override { return nullptr; }
-  QAccessibleInterface* childAt(int, int) const override { return nullptr; }
-  int childCount() const override { return 0; }
-  int indexOfChild(const QAccessibleInterface*) const override { return -1; }
   QString text(QAccessible::Text which) const override;
   /// The name of a row that the user may edit.
   void setText(QAccessible::Text which, const QString& text) override;
@@ -53,7 +43,6 @@ class AccessibleRow final : public QAccessibleInterface,
   bool hasCheckBox() const;
   bool isEditable() const;
 
-  QPointer<NvListWidget> widget_;
   const int index_;
 };
 
