@@ -36,7 +36,11 @@ class Disk : public ListTest, protected __nvList {
     std::exchange(onSaving, [] {})();
   }
 
-  std::string at(const std::string& name) { return (folder_ / name).string(); }
+  /// The path of a file in the folder. Both texts are UTF-8 on every system.
+  std::string at(const std::string& name) {
+    const std::u8string path = (folder_ / std::u8string(name.begin(), name.end())).u8string();
+    return {path.begin(), path.end()};
+  }
   static std::string contents(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
