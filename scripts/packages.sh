@@ -35,4 +35,4 @@ windows_packages=(g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix)
 benchmark_packages=(libbenchmark-dev)
 # The compiler of the type library and the files it needs.
 windows_build_packages=("${windows_packages[@]}" mingw-w64-tools libwine zip googletest)
-windows_test_packages=("${windows_build_packages[@]}" wine64 xvfb xauth xdotool imagemagick)
+wine_packages=(wine64 xvfb xauth xdotool)
