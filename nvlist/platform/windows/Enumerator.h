@@ -1,9 +1,8 @@
 #pragma once
 
-#include <new>
 #include <vector>
 
-#include <nvlist/platform/windows/ole.h>
+#include <nvlist/platform/windows/failures.h>
 
 namespace norvane {
 
@@ -58,8 +57,8 @@ class Enumerator final : public Interface {
   }
   STDMETHODIMP Clone(Interface** out) override {
     if (!out) return E_POINTER;
-    *out = new (std::nothrow) Enumerator(items_, next_);
-    return *out ? S_OK : E_OUTOFMEMORY;
+    *out = nullptr;
+    return guarded([&] { *out = new Enumerator(items_, next_); });
   }
 
  private:

@@ -242,13 +242,20 @@ void connections() {
   IConnectionPoint* found[3] = {};
   ULONG got = 0;
   check(points->Next(3, found, &got) == S_FALSE && got == 2, "two connection points");
+  ComPtr<IEnumConnectionPoints> clone;
+  IConnectionPoint* second = nullptr;
+  check(points->Reset() == S_OK && points->Skip(1) == S_OK && points->Clone(clone.put()) == S_OK &&
+            points->Skip(2) == S_FALSE && clone->Next(1, &second, nullptr) == S_OK &&
+            second == found[1],
+        "an enumerator skips, starts again and is cloned where it stands");
+  second->Release();
   IID id{};
   found[0]->GetConnectionInterface(&id);
   check(id == __uuidof(::__nvList), "the first is that of the events");
-  Sink first, second;
+  Sink first, other;
   DWORD cookies[2] = {};
   found[0]->Advise(static_cast<IDispatch*>(&first), &cookies[0]);
-  found[0]->Advise(static_cast<IDispatch*>(&second), &cookies[1]);
+  found[0]->Advise(static_cast<IDispatch*>(&other), &cookies[1]);
   ComPtr<IEnumConnections> connected;
   found[0]->EnumConnections(connected.put());
   CONNECTDATA data[2] = {};
@@ -262,7 +269,7 @@ void connections() {
     list->ItemsClear();
   };
   list->put_ListIndex(9);
-  check(first.events[21] == 1 && second.events[21] == 0, "a sink that went is not called");
+  check(first.events[21] == 1 && other.events[21] == 0, "a sink that went is not called");
   check(found[0]->Unadvise(cookies[1]) == CONNECT_E_NOCONNECTION, "gone");
   check(found[0]->Advise(nullptr, cookies) == E_POINTER, "no sink");
   for (IConnectionPoint* each : {found[0], found[1]}) each->Release();

@@ -80,6 +80,71 @@ void apartments() {
   }
 }
 
+/// What containers show and compile in: each enumerator, each event with its id and the types of
+/// its arguments, and a help text for every member.
+void types() {
+  ComPtr<ITypeInfo> info;
+  ComPtr<ITypeLib> library;
+  UINT index = 0;
+  make()->GetTypeInfo(0, 0, info.put());
+  info->GetContainingTypeLib(library.put(), &index);
+  std::wstring enumerators, events, helpless;
+  for (UINT i = 0; i < library->GetTypeInfoCount(); ++i) {
+    library->GetTypeInfo(i, info.put());
+    TYPEATTR* attributes = nullptr;
+    info->GetTypeAttr(&attributes);
+    const auto nameOf = [&](MEMBERID member) {
+      BSTR name = nullptr, help = nullptr;
+      info->GetDocumentation(member, &name, &help, nullptr, nullptr);
+      const std::wstring result = name ? name : L"";
+      const bool isOfDispatch = member >= 0x60000000;
+      if (SysStringLen(help) == 0 && !isOfDispatch && attributes->typekind != TKIND_ENUM)
+        helpless += result + L"; ";
+      SysFreeString(name);
+      SysFreeString(help);
+      return result;
+    };
+    for (UINT n = 0; n < attributes->cVars; ++n) {
+      VARDESC* variable = nullptr;
+      info->GetVarDesc(n, &variable);
+      enumerators += nameOf(variable->memid) + std::to_wstring(variable->lpvarValue->lVal) + L" ";
+      info->ReleaseVarDesc(variable);
+    }
+    for (UINT n = 0; n < attributes->cFuncs; ++n) {
+      FUNCDESC* function = nullptr;
+      info->GetFuncDesc(n, &function);
+      const std::wstring name = nameOf(function->memid);
+      if (attributes->guid == __uuidof(::__nvList)) {
+        events += std::to_wstring(function->memid) + name;
+        for (SHORT a = 0; a < function->cParams; ++a)
+          events += L" " + std::to_wstring(function->lprgelemdescParam[a].tdesc.lptdesc->vt);
+        events += L"; ";
+      }
+      info->ReleaseFuncDesc(function);
+    }
+    info->ReleaseTypeAttr(attributes);
+  }
+  const auto same = [](const std::wstring& got, const wchar_t* expected, const char* what) {
+    check(got == expected, what);
+    if (got != expected) std::printf("  %ls\n", got.c_str());
+  };
+  same(enumerators,
+       L"cXPBlue0 cXPSilver1 cXPOlive2 cCustom99 cXPScrollBlue0 cXPScrollSilver1 cXPScrollOlive2 "
+       L"cDefault0 cCheckBoxes1 cIcons2 cCheckBoxesIcons3 cLeft0 cCenter1 cRight2 cAscending1 "
+       L"cDescending2 cFindBinary0 cFindText1 cWheelScroll0 cWheelListIndex1 cWheelOff2 styleBlue1 "
+       L"styleSilver2 styleOlive3 styleClassic4 mouseNone0 mouseLeft1 mouseRight2 mouseMiddle3 "
+       L"vbSBNone0 vbHorizontal1 vbVertical2 vbBoth3 ",
+       "enumerators");
+  same(events,
+       L"1Click; 2DblClick; 3ItemCheck 3 11; 4MouseUp 2 2 4 4; 5MouseMove 12 3 2 2 4 4; "
+       L"6MouseDown 2 2 4 4; 7ErrorListInput; 8ErrorListSave; 9ListSaving 12; 10ListReading 12; "
+       L"11Scroll; 12KeyDown 2 2; 13KeyPress 2; 14KeyUp 2 2; 15OLECompleteDrag 3; "
+       L"16OLEDragDrop 9 3 2 2 4 4; 17OLEDragOver 9 3 2 2 4 4 2; 18OLEGiveFeedback 3 11; "
+       L"19OLESetData 9 2; 20OLEStartDrag 9 3; 21ErrorWrongIndex 12; ",
+       "events");
+  same(helpless, L"", "help texts");
+}
+
 /// Keys that a registration writes: names, classes, the type library and its interfaces.
 int registeredKeys(HKEY root) {
   const auto holds = [&](const std::wstring& key) {
@@ -124,11 +189,11 @@ int main(int count, char** arguments) {
   const struct {
     const char* name;
     void (*run)();
-  } tests[] = {{"activation", activation},      {"ambients", ambients},
-               {"persistence", persistence},    {"drawing", drawing},
-               {"connections", connections},    {"events", events},
-               {"bad arguments", badArguments}, {"apartments", apartments},
-               {"lifetimes", lifetimes}};
+  } tests[] = {{"types", types},           {"activation", activation},
+               {"ambients", ambients},     {"persistence", persistence},
+               {"drawing", drawing},       {"connections", connections},
+               {"events", events},         {"bad arguments", badArguments},
+               {"apartments", apartments}, {"lifetimes", lifetimes}};
   for (const auto& test : tests) {
     test.run();
     pump(30);
