@@ -55,7 +55,8 @@ void AccessibleWatch::compare() {
   AccessibleList* const list = accessibleOf(widget_);
   if (!list) return;
   if (now.count != before.count) {
-    // Rows are known by their indexes: those at the end have come or gone.
+    // Rows are known by their indexes: those at the end have come or gone. No ObjectReorder: on
+    // D-Bus, Qt sends it as one message for each child.
     const bool isMore = now.count > before.count;
     list->forgetRows(now.count);
     using Change = QAccessibleTableModelChangeEvent;
@@ -63,8 +64,6 @@ void AccessibleWatch::compare() {
     change.setFirstRow(std::min(now.count, before.count));
     change.setLastRow(std::max(now.count, before.count) - 1);
     send(change);
-    QAccessibleEvent order(&widget_, QAccessible::ObjectReorder);
-    send(order);
   }
   if (now.vertical != before.vertical) reportBar(*list, Qt::Vertical);
   if (now.horizontal != before.horizontal) reportBar(*list, Qt::Horizontal);
