@@ -30,6 +30,8 @@ build_packages=(g++ cmake ninja-build)
 qt_packages=(qt6-base-dev qt6-qpa-plugins libqt6sql6-sqlite libgl-dev fonts-dejavu-core)
 json_packages=(libsimdjson-dev)
 test_packages=("${json_packages[@]}" libgtest-dev pkgconf)
+# For the test that reads a list as a screen reader does.
+screen_reader_packages=(at-spi2-core dbus python3-pyatspi xauth xdotool xvfb)
 clang_packages=(clang libclang-rt-dev)
 windows_packages=(g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix)
 benchmark_packages=(libbenchmark-dev)
