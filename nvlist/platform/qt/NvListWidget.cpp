@@ -280,7 +280,11 @@ bool NvListWidget::event(QEvent* event) {
   // Events come before the list exists, and after it.
   if (!core_) return QWidget::event(event);
   std::shared_ptr<Core> core = core_;
-  const bool isTaken = core->notifier.during([&] { return core->place.event(event); });
+  // Qt uses the widget after it has moved the focus, so no slot may run then: if the list itself
+  // has moved it, the signals follow when that call ends.
+  const bool isFocus = event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut;
+  const auto deliver = [&] { return core->place.event(event); };
+  const bool isTaken = isFocus ? deliver() : core->notifier.during(deliver);
   if (core->notifier.hasEnded()) {
     QtPlace::endLater(std::move(core));
     return true;
