@@ -6,6 +6,7 @@
 
 #include <nvlist/platform/headless/HeadlessApplication.h>
 
+#include "../files/MemoryFiles.h"
 #include "Life.h"
 
 namespace norvane::attacks {
@@ -61,45 +62,87 @@ class HostileHost final : public __nvList {
   CallOut& out_;
 };
 
-/// What a host does to the list in the middle of an operation.
-struct NamedTrouble {
-  const char* name;
-  std::function<void(nvList&)> run;
+/// The life of a list whose host does something bad when it is called for the `at`-th time. Whoever
+/// runs it makes the list.
+struct HostileLife {
+  explicit HostileLife(long at) : out{0, at} {
+    for (auto& [name, bytes] : filesOfALife()) files.files[name] = bytes;
+  }
+
+  void run(const std::vector<Step>& steps, const std::function<void()>& beforeStep,
+           const std::function<void()>& afterStep) {
+    for (const Step& step : steps) {
+      current = &step;
+      beforeStep();
+      try {
+        step.run();
+      } catch (...) {
+        // Only failures of the reporter come out.
+      }
+      afterStep();
+    }
+  }
+  /// Without further trouble, the list serves like any other.
+  bool serves(nvList& list) {
+    out.at = 0;
+    list.removeSink(host);
+    list.UserControl_ReadProperties(PropertyBag());
+    list.ItemsAdd("end");
+    return list.ItemsCount() == 1 && list.ItemText(0) == "end" && files.open == 0;
+  }
+
+  CallOut out;
+  HostileProgram program{out};
+  MemoryFiles files;
+  HostileHost host{out};
+  const Step* current = nullptr;
 };
 
-inline const std::vector<NamedTrouble>& troublesForAList() {
-  static const std::vector<NamedTrouble> troubles = {
-      {"clear", [](nvList& list) { list.ItemsClear(); }},
-      {"remove", [](nvList& list) { list.ItemsRemove(0); }},
-      {"remove all but one",
-       [](nvList& list) {
-         while (list.ItemsCount() > 1) list.ItemsRemove(list.ItemsCount() - 1);
-       }},
-      {"add", [](nvList& list) { list.ItemsAdd({.aText = "new", .aIndex = 0}); }},
-      {"add many",
-       [](nvList& list) {
-         list.AutoRedraw(false);
-         for (int i = 0; i < 200; ++i) list.ItemsAdd(i);
-         list.AutoRedraw(true);
-       }},
-      {"sort", [](nvList& list) { list.Sort(cAscending); }},
-      {"select", [](nvList& list) { list.ListIndex(list.ItemsCount() - 1); }},
-      {"scroll far", [](nvList& list) { list.TopIndex(1'000'000); }},
-      {"load", [](nvList& list) { list.ListInput("image", true); }},
-      {"save", [](nvList& list) { list.ListSave("other", true); }},
-      {"duplicates", [](nvList& list) { list.ItemsRemoveDouble(); }},
-      {"read properties", [](nvList& list) { list.UserControl_ReadProperties(PropertyBag()); }},
-      {"edit", [](nvList& list) { list.SetEdit(0); }},
-      {"wheel",
-       [](nvList& list) {
-         std::int16_t rotation = -1, keys = 0;
-         float x = 0, y = 0;
-         list.Wheel1_WheelScroll(rotation, keys, x, y);
-       }},
-      {"throw a failure", [](nvList&) { throw Failure(5, "the host failed"); }},
-      {"throw anything", [](nvList&) { throw 1; }},
+/// What a host does in the middle of an operation.
+struct NamedTrouble {
+  const char* name;
+  std::function<void(HostileLife&, nvList&)> run;
+};
+
+/// What it can do to the list alone.
+inline std::vector<NamedTrouble> troublesForAList() {
+  const auto toList = [](const char* name, void (*run)(nvList&)) {
+    return NamedTrouble{name, [run](HostileLife&, nvList& list) { run(list); }};
   };
-  return troubles;
+  return {
+      {"the same again", [](HostileLife& life, nvList&) { life.current->run(); }},
+      {"unregister", [](HostileLife& life, nvList& list) { list.removeSink(life.host); }},
+      toList("clear", [](nvList& list) { list.ItemsClear(); }),
+      toList("remove", [](nvList& list) { list.ItemsRemove(0); }),
+      toList("remove all but one",
+             [](nvList& list) {
+               while (list.ItemsCount() > 1) list.ItemsRemove(list.ItemsCount() - 1);
+             }),
+      toList("add", [](nvList& list) { list.ItemsAdd({.aText = "new", .aIndex = 0}); }),
+      toList("add many",
+             [](nvList& list) {
+               list.AutoRedraw(false);
+               for (int i = 0; i < 200; ++i) list.ItemsAdd(i);
+               list.AutoRedraw(true);
+             }),
+      toList("sort", [](nvList& list) { list.Sort(cAscending); }),
+      toList("select", [](nvList& list) { list.ListIndex(list.ItemsCount() - 1); }),
+      toList("scroll far", [](nvList& list) { list.TopIndex(1'000'000); }),
+      toList("load", [](nvList& list) { list.ListInput("image", true); }),
+      toList("save", [](nvList& list) { list.ListSave("other", true); }),
+      toList("duplicates", [](nvList& list) { list.ItemsRemoveDouble(); }),
+      toList("read properties",
+             [](nvList& list) { list.UserControl_ReadProperties(PropertyBag()); }),
+      toList("edit", [](nvList& list) { list.SetEdit(0); }),
+      toList("wheel",
+             [](nvList& list) {
+               std::int16_t rotation = -1, keys = 0;
+               float x = 0, y = 0;
+               list.Wheel1_WheelScroll(rotation, keys, x, y);
+             }),
+      toList("throw a failure", [](nvList&) { throw Failure(5, "the host failed"); }),
+      toList("throw anything", [](nvList&) { throw 1; }),
+  };
 }
 
 }  // namespace norvane::attacks

@@ -9,18 +9,10 @@
 
 #include <nvlist/values/numbers.h>
 
+#include "../failureOf.h"
+
 namespace norvane {
 namespace {
-
-/// The number of the failure, or 0.
-int failureOf(auto&& statement) {
-  try {
-    statement();
-    return 0;
-  } catch (const Failure& failure) {
-    return failure.number();
-  }
-}
 
 constexpr auto least = std::numeric_limits<std::int32_t>::min();
 constexpr auto most = std::numeric_limits<std::int32_t>::max();

@@ -1,12 +1,10 @@
 #include <nvlist/platform/qt/AccessibleList.h>
 #include <nvlist/platform/qt/AccessibleWatch.h>
 
-#include <gtest/gtest.h>
-
 #include <QAccessible>
-#include <QTest>
 #include <map>
-#include <string>
+
+#include "WidgetTest.h"
 
 namespace norvane {
 namespace {
@@ -15,7 +13,7 @@ namespace {
 class Ear final : public AccessibleWatch {
  public:
   using AccessibleWatch::AccessibleWatch;
-  std::string heard;
+  std::string events;
 
  private:
   void send(QAccessibleEvent& event) override {
@@ -24,42 +22,28 @@ class Ear final : public AccessibleWatch {
         {QAccessible::SelectionAdd, "Add"},   {QAccessible::SelectionRemove, "Remove"},
         {QAccessible::StateChanged, "State"}, {QAccessible::TableModelChanged, "Rows"},
         {QAccessible::ValueChanged, "Value"}};
-    heard += names.at(event.type());
-    if (event.child() >= 0) heard += "(" + std::to_string(event.child()) + ")";
-    heard += " ";
+    events += names.at(event.type());
+    if (event.child() >= 0) events += "(" + std::to_string(event.child()) + ")";
+    events += " ";
     AccessibleWatch::send(event);
   }
 };
 
-class AccessibilityTest : public testing::Test, public __nvList {
+class AccessibilityTest : public WidgetTest {
  protected:
   AccessibilityTest() {
-    list().MinHeight(16);
     list().Style(cCheckBoxes);
-    list().addSink(*this);
-    widget->resize(200, 130);
     for (int i = 0; i < 20; ++i)
       list().ItemsAdd({.aText = "&row|right=" + std::to_string(i), .aEnabled = i != 2});
     list().ListIndex(0);
-    widget->show();
-    widget->activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(widget));
-    widget->setFocus();
+    hearEvents();
     ear = new Ear(*widget);
     settle();
   }
-  ~AccessibilityTest() override { delete widget; }
 
-  void Click() override { ++clicks; }
-  void ItemCheck(std::int32_t&, Boolean& Cancel) override {
-    if (endsInCheck) delete widget;
-    Cancel = refusesChecks;
-  }
-
-  nvList& list() { return widget->list(); }
   QAccessibleInterface& top() { return *QAccessible::queryAccessibleInterface(widget); }
-  QAccessibleInterface& row(int index) { return *top().child(index); }
-  std::string name(int index) { return row(index).text(QAccessible::Name).toStdString(); }
+  QAccessibleInterface& child(int index) { return *top().child(index); }
+  std::string name(int index) { return child(index).text(QAccessible::Name).toStdString(); }
   static void act(QAccessibleInterface& on, const QString& action) {
     on.actionInterface()->doAction(action);
   }
@@ -67,40 +51,36 @@ class AccessibilityTest : public testing::Test, public __nvList {
   std::string settle(const std::string& expected = "") {
     // A busy machine paints late.
     if (!expected.empty())
-      static_cast<void>(QTest::qWaitFor([&] { return ear->heard == expected; }));
+      static_cast<void>(QTest::qWaitFor([&] { return ear->events == expected; }));
     QTest::qWait(30);
-    return std::exchange(ear->heard, {});
+    return std::exchange(ear->events, {});
   }
 
-  QPointer<NvListWidget> widget = new NvListWidget;
   Ear* ear = nullptr;
-  int clicks = 0;
-  bool refusesChecks = false;
-  bool endsInCheck = false;
 };
 
-TEST_F(AccessibilityTest, describesRowsBarAndEditBox) {
+TEST_F(AccessibilityTest, DescribesRowsBarAndEditBox) {
   EXPECT_EQ(top().role(), QAccessible::List);
   ASSERT_EQ(top().childCount(), 21);
   EXPECT_EQ(name(3), "row, 3");
-  EXPECT_EQ(top().indexOfChild(&row(3)), 3);
-  EXPECT_EQ(row(3).role(), QAccessible::ListItem);
-  EXPECT_EQ(row(3).parent(), &top());
-  EXPECT_EQ(row(3).tableCellInterface()->rowIndex(), 3);
+  EXPECT_EQ(top().indexOfChild(&child(3)), 3);
+  EXPECT_EQ(child(3).role(), QAccessible::ListItem);
+  EXPECT_EQ(child(3).parent(), &top());
+  EXPECT_EQ(child(3).tableCellInterface()->rowIndex(), 3);
   EXPECT_EQ(top().tableInterface()->rowCount(), 20);
 
   list().ItemChecked(0, true);
-  const QAccessible::State first = row(0).state();
+  const QAccessible::State first = child(0).state();
   EXPECT_TRUE(first.focused && first.selected && first.checkable && first.checked);
   EXPECT_FALSE(first.disabled || first.offscreen);
-  EXPECT_TRUE(row(2).state().disabled);
-  EXPECT_TRUE(row(15).state().offscreen);
-  EXPECT_EQ(top().focusChild(), &row(0));
-  EXPECT_EQ(row(1).rect().size(), QSize(181, 16));
-  const QPoint inRow = row(1).rect().center();
-  EXPECT_EQ(top().childAt(inRow.x(), inRow.y()), &row(1));
+  EXPECT_TRUE(child(2).state().disabled);
+  EXPECT_TRUE(child(15).state().offscreen);
+  EXPECT_EQ(top().focusChild(), &child(0));
+  EXPECT_EQ(child(1).rect().size(), QSize(181, 16));
+  const QPoint inRow = child(1).rect().center();
+  EXPECT_EQ(top().childAt(inRow.x(), inRow.y()), &child(1));
 
-  QAccessibleInterface& bar = row(20);
+  QAccessibleInterface& bar = child(20);
   EXPECT_EQ(bar.role(), QAccessible::ScrollBar);
   EXPECT_EQ(top().childAt(bar.rect().center().x(), bar.rect().center().y()), &bar);
   bar.valueInterface()->setCurrentValue(5);
@@ -113,30 +93,30 @@ TEST_F(AccessibilityTest, describesRowsBarAndEditBox) {
   list().ItemAllowEdit(0, true);
   list().SetEdit(0);
   ASSERT_EQ(top().childCount(), 22);
-  EXPECT_EQ(row(21).object(), widget->editBox());
-  EXPECT_EQ(top().indexOfChild(&row(21)), 21);
-  EXPECT_EQ(row(21).parent(), &top());
+  EXPECT_EQ(child(21).object(), widget->editBox());
+  EXPECT_EQ(top().indexOfChild(&child(21)), 21);
+  EXPECT_EQ(child(21).parent(), &top());
   list().closeEdit();
-  row(0).setText(QAccessible::Name, "new");
-  row(1).setText(QAccessible::Name, "not editable");
+  child(0).setText(QAccessible::Name, "new");
+  child(1).setText(QAccessible::Name, "not editable");
   EXPECT_EQ(name(0) + " " + name(1), "new row, 1");
 }
 
-TEST_F(AccessibilityTest, acts) {
+TEST_F(AccessibilityTest, Acts) {
   using Action = QAccessibleActionInterface;
-  EXPECT_EQ(row(2).actionInterface()->actionNames(), QStringList());
-  act(row(2), Action::pressAction());
+  EXPECT_EQ(child(2).actionInterface()->actionNames(), QStringList());
+  act(child(2), Action::pressAction());
   EXPECT_EQ(list().ListIndex(), 0);
-  act(row(4), Action::pressAction());
+  act(child(4), Action::pressAction());
   EXPECT_EQ(list().ListIndex(), 4);
-  EXPECT_EQ(clicks, 1);
-  act(row(5), Action::toggleAction());
+  EXPECT_EQ(heard(), "Click");
+  act(child(5), Action::toggleAction());
   EXPECT_EQ(list().ItemChecked(5), true);
   refusesChecks = true;
-  act(row(5), Action::toggleAction());
+  act(child(5), Action::toggleAction());
   EXPECT_EQ(list().ItemChecked(5), true);
   list().Style(cDefault);
-  EXPECT_FALSE(row(5).actionInterface()->actionNames().contains(Action::toggleAction()));
+  EXPECT_FALSE(child(5).actionInterface()->actionNames().contains(Action::toggleAction()));
 
   QAccessibleTableInterface& table = *top().tableInterface();
   EXPECT_TRUE(table.selectRow(1));
@@ -146,15 +126,15 @@ TEST_F(AccessibilityTest, acts) {
   EXPECT_FALSE(table.selectRow(2) || table.selectRow(-1) || table.selectRow(20));
   EXPECT_EQ(table.selectedRows(), (QList<int>{1, 3}));
   EXPECT_TRUE(table.unselectRow(1));
-  EXPECT_EQ(table.selectedCells(), (QList<QAccessibleInterface*>{&row(3)}));
+  EXPECT_EQ(table.selectedCells(), (QList<QAccessibleInterface*>{&child(3)}));
 
   list().Style(cCheckBoxes);
-  endsInCheck = true;
-  act(row(1), Action::toggleAction());
+  onEvent = [&](const std::string&) { delete widget; };
+  act(child(1), Action::toggleAction());
   EXPECT_FALSE(widget);
 }
 
-TEST_F(AccessibilityTest, reportsChanges) {
+TEST_F(AccessibilityTest, ReportsChanges) {
   const struct {
     const char* name;
     std::function<void()> change;
@@ -179,17 +159,17 @@ TEST_F(AccessibilityTest, reportsChanges) {
   }
 }
 
-TEST_F(AccessibilityTest, aMillionRowsCostNothingUntilAskedFor) {
+TEST_F(AccessibilityTest, AMillionRowsCostNothingUntilAskedFor) {
   list().AutoRedraw(false);
   list().AutoCheckScroll(false);
   for (int i = 0; i < 20'000; ++i) list().ItemsAdd("more");
   list().AutoCheckScroll(true);
   list().AutoRedraw(true);
   settle();
-  const QAccessible::Id first = QAccessible::uniqueId(&row(0));
-  for (int i = 1; i < AccessibleList::mostRows; ++i) row(i);
+  const QAccessible::Id first = QAccessible::uniqueId(&child(0));
+  for (int i = 1; i < AccessibleList::mostRows; ++i) child(i);
   EXPECT_TRUE(QAccessible::accessibleInterface(first));
-  row(15'000);
+  child(15'000);
   EXPECT_FALSE(QAccessible::accessibleInterface(first));
   EXPECT_EQ(name(0), "row, 0");
   list().ItemsClear();

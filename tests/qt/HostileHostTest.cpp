@@ -1,143 +1,93 @@
 // The life of a list widget whose host does something bad in each place where it is called.
 
-#include <gtest/gtest.h>
+#include "../attacks/HostileHost.h"
 
-#include <QCoreApplication>
 #include <QEventLoop>
-#include <QLineEdit>
-#include <QMouseEvent>
-#include <QPointer>
-#include <QTimer>
-#include <QWheelEvent>
 
 #include <nvlist/objects/Error.h>
-#include <nvlist/platform/qt/NvListWidget.h>
 
-#include "../attacks/HostileHost.h"
-#include "../files/MemoryFiles.h"
+#include "WidgetTest.h"
 
 namespace norvane::attacks {
 namespace {
 
-Hand handOn(QPointer<NvListWidget>& widget) {
-  const auto send = [&](QEvent::Type type, float x, float y, Qt::MouseButton button,
-                        Qt::MouseButtons buttons, std::int16_t shift) {
-    const QPointF place(x, y);
-    QMouseEvent event(type, place, widget->mapToGlobal(place), button, buttons,
-                      shift ? Qt::ShiftModifier : Qt::NoModifier);
-    QCoreApplication::sendEvent(widget, &event);
-  };
-  Hand hand;
-  hand.press = [=](float x, float y, std::int16_t shift) {
-    send(QEvent::MouseButtonPress, x, y, Qt::LeftButton, Qt::LeftButton, shift);
-  };
-  hand.drag = [=](float x, float y) {
-    send(QEvent::MouseMove, x, y, Qt::NoButton, Qt::LeftButton, 0);
-  };
-  hand.release = [=](float x, float y) {
-    send(QEvent::MouseButtonRelease, x, y, Qt::LeftButton, Qt::NoButton, 0);
-  };
-  hand.doubleClick = [=](float x, float y) {
-    send(QEvent::MouseButtonDblClick, x, y, Qt::LeftButton, Qt::LeftButton, 0);
-  };
-  hand.turnWheel = [&](std::int16_t delta) {
-    const QPointF place(20, 20);
-    QWheelEvent event(place, widget->mapToGlobal(place), {}, {0, delta}, Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(widget, &event);
-  };
-  hand.key = [&](std::int16_t code) {
-    const int key = code == 38 ? Qt::Key_Up : code == 40 ? Qt::Key_Down : Qt::Key_A;
-    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
-    QCoreApplication::sendEvent(widget, &event);
-  };
-  hand.finishEdit = [&] {
-    if (auto* box = widget->findChild<QLineEdit*>()) {
-      QKeyEvent event(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r");
-      QCoreApplication::sendEvent(box, &event);
-    }
-  };
-  hand.wait = [](int) { QCoreApplication::processEvents(); };
-  hand.resize = [&](float width, float height) {
-    widget->resize(static_cast<int>(width), static_cast<int>(height));
-  };
-  return hand;
-}
-
-/// One life, with the trouble in the call-out of that number. Returns how many there were.
-long live(long at, const NamedTrouble& trouble) {
-  CallOut out{0, at};
-  HostileProgram program(out);
-  MemoryFiles files;
-  for (auto& [name, bytes] : filesOfALife()) files.files[name] = bytes;
-  HostileHost host(out);
-  QPointer<NvListWidget> widget = new NvListWidget;
-  widget->resize(60, 60);
-  widget->show();
-  nvList& list = widget->list();
-  list.addSink(host);
-  const auto changes =
-      QObject::connect(widget, &NvListWidget::propertyChanged, widget, [&] { out(); });
-  const Step* current = nullptr;
-  int depth = 0;
-  const std::string_view name = trouble.name;
-  out.trouble = [&] {
-    if (name == "end the widget") {
-      // Finishing an edit moves the focus to the widget, which Qt itself uses afterwards.
-      if (std::string_view(current->name) == "finish")
-        widget->deleteLater();
-      else
-        delete widget;
-    } else if (name == "close") {
-      widget->close();
-    } else if (name == "the same again") {
-      if (++depth == 1) current->run();
-      --depth;
-    } else if (name == "unregister") {
-      list.removeSink(host);
-    } else if (name == "nested loop") {
-      QEventLoop loop;
-      QTimer::singleShot(0, &loop, [&] {
-        if (widget) widget->list().ItemsClear();
-        loop.quit();
-      });
-      loop.exec();
-    } else {
-      trouble.run(list);
-    }
-  };
-  Hand hand = handOn(widget);
-  for (const Step& step : lifeOf(list, hand, [&] { out(); })) {
-    if (!widget) break;
-    current = &step;
-    try {
-      step.run();
-    } catch (...) {
-      // Only failures of the reporter come out.
-    }
-    EXPECT_FALSE(Trap::anyRuns()) << trouble.name << " in " << step.name << " at " << at;
+class QtHostileHostTest : public WidgetTest {
+ protected:
+  Hand hand() {
+    const auto point = [](float x, float y) {
+      return QPoint(static_cast<int>(x), static_cast<int>(y));
+    };
+    Hand result;
+    result.press = [=, this](float x, float y, std::int16_t shift) {
+      press(point(x, y), shift ? Qt::ShiftModifier : Qt::NoModifier);
+    };
+    result.drag = [=, this](float x, float y) { drag(point(x, y)); };
+    result.release = [=, this](float x, float y) { release(point(x, y)); };
+    result.doubleClick = [=, this](float x, float y) {
+      QTest::mouseDClick(widget, Qt::LeftButton, {}, point(x, y));
+    };
+    result.turnWheel = [this](std::int16_t delta) { turn({0, delta}); };
+    result.key = [this](std::int16_t code) {
+      QTest::keyPress(widget, code == 38 ? Qt::Key_Up : code == 40 ? Qt::Key_Down : Qt::Key_A);
+    };
+    result.finishEdit = [this] { QTest::keyPress(&edit(), Qt::Key_Return); };
+    result.wait = [](int) { QCoreApplication::processEvents(); };
+    result.resize = [=, this](float x, float y) {
+      widget->resize(point(x, y).x(), point(x, y).y());
+    };
+    return result;
   }
-  out.at = 0;
-  if (widget) {
-    list.removeSink(host);
-    list.UserControl_ReadProperties(PropertyBag());
-    list.ItemsAdd("end");
-    EXPECT_EQ(list.ItemText(0), "end") << trouble.name << " at " << at;
+
+  /// One life, with the trouble in the call-out of that number. Returns how many there were.
+  long live(long at, const NamedTrouble& trouble) {
+    HostileLife life(at);
+    delete widget;
+    make();
+    widget->resize(60, 60);
+    list().MinHeight(0);
+    list().addSink(life.host);
+    const auto changes =
+        QObject::connect(widget, &NvListWidget::propertyChanged, [&] { life.out(); });
+    life.out.trouble = [&] { trouble.run(life, list()); };
+    Hand user = hand();
+    std::vector<Step> steps = lifeOf(list(), user, [&] { life.out(); });
+    for (Step& step : steps)
+      step.run = [this, run = step.run] {
+        if (widget) run();
+      };
+    life.run(
+        steps, [] {}, [&] { EXPECT_FALSE(Trap::anyRuns()) << life.current->name; });
+    const long calls = life.out.calls;
     QObject::disconnect(changes);
-    widget->grab();
+    if (widget) EXPECT_TRUE(life.serves(list()));
+    if (widget) widget->grab();
+    delete widget;
+    QCoreApplication::processEvents();
+    EXPECT_EQ(life.files.open, 0);
+    return calls;
   }
-  delete widget;
-  QCoreApplication::processEvents();
-  EXPECT_EQ(files.open, 0) << trouble.name << " at " << at;
-  return out.calls;
-}
+};
 
-TEST(QtHostileHostTest, isSurvivedWhereverItIsCalled) {
+TEST_F(QtHostileHostTest, IsSurvivedWhereverItIsCalled) {
   const long stride = strideOr(29);
   std::vector<NamedTrouble> troubles = troublesForAList();
-  for (const char* name :
-       {"end the widget", "close", "the same again", "unregister", "nested loop"})
-    troubles.push_back({name, [](nvList&) {}});
+  troubles.push_back({"close", [&](HostileLife&, nvList&) { widget->close(); }});
+  troubles.push_back({"end the widget", [&](HostileLife& life, nvList&) {
+                        // Finishing an edit moves the focus to the widget, which Qt itself uses
+                        // afterwards.
+                        if (std::string_view(life.current->name) == "finish")
+                          widget->deleteLater();
+                        else
+                          delete widget;
+                      }});
+  troubles.push_back({"nested loop", [&](HostileLife&, nvList&) {
+                        QEventLoop loop;
+                        QTimer::singleShot(0, &loop, [&] {
+                          if (widget) list().ItemsClear();
+                          loop.quit();
+                        });
+                        loop.exec();
+                      }});
   const long calls = live(0, troubles[0]);
   ASSERT_GT(calls, 100);
   long first = 1;
@@ -146,7 +96,10 @@ TEST(QtHostileHostTest, isSurvivedWhereverItIsCalled) {
       Error().SilentError(silent);
       // Other places for each trouble.
       first = first % stride + 1;
-      for (long at = first; at <= calls; at += stride) live(at, trouble);
+      for (long at = first; at <= calls; at += stride) {
+        SCOPED_TRACE(std::string(trouble.name) + " at " + std::to_string(at));
+        live(at, trouble);
+      }
     }
   }
   Error().SilentError(false);

@@ -1,147 +1,41 @@
-#include <nvlist/platform/qt/NvListWidget.h>
+#include "WidgetTest.h"
 
-#include <gtest/gtest.h>
+#include <QInputMethodEvent>
 
-#include <QtTest/qtestspontaneevent.h>
-#include <QApplication>
-#include <QLineEdit>
-#include <QPointer>
-#include <QTest>
-#include <QTimer>
-#include <QWheelEvent>
-#include <functional>
-#include <memory>
-#include <string>
-
-#include <nvlist/platform/headless/HeadlessApplication.h>
 #include <nvlist/platform/qt/QtColour.h>
 #include <nvlist/platform/qt/QtKeys.h>
-#include <nvlist/values/numbers.h>
 
 namespace norvane {
 namespace {
 
-/// A form with a list of forty rows of 16 pixels between two line edits, and its host. It uses the
-/// real event loop; reports are collected.
-class Input : public testing::Test, public __nvList {
+class Input : public WidgetTest {
  protected:
   Input() {
-    before.setParent(&form);
-    begin();
-    after.setParent(&form);
-    form.resize(220, 260);
-    form.show();
-    form.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
-    EXPECT_EQ(list->list().VisibleItems(), 12);
+    list().AllowEdit(true);
+    fill(40);
+    hearEvents();
   }
-  ~Input() override {
-    delete list;
-    for (const auto& box : application.boxes) ADD_FAILURE() << box.text;
-  }
-
-  void Click() override { hear("Click"); }
-  void DblClick() override { hear("DblClick"); }
-  void ItemCheck(std::int32_t& Item, Boolean&) override { hear("ItemCheck(" + textOf(Item) + ")"); }
-  void MouseDown(std::int16_t& Button, std::int16_t& Shift, float&, float&) override {
-    hear("MouseDown(" + textOf(Button) + " " + textOf(Shift) + ")");
-  }
-  void MouseUp(std::int16_t& Button, std::int16_t&, float&, float&) override {
-    hear("MouseUp(" + textOf(Button) + ")");
-  }
-  void Scroll() override { hear("Scroll"); }
-  void KeyDown(std::int16_t& KeyCode, std::int16_t& Shift) override {
-    hear("KeyDown(" + textOf(KeyCode) + " " + textOf(Shift) + ")");
-    if (swallowsKeys) KeyCode = 0;
-  }
-  void KeyPress(std::int16_t& KeyAscii) override { hear("KeyPress(" + textOf(KeyAscii) + ")"); }
-  void KeyUp(std::int16_t& KeyCode, std::int16_t&) override {
-    hear("KeyUp(" + textOf(KeyCode) + ")");
-  }
-  void ErrorWrongIndex(Variant& Index) override { hear("Wrong(" + Index.toText() + ")"); }
-
-  void hear(const std::string& event) {
-    EXPECT_TRUE(list) << event << " after the end";
-    told += (told.empty() ? "" : " ") + event;
-    if (event.substr(0, event.find('(')) == endsIn) end();
-  }
-  void begin() {
-    list = new NvListWidget(&form);
-    list->setGeometry(0, 20, 200, 200);
-    list->show();
-    nvList& control = list->list();
-    control.MinHeight(16);
-    control.AllowEdit(true);
-    for (int i = 0; i < 40; ++i) control.ItemsAdd({.aText = i, .aAllowEdit = true});
-    control.addSink(*this);
-  }
-  void end() {
-    endsIn = "none";
-    delete list;
-  }
-  std::string heard() { return std::exchange(told, {}); }
-
-  static QPoint row(int index, int x = 60) { return {x, 12 + 16 * index}; }
-  void click(int index, Qt::KeyboardModifiers keys = {}, int x = 60) {
-    QTest::mousePress(list, Qt::LeftButton, keys, row(index, x));
-    if (list) QTest::mouseRelease(list, Qt::LeftButton, keys, row(index, x));
-  }
-  /// The events of a real mouse.
-  void doubleClick(int index) {
-    click(index);
-    QTest::mouseDClick(list, Qt::LeftButton, {}, row(index));
-    if (list) QTest::mouseRelease(list, Qt::LeftButton, {}, row(index));
-  }
-  /// One wheel event as from a real mouse: if a widget ignores it, its parent gets it.
-  void turn(int delta, QPoint at = row(2)) {
-    QWidget* const over = list->childAt(at) ? list->childAt(at) : list.data();
-    const QPoint global = list->mapToGlobal(at);
-    QWheelEvent event(over->mapFromGlobal(global), global, {}, {0, delta}, {}, {},
-                      Qt::NoScrollPhase, false);
-    QSpontaneKeyEvent::setSpontaneous(&event);
-    QApplication::instance()->notify(over, &event);
-  }
-  QLineEdit& edit() { return *list->findChild<QLineEdit*>(); }
-
-  HeadlessApplication application;
-  QWidget form;
-  QLineEdit before, after;
-  QPointer<NvListWidget> list;
-  std::string told;
-  bool swallowsKeys = false;
-  std::string endsIn = "none";  ///< the event in which the host destroys the widget
 };
 
 TEST_F(Input, TheMouseSelects) {
   click(4, Qt::ShiftModifier);
   click(3, Qt::ControlModifier);
-  EXPECT_EQ(heard(), "MouseDown(1 1) MouseUp(1) Click MouseDown(1 2) MouseUp(1) Click");
-  QTest::mouseClick(list, Qt::RightButton, {}, row(8));
-  QTest::mouseClick(list, Qt::MiddleButton, {}, row(8));
-  QTest::mouseClick(list, Qt::BackButton, {}, row(9));
-  EXPECT_EQ(heard(), "MouseDown(2 0) MouseUp(2) MouseDown(4 0) MouseUp(4)");
-  EXPECT_EQ(list->list().ListIndex(), 8);
-  QTest::mousePress(list, Qt::LeftButton, {}, row(3));
-  QTest::mouseRelease(list, Qt::LeftButton, {}, {300, 20});
-  EXPECT_EQ(heard(), "MouseDown(1 0) MouseUp(1)");
-  list->list().Style(cCheckBoxes);
+  EXPECT_EQ(heard(), "MouseDown 1 1, MouseUp 1, Click, MouseDown 1 2, MouseUp 1, Click");
+  for (const auto button : {Qt::RightButton, Qt::MiddleButton, Qt::BackButton})
+    QTest::mouseClick(widget, button, {}, row(8));
+  EXPECT_EQ(heard(), "MouseDown 2 0, MouseUp 2, MouseDown 4 0, MouseUp 4");
+  EXPECT_EQ(list().ListIndex(), 8);
+  press(row(3)), release({300, 20});
+  EXPECT_EQ(heard(), "MouseDown 1 0, MouseUp 1");
+  list().Style(cCheckBoxes);
   doubleClick(5);
-  EXPECT_EQ(heard(), "MouseDown(1 0) MouseUp(1) Click ItemCheck(5) DblClick MouseUp(1)");
+  EXPECT_EQ(heard(), "MouseDown 1 0, MouseUp 1, Click, ItemCheck 5, DblClick, MouseUp 1");
 }
 
-TEST_F(Input, ADragMovesAnItemAndScrollsByARealTimer) {
-  list->list().AllowItemMoving(true);
-  const auto drag = [&](QPoint to) {
-    QTest::mousePress(list, Qt::LeftButton, {}, row(1));
-    QMouseEvent move(QEvent::MouseMove, to, list->mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
-                     {});
-    QApplication::sendEvent(list, &move);
-  };
-  drag(row(4));
-  QTest::mouseRelease(list, Qt::LeftButton, {}, row(4));
-  EXPECT_EQ(list->list().ItemText(3), "1");
-  drag({60, 230});
-  EXPECT_TRUE(QTest::qWaitFor([&] { return list->list().TopIndex() == 28; }, 2000));
+TEST_F(Input, ADragScrollsByARealTimer) {
+  list().AllowItemMoving(true);
+  press(row(1)), drag({60, 230});
+  EXPECT_TRUE(QTest::qWaitFor([&] { return list().TopIndex() == 28; }, 2000));
 }
 
 TEST_F(Input, ATextIsTypedIntoTheBox) {
@@ -155,27 +49,60 @@ TEST_F(Input, ATextIsTypedIntoTheBox) {
   QTest::keyClick(&edit(), Qt::Key_Down);
   EXPECT_TRUE(edit().isVisible());
   QTest::keyClick(&edit(), Qt::Key_Return);
-  EXPECT_TRUE(list->hasFocus());
+  EXPECT_TRUE(widget->hasFocus());
   EXPECT_EQ(heard(), "");
-  EXPECT_EQ(list->list().ItemText(2), "Zoe");
+  EXPECT_EQ(list().ItemText(2), "Zoe");
   // The focus may leave and return; only a press on the rows closes the box without saving.
   click(2);
   edit().setText("gone");
   after.setFocus();
   EXPECT_TRUE(edit().isVisible());
-  QTest::mousePress(list, Qt::LeftButton, {}, row(4));
+  press(row(4));
   EXPECT_FALSE(edit().isVisible());
 }
 
+TEST_F(Input, TheEditBoxComposesUndoesAndScrolls) {
+  click(2), list().SetEdit(2);
+  const QImage before = edit().grab().toImage();
+  QInputMethodEvent composing("ni hao", {}), composed;
+  QCoreApplication::sendEvent(&edit(), &composing);
+  EXPECT_NE(edit().grab().toImage(), before) << "the composed text is visible";
+  EXPECT_EQ(edit().text(), "") << "in place of the selection";
+  composed.setCommitString("你好");
+  QCoreApplication::sendEvent(&edit(), &composed);
+  EXPECT_EQ(edit().text(), "你好");
+  QTest::keyClick(&edit(), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(edit().text(), "2");
+  QTest::keyClicks(&edit(), " and a text that is far too long for the box and goes on");
+  // Painting scrolls it.
+  edit().grab();
+  EXPECT_LE(edit().inputMethodQuery(Qt::ImCursorRectangle).toRect().left(), edit().width())
+      << "the cursor stays in view";
+}
+
+TEST_F(Input, WhatIsEditedCanBeReadOnADesktopOfAnyColours) {
+  const auto background = [&](Qt::GlobalColor desktop, Colour text) {
+    QPalette palette = form.palette();
+    palette.setColor(QPalette::Base, desktop);
+    form.setPalette(palette);
+    list().ForeColor(text);
+    list().SetEdit(2);
+    EXPECT_EQ(edit().palette().color(QPalette::Text), QColor(rgbOf(text, palette)));
+    return edit().palette().color(QPalette::Base);
+  };
+  EXPECT_EQ(background(Qt::yellow, 0), QColor(Qt::yellow));
+  EXPECT_EQ(background(Qt::black, 0), QColor(Qt::white));
+  EXPECT_EQ(background(Qt::white, 0xFFFFFF), QColor(Qt::black));
+}
+
 TEST_F(Input, TheKeysHaveTheirCodes) {
-  list->setFocus();
-  list->list().ListIndex(2);
-  QTest::keyClick(list, Qt::Key_Down, Qt::ShiftModifier);
-  QTest::keyClick(list, 'a');
-  QTest::keyClick(list, Qt::Key_F2, Qt::AltModifier);
+  list().ListIndex(2);
+  key(Qt::Key_Down, Qt::ShiftModifier);
+  QTest::keyClick(widget, 'a');
+  key(Qt::Key_F2, Qt::AltModifier);
   EXPECT_EQ(heard(),
-            "KeyDown(16 1) KeyDown(40 1) KeyUp(40) KeyUp(16) KeyDown(65 0) KeyPress(97) KeyUp(65) "
-            "KeyDown(18 4) KeyDown(113 4) KeyUp(113) KeyUp(18)");
+            "KeyDown 16 1, KeyDown 40 1, KeyUp 40, KeyUp 16, KeyDown 65 0, KeyPress 97, KeyUp 65, "
+            "KeyDown 18 4, KeyDown 113 4, KeyUp 113, KeyUp 18");
   const struct {
     Qt::Key key;
     Qt::KeyboardModifiers modifiers;
@@ -189,94 +116,131 @@ TEST_F(Input, TheKeysHaveTheirCodes) {
                {Qt::Key_MediaPlay, {}, 0}};
   for (const auto& c : codes)
     EXPECT_EQ(keyCodeOf(QKeyEvent(QEvent::KeyPress, c.key, c.modifiers)), c.code) << c.key;
-  QKeyEvent repeat(QEvent::KeyRelease, Qt::Key_A, {}, "a", true);
-  QApplication::sendEvent(list, &repeat);
-  swallowsKeys = true;
-  QTest::keyPress(list, 'a');
-  EXPECT_EQ(heard(), "KeyDown(65 0)");
   EXPECT_EQ(characterOf(QKeyEvent(QEvent::KeyPress, Qt::Key_Delete, {}, "\x7f")), 0);
-  QTest::keyClick(list, Qt::Key_Tab);
+  QKeyEvent repeat(QEvent::KeyRelease, Qt::Key_A, {}, "a", true);
+  QApplication::sendEvent(widget, &repeat);
+  swallowsKeys = true;
+  QTest::keyPress(widget, 'a');
+  EXPECT_EQ(heard(), "KeyDown 65 0");
+  key(Qt::Key_Tab);
   EXPECT_TRUE(after.hasFocus());
   EXPECT_EQ(heard(), "");
 }
 
 TEST_F(Input, TheFocusIsOfTheWholeList) {
-  list->list().ListIndex(2);
-  before.setFocus();
-  const auto hasFocus = [&] { return static_cast<bool>(list->list().state().HasFocus); };
-  EXPECT_FALSE(hasFocus());
-  list->setFocus();
+  const auto hasFocus = [&] { return static_cast<bool>(list().state().HasFocus); };
+  list().ListIndex(2);
   EXPECT_TRUE(hasFocus());
-  list->list().SetEdit(2);
-  EXPECT_FALSE(hasFocus());  // the box has it
+  before.setFocus();
+  EXPECT_FALSE(hasFocus());
+  widget->setFocus();
+  list().SetEdit(2);
+  EXPECT_FALSE(hasFocus()) << "the box has it";
   after.setFocus();
   edit().setFocus();
-  EXPECT_TRUE(hasFocus());  // the list is entered
+  EXPECT_TRUE(hasFocus()) << "the list is entered";
 }
 
-TEST_F(Input, WhatIsEditedCanBeReadOnADesktopOfAnyColours) {
-  const auto background = [&](Qt::GlobalColor desktop, Colour text) {
-    QPalette palette = form.palette();
-    palette.setColor(QPalette::Base, desktop);
-    form.setPalette(palette);
-    list->list().ForeColor(text);
-    list->list().SetEdit(2);
-    EXPECT_EQ(edit().palette().color(QPalette::Text), QColor(rgbOf(text, palette)));
-    return edit().palette().color(QPalette::Base);
-  };
-  EXPECT_EQ(background(Qt::yellow, 0), QColor(Qt::yellow));
-  EXPECT_EQ(background(Qt::black, 0), QColor(Qt::white));
-  EXPECT_EQ(background(Qt::white, 0xFFFFFF), QColor(Qt::black));
+TEST_F(Input, AWheelScrolls) {
+  widget->setPassesFineWheel(true);
+  turn({0, -120});
+  EXPECT_EQ(heard(), "Scroll, Scroll");
+  turn({0, 0});
+  EXPECT_EQ(list().TopIndex(), 1);
+  turn({0, 30});
+  EXPECT_EQ(list().TopIndex(), 28) << "a part of a notch scrolls all the way";
+  widget->setPassesFineWheel(false);
+  for (const int delta : {30, 30, 30}) turn({0, delta});
+  EXPECT_EQ(list().TopIndex(), 28);
+  turn({0, 30});
+  EXPECT_EQ(list().TopIndex(), 27);
+  turn({0, 110}), turn({0, -20});  // another direction starts anew
+  EXPECT_EQ(list().TopIndex(), 27);
+  widget->setEnabled(false);
+  turn({0, 120});
+  EXPECT_EQ(list().TopIndex(), 27);
+  widget->setFollowsWheelSettings(true);
+  EXPECT_EQ(list().WheelScrollLines(), QApplication::wheelScrollLines());
 }
 
-TEST_F(Input, AWheelIsHeardInItsMessages) {
-  list->setPassesFineWheel(true);
-  turn(-120);
-  EXPECT_EQ(heard(), "Scroll Scroll");
-  turn(0);
-  EXPECT_EQ(list->list().TopIndex(), 1);
-  turn(30);
-  EXPECT_EQ(list->list().TopIndex(), 28);
-  turn(120, {190, 60});
-  EXPECT_EQ(list->list().TopIndex(), 27);
-  list->setEnabled(false);
-  turn(120);
-  EXPECT_EQ(list->list().TopIndex(), 27);
+TEST_F(Input, ASidewaysWheelMovesTheHorizontalBar) {
+  add(std::string(100, 'm'));
+  turn({-120, 0});
+  EXPECT_EQ(list().horizontalBar().Value(), 0);
+  list().ScrollBars(vbBoth);
+  list().CheckScroll();
+  ASSERT_TRUE(list().horizontalBar().Visible());
+  turn({-60, 0});
+  EXPECT_EQ(list().horizontalBar().Value(), 8 * QApplication::wheelScrollLines());
+  turn({-60, 0});
+  EXPECT_EQ(list().horizontalBar().Value(), 16 * QApplication::wheelScrollLines());
+  turn({1200, 0});
+  EXPECT_EQ(list().horizontalBar().Value(), 0);
+  EXPECT_EQ(list().TopIndex(), 0);
 }
 
+/// In each event and signal, and while the list yields.
 TEST_F(Input, AHandlerMayEndTheWidget) {
+  const auto menu = [&] {
+    QContextMenuEvent event(QContextMenuEvent::Mouse, row(1), widget->mapToGlobal(row(1)));
+    QApplication::sendEvent(widget, &event);
+  };
+  const auto finishEdit = [&] {
+    list().SetEdit(0);
+    QTest::keyPress(&edit(), Qt::Key_Return);
+  };
+  const auto endSoon = [&] { QTimer::singleShot(0, widget, [&] { delete widget; }); };
+  const auto yieldOften = [&] {
+    endSoon();
+    nvList& control = list();
+    for (int i = 0; i < 2000 && widget; ++i) control.ItemsAdd(i), control.ItemsRemove(0);
+  };
+  // Yields, and would then open the box.
+  const auto pressTheCurrentRow = [&] { endSoon(), click(0); };
   const std::pair<const char*, std::function<void()>> endings[] = {
       {"MouseDown", [&] { click(2); }},
       {"MouseUp", [&] { click(2); }},
       {"Click", [&] { click(2); }},
       {"DblClick", [&] { doubleClick(2); }},
       {"ItemCheck", [&] { click(2, {}, 9); }},
-      {"Wrong", [&] { list->list().ListIndex(99); }},
-      {"Scroll", [&] { turn(-120); }},
+      {"ErrorWrongIndex", [&] { list().ListIndex(99); }},
       {"Scroll",
        [&] {
-         QTest::mousePress(list, Qt::LeftButton, {}, {190, 190});
+         turn({0, -120});
        }},
-      {"KeyDown", [&] { QTest::keyPress(list, Qt::Key_A); }},
-      {"KeyPress", [&] { QTest::keyPress(list, 'a'); }},
-      {"KeyUp", [&] { QTest::keyRelease(list, Qt::Key_A); }},
-      {"nothing",
+      {"Scroll",
        [&] {
-         QTimer::singleShot(0, list, [&] { end(); });
-         nvList& control = list->list();
-         for (int i = 0; i < 2000 && list; ++i) control.ItemsAdd(i), control.ItemsRemove(0);
+         press({190, 190});
        }},
-      {"nothing", [&] {
-         list->list().ListIndex(2);
-         QTimer::singleShot(0, list, [&] { end(); });
-         click(2);  // yields, and would then open the box
-       }}};
+      {"KeyDown", [&] { QTest::keyPress(widget, Qt::Key_A); }},
+      {"KeyPress", [&] { QTest::keyPress(widget, 'a'); }},
+      {"KeyUp", [&] { QTest::keyRelease(widget, Qt::Key_A); }},
+      {"many yields", yieldOften},
+      {"the yield of a press", pressTheCurrentRow},
+      {"current", [&] { click(2); }},
+      {"current", [&] { list().ListIndex(2); }},
+      {"selection", [&] { click(2); }},
+      {"scrolled", [&] { list().TopIndex(4); }},
+      {"checked", [&] { click(2, {}, 9); }},
+      {"activated", [&] { QTest::keyPress(widget, Qt::Key_Return); }},
+      {"menu", menu},
+      {"wrong", [&] { list().ListIndex(99); }},
+      {"edited", finishEdit}};
   for (const auto& [event, act] : endings) {
-    if (!list) begin();
-    endsIn = event;
+    SCOPED_TRACE(std::string(event) + " " + std::to_string(&act - &endings[0].second));
+    delete widget;
+    make();
+    list().AllowEdit(true);
+    fill(40);
+    list().ListIndex(0);
+    hearEvents(), hearSignals();
+    onEvent = [this, ending = event](const std::string& name) {
+      if (name == ending) delete widget;
+    };
     act();
-    EXPECT_FALSE(list) << event << " " << &act - &endings[0].second;
-    QTest::qWait(5);
+    EXPECT_FALSE(widget);
+    onEvent = [](const std::string&) {};
+    QTest::qWait(3);
   }
 }
 

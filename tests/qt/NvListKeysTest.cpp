@@ -1,77 +1,31 @@
-#include <nvlist/platform/qt/NvListKeys.h>
+#include "WidgetTest.h"
 
-#include <gtest/gtest.h>
-
-#include <QApplication>
 #include <QClipboard>
 #include <QInputMethodEvent>
-#include <QLineEdit>
-#include <QTest>
-#include <QWheelEvent>
-#include <memory>
-#include <string>
+
+#include <nvlist/platform/qt/NvListKeys.h>
 
 namespace norvane {
 namespace {
 
-/// A list of twelve visible rows of 16 pixels with the helper, beside another edit.
-class NvListKeysTest : public testing::Test, public __nvList {
+class NvListKeysTest : public WidgetTest {
  protected:
   NvListKeysTest() {
-    other.setParent(&form);
-    widget->setGeometry(0, 20, 200, 200);
-    list().MinHeight(16);
     list().AllowEdit(true);
     list().Style(cCheckBoxes);
     keys = new NvListKeys(*widget);
-    list().addSink(*this);
-    form.resize(220, 260);
-    form.show();
-    form.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
-    widget->setFocus();
+    hearEvents();
   }
-  ~NvListKeysTest() override { delete widget; }
+  void addAll(std::initializer_list<const char*> texts) {
+    for (const char* text : texts) add(text);
+  }
 
-  void ItemCheck(std::int32_t&, Boolean& Cancel) override {
-    if (endsInCheck) delete widget;
-    Cancel = refusesChecks;
-  }
-  void KeyDown(std::int16_t&, std::int16_t&) override { ++keysDown; }
-
-  void fill(int count) {
-    for (int i = 0; i < count; ++i)
-      list().ItemsAdd({.aText = "row " + std::to_string(i), .aAllowEdit = true});
-  }
-  void add(std::initializer_list<const char*> texts) {
-    for (const char* text : texts) list().ItemsAdd({.aText = text, .aAllowEdit = true});
-  }
-  void press(int key, Qt::KeyboardModifiers modifiers = {}) {
-    QTest::keyClick(widget, static_cast<Qt::Key>(key), modifiers);
-  }
-  /// The current row, and the selected ones in brackets.
-  std::string state() {
-    std::string result = std::to_string(list().ListIndex()) + " (";
-    for (int i = 0; i < list().ItemsCount(); ++i)
-      if (list().ItemSelected(i)) result += (result.back() == '(' ? "" : " ") + std::to_string(i);
-    return result + ")";
-  }
-  nvList& list() { return widget->list(); }
-  QLineEdit& edit() { return *widget->findChild<QLineEdit*>(); }
-
-  QWidget form;
-  QPointer<NvListWidget> widget = new NvListWidget(&form);
   QPointer<NvListKeys> keys;
-  QLineEdit other;
-  bool refusesChecks = false;
-  bool endsInCheck = false;
-  int keysDown = 0;
 };
 
-TEST_F(NvListKeysTest, movesTheCurrentRow) {
+TEST_F(NvListKeysTest, MovesTheCurrentRow) {
   fill(40);
-  list().ItemEnabled(0, false);
-  list().ItemEnabled(39, false);
+  for (const int disabled : {0, 39}) list().ItemEnabled(disabled, false);
   list().ListIndex(5);
   const struct {
     int key, current, top;
@@ -82,183 +36,172 @@ TEST_F(NvListKeysTest, movesTheCurrentRow) {
   for (const auto& step : steps) {
     SCOPED_TRACE(QKeySequence(step.key).toString().toStdString() + " to " +
                  std::to_string(step.current));
-    press(step.key);
+    heard();
+    key(step.key);
     EXPECT_EQ(state(), std::to_string(step.current) + " (" + std::to_string(step.current) + ")");
     EXPECT_EQ(list().TopIndex(), step.top);
+    EXPECT_TRUE(heard().starts_with("KeyDown "));
   }
-  EXPECT_EQ(keysDown, 10);
 }
 
-TEST_F(NvListKeysTest, extendsTheSelection) {
+TEST_F(NvListKeysTest, ExtendsTheSelection) {
   fill(9);
   list().ItemEnabled(4, false);
   list().ListIndex(3);
-  press(Qt::Key_Down, Qt::ShiftModifier);
+  key(Qt::Key_Down, Qt::ShiftModifier);
   EXPECT_EQ(state(), "5 (5)") << "without MultiSelect";
   list().MultiSelect(true);
   list().ListIndex(3);
-  press(Qt::Key_Down, Qt::ShiftModifier);
-  EXPECT_EQ(state(), "5 (3 5)");
-  press(Qt::Key_End, Qt::ShiftModifier);
-  EXPECT_EQ(state(), "8 (3 5 6 7 8)");
-  press(Qt::Key_Home, Qt::ShiftModifier);
-  EXPECT_EQ(state(), "0 (0 1 2 3)");
-  QTest::mouseClick(widget, Qt::LeftButton, Qt::ShiftModifier, {100, 12 + 16 * 2});
-  EXPECT_EQ(state(), "2 (2 3)") << "the mouse goes on from the same row";
-  press(Qt::Key_Up, Qt::ShiftModifier);
-  EXPECT_EQ(state(), "1 (1 2 3)");
-  press(Qt::Key_A, Qt::ControlModifier);
-  EXPECT_EQ(state(), "1 (0 1 2 3 5 6 7 8)");
-  press(Qt::Key_Space, Qt::ControlModifier);
-  EXPECT_EQ(state(), "1 (0 2 3 5 6 7 8)");
-  press(Qt::Key_Down);
-  EXPECT_EQ(state(), "2 (2)");
+  const struct {
+    const char* name;
+    std::function<void()> act;
+    const char* state;
+  } steps[] = {
+      {"down", [&] { key(Qt::Key_Down, Qt::ShiftModifier); }, "5 (3 5)"},
+      {"to the end", [&] { key(Qt::Key_End, Qt::ShiftModifier); }, "8 (3 5 6 7 8)"},
+      {"to the start", [&] { key(Qt::Key_Home, Qt::ShiftModifier); }, "0 (0 1 2 3)"},
+      {"the mouse goes on from the same row", [&] { click(2, Qt::ShiftModifier); }, "2 (2 3)"},
+      {"up", [&] { key(Qt::Key_Up, Qt::ShiftModifier); }, "1 (1 2 3)"},
+      {"all", [&] { key(Qt::Key_A, Qt::ControlModifier); }, "1 (0 1 2 3 5 6 7 8)"},
+      {"toggle", [&] { key(Qt::Key_Space, Qt::ControlModifier); }, "1 (0 2 3 5 6 7 8)"},
+      {"down alone", [&] { key(Qt::Key_Down); }, "2 (2)"}};
+  for (const auto& step : steps) {
+    step.act();
+    EXPECT_EQ(state(), step.state) << step.name;
+  }
 }
 
-TEST_F(NvListKeysTest, findsWhatIsTyped) {
-  add({"&Alpha", "beta", "Berlin", "bern|right=9", "Ödipus", "a && b"});
+TEST_F(NvListKeysTest, FindsWhatIsTyped) {
+  addAll({"&Alpha", "beta", "Berlin", "bern|right=9", "Ödipus", "a && b"});
   list().ItemEnabled(1, false);
-  keys->setTypingInterval(100'000);
+  constexpr int onWord = 100'000, newWord = -1;
+  const auto type = [&](int interval, const char* text) {
+    keys->setTypingInterval(interval);
+    QTest::keyClicks(widget, text);
+    return list().ListIndex();
+  };
   list().ListIndex(0);
-  QTest::keyClicks(widget, "BERN");
-  EXPECT_EQ(list().ListIndex(), 3);
+  EXPECT_EQ(type(onWord, "BERN"), 3);
   QInputMethodEvent composed;
   composed.setCommitString("öd");
-  keys->setTypingInterval(-1);
+  keys->setTypingInterval(newWord);
   QCoreApplication::sendEvent(widget, &composed);
   EXPECT_EQ(list().ListIndex(), 4);
-  QTest::keyClicks(widget, "b");
-  EXPECT_EQ(list().ListIndex(), 2) << "past the end, and past a disabled row";
-  QTest::keyClicks(widget, "z");
-  EXPECT_EQ(list().ListIndex(), 2);
-  QTest::keyClicks(widget, " ");
+  EXPECT_EQ(type(newWord, "b"), 2) << "past the end, and past a disabled row";
+  EXPECT_EQ(type(newWord, "z"), 2);
+  EXPECT_EQ(type(newWord, " "), 2);
   EXPECT_EQ(list().ItemChecked(2), true) << "a blank begins no search";
-}
 
-TEST_F(NvListKeysTest, repeatsALetterAndTypesBlanks) {
-  add({"an ape", "ant", "bee", "and", "a fly"});
-  keys->setTypingInterval(100'000);
-  QTest::keyClicks(widget, "a f");
-  EXPECT_EQ(list().ListIndex(), 4);
+  list().ItemsClear();
+  addAll({"an ape", "ant", "bee", "and", "a fly"});
+  EXPECT_EQ(type(newWord, "a"), 0);
+  EXPECT_EQ(type(onWord, " f"), 4) << "a blank continues the word";
   EXPECT_EQ(list().ItemChecked(4), false);
-  keys->setTypingInterval(-1);
-  QTest::keyClicks(widget, "a");
-  EXPECT_EQ(list().ListIndex(), 0);
-  keys->setTypingInterval(100'000);
-  QTest::keyClicks(widget, "a");
-  EXPECT_EQ(list().ListIndex(), 1);
-  QTest::keyClicks(widget, "a");
-  EXPECT_EQ(list().ListIndex(), 3);
+  EXPECT_EQ(type(newWord, "a"), 0);
+  EXPECT_EQ(type(onWord, "a"), 1) << "the next one with this letter";
+  EXPECT_EQ(type(onWord, "a"), 3);
 }
 
-TEST_F(NvListKeysTest, checksCopiesAndAsksToDelete) {
-  add({"&one|right=1", "two", "three"});
+TEST_F(NvListKeysTest, ChecksCopiesAndAsksToDelete) {
+  addAll({"&one|right=1", "two", "three"});
   list().MultiSelect(true);
   list().ListIndex(1);
-  press(Qt::Key_Space);
+  key(Qt::Key_Space);
   EXPECT_EQ(list().ItemChecked(1), true);
   refusesChecks = true;
-  press(Qt::Key_Space);
+  key(Qt::Key_Space);
   EXPECT_EQ(list().ItemChecked(1), true);
-  press(Qt::Key_Home, Qt::ShiftModifier);
-  press(Qt::Key_C, Qt::ControlModifier);
+  key(Qt::Key_Home, Qt::ShiftModifier);
+  key(Qt::Key_C, Qt::ControlModifier);
   EXPECT_EQ(QApplication::clipboard()->text(), "one\t1\ntwo");
   QObject::connect(keys, &NvListKeys::deleteRequested, widget, [&] { delete widget; });
-  press(Qt::Key_Delete);
+  key(Qt::Key_Delete);
   EXPECT_FALSE(widget);
 }
 
-TEST_F(NvListKeysTest, aHandlerMayEndTheWidget) {
-  add({"one"});
+TEST_F(NvListKeysTest, AHandlerMayEndTheWidget) {
+  add("one");
   list().ListIndex(0);
-  endsInCheck = true;
-  press(Qt::Key_Space);
+  onEvent = [&](const std::string& name) {
+    if (name == "ItemCheck") delete widget;
+  };
+  key(Qt::Key_Space);
   EXPECT_FALSE(widget);
 }
 
-TEST_F(NvListKeysTest, editsOverTheRow) {
+TEST_F(NvListKeysTest, EditsOverTheRow) {
   fill(30);
   list().Style(cDefault);
+  const auto expectBesideTheBar = [&] {
+    EXPECT_GT(edit().x(), 1);
+    EXPECT_LT(edit().geometry().right(), list().verticalBar().Left() - 1);
+  };
   for (const int row : {20, 0}) {
     SCOPED_TRACE(row);
     list().ListIndex(row);
-    press(Qt::Key_F2);
+    key(Qt::Key_F2);
     ASSERT_TRUE(edit().isVisible());
     const int top = 3 + 16 * (row - list().TopIndex());
     EXPECT_NEAR(edit().geometry().center().y(), top + 8, 2);
-    EXPECT_GT(edit().x(), 1);
-    EXPECT_LT(edit().geometry().right(), list().verticalBar().Left() - 1);
+    expectBesideTheBar();
     QTest::keyClicks(&edit(), "gone");
     QTest::keyClick(&edit(), Qt::Key_Escape);
     EXPECT_FALSE(edit().isVisible());
     EXPECT_TRUE(widget->hasFocus());
-    EXPECT_EQ(list().ItemText(row), "row " + std::to_string(row));
+    EXPECT_EQ(list().ItemText(row), std::to_string(row));
   }
-  press(Qt::Key_F2);
+  key(Qt::Key_F2);
   widget->resize(150, 180);
   QCoreApplication::processEvents();
-  EXPECT_LT(edit().geometry().right(), list().verticalBar().Left() - 1);
+  expectBesideTheBar();
   edit().setText("first");
   QTest::keyClick(&edit(), Qt::Key_Return);
   EXPECT_EQ(list().ItemText(0), "first");
-  press(Qt::Key_Down);
+  key(Qt::Key_Down);
   EXPECT_EQ(list().ListIndex(), 1) << "the list has its keys again";
 }
 
-TEST_F(NvListKeysTest, writesWhatWasEditedWhenTheUserGoesElsewhere) {
+TEST_F(NvListKeysTest, WritesWhatWasEditedWhenTheUserGoesElsewhere) {
   fill(30);
-  const auto wheel = [&] {
-    QWheelEvent turn({50, 50}, edit().mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {},
-                     Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(widget, &turn);
-  };
-  const struct {
-    const char* name;
-    std::function<void()> leave;
-  } ways[] = {{"to another widget", [&] { other.setFocus(); }},
-              {"to another row",
-               [&] {
-                 QTest::mouseClick(widget, Qt::LeftButton, {}, {100, 12 + 16 * 5});
-               }},
-              {"by the wheel", wheel}};
-  for (const auto& way : ways) {
-    SCOPED_TRACE(way.name);
+  const std::pair<const char*, std::function<void()>> ways[] = {
+      {"to another widget", [&] { after.setFocus(); }},
+      {"to another row", [&] { click(5); }},
+      {"by the wheel", [&] {
+         turn({0, -120});
+       }}};
+  for (const auto& [way, leave] : ways) {
+    SCOPED_TRACE(way);
     widget->setFocus();
     list().ListIndex(2);
-    press(Qt::Key_F2);
+    key(Qt::Key_F2);
     QFocusEvent menu(QEvent::FocusOut, Qt::PopupFocusReason);
     QCoreApplication::sendEvent(&edit(), &menu);
     ASSERT_TRUE(edit().isVisible());
-    edit().setText(way.name);
-    way.leave();
+    edit().setText(way);
+    leave();
     EXPECT_FALSE(edit().isVisible());
-    EXPECT_EQ(list().ItemText(2), way.name);
+    EXPECT_EQ(list().ItemText(2), way);
     EXPECT_FALSE(list().state().EditActive);
   }
 }
 
-TEST_F(NvListKeysTest, aClickMovesNothing) {
+TEST_F(NvListKeysTest, AClickMovesNothing) {
   fill(5);
   list().AllowItemMoving(true);
-  const QPoint third(100, 12 + 16 * 2);
   const auto texts = [&] {
     std::string result;
-    for (int i = 0; i < 5; ++i) result += list().ItemText(i).back();
+    for (int i = 0; i < 5; ++i) result += list().ItemText(i);
     return result;
   };
-  QTest::mouseClick(widget, Qt::LeftButton, {}, third);
+  click(2);
   EXPECT_EQ(texts(), "01234");
-  QTest::mousePress(widget, Qt::LeftButton, {}, third);
-  QMouseEvent drag(QEvent::MouseMove, QPointF(100, 12), QPointF(100, 12), Qt::NoButton,
-                   Qt::LeftButton, Qt::NoModifier);
-  QCoreApplication::sendEvent(widget, &drag);
-  QTest::mouseRelease(widget, Qt::LeftButton, {}, QPoint(100, 12));
+  press(row(2)), drag(row(0)), release(row(0));
   EXPECT_EQ(texts(), "20134");
   delete keys;
-  QTest::mouseClick(widget, Qt::LeftButton, {}, third);
+  click(2);
   EXPECT_EQ(texts(), "12034") << "the list alone moves to the top";
   list().ListIndex(0);
-  press(Qt::Key_End);
+  key(Qt::Key_End);
   EXPECT_EQ(list().ListIndex(), 0);
 }
 

@@ -1,10 +1,9 @@
 #include <nvlist/platform/qt/NvListWidget.h>
 
-#include <gtest/gtest.h>
-
-#include <QApplication>
 #include <QPalette>
 #include <functional>
+
+#include "WidgetTest.h"
 
 namespace norvane {
 namespace {
@@ -23,29 +22,22 @@ class ScreenedWidget : public NvListWidget {
   }
 };
 
-/// Number of pixels that are not white.
-int inkOf(const QImage& image) {
-  int count = 0;
-  for (int y = 0; y < image.height(); ++y)
-    for (int x = 0; x < image.width(); ++x) count += image.pixel(x, y) != 0xFFFFFFFF;
-  return count;
-}
-
-class NvListWidgetTest : public testing::Test {
+class Painting : public testing::Test {
  protected:
-  NvListWidgetTest() {
+  Painting() {
     widget.resize(200, 150);
-    widget.list().BorderVisible(false);
+    list.MinHeight(16);
+    list.BorderVisible(false);
     widget.show();
     QCoreApplication::processEvents();
   }
-
   QImage shown() { return widget.grab().toImage().convertToFormat(QImage::Format_RGB32); }
 
   ScreenedWidget widget;
+  nvList& list = widget.list();
 };
 
-TEST_F(NvListWidgetTest, framesAreOnlyPaintedForWhatLooksDifferent) {
+TEST_F(Painting, FollowsOnlyWhatLooksDifferent) {
   struct Counter : QObject {
     int frames = 0;
     bool eventFilter(QObject*, QEvent* event) override {
@@ -61,7 +53,6 @@ TEST_F(NvListWidgetTest, framesAreOnlyPaintedForWhatLooksDifferent) {
     for (int turn = 0; turn < 2; ++turn) QCoreApplication::processEvents();
     return counter.frames;
   };
-  nvList& list = widget.list();
   EXPECT_EQ(framesFor([&] { list.ItemsAdd("a"); }), 1);
   // From here on the thumb has its shortest length.
   for (int i = 0; i < 300; ++i) list.ItemsAdd("a");
@@ -72,40 +63,37 @@ TEST_F(NvListWidgetTest, framesAreOnlyPaintedForWhatLooksDifferent) {
   EXPECT_EQ(framesFor([&] { list.TopIndex(20); }), 1);
 }
 
-TEST_F(NvListWidgetTest, showsWhatWasAdded) {
-  widget.list().ItemsAdd("Ada");
+TEST_F(Painting, FollowsTheItemsTheScreenAndThePalette) {
+  list.ItemsAdd("Ada");
   const int one = inkOf(shown());
   EXPECT_GT(one, 0);
-  widget.list().ItemsAdd("Ada");
+  list.ItemsAdd("Ada");
   EXPECT_EQ(inkOf(shown()), 2 * one);
-  widget.list().BackColor(0x00FF00);
-  widget.resize(200, 300);
-  EXPECT_EQ(shown().pixel(100, 280), qRgb(0, 255, 0));
-  widget.resize(0, 0);
-  widget.list().ItemsAdd("unseen");
-}
-
-TEST_F(NvListWidgetTest, followsTheScreenAndThePalette) {
-  widget.list().BackColor(systemColour(5));
+  list.BackColor(systemColour(5));
   QPalette palette;
   palette.setColor(QPalette::Base, QColor(1, 2, 3));
   widget.setPalette(palette);
-  EXPECT_EQ(shown().pixel(100, 140), qRgb(1, 2, 3));
+  widget.resize(200, 300);
+  EXPECT_EQ(shown().pixel(100, 280), qRgb(1, 2, 3));
 
-  widget.ratio = 2;
-  widget.repaint();
-  QCoreApplication::processEvents();
-  EXPECT_EQ(shown().size(), QSize(400, 300));
-  EXPECT_EQ(shown().pixel(201, 281), qRgb(1, 2, 3));
+  const auto show = [&](qreal ratio) {
+    widget.ratio = ratio;
+    widget.repaint();
+    QCoreApplication::processEvents();
+    return shown();
+  };
+  const QImage fine = show(2);
+  EXPECT_EQ(fine.size(), QSize(400, 600));
+  EXPECT_EQ(fine.pixel(201, 281), qRgb(1, 2, 3));
   EXPECT_TRUE(widget.testAttribute(Qt::WA_OpaquePaintEvent));
   // If an edge lies within a pixel, that pixel must not show the widget.
-  widget.ratio = 1.25;
-  widget.repaint();
-  QCoreApplication::processEvents();
+  show(1.25);
   EXPECT_FALSE(widget.testAttribute(Qt::WA_OpaquePaintEvent));
+  widget.resize(0, 0);
+  list.ItemsAdd("unseen");
 }
 
-TEST_F(NvListWidgetTest, theDesignerSeesAPreview) {
+TEST_F(Painting, ShowsThePreviewInADesigner) {
   widget.setObjectName("List1");
   widget.setDesignMode(true);
   const int shortName = inkOf(shown());
@@ -114,6 +102,58 @@ TEST_F(NvListWidgetTest, theDesignerSeesAPreview) {
   EXPECT_GT(inkOf(shown()), shortName);
   widget.setDesignMode(false);
   EXPECT_EQ(inkOf(shown()), 0);
+}
+
+TEST_F(Painting, FillsTheRectangleOfAnItem) {
+  list.IndentTop(5);
+  for (int i = 0; i < 20; ++i) list.ItemsAdd(i);
+  list.TopIndex(2);
+  list.ListIndex(4);
+  const QRect rect = widget.itemRect(4);
+  EXPECT_EQ(rect, QRect(0, 37, 183, 16));
+  const QImage image = shown();
+  const QRgb selected = image.pixel(rect.center());
+  for (const int edge : {rect.top(), rect.bottom()}) EXPECT_EQ(image.pixel(100, edge), selected);
+  for (const int beyond : {rect.top() - 1, rect.bottom() + 1})
+    EXPECT_NE(image.pixel(100, beyond), selected);
+  EXPECT_EQ(widget.itemRect(0).top(), 5 - 32);
+  EXPECT_TRUE(widget.itemRect(20).isEmpty());
+}
+
+TEST_F(Painting, KeepsATextOfSeveralLinesInItsRow) {
+  for (const char* text : {"", "A\nB\nC", ""}) widget.addItem(text);
+  const auto inkIn = [&](int index) {
+    return inkOf(widget.grab(widget.itemRect(index)).toImage());
+  };
+  EXPECT_GT(inkIn(0), 0);
+  widget.setClipsTexts(true);
+  EXPECT_EQ(inkIn(0) + inkIn(2), 0);
+  EXPECT_GT(inkIn(1), 0);
+}
+
+TEST_F(WidgetTest, TheLayoutIsMirroredOnRequest) {
+  const auto shown = [&] { return widget->grab().toImage(); };
+  for (int i = 0; i < 40; ++i) add("");
+  list().ListIndex(1);
+  const QImage plain = shown();
+  widget->setLayoutDirection(Qt::RightToLeft);
+  EXPECT_EQ(shown(), plain);
+  widget->setMirrorsLayout(true);
+  EXPECT_EQ(shown().mirrored(true, false), plain);
+  EXPECT_EQ(widget->itemRect(1).left(), 200 - 182);
+
+  list().Style(cCheckBoxes);
+  click(2, {}, 200 - 1 - 9);
+  EXPECT_TRUE(list().ItemChecked(2));
+  press({9, 194}), release({9, 194});  // the lower button of the bar
+  EXPECT_EQ(list().TopIndex(), 1);
+  EXPECT_EQ(widget->indexAt({9, 100}), -1);
+  EXPECT_EQ(widget->indexAt({190, 100}), 7);
+  list().Style(cDefault);
+  list().ItemText(5, "A");
+  const QRect row = widget->itemRect(5);
+  EXPECT_GT(inkOf(widget->grab(row).toImage()), 0);
+  EXPECT_EQ(inkOf(widget->grab(row.adjusted(0, 0, -20, 0)).toImage()), 0) << "texts at the right";
 }
 
 }  // namespace

@@ -7,6 +7,8 @@
 #include <nvlist/platform/qt/QtApplication.h>
 #include <nvlist/platform/qt/QtRecordset.h>
 
+#include "../failureOf.h"
+
 namespace norvane {
 namespace {
 
@@ -60,15 +62,6 @@ class QtRecordsetTest : public testing::Test {
     std::string result;
     for (std::int32_t i = 0; i < list.ItemsCount(); ++i) result += list.ItemText(i) + "|";
     return result + std::exchange(reports->text, {});
-  }
-
-  static std::int32_t failureOf(const std::function<void()>& call) {
-    try {
-      call();
-    } catch (const Failure& failure) {
-      return failure.number();
-    }
-    return 0;
   }
 
   QtApplication application;

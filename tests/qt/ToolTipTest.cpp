@@ -41,6 +41,10 @@ class QtToolTipTest : public testing::Test {
     tips.AddTool(QtWindow::of(control), text);
   }
   void moveAway() { moveTo(*form, {0, 40}); }
+  void showTipOf(const QWidget& widget, QPoint offset = {}) {
+    moveTo(widget, offset);
+    ASSERT_TRUE(QTest::qWaitFor([] { return tip() != nullptr; }, 5000));
+  }
 
   /// The visible tip, or nullptr.
   static QWidget* tip() {
@@ -49,9 +53,6 @@ class QtToolTipTest : public testing::Test {
     return nullptr;
   }
   static QString shown() { return tip() ? tip()->accessibleName() : QString("nothing"); }
-  static bool waitForTip() {
-    return QTest::qWaitFor([] { return tip() != nullptr; }, 5000);
-  }
 
   QtApplication application;
   std::unique_ptr<QWidget> form = std::make_unique<QWidget>();
@@ -85,8 +86,7 @@ TEST_F(QtToolTipTest, ShowsATextWhileTheMouseRests) {
   tips.ToolText(QtWindow::of(*one), "back");
   moveAway();
 
-  moveTo(*one);
-  ASSERT_TRUE(waitForTip());
+  showTipOf(*one);
   tips.RemoveTool(QtWindow::of(*one));
   EXPECT_EQ(shown(), "nothing");
   moveAway();
@@ -98,8 +98,7 @@ TEST_F(QtToolTipTest, ShowsATextWhileTheMouseRests) {
 TEST_F(QtToolTipTest, StaysAsLongAsItWasTold) {
   auto quick = std::make_unique<QI>();
   quick->Create(QtWindow::of(*form), QtWindow::of(*one), "one", 300, 0);
-  moveTo(*one);
-  ASSERT_TRUE(waitForTip());
+  showTipOf(*one);
   const qint64 time = timeUntil([] { return tip() == nullptr; });
   EXPECT_GE(time, 200);
   EXPECT_LT(time, 2000);
@@ -108,16 +107,14 @@ TEST_F(QtToolTipTest, StaysAsLongAsItWasTold) {
   QTest::qWait(700);
   EXPECT_EQ(shown(), "nothing");
   moveAway();
-  moveTo(*one);
-  EXPECT_TRUE(waitForTip());
+  showTipOf(*one);
   quick.reset();
   EXPECT_EQ(shown(), "nothing");
 }
 
 TEST_F(QtToolTipTest, GoesWithAPress) {
   give(*one, "one");
-  moveTo(*one);
-  ASSERT_TRUE(waitForTip());
+  showTipOf(*one);
   QTest::mouseClick(one, Qt::LeftButton);
   EXPECT_EQ(shown(), "nothing");
 
@@ -125,8 +122,7 @@ TEST_F(QtToolTipTest, GoesWithAPress) {
   auto* button = new QPushButton(two);
   button->show();
   tips.AddTool(QtWindow::of(*two), "two");
-  moveTo(*button);
-  ASSERT_TRUE(waitForTip());
+  showTipOf(*button);
   QTest::mouseClick(button, Qt::LeftButton);
   EXPECT_EQ(shown(), "nothing");
 }
@@ -136,8 +132,7 @@ TEST_F(QtToolTipTest, StaysOnItsScreen) {
   form->move(screen.right() - 200, screen.bottom() - 50);
   QCoreApplication::processEvents();
   give(*two, "a text that is longer than the rest of the screen");
-  moveTo(*two);
-  ASSERT_TRUE(waitForTip());
+  showTipOf(*two);
   EXPECT_TRUE(screen.contains(tip()->geometry()));
   EXPECT_EQ(tip()->geometry().bottom() + 1, QCursor::pos().y());
   form->hide();
@@ -147,8 +142,7 @@ TEST_F(QtToolTipTest, StaysOnItsScreen) {
 TEST_F(QtToolTipTest, BreaksLinesAtItsWidth) {
   const QString text = "some words that take more room than a line of a narrow tip can give";
   give(*one, text.toStdString());
-  moveTo(*one);
-  ASSERT_TRUE(waitForTip());
+  showTipOf(*one);
   const QSize line = tip()->size();
   EXPECT_GE(line.width(), tip()->fontMetrics().horizontalAdvance(text));
   tips.MaxTipWidth(120);
@@ -168,8 +162,7 @@ TEST_F(QtToolTipTest, BreaksLinesAtItsWidth) {
 TEST_F(QtToolTipTest, MovesOnToTheNextControlSooner) {
   give(*one, "one");
   tips.AddTool(QtWindow::of(*two), "two");
-  moveTo(*one);
-  ASSERT_TRUE(waitForTip());
+  showTipOf(*one);
   tips.DelayTime(3, 3000);
   moveTo(*two, {30, 0});
   EXPECT_EQ(shown(), "nothing");
@@ -180,13 +173,11 @@ TEST_F(QtToolTipTest, MovesOnToTheNextControlSooner) {
 TEST_F(QtToolTipTest, AControlInsideAnother) {
   give(*two, "outer");
   tips.AddTool(QtWindow::of(*inner), "inner");
-  const auto showsNext = [](const QString& text) {
-    return QTest::qWaitFor([&] { return shown() == text; }, 5000);
-  };
-  moveTo(*two, {30, 0});
-  EXPECT_TRUE(showsNext("outer"));
-  moveTo(*inner);
-  EXPECT_TRUE(showsNext("inner"));
+  for (const auto& [widget, text] :
+       {std::pair<QWidget*, const char*>(two, "outer"), {inner, "inner"}}) {
+    moveTo(*widget, {widget == two ? 30 : 0, 0});
+    EXPECT_TRUE(QTest::qWaitFor([&, shows = text] { return shown() == shows; }, 5000)) << text;
+  }
   QTest::mouseClick(inner, Qt::LeftButton);
   QTest::qWait(100);
   EXPECT_EQ(shown(), "nothing");
@@ -195,14 +186,12 @@ TEST_F(QtToolTipTest, AControlInsideAnother) {
 TEST_F(QtToolTipTest, OutlivesItsControlsAndItsForm) {
   give(*one, "one");
   tips.AddTool(QtWindow::of(*two), "two");
-  moveTo(*one);
-  ASSERT_TRUE(waitForTip());
+  showTipOf(*one);
   delete one;
   EXPECT_EQ(shown(), "nothing");
   tips.BackColor(0);
   EXPECT_EQ(tips.ToolCount(), 2);
-  moveTo(*two, {30, 0});
-  ASSERT_TRUE(waitForTip());
+  showTipOf(*two, {30, 0});
   EXPECT_EQ(shown(), "two");
   form.reset();
   EXPECT_EQ(shown(), "nothing");
