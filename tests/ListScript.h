@@ -78,13 +78,17 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     // clang-format off
     // The host.
     if (verb == "fill") fill(code);
+    else if (verb == "begin") fill(5), list.ListIndex(2), heard();
     else if (verb == "clear") list.ItemsClear();
     else if (verb == "add") each([&](auto& text) { list.ItemsAdd(text); });
+    else if (verb == "addKey") list.ItemsAdd({.aText = value(0), .aKey = value(1)});
+    else if (verb == "addChecked") list.ItemsAdd({.aText = value(0), .aChecked = true});
     else if (verb == "many") for (int i = 0; i < code; ++i) list.ItemsAdd(i);
     else if (verb == "wide") wide(code, number(1));
     else if (verb == "insert") list.ItemsAdd(value(0), value(1));
     else if (verb == "remove") each([&](auto& index) { list.ItemsRemove(Variant(index)); });
     else if (verb == "removeFirst") for (int i = 0; i < code; ++i) list.ItemsRemove(0);
+    else if (verb == "removeDouble") list.ItemsRemoveDouble(code != 0);
     else if (verb == "removeSelected") list.ItemsSelectedRemove();
     else if (verb == "setIndex") list.ListIndex(value(0).toInt32());
     else if (verb == "setTop") list.TopIndex(value(0).toInt32());
@@ -92,7 +96,10 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     else if (verb == "editable") each([&](auto& index) { list.ItemAllowEdit(index, true); });
     else if (verb == "select") each([&](auto& index) { list.ItemSelected(index, true); });
     else if (verb == "deselect") each([&](auto& index) { list.ItemSelected(index, false); });
+    else if (verb == "setText") list.ItemText(value(0), value(1).toText());
     else if (verb == "edit") list.SetEdit(value(0));
+    else if (verb == "up") list.MoveItemUp(value(0), value(1));
+    else if (verb == "down") list.MoveItemDown(value(0), value(1));
     else if (verb == "sort") list.Sort(static_cast<cSortMode>(code));
     else if (verb == "measure") list.AutoCheckScroll(true);
     else if (verb == "redraw") list.Redraw();
@@ -139,7 +146,12 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     else if (verb == "now") return now();
     else if (verb == "outcome") return outcome();
     else if (verb == "reports") return reports();
+    else if (verb == "find") return textOf(list.IsInList(value(0).toText()));
+    else if (verb == "findText") return textOf(list.IsInList(value(0).toText(), cFindText));
+    else if (verb == "findKey") return textOf(list.IndexByKey(value(0)));
+    else if (verb == "checkedCount") return textOf(list.ItemsCheckCount());
     else if (verb == "texts") return "<" + texts() + ">";
+    else if (verb == "keys") return "<" + keys() + ">";
     else if (verb == "index") return textOf(list.ListIndex());
     else if (verb == "top") return textOf(list.TopIndex());
     else if (verb == "bars") return told(list.verticalBar()) + ", " + told(list.horizontalBar());
@@ -168,6 +180,11 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     else ADD_FAILURE() << "no verb " << verb;
     // clang-format on
     return "";
+  }
+  std::string keys() {
+    std::string result;
+    for (int i = 0; i < list.ItemsCount(); ++i) result += item(i).Key;
+    return result;
   }
   void obey(const std::string& deed) {
     if (deed == "throw") throw Failure(1000, "own");

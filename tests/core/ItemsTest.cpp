@@ -5,6 +5,31 @@ namespace {
 
 // clang-format off
 const Scenario scenarios[] = {
+  {"an index says where an item goes",
+   "clear; insert 'a' 99; new; fill 3; insert 'x' -1; texts; new; fill 3; insert 'x' 99; texts;"
+   "fill 3; insert 'x' -7; texts; fill 3; insert 'x' 0; texts; fill 3; insert 'x' @; texts;"
+   "fill 3; insert 'x' '1'; texts; new; fill 3; insert 'x' 1.4; texts; new;"
+   "fill 3; insert 'x' '0.5'; texts; fill 3; insert 'x' 2.5; texts; new",
+   "0 / <0 1 2 x> / 3 / <0 1 2 x> / <0 1 2 x> / <x 0 1 2> / <x 0 1 2> / <0 x 1 2> / 1 / "
+   "<0 x 2 2> / 1 / <x 1 1 2> / <0 1 x x> / 2"},
+  {"only AutoRedraw drops the current item",
+   "AutoRedraw 0; clear; add 'a'; index; AutoRedraw 1; add 'b'; index", "0 / -1"},
+  {"adding many stops painting when the rows are full",
+   "resize 200 100; clear; forget; many 50; events", "********************"},
+  {"counts yield once an item and see the list change",
+   "AutoRedraw 0; clear; add 'a' 'b'; addChecked 'c'; post addChecked 'd'; checkedCount;"
+   "post checkedCount; forget; checkedCount; events; post clear; checkedCount",
+   "2 / 2 / [2] / 0"},
+  {"duplicates are found in the texts joined by commas",
+   "clear; add 'a' 'A' 'b' 'a'; removeDouble 1; texts; clear; add 'a' 'A' 'b' 'a'; removeDouble 0;"
+   "texts; clear; add '\u00e4' '\u00c4'; removeDouble 1; texts", "<a b> / <a A b> / <\u00e4>"},
+  {"items are found by key",
+   "clear; addKey 'abc' '10'; addKey 'Abd' 'k'; add 'z'; findKey 'k'; findKey 'K'; findKey '';"
+   "findKey 10; findKey 11; reports", "1 / -1 / 2 / 0 / -1 / 13 IndexByKey"},
+  {"items are found by pattern",
+   "clear; add 'abc' 'Abd'; find 'a*'; find 'A*'; findText 'A*'; find '[Z-a]bc';"
+   "findText '[a-Z]bc'; reports; silent; find '[a'; find '[Z-a]bc'",
+   "0 / 1 / 0 / -1 / -1 / 93 IsInList, 93 IsInList / -1 / 0"},
   {"an index that is no number leaves the item at the end",
    "clear; add 'a' 'b'; insert 'x' 'front'; reports; texts; width; silent; insert 'y' 'front';"
    "texts; width", "13 ItemsAdd / <a b > / 15 / <a b  y> / 19"},
@@ -35,45 +60,6 @@ INSTANTIATE_TEST_SUITE_P(Core, ItemScenarios, testing::ValuesIn(scenarios), name
 
 using Items = ListTest;
 
-TEST_F(Items, AnIndexSaysWhereAnItemGoes) {
-  struct Case {
-    Variant index;
-    const char* result;
-    int newIndex;
-  };
-  const Case cases[] = {{-1, "a b c x", 3},  {99, "a b c x", 3},        {-7, "a b c x", 3},
-                        {0, "x a b c", 0},   {Variant(), "x a b c", 0}, {"1", "a x b c", 1},
-                        {1.4, "a x c c", 1}, {"0.5", "x b b c", 0},     {2.5, "a b x x", 2}};
-  for (const Case& c : cases) {
-    list.ItemsClear();
-    list.ItemsAdd("a", 99);
-    EXPECT_EQ(list.NewIndex(), 0);
-    add({"b", "c"});
-    list.ItemsAdd("x", c.index);
-    EXPECT_EQ(texts(), c.result) << c.index.toText();
-    EXPECT_EQ(list.NewIndex(), c.newIndex) << c.index.toText();
-  }
-  EXPECT_EQ(reports(), "");
-}
-
-TEST_F(Items, OnlyAutoRedrawDropsTheCurrentItem) {
-  list.AutoRedraw(false);
-  add({"a", "b"});
-  list.AutoRedraw(Boolean::ofNumber(1));
-  list.ItemsAdd("c");
-  EXPECT_EQ(list.ListIndex(), 0);
-  list.AutoRedraw(true);
-  list.ItemsAdd("d");
-  EXPECT_EQ(list.ListIndex(), -1);
-}
-
-TEST_F(Items, MassAddingStopsPaintingPastTheLimit) {
-  // 100 / 13 + 13 is a little more than 20 rows.
-  const int before = headless.surface().frames();
-  for (int i = 0; i < 50; ++i) list.ItemsAdd(i);
-  EXPECT_EQ(headless.surface().frames() - before, 20);
-}
-
 TEST_F(Items, AHostMayComeBackAsItsObjectsGo) {
   struct Leaving : Object {
     explicit Leaving(std::function<void()> last) : atEnd(std::move(last)) {}
@@ -93,31 +79,6 @@ TEST_F(Items, AHostMayComeBackAsItsObjectsGo) {
   list.ItemTag(0, 1);
   EXPECT_EQ(list.ItemsCount(), 0);
   EXPECT_EQ(reports(), "");
-}
-
-TEST_F(Items, CountsYieldOnceAnItemAndSeeTheListChange) {
-  list.AutoRedraw(false);
-  add({"a", "b"});
-  list.ItemsAdd({.aText = "c", .aChecked = true});
-  headless.container().post([&] { list.ItemsAdd({.aText = "d", .aChecked = true}); });
-  EXPECT_EQ(list.ItemsCheckCount(), 2);
-  // A nested count shares LoopIndex: the outer count continues after it.
-  headless.container().post([&] { EXPECT_EQ(list.ItemsCheckCount(), 2); });
-  EXPECT_EQ(list.ItemsCheckCount(), 2);
-  headless.container().post([&] { list.ItemsClear(); });
-  EXPECT_EQ(list.ItemsCheckCount(), 0);
-}
-
-TEST_F(Items, DuplicatesGoByTheCommaJoinedScheme) {
-  const auto remaining = [&](const std::vector<std::string>& before, Boolean ignore) {
-    list.ItemsClear();
-    add(before);
-    list.ItemsRemoveDouble(ignore);
-    return texts();
-  };
-  EXPECT_EQ(remaining({"a", "A", "b", "a"}, true), "a b");
-  EXPECT_EQ(remaining({"a", "A", "b", "a"}, false), "a A b");
-  EXPECT_EQ(remaining({"\u00e4", "\u00c4"}, true), "\u00e4");
 }
 
 TEST_F(Items, ADuplicatePastTheSixteenBitLimitIsAFailure) {
@@ -171,29 +132,6 @@ TEST_F(Items, FindsWhatIsThereAfterEachChange) {
       }
     }
   }
-}
-
-TEST_F(Items, FindsByKeyAndByPattern) {
-  list.ItemsAdd({.aText = "abc", .aKey = "10"});
-  list.ItemsAdd({.aText = "Abd", .aKey = "k"});
-  list.ItemsAdd({.aText = "z"});
-  EXPECT_EQ(list.IndexByKey("k"), 1);
-  EXPECT_EQ(list.IndexByKey("K"), -1);
-  EXPECT_EQ(list.IndexByKey(""), 2);
-  EXPECT_EQ(list.IndexByKey(10), 0);
-  EXPECT_EQ(list.IndexByKey(11), -1);
-  EXPECT_EQ(reports(), "13 IndexByKey");
-
-  EXPECT_EQ(list.IsInList("a*"), 0);
-  EXPECT_EQ(list.IsInList("A*"), 1);
-  EXPECT_EQ(list.IsInList("A*", cFindText), 0);
-  // Well-formed in only one of the comparisons.
-  EXPECT_EQ(list.IsInList("[Z-a]bc"), -1);
-  EXPECT_EQ(list.IsInList("[a-Z]bc", cFindText), -1);
-  EXPECT_EQ(reports(), "93 IsInList, 93 IsInList");
-  silent();
-  EXPECT_EQ(list.IsInList("[a"), -1);
-  EXPECT_EQ(list.IsInList("[Z-a]bc"), 0);
 }
 
 TEST_F(Items, AMillionItemsStayInOrder) {

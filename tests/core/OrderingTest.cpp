@@ -5,7 +5,7 @@
 #include <random>
 #include <utility>
 
-#include "../Lists.h"
+#include "../ListScript.h"
 
 namespace norvane {
 namespace {
@@ -80,107 +80,43 @@ TEST(PartitionSort, TakesHostileTextsInItsStride) {
     ASSERT_LT(texts.data()[order[i - 1]], texts.data()[order[i]]);
 }
 
-class Ordering : public ListTest {
- protected:
-  Ordering() {
-    headless.container().onPropertyChanged = [this](std::string_view) { ++changes; };
-  }
-
-  void fill(const Texts& texts, Boolean autoRedraw = true) {
-    list.AutoRedraw(false);
-    list.ItemsClear();
-    for (const std::string& text : texts) list.ItemsAdd({.aText = text, .aKey = list.ItemsCount()});
-    list.ListIndex(2);
-    list.AutoRedraw(autoRedraw);
-    frames = headless.surface().frames();
-    changes = 0;
-  }
-
-  int painted() { return headless.surface().frames() - frames; }
-  bool isSelectedAlone(int index) { return item(index).Selected && list.ItemsSelectCount() == 1; }
-
-  int frames = 0;
-  int changes = 0;
+// clang-format off
+const Scenario scenarios[] = {
+  {"moves take the items on the way along",
+   "begin; up 2 1; outcome; texts; begin; up '2' '5'; outcome; texts; begin; up 0 3; outcome; texts;"
+   "begin; down @ 2; outcome; texts; begin; down 2 9; outcome; texts; begin; down 4 1; outcome;"
+   "texts",
+   "* | 1: 2 / <0 2 1 3 4> / * | 0: 2 / <2 0 1 3 4> /  | 2: 2 / <0 1 2 3 4> / * | 4: 2 / "
+   "<1 2 0 3 4> / * | 4: 2 / <0 1 3 4 2> /  | 2: 2 / <0 1 2 3 4>"},
+  {"a move from a bad index does nothing",
+   "begin; up 'x' 1; outcome; texts; reports", " | 2: 2 / <0 1 2 3 4>"},
+  {"a negative count loses the item at the target",
+   "begin; up 1 -3; outcome; texts; begin; down 2 -2; outcome; texts",
+   "* | 5: 2 / <0 1 2 3 1> / * | 0: 2 2 / <2 1 2 3 4>"},
+  {"two texts are concatenated to a target",
+   "begin; down '1' '2'; outcome; texts; begin; down '0' '3'; outcome; texts",
+   "* | 5: 2 / <0 2 3 4 1> / * | 5: 2 / <1 2 3 0 4>"},
+  {"each position of a move is rounded separately",
+   "begin; up 3.5 2; outcome; texts; begin; up 3 2.5; outcome; texts",
+   "* | 0: 2 / <0 1 4 3 2> / * | 0: 2 / <3 1 1 2 4>"},
+  {"a failing move leaves the list unchanged",
+   "begin; up 2 'x'; up 2 -3; down 2 -1e10; outcome; texts; reports",
+   " | 2: 2 / <0 1 2 3 4> / 13 MoveItemUp, 9 MoveItemUp, 6 MoveItemDown"},
+  {"a move leaves the shared position at its end and finds the marks again",
+   "AutoRedraw 0; setIndex 2; up 2 2; loop; now; down 0 3; loop; now", "0 / 0: 2 / 4 / 3: 2"},
+  {"two slots may hold the same item",
+   "AutoRedraw 0; down 1 -1; setText 1 'z'; setIndex 0; texts; now; down 1 1; setIndex 4; now",
+   "<z z 2 3 4> / 0: z z / 4: 4"},
+  {"a sort moves items and marks but no numbers",
+   "fill 0; AutoRedraw 0; addKey 'same' 0; addKey 'same' 1; addKey 'first' 2; addKey 'same' 3;"
+   "addKey 'same' 4; addKey 'same' 5; setIndex 2; setTop 2; sort 1; keys; outcome; new; setIndex 3;"
+   "now", "<245310> / AutoRedraw ListIndex TopIndex* | 2: first / 5 / 3: same"},
 };
+// clang-format on
 
-TEST_F(Ordering, ASortMovesItemsAndMarksButNoNumbers) {
-  fill({"same", "same", "first", "same", "same", "same"}, false);
-  list.TopIndex(2);
-  const int top = list.TopIndex();
-  list.Sort(cAscending);
-  std::string keys;
-  for (int i = 0; i < 6; ++i) keys += item(i).Key;
-  EXPECT_EQ(keys, "245310");
-  EXPECT_EQ(list.TopIndex(), top);
-  EXPECT_EQ(list.ListIndex(), 2);
-  EXPECT_EQ(list.NewIndex(), 5);
-  EXPECT_TRUE(isSelectedAlone(0));
-  list.ListIndex(3);
-  EXPECT_TRUE(isSelectedAlone(3));
-}
-
-TEST_F(Ordering, MovesTakeTheItemsOnTheWayAlong) {
-  enum Direction { up, down };
-  const struct {
-    Direction direction;
-    Variant item, count;
-    const char* result;
-    int listIndex, frames;
-    const char* reports = "";
-  } cases[] = {
-      {up, 2, 1, "a c b d e", 1, 1},
-      {up, "2", "5", "c a b d e", 0, 1},
-      {up, 0, 3, "a b c d e", 2, 0},
-      {down, Variant(), 2, "b c a d e", 4, 1},
-      {down, 2, 9, "a b d e c", 4, 1},
-      {down, 4, 1, "a b c d e", 2, 0},
-      // A bad index.
-      {up, "x", 1, "a b c d e", 2, 0},
-      // A negative count loses the item at the target.
-      {up, 1, -3, "a b c d b", 5, 1},
-      {down, 2, -2, "c b c d e", 0, 1},
-      // Two texts are concatenated: past the end, and index 3.
-      {down, "1", "2", "a c d e b", 5, 1},
-      {down, "0", "3", "b c d a e", 5, 1},
-      // Each position is rounded separately.
-      {up, 3.5, 2, "a b e d c", 0, 1},
-      {up, 3, 2.5, "d b b c e", 0, 1},
-      // A failure leaves the list unchanged.
-      {up, 2, "x", "a b c d e", 2, 0, "13 MoveItemUp"},
-      {up, 2, -3, "a b c d e", 2, 0, "9 MoveItemUp"},
-      {down, 2, -1e10, "a b c d e", 2, 0, "6 MoveItemDown"},
-  };
-  for (const auto& c : cases) {
-    fill({"a", "b", "c", "d", "e"});
-    if (c.direction == up)
-      list.MoveItemUp(c.item, c.count);
-    else
-      list.MoveItemDown(c.item, c.count);
-    EXPECT_EQ(texts(), c.result) << c.item.toText() << " by " << c.count.toText();
-    EXPECT_EQ(list.ListIndex(), c.listIndex) << c.result;
-    EXPECT_EQ(painted(), c.frames) << c.result;
-    EXPECT_EQ(reports(), c.reports) << c.result;
-    EXPECT_EQ(changes, 0);
-  }
-}
-
-TEST_F(Ordering, MovesLeaveMarksAndTheSharedPositionRight) {
-  fill({"a", "b", "c", "d", "e"}, false);
-  list.MoveItemUp(2, 2);
-  EXPECT_EQ(list.state().LoopIndex, 0);
-  EXPECT_TRUE(isSelectedAlone(0));
-  list.MoveItemDown(0, 3);
-  EXPECT_EQ(list.state().LoopIndex, 4);
-  list.MoveItemDown(1, -1);
-  // Both slots hold the same item.
-  list.ItemText(1, "z");
-  list.ListIndex(0);
-  EXPECT_EQ(texts(), "z z d c e");
-  EXPECT_TRUE(item(1).Selected.isTrue());
-  list.MoveItemDown(1, 1);
-  list.ListIndex(4);
-  EXPECT_TRUE(isSelectedAlone(4));
-}
+using Ordering = ListScript;
+TEST_P(Ordering, GivesItsOutputs) { check(); }
+INSTANTIATE_TEST_SUITE_P(Core, Ordering, testing::ValuesIn(scenarios), nameOf);
 
 }  // namespace
 }  // namespace norvane

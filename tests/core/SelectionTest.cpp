@@ -74,18 +74,5 @@ TEST(SelectionTest, AnAssignmentWithoutScrollArmsTheNext) {
   EXPECT_EQ(own.TopIndex(), 50);
 }
 
-TEST_F(HearingListTest, RemovingTheSelectedLeavesTheOthers) {
-  for (int set = 0; set < 1 << 5; ++set) {
-    fill(5);
-    list.AutoRedraw(set % 3 != 0);
-    for (int i = 0; i < 5; ++i) list.ItemSelected(i, (set >> i & 1) != 0);
-    std::string others;
-    for (int i = 0; i < 5; ++i)
-      if (!item(i).Selected) others += (others.empty() ? "" : " ") + item(i).Text;
-    list.ItemsSelectedRemove();
-    EXPECT_EQ(texts(), others);
-  }
-}
-
 }  // namespace
 }  // namespace norvane

@@ -15,16 +15,5 @@ TEST_F(Colours, AreWrittenInHexadecimal) {
   EXPECT_EQ(VBColor2HTML(-1), "FF0000");
 }
 
-TEST_F(Colours, GoToAListFile) {
-  const struct {
-    std::string_view text;
-    std::string_view written;
-  } cases[] = {{"def", "   def"},    {"Def", "FFFFFF"}, {"2.5", "020000"},
-               {"&HFF80", "800000"}, {"-1", "FF0000"},  {"4227327", "FF8040"}};
-  for (const auto& [text, written] : cases) EXPECT_EQ(GetCorrectColor(text), written) << text;
-  EXPECT_EQ(GetCorrectColor("4294967295"), "");
-  EXPECT_EQ(reports(), "6 GetCorrectColor");
-}
-
 }  // namespace
 }  // namespace norvane

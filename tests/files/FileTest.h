@@ -48,6 +48,22 @@ class FileTest : public ListTest, protected __nvList {
     EXPECT_EQ(list.ItemsCount(), 0) << what;
   }
 
+  /// Every field of an item except its pictures.
+  static std::string told(const ListItem& item) {
+    std::string result = item.Text + "|";
+    for (const Boolean flag : {item.Checked, item.AllowEdit, item.Enabled, item.Selected, item.Bold,
+                               item.Italic, item.Underline})
+      result += flag.number() == -1 ? '1' : flag.number() == 0 ? '0' : '?';
+    result += " " + std::to_string(item.Alignment);
+    for (const Variant& colour : {item.BackColor, Variant(item.BackColorDis), item.BackColorSelect,
+                                  item.ForeColor, Variant(item.ForeColorDis), item.ForeColorSelect})
+      result += " " + colour.toText();
+    return result + "|" + item.Key + "|" + item.Tag.toText();
+  }
+  static std::string ordinaryItem(const std::string& text) {
+    return text + "|0010000 0 def -2147483626 def def -2147483631 def||";
+  }
+
   /// Runs `operation` with the first, the second, ... file operation failing, until none fails any
   /// more, and returns the events of each run.
   template <class Operation>

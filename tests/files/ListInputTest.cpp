@@ -5,24 +5,7 @@
 namespace norvane {
 namespace {
 
-class ListInput : public FileTest {
- protected:
-  /// Every field of an item except its pictures.
-  static std::string told(const ListItem& item) {
-    std::string result = item.Text + "|";
-    for (const Boolean flag : {item.Checked, item.AllowEdit, item.Enabled, item.Selected, item.Bold,
-                               item.Italic, item.Underline})
-      result += flag.number() == -1 ? '1' : flag.number() == 0 ? '0' : '?';
-    result += " " + std::to_string(item.Alignment);
-    for (const Variant& colour : {item.BackColor, Variant(item.BackColorDis), item.BackColorSelect,
-                                  item.ForeColor, Variant(item.ForeColorDis), item.ForeColorSelect})
-      result += " " + colour.toText();
-    return result + "|" + item.Key + "|" + item.Tag.toText();
-  }
-  static std::string ordinary(const std::string& text) {
-    return text + "|0010000 0 def -2147483626 def def -2147483631 def||";
-  }
-};
+using ListInput = FileTest;
 
 TEST_F(ListInput, ReadsEveryVersion) {
   const std::string old = "12345678901    2ab", ab = text("ab"), properties = fields() + noIcons,
@@ -33,12 +16,12 @@ TEST_F(ListInput, ReadsEveryVersion) {
     bool hasProperties;
     std::string record;
     std::string told;
-  } cases[] = {{-1, false, "", ordinary("")},
+  } cases[] = {{-1, false, "", ordinaryItem("")},
                {269, true, properties, some},
-               {270, false, old, ordinary("ab")},
+               {270, false, old, ordinaryItem("ab")},
                {270, true, old + properties, "ab" + some},
                {271, true, ab + properties, "ab" + some},
-               {273, false, ab, ordinary("ab")},
+               {273, false, ab, ordinaryItem("ab")},
                {273, true, ab + all, "ab|1101101 1 10 11 12 13 14 15|k|t"}};
   for (const auto& [version, hasProperties, record, expected] : cases) {
     input(header(1, hasProperties, version) + record + record);
@@ -53,13 +36,13 @@ TEST_F(ListInput, GivesDefaultsWithoutTheArgument) {
       text("a") + fields("no hex") + flagsAndKeys("", "") + "\1" + text("") + "\1" + text("y");
   input(header(1, true) + record + record, false);
   EXPECT_EQ(events() + texts() + fileOf(item(0).Icon), "a anone");
-  EXPECT_EQ(told(item(0)), ordinary("a"));
+  EXPECT_EQ(told(item(0)), ordinaryItem("a"));
   // Keys and tags that are not requested stay in the file and are misread.
   const std::string readAsTagAndIcons = zeros(6), readAsText = zeros(6);
   input(header(1, true) + text("a") + fields() + flagsAndKeys(readAsTagAndIcons, "").substr(0, 14) +
             readAsText + zeros(52),
         false);
-  EXPECT_EQ(events() + told(item(0)) + texts(), ordinary("a") + "a ");
+  EXPECT_EQ(events() + told(item(0)) + texts(), ordinaryItem("a") + "a ");
 }
 
 TEST_F(ListInput, ReadsTheSecondPictureAsIcon) {

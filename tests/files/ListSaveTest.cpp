@@ -51,10 +51,10 @@ TEST_F(ListSave, WritesSixCharactersForAnyColour) {
     Variant colour;
     std::string written;
     std::string report;
-  } cases[] = {{"255", "FF0000", ""},
-               {Variant(), "FFFFFF", ""},
-               {-256, "00FF00", ""},
-               {"4294967295", "      ", "6 GetCorrectColor"}};
+  } cases[] = {{"255", "FF0000", ""},    {"def", "   def", ""},
+               {"Def", "FFFFFF", ""},    {"2.5", "020000", ""},
+               {"&HFF80", "800000", ""}, {Variant(), "FFFFFF", ""},
+               {-256, "00FF00", ""},     {"4294967295", "      ", "6 GetCorrectColor"}};
   for (const auto& [colour, written, report] : cases) {
     list.ItemsClear();
     list.ItemsAdd({.aText = "", .aBackColor = colour});

@@ -37,60 +37,55 @@ class FilesTest : public testing::Test {
     return log->toPlainText();
   }
 
+  QString write(const char* name, const QByteArray& bytes) {
+    QFile file(folder.filePath(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+    return file.fileName();
+  }
+
   QTemporaryDir folder;
   QString path = folder.filePath("a list.nvl");
   std::unique_ptr<GalleryWindow> window;
   EventLog* log = nullptr;
 };
 
-TEST_F(FilesTest, aListComesBackFromItsFileAndTheProgressIsShown) {
+TEST_F(FilesTest, AListComesBackFromItsFileAndTheProgressIsShown) {
   showPage("files");
   norvane::nvList& files = list("files");
   const int count = files.ItemsCount();
   files.ItemBold(1, true);
+  files.ListIndex(3);
   saveListFile(files, path, Properties::kept);
   EXPECT_TRUE(isShown("Saving item "));
   log->write("saved");
   EXPECT_TRUE(logged().contains(QString("ListSaving   Index = %1\nsaved").arg(count - 1)));
-
   files.ItemsClear();
   openListFile(files, path, Properties::kept);
   ASSERT_EQ(files.ItemsCount(), count);
   EXPECT_TRUE(files.ItemBold(1));
-
-  openListFile(files, folder.filePath("missing"), Properties::kept);
-  EXPECT_TRUE(logged().contains("ErrorListInput"));
-  EXPECT_EQ(files.ItemsCount(), count);
-}
-
-TEST_F(FilesTest, theSelectedItemOfAFileIsTheCurrentOne) {
-  showPage("files");
-  norvane::nvList& files = list("files");
-  files.ListIndex(3);
-  saveListFile(files, path, Properties::kept);
-  files.ListIndex(7);
-  openListFile(files, path, Properties::kept);
-  EXPECT_EQ(files.ListIndex(), 3);
+  EXPECT_EQ(files.ListIndex(), 3) << "the selected item is the current one";
   files.ListIndex(7);
   EXPECT_EQ(files.ItemsSelectCount(), 1);
 
+  openListFile(files, folder.filePath("missing"), Properties::kept);
+  EXPECT_TRUE(logged().endsWith("ErrorListInput"));
+  EXPECT_EQ(files.ItemsCount(), count);
   // A truncated file leaves the list empty and the tools disabled.
-  files.ListIndex(7);
   ASSERT_TRUE(QFile::resize(path, 100));
   openListFile(files, path, Properties::kept);
   EXPECT_EQ(files.ItemsCount(), 0);
-  EXPECT_TRUE(logged().endsWith("ErrorListInput"));
+  EXPECT_TRUE(logged().endsWith("ErrorListInput   (2 times)"));
   for (const char* tool : {"A-Z", "\u25B2", "\u25BC"})
     EXPECT_FALSE(window->findChild<QToolButton*>(tool)->isEnabled()) << tool;
 }
 
-TEST_F(FilesTest, anOlderFileBringsTheTextsAndItsReadingIsShown) {
+TEST_F(FilesTest, AnOlderFileBringsTheTextsAndItsReadingIsShown) {
   showPage("files");
   norvane::nvList& files = list("files");
   const int count = files.ItemsCount();
   files.ItemText(1, "\u00c4 \u20ac");
   EXPECT_EQ(saveOlderFile(files, path), "");
-
   files.ItemsClear();
   openListFile(files, path, Properties::kept);
   EXPECT_TRUE(isShown(QString("Reading item 0 of %1").arg(count)));
@@ -120,13 +115,12 @@ TEST_F(FilesTest, aQueryFillsTheListAndABadOneIsTold) {
 }
 
 TEST_F(FilesTest, anyFileIsOpenedByItsContentsOrRefused) {
-  struct Case {
+  const struct {
     const char* name;
     QByteArray bytes;
     const char* shown;  ///< the first item, or the beginning of the message
     int count;          ///< 0: refused
-  };
-  const Case cases[] = {
+  } cases[] = {
       {"a text", "one\r\ntwo", "one", 2},
       {"JSON Lines", " {\"Text\":\"eins\"}\n{\"x\":1}\n{", "eins", 2},
       {"a list file", QByteArray("\0\0\0\0\0\x11\x01\2\0\0\0ab", 13), "ab", 1},
@@ -135,16 +129,13 @@ TEST_F(FilesTest, anyFileIsOpenedByItsContentsOrRefused) {
   showPage("files");
   norvane::nvList& files = list("files");
   for (const auto& [name, bytes, shown, count] : cases) {
-    QFile file(folder.filePath(name));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-    file.close();
-    window->openFile(file.fileName());
+    const QString path = write(name, bytes);
+    window->openFile(path);
     if (count > 0) {
       EXPECT_EQ(files.ItemsCount(), count) << name;
       EXPECT_EQ(files.ItemText(0), shown) << name;
     } else {
-      EXPECT_TRUE(logged().contains(file.fileName() + " " + shown)) << name;
+      EXPECT_TRUE(logged().contains(path + " " + shown)) << name;
     }
   }
   EXPECT_TRUE(logged().contains("No field is called x"));
@@ -155,11 +146,8 @@ TEST_F(FilesTest, anyFileIsOpenedByItsContentsOrRefused) {
 
 TEST_F(FilesTest, aLongTextIsStoppedWhenAsked) {
   showPage("files");
-  QFile file(path);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write(QByteArray("line\n").repeated(50000));
-  file.close();
-  openAnyFile(list("files"), path, Properties::kept, [](int percent) { return percent < 50; });
+  openAnyFile(list("files"), write("text", QByteArray("line\n").repeated(50000)), Properties::kept,
+              [](int percent) { return percent < 50; });
   EXPECT_GE(list("files").ItemsCount(), 25000);
   EXPECT_LT(list("files").ItemsCount(), 50000);
 }

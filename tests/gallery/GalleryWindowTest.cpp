@@ -1,9 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QApplication>
-#include <QCheckBox>
-#include <QMouseEvent>
-#include <QToolButton>
+#include <QTest>
 #include <set>
 
 #include <examples/gallery/GalleryWindow.h>
@@ -19,31 +18,17 @@ class GalleryWindowTest : public testing::Test {
     QCoreApplication::processEvents();
   }
 
-  norvane::NvListWidget* listNamed(const QString& name) {
+  norvane::NvListWidget* listNamed(const char* name) {
     return window.findChild<norvane::NvListWidget*>(name);
   }
-
-  void press(QWidget* widget, QPoint at) {
-    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-      QMouseEvent event(type, at, widget->mapToGlobal(at), Qt::LeftButton,
-                        type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
-                        Qt::NoModifier);
-      QApplication::sendEvent(widget, &event);
-    }
-    QCoreApplication::processEvents();
-  }
-
-  void use(const char* tool) {
-    field<QToolButton>(tool)->click();
+  /// A tool or a check box.
+  QAbstractButton* button(const char* name) { return window.findChild<QAbstractButton*>(name); }
+  void use(const char* name) {
+    button(name)->click();
     QCoreApplication::processEvents();
   }
 
   QString lastLogged() { return window.findChild<EventLog*>()->toPlainText().split('\n').last(); }
-
-  template <class Widget>
-  Widget* field(const char* name) {
-    return window.findChild<Widget*>(name);
-  }
 
   GalleryWindow window{allPages({"A text", {"one", "two", "three"}})};
 };
@@ -54,7 +39,7 @@ TEST_F(GalleryWindowTest, everyPageIsChosenByItsRowAndShowsSomethingElse) {
   std::set<QString> titles;
   for (int i = 0; i < names.ItemsCount(); ++i) {
     const float y = names.IndentTop() + (static_cast<float>(i) + 0.5F) * names.MinHeight();
-    press(chooser, QPoint(20, static_cast<int>(y)));
+    QTest::mouseClick(chooser, Qt::LeftButton, {}, QPoint(20, static_cast<int>(y)));
     EXPECT_EQ(names.ListIndex(), i);
     titles.insert(window.windowTitle());
   }
@@ -69,7 +54,7 @@ TEST_F(GalleryWindowTest, theToolsWorkOnTheListAndFollowIt) {
   EXPECT_EQ(lastLogged(), "AllowEdit = True");
   list.AllowItemMoving(true);
   QCoreApplication::processEvents();
-  EXPECT_TRUE(field<QToolButton>("Move")->isChecked());
+  EXPECT_TRUE(button("Move")->isChecked());
 
   // After sorting, the current item is still the same one.
   list.ListIndex(1);
@@ -88,17 +73,17 @@ TEST_F(GalleryWindowTest, theSheetsFollowTheListAndItsCurrentItem) {
   list.ListIndex(2);
   list.ItemBold(2, true);
   QCoreApplication::processEvents();
-  EXPECT_TRUE(field<QCheckBox>("ItemBold")->isChecked());
+  EXPECT_TRUE(button("ItemBold")->isChecked());
 
   // Without a current item the first selected one is shown; without a selection, nothing.
   list.ItemSelected(1, true);
   EXPECT_EQ(list.ListIndex(), -1);
   QCoreApplication::processEvents();
-  field<QCheckBox>("ItemItalic")->click();
+  button("ItemItalic")->click();
   EXPECT_TRUE(list.ItemItalic(1));
   list.ItemsClear();
   QCoreApplication::processEvents();
-  EXPECT_FALSE(field<QCheckBox>("ItemItalic")->isEnabled());
+  EXPECT_FALSE(button("ItemItalic")->isEnabled());
 }
 
 }  // namespace

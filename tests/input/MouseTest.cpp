@@ -35,15 +35,20 @@ TEST_F(Mouse, TheCheckZoneGoesWithTheContent) {
   EXPECT_EQ(zone(), "0-9");
 }
 
-TEST_F(Mouse, ARangeFarOutsideTheListIsWalkedAsFarAsTheListGoes) {
-  fill(20);
-  list.MultiSelect(true);
-  silent();
-  list.MoveItemDown(0, -2e9);
-  key(down);
-  ASSERT_LT(list.state().SelectAnchor, -1'999'999'000);
-  press(3, 1);
-  EXPECT_EQ(selected(), "0 1 2 3");
+TEST_F(Mouse, TheEditBoxLooksLikeItsRow) {
+  list.AllowEdit(true);
+  for (const int index : {2, 3}) list.ItemAllowEdit(index, true);
+  list.ForeColor(0x123456);
+  list.ItemText(2, "Füße");
+  click(2), click(2);
+  EXPECT_EQ(editing(box()), "Füße (1, 29) 197x14");
+  EXPECT_EQ(box().font, list.Font());
+  EXPECT_EQ(box().foreColor, 0x123456);
+  EXPECT_TRUE(box().hasFocus);
+  EXPECT_EQ(box().selectionLength, 4);
+  box().refusesFocus = true;
+  list.SetEdit("3");
+  EXPECT_EQ(reports(), "5 SetEdit");
 }
 
 TEST_F(Mouse, HandlersSeeWhatHasHappenedSoFar) {

@@ -38,6 +38,9 @@ const Scenario scenarios[] = {
    "click 2 1; now; click 4 2; now; click 1 2; now; click 4 2; now; click 0 3; now; click 3 2; now;"
    "MultiSelect 0; click 2 2; now",
    "2: 0 1 2 / 2: 2 / 4: 2 4 / 0: 0 1 2 / 2:  / 4: 4 / 1: 1 4 / 4: 1 / 0: 0 / 0: 0 / 2: 2"},
+  {"a range far outside the list is walked as far as the list goes",
+   "fill 20; MultiSelect 1; silent; down 0 -2000000000; key 40; anchor; press 3 1; now",
+   "-2000000000 / 3: 0 1 2 3"},
   {"a failing handler ends the press",
    "on MouseDown throw; press 2; outcome; reports; release 2; on ItemCheck throw; pressAt 8 36;"
    "outcome; reports",
@@ -155,6 +158,19 @@ const Scenario scenarios[] = {
    "AllowEdit 1; editable 0 1; edit 40; edit -1; edit 'x'; reports; editing;"
    "setIndex 1; edit 1; select 0; character 13; reports; silent; character 13; editing",
    "9 SetEdit, 9 SetEdit, 13 SetEdit / closed / kept / 9 Text1_KeyPress / taken / closed"},
+  {"the box has the place of the style and of the last press",
+   "fill 1; BorderVisible 0; AllowEdit 1; editable 0; Style 3; edit 0; editing; Style 0; edit 0;"
+   "editing; pressAt 50 0; Style 1; edit 0; editing; releaseAt 50 50; IconW 20; IndentLeft 5;"
+   "MinHeight 20; Style 2; edit 0; editing",
+   "0 (37, -10) 161x14 / 0 (1, -10) 197x14 / 0 (18, 3) 180x14 / 0 (27, 29) 171x14"},
+  {"a press beside the row drops the text",
+   "AllowEdit 1; fill 40; editable 2; click 2; click 2; click 5; editing; click 2; click 2;"
+   "pressAt 50 2; releaseAt 50 2; editing; click 2; click 2; step 0 1; editing",
+   "closed / closed / closed"},
+  {"nothing else closes the box",
+   "AllowEdit 1; fill 40; editable 2; click 2; click 2; pressAt 50 40 2; releaseAt 50 40 2; leave;"
+   "key 27; key 40; key 34; drag 2; drag 3; setIndex 30; setTop 30; redraw; editing",
+   "2 (1, 29) 197x14"},
   {"a scroll drops the text", "AllowEdit 1; fill 40; editable 2; edit 2; wheel 120; editing;"
    "wheel -120; editing", "2 (1, -10) 197x14 / closed"},
 };

@@ -41,29 +41,24 @@ TEST_F(ToolTipTest, MakesOneWindowForAForm) {
   EXPECT_FALSE(tips.Create(Variant(makeRef<Object>())));
   application.hasTipWindows = false;
   EXPECT_FALSE(tips.Create(form));
+  // Without a window everything is ignored.
+  EXPECT_FALSE(tips.AddTool("no control", "text"));
+  tips.ToolText("no control", "text");
+  tips.BackColor(1);
+  EXPECT_EQ(tips.BackColor() + tips.DelayTime(2) + tips.Margin(0) + tips.ToolCount(), 0);
 
   application.hasTipWindows = true;
   EXPECT_TRUE(tips.Create(form).isTrue());
   EXPECT_EQ(tips.hwnd(), window()->handle());
   EXPECT_TRUE(tips.Create(Variant(makeRef<Window>(8))));
   EXPECT_EQ(application.tipWindows.size(), 1U);
-
   nvToolTip().Create(form);
   EXPECT_EQ(application.tipWindows.size(), 2U);
   EXPECT_FALSE(window());
-}
-
-TEST_F(ToolTipTest, DoesNothingWithoutAWindow) {
-  EXPECT_FALSE(tips.AddTool("no control", "text"));
-  tips.ToolText("no control", "text");
-  tips.BackColor(1);
-  tips.MaxTipWidth(1);
-  EXPECT_EQ(tips.BackColor() + tips.ForeColor() + tips.DelayTime(2) + tips.Margin(0), 0);
-  EXPECT_EQ(tips.MaxTipWidth() + tips.ToolCount(), 0);
   EXPECT_EQ(reports(), "");
 }
 
-TEST_F(ToolTipTest, AddsAToolOnce) {
+TEST_F(ToolTipTest, AddsAToolOnceAndReadsItsTextBackWhole) {
   tips.Create(form);
   EXPECT_TRUE(tips.AddTool(one, "first").isTrue());
   EXPECT_FALSE(tips.AddTool(one, "again"));
@@ -72,6 +67,12 @@ TEST_F(ToolTipTest, AddsAToolOnce) {
   EXPECT_EQ(tool.flags, 17U);
   EXPECT_EQ(tool.owner, 7);
   EXPECT_EQ(tool.id, 1);
+  tips.ToolText(one, std::string(1000, 'x') + "ü");
+  tips.ToolText(two, std::string("cut\0off", 7));
+  tips.ToolText(control(3), "nobody's");
+  EXPECT_EQ(tips.ToolText(one), std::string(1000, 'x') + "ü");
+  EXPECT_EQ(tips.ToolText(two), "cut");
+  EXPECT_EQ(tips.ToolText(control(3)), "");
 
   EXPECT_TRUE(tips.RemoveTool(one).isTrue());
   EXPECT_FALSE(tips.RemoveTool(one));
@@ -85,19 +86,6 @@ TEST_F(ToolTipTest, CountsToolsIn16Bits) {
   EXPECT_TRUE(tips.AddTool(one, "one too many"));
   EXPECT_EQ(tips.ToolCount(), 0);
   EXPECT_EQ(reports(), "6 ToolCount");
-}
-
-TEST_F(ToolTipTest, ReadsTextsBackWhole) {
-  tips.Create(form);
-  tips.AddTool(one, "short");
-  tips.AddTool(two, "second");
-  tips.ToolText(one, std::string(1000, 'x') + "ü");
-  EXPECT_EQ(tips.ToolText(one), std::string(1000, 'x') + "ü");
-  tips.ToolText(control(3), "nobody's");
-  EXPECT_EQ(tips.ToolText(control(3)), "");
-  EXPECT_EQ(tips.ToolText(two), "second");
-  tips.ToolText(two, std::string("cut\0off", 7));
-  EXPECT_EQ(tips.ToolText(two), "cut");
 }
 
 TEST_F(ToolTipTest, DelaysOfFourKinds) {
@@ -154,6 +142,9 @@ TEST_F(ToolTipTest, ControlsWithoutAWindowTakeNoTips) {
 
 TEST_F(ToolTipTest, QuickTipsTakeOneCall) {
   QI quick;
+  quick.Create(one, one, "no form", 3000, 200);
+  quick.Remove(one);
+  EXPECT_EQ(reports(), "");
   quick.Create(form, one, "first", 3000, 200);
   quick.Create(form, two, "second", 4000, 0);
   ASSERT_EQ(application.tipWindows.size(), 1U);
@@ -166,21 +157,15 @@ TEST_F(ToolTipTest, QuickTipsTakeOneCall) {
   EXPECT_EQ(window()->toolCount(), 2);
   EXPECT_EQ(window()->tools()[0].text, "another");
   EXPECT_EQ(window()->maxTipWidth(), 100);
-
-  quick.Remove(one);
-  ASSERT_EQ(window()->toolCount(), 1);
-  EXPECT_EQ(window()->tools()[0].id, 2);
-}
-
-TEST_F(ToolTipTest, AFailingStepOfAQuickTipDoesNotStopTheOthers) {
-  QI quick;
-  quick.Create(one, one, "no form", 3000, 200);
-  quick.Remove(one);
-  EXPECT_EQ(reports(), "");
+  // A failing step does not stop the others.
   quick.Create(form, "no control", "text", 3000, 200);
   EXPECT_EQ(reports(), "424 AddTool, 424 ToolText");
   EXPECT_EQ(window()->delay(TipDelay::autopop), 3000);
   EXPECT_EQ(window()->maxTipWidth(), 200);
+
+  quick.Remove(one);
+  ASSERT_EQ(window()->toolCount(), 1);
+  EXPECT_EQ(window()->tools()[0].id, 2);
 }
 
 }  // namespace

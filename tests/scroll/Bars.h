@@ -11,6 +11,13 @@
 #include <nvlist/scroll/nvVScroll.h>
 
 namespace norvane {
+namespace scroll {
+
+inline std::ostream& operator<<(std::ostream& out, Axis axis) {
+  return out << (axis == Axis::vertical ? "Vertical" : "Horizontal");
+}
+
+}  // namespace scroll
 
 /// The colour with which the last Cls filled a surface.
 inline Colour background(HeadlessContainer& place) {

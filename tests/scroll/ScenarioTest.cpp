@@ -125,12 +125,12 @@ TEST_P(Scenarios, GivesItsOutputs) {
 
 std::string nameOf(const testing::TestParamInfo<Scenarios::ParamType>& test) {
   const auto& [axis, scenario] = test.param;
-  return (axis == Axis::vertical ? "Vertical_" : "Horizontal_") + std::string(scenario.name);
+  return testing::PrintToString(axis) + "_" + scenario.name;
 }
 
 constexpr Axis axes[] = {Axis::vertical, Axis::horizontal};
 
-INSTANTIATE_TEST_SUITE_P(Bar, Bars, testing::ValuesIn(axes));
+INSTANTIATE_TEST_SUITE_P(Bar, Bars, testing::ValuesIn(axes), testing::PrintToStringParamName());
 INSTANTIATE_TEST_SUITE_P(Bar, Scenarios,
                          testing::Combine(testing::ValuesIn(axes), testing::ValuesIn(scenarios)),
                          nameOf);
