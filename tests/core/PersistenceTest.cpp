@@ -126,6 +126,23 @@ TEST_F(Persistence, ReadingForgetsTheHandAndTheFormsLaterFont) {
   EXPECT_EQ(propertyText(bag), "");
 }
 
+TEST_F(Persistence, AFormWithoutAmbientPropertiesIsServed) {
+  struct BareForm : HeadlessContainer {
+    Boolean UserMode() override { throw Failure::invalidCall(); }
+    norvane::Font AmbientFont() override { throw Failure::invalidCall(); }
+  } form;
+  nvList onForm(form);
+  onForm.UserControl_InitProperties();
+  EXPECT_TRUE(form.turnWheel(120));
+  ASSERT_TRUE(onForm.Font());
+  EXPECT_EQ(onForm.Font()->Name, "Tahoma");
+  HeadlessContainer empty;
+  empty.ambientFont = nullptr;
+  nvList onEmpty(empty);
+  onEmpty.UserControl_InitProperties();
+  EXPECT_TRUE(onEmpty.Font());
+}
+
 TEST(PropertyText, TellsTheLineThatCannotBeRead) {
   const auto failure = [](std::string_view text) {
     try {

@@ -1,5 +1,7 @@
 #include "FileTest.h"
 
+#include <nvlist/files/colourTexts.h>
+
 namespace norvane {
 namespace {
 
@@ -47,6 +49,9 @@ TEST_F(ListSave, WritesEveryProperty) {
 }
 
 TEST_F(ListSave, WritesSixCharactersForAnyColour) {
+  EXPECT_EQ(CHex(5, 2) + " " + CHex(-2, 2), "05 FFFFFFFE");
+  EXPECT_EQ(RGB2HTML(1, 0xAB, 16), "01AB10");
+  EXPECT_EQ(VBColor2HTML(-1), "FF0000");
   const struct {
     Variant colour;
     std::string written;

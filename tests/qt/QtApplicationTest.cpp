@@ -25,7 +25,7 @@ QByteArray contents(const QString& path) {
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
 }
 
-TEST(QtApplicationTest, readsSettingsByTheLastLevelOfTheKey) {
+TEST(QtApplicationTest, ReadsSettingsByTheLastLevelOfTheKey) {
   QSettings settings(QSettings::UserScope, "Norvane");
   settings.setValue("Folder", "logs/of, everything");
   settings.setValue("Number", 7);
@@ -46,7 +46,7 @@ TEST(QtApplicationTest, readsSettingsByTheLastLevelOfTheKey) {
   EXPECT_EQ(application.readSetting("Software\\Norvane", "Quoted").toText(), "x,y");
 }
 
-TEST(QtApplicationTest, namesTheProgramAndTheTime) {
+TEST(QtApplicationTest, NamesTheProgramAndTheTime) {
   struct Named : QtProgram {
     std::string programPath() override { return path; }
     std::string path;
@@ -72,7 +72,7 @@ TEST(QtApplicationTest, namesTheProgramAndTheTime) {
 }
 
 /// The active window, which is the parent of the box, is destroyed while the box is open.
-TEST(QtApplicationTest, aBoxSurvivesTheEndOfItsWindow) {
+TEST(QtApplicationTest, ABoxSurvivesTheEndOfItsWindow) {
   QtApplication application;
   for (const bool isAbout : {false, true}) {
     auto window = std::make_unique<QWidget>();
@@ -92,16 +92,7 @@ TEST(QtApplicationTest, aBoxSurvivesTheEndOfItsWindow) {
   }
 }
 
-TEST(QtApplicationTest, appendsBytesAsTheyAre) {
-  const QTemporaryDir folder;
-  const std::string path = folder.path().toStdString() + "\\log.txt";
-  QtApplication application;
-  application.appendToFile(path, "one\r\n");
-  application.appendToFile(path, "two\n");
-  EXPECT_EQ(contents(folder.filePath("log.txt")), "one\r\ntwo\n");
-}
-
-TEST(QtApplicationTest, aReportWritesTheLogAndShowsABox) {
+TEST(QtApplicationTest, AReportWritesTheLogAndShowsABox) {
   const QTemporaryDir folder;
   QSettings settings(QSettings::UserScope, "Norvane");
   settings.setValue("ErrorLog", folder.path());
@@ -117,16 +108,19 @@ TEST(QtApplicationTest, aReportWritesTheLogAndShowsABox) {
     box->accept();
   });
   closing.start(5);
+  application.appendToFile(folder.path().toStdString() + "\\NorvaneError.txt", "\xFF\n");
   report({9, "<b>Subscript</b> out of range", "ItemText", 12, "Klassenmodul", "cItem"});
   ASSERT_EQ(shown.size(), 1);
   EXPECT_TRUE(shown[0].contains("Error description: <b>Subscript</b> out of range\n"));
-  EXPECT_TRUE(contents(folder.filePath("NorvaneError.txt")).contains("Error no.: 9\r\n"));
+  const QByteArray log = contents(folder.filePath("NorvaneError.txt"));
+  EXPECT_TRUE(log.startsWith("\xFF\n")) << "bytes are appended as they are";
+  EXPECT_TRUE(log.contains("Error no.: 9\r\n"));
 
   settings.remove("ErrorLog");
   settings.sync();
 }
 
-TEST(QtApplicationTest, ensureAddsWhatTheHostHasNotMade) {
+TEST(QtApplicationTest, EnsureAddsWhatTheHostHasNotMade) {
   {
     Program hosts;
     QtApplication::ensure();

@@ -1,35 +1,20 @@
-#include <gtest/gtest.h>
+#include <nvlist/platform/qt/QtRecordset.h>
 
 #include <QSqlDatabase>
 #include <QSqlError>
 
-#include <nvlist/platform/qt/NvListWidget.h>
-#include <nvlist/platform/qt/QtApplication.h>
-#include <nvlist/platform/qt/QtRecordset.h>
-
 #include "../failureOf.h"
+#include "WidgetTest.h"
 
 namespace norvane {
 namespace {
 
 enum class Direction { both, forwardOnly };
 
-class Reports final : public ErrorHandler {
- public:
-  std::string text;
-
-  void RaiseError(std::string_view, const ApplicationFacts&, std::int32_t Number,
-                  std::string_view Description, std::string_view, std::int32_t, std::string_view,
-                  std::string_view) override {
-    text.append(std::to_string(Number)).append(" ").append(Description).append(";");
-  }
-};
-
 /// A list and a database in memory with four places, one of them without a name.
-class QtRecordsetTest : public testing::Test {
+class QtRecordsetTest : public WidgetTest {
  protected:
   QtRecordsetTest() {
-    application.registerErrorHandler(reports);
     database.setDatabaseName(":memory:");
     EXPECT_TRUE(database.open()) << database.lastError().text().toStdString();
     run("CREATE TABLE places (name TEXT, people INTEGER, area REAL, seal BLOB)");
@@ -54,21 +39,19 @@ class QtRecordsetTest : public testing::Test {
 
   /// The texts of the items after filling, and the reports.
   std::string filled(const Ref<Object>& source) {
-    list.AutoRedraw(true);
-    list.AutoCheckScroll(true);
-    list.ItemsClear();
-    list.ItemsAdd("old");
-    list.Recordset(source);
+    list().AutoRedraw(true);
+    list().AutoCheckScroll(true);
+    list().ItemsClear();
+    list().ItemsAdd("old");
+    list().Recordset(source);
     std::string result;
-    for (std::int32_t i = 0; i < list.ItemsCount(); ++i) result += list.ItemText(i) + "|";
-    return result + std::exchange(reports->text, {});
+    for (std::int32_t i = 0; i < list().ItemsCount(); ++i) result += list().ItemText(i) + "|";
+    for (const auto& box : std::exchange(application.boxes, {}))
+      result += box.text.substr(0, box.text.find("\r\nProject"));
+    return result;
   }
 
-  QtApplication application;
-  std::shared_ptr<Reports> reports = std::make_shared<Reports>();
   QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE");
-  NvListWidget widget;
-  nvList& list = widget.list();
 };
 
 TEST_F(QtRecordsetTest, fillsAListWithTheFirstField) {
@@ -80,14 +63,18 @@ TEST_F(QtRecordsetTest, fillsAListWithTheFirstField) {
 }
 
 TEST_F(QtRecordsetTest, aNullOrARefusalEndsTheFillWithTheTextOfTheDriver) {
-  EXPECT_EQ(filled(rows("SELECT seal FROM places")), "æ|94 Invalid use of Null;");
-  EXPECT_FALSE(list.AutoRedraw());
+  EXPECT_EQ(filled(rows("SELECT seal FROM places")),
+            "æ|Error no.: 94\r\nError description: Invalid use of Null");
+  EXPECT_FALSE(list().AutoRedraw());
   EXPECT_EQ(filled(makeRef<QtRecordset>(QSqlQuery(database))),
-            "old|440 Automation error: The query has no rows;");
+            "old|Error no.: 440\r\nError description: Automation error: The query has no rows");
 
   // The second row cannot be computed, which fails while rows are counted or visited.
   const QString broken = "SELECT abs(-9223372036854775807 - (people < 100000)) FROM places";
-  EXPECT_TRUE(filled(rows(broken)).starts_with("old|440 Automation error: integer overflow"));
+  EXPECT_TRUE(
+      filled(rows(broken))
+          .starts_with(
+              "old|Error no.: 440\r\nError description: Automation error: integer overflow"));
   const auto walked = rows(broken, Direction::forwardOnly);
   EXPECT_EQ(walked->Value(0)->toText(), "9223372036854775807");
   EXPECT_EQ(failureOf([&] { walked->MoveNext(); }), 440);

@@ -1,17 +1,8 @@
-#include <nvlist/platform/qt/NvListWidget.h>
+#include "WidgetTest.h"
 
-#include <gtest/gtest.h>
-
-#include <QApplication>
 #include <QCursor>
-#include <QLineEdit>
 #include <QScreen>
-#include <QTest>
 #include <QWindow>
-#include <functional>
-#include <string>
-
-#include <nvlist/platform/headless/HeadlessApplication.h>
 
 namespace norvane {
 namespace {
@@ -25,33 +16,26 @@ constexpr std::size_t thumb = 0;
 constexpr std::size_t nearButton = 1;
 constexpr std::size_t farButton = 2;
 
-/// A list of 200 by 150 pixels on a form, with a hundred long texts and both bars.
-class ScrollBarsTest : public testing::Test, protected __nvList {
+/// A list of 200 by 150 pixels with a hundred long texts and both bars.
+class ScrollBarsTest : public WidgetTest {
  protected:
   ScrollBarsTest() {
     form.resize(300, 250);
     form.move(100, 100);
-    widget.setGeometry(20, 20, 200, 150);
-    list.ScrollBars(vbBoth);
-    list.AutoRedraw(false);
-    for (int i = 0; i < 100; ++i) list.ItemsAdd(std::string(40, 'm') + std::to_string(i));
-    list.AutoRedraw(true);
-    list.CheckScroll();
-    list.addSink(*this);
-    form.show();
+    widget->setGeometry(20, 20, 200, 150);
+    list().ScrollBars(vbBoth);
+    list().AutoRedraw(false);
+    for (int i = 0; i < 100; ++i) add(std::string(40, 'm') + std::to_string(i));
+    list().AutoRedraw(true);
+    list().CheckScroll();
+    hearEvents();
+    onEvent = [this](const std::string& name) {
+      if (name == "Scroll") ++scrolls, onScroll();
+      if (name == "MouseDown") ++presses;
+    };
     moveTo(form, {280, 240});
   }
-  ~ScrollBarsTest() override {
-    EXPECT_EQ(application.boxes.size(), 0U);
-    moveTo(form, {-500, -500});
-  }
-
-  void Scroll() override {
-    ++scrolls;
-    onScroll();
-  }
-
-  void MouseDown(std::int16_t&, std::int16_t&, float&, float&) override { ++heardPresses; }
+  ~ScrollBarsTest() override { moveTo(form, {-500, -500}); }
 
   /// Mouse events as the system reports them: while the button is down, all go to the window.
   void moveTo(const QWidget& over, QPoint point) {
@@ -63,7 +47,7 @@ class ScrollBarsTest : public testing::Test, protected __nvList {
     QCoreApplication::processEvents();
   }
   void moveTo(const QtPlace& over, QPoint point) {
-    moveTo(widget, over.geometry().topLeft() + point);
+    moveTo(*widget, over.geometry().topLeft() + point);
   }
   template <class Over>
   void press(const Over& over, QPoint point) {
@@ -78,9 +62,9 @@ class ScrollBarsTest : public testing::Test, protected __nvList {
   }
 
   QImage picture(const QRect& of) {
-    return widget.grab(of).toImage().convertToFormat(QImage::Format_RGB32);
+    return widget->grab(of).toImage().convertToFormat(QImage::Format_RGB32);
   }
-  QImage picture() { return picture(widget.rect()); }
+  QImage picture() { return picture(widget->rect()); }
   QImage picture(const QtPlace& of) { return picture(of.geometry()); }
 
   /// Runs events until the list has scrolled the given number of times. Returns false on a timeout.
@@ -95,20 +79,16 @@ class ScrollBarsTest : public testing::Test, protected __nvList {
     EXPECT_EQ(scrolls, before);
   }
 
-  HeadlessApplication application;
-  QWidget form;
-  NvListWidget widget{&form};
-  nvList& list = widget.list();
-  QtPlace& vertical = childOf(widget.place(), 0);
-  QtPlace& horizontal = childOf(widget.place(), 1);
+  QtPlace& vertical = childOf(widget->place(), 0);
+  QtPlace& horizontal = childOf(widget->place(), 1);
   QPoint mouse;
   bool isDown = false;
   int scrolls = 0;
-  int heardPresses = 0;
+  int presses = 0;
   std::function<void()> onScroll = [] {};
 };
 
-TEST_F(ScrollBarsTest, aHoverShowsAndEndsWhereverThePointerLeaves) {
+TEST_F(ScrollBarsTest, AHoverShowsAndEndsWhereverThePointerLeaves) {
   for (QtPlace* bar : {&vertical, &horizontal})
     for (const std::size_t index : {thumb, nearButton, farButton}) {
       QtPlace& part = childOf(*bar, index);
@@ -126,17 +106,17 @@ TEST_F(ScrollBarsTest, aHoverShowsAndEndsWhereverThePointerLeaves) {
     }
 }
 
-TEST_F(ScrollBarsTest, aHoverEndsWhereTheEditBoxBegins) {
+TEST_F(ScrollBarsTest, AHoverEndsWhereTheEditBoxBegins) {
   QtPlace& part = childOf(vertical, thumb);
   const QImage rest = picture(part);
   moveTo(part, {4, 4});
   EXPECT_NE(picture(part), rest);
   QEnterEvent enter({1, 1}, {1, 1}, {1, 1});
-  QCoreApplication::sendEvent(widget.findChild<QLineEdit*>(), &enter);
+  QCoreApplication::sendEvent(&edit(), &enter);
   EXPECT_EQ(picture(part), rest);
 }
 
-TEST_F(ScrollBarsTest, aHeldButtonPausesOutsideAndEndsWithTheReleaseThere) {
+TEST_F(ScrollBarsTest, AHeldButtonPausesOutsideAndEndsWithTheReleaseThere) {
   QtPlace& button = childOf(vertical, farButton);
   const QImage rest = picture(button);
   press(button, {8, 8});
@@ -145,7 +125,7 @@ TEST_F(ScrollBarsTest, aHeldButtonPausesOutsideAndEndsWithTheReleaseThere) {
   ASSERT_TRUE(waitForScrolls(2));
   // Some systems report that the pointer has left while a button is down; moves are more reliable.
   QEvent leave(QEvent::Leave);
-  QCoreApplication::sendEvent(&widget, &leave);
+  QCoreApplication::sendEvent(widget, &leave);
   EXPECT_EQ(picture(button), pressed);
 
   moveTo(form, {-300, 240});
@@ -161,22 +141,22 @@ TEST_F(ScrollBarsTest, aHeldButtonPausesOutsideAndEndsWithTheReleaseThere) {
   expectNoScroll();
 }
 
-TEST_F(ScrollBarsTest, aPressOnTheTrackRepeatsUpToThePointer) {
+TEST_F(ScrollBarsTest, APressOnTheTrackRepeatsUpToThePointer) {
   const QPoint behind(2, vertical.geometry().height() - 20);
   const QRgb bare = picture(vertical).pixel(behind);
   press(vertical, {8, childOf(vertical, thumb).geometry().bottom() + 4});
   EXPECT_NE(picture(vertical).pixel(behind), bare);
   EXPECT_TRUE(QTest::qWaitFor([&] { return picture(vertical).pixel(behind) == bare; }, 10'000));
-  const int reached = list.TopIndex();
+  const int reached = list().TopIndex();
   EXPECT_GT(reached, 1);
   // One more step stands between the thumb's arrival and the look at it.
   QTest::qWait(350);
-  EXPECT_LE(list.TopIndex(), reached + 1);
+  EXPECT_LE(list().TopIndex(), reached + 1);
   release();
 }
 
-TEST_F(ScrollBarsTest, aHandlerMayEmptyTheListDuringADrag) {
-  onScroll = [&] { list.ItemsClear(); };
+TEST_F(ScrollBarsTest, AHandlerMayEmptyTheListDuringADrag) {
+  onScroll = [&] { list().ItemsClear(); };
   press(childOf(vertical, thumb), {8, 3});
   moveTo(vertical, {8, 60});
   EXPECT_FALSE(vertical.isShown());
@@ -184,8 +164,8 @@ TEST_F(ScrollBarsTest, aHandlerMayEmptyTheListDuringADrag) {
   release();
 }
 
-TEST_F(ScrollBarsTest, barsAndFrameFollowTheSizePixelByPixel) {
-  widget.resize(201, 81);
+TEST_F(ScrollBarsTest, BarsAndFrameFollowTheSizePixelByPixel) {
+  widget->resize(201, 81);
   EXPECT_EQ(vertical.geometry(), QRect(183, 1, 17, 62));
   EXPECT_EQ(horizontal.geometry(), QRect(1, 63, 182, 17));
   const QImage shown = picture();
@@ -196,7 +176,7 @@ TEST_F(ScrollBarsTest, barsAndFrameFollowTheSizePixelByPixel) {
   EXPECT_EQ(shown.pixel(183, 45), qRgb(0xF3, 0xF1, 0xEC));
 }
 
-TEST_F(ScrollBarsTest, anotherScreenIsPaintedFor) {
+TEST_F(ScrollBarsTest, AnotherScreenIsPaintedFor) {
   const QList<QScreen*> screens = QGuiApplication::screens();
   if (screens.size() < 2) GTEST_SKIP() << "needs a second screen of twice the resolution";
   QtPlace& button = childOf(vertical, nearButton);
@@ -213,16 +193,16 @@ TEST_F(ScrollBarsTest, anotherScreenIsPaintedFor) {
             qRgb(0xF3, 0xF1, 0xEC));
 }
 
-TEST_F(ScrollBarsTest, whatADisabledBarCoversHearsNothing) {
+TEST_F(ScrollBarsTest, WhatADisabledBarCoversHearsNothing) {
   vertical.enable(false);
-  const int presses = heardPresses;
+  const int before = presses;
   press(childOf(vertical, farButton), {8, 8});
   release();
   EXPECT_EQ(scrolls, 0);
-  EXPECT_EQ(heardPresses, presses);
-  press(widget, {50, 50});
+  EXPECT_EQ(presses, before);
+  press(*widget, {50, 50});
   release();
-  EXPECT_EQ(heardPresses, presses + 1);
+  EXPECT_EQ(presses, before + 1);
 }
 
 }  // namespace
