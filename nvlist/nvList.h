@@ -46,6 +46,8 @@ class nvList final : public UserControl,
                      private nvHScrollEvents,
                      private WheelEvents {
  public:
+  /// Creates the control and its child controls in `place`, which must outlive it. It is ready
+  /// after UserControl_InitProperties or UserControl_ReadProperties.
   explicit nvList(Container& place);
   ~nvList() override;
 
@@ -80,6 +82,7 @@ class nvList final : public UserControl,
   void UserControl_LostFocus() override;
   void UserControl_ExitFocus() override;
   void UserControl_AmbientChanged(std::string_view PropertyName) override;
+  /// A turn of the wheel, which WheelFunction decides about. `Rotation` is in notches.
   void Wheel1_WheelScroll(std::int16_t& Rotation, std::int16_t& Keys, float& X, float& Y) override;
 
   /// The handle of the control's window, or 0 if the platform has no handles.

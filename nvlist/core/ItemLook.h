@@ -15,20 +15,20 @@ namespace norvane {
 /// colour of its own and takes the one that the style of the list gives. The two colours of the
 /// disabled state are always colours.
 struct ItemLook {
-  Boolean AllowEdit;  ///< may be edited in place if the list's AllowEdit is set too
-  Boolean Enabled;    ///< a disabled item cannot become the current one
-  Boolean Bold;
-  Boolean Italic;
-  Boolean Underline;
-  cItemAlignment Alignment = cLeft;
-  Colour ForeColorDis = 0;  ///< text colour while disabled
-  Colour BackColorDis = 0;  ///< background colour while disabled
-  Variant ForeColor;        ///< text colour
-  Variant BackColor;        ///< background colour
-  Variant ForeColorSelect;  ///< text colour while selected
-  Variant BackColorSelect;  ///< background colour while selected
-  Picture Icon;
-  Picture IconSelected;  ///< icon while selected; empty: Icon is shown then too
+  Boolean AllowEdit;                 ///< may be edited in place if the list's AllowEdit is set too
+  Boolean Enabled;                   ///< a disabled item cannot become the current one
+  Boolean Bold;                      ///< bold text
+  Boolean Italic;                    ///< italic text
+  Boolean Underline;                 ///< underlined text
+  cItemAlignment Alignment = cLeft;  ///< where the text is placed in the row
+  Colour ForeColorDis = 0;           ///< text colour while disabled
+  Colour BackColorDis = 0;           ///< background colour while disabled
+  Variant ForeColor;                 ///< text colour
+  Variant BackColor;                 ///< background colour
+  Variant ForeColorSelect;           ///< text colour while selected
+  Variant BackColorSelect;           ///< background colour while selected
+  Picture Icon;                      ///< shown if the Style of the list has icons
+  Picture IconSelected;              ///< icon while selected; empty: Icon is shown then too
 
   /// Whether both hold the same values. Texts and objects are the same if they are one.
   bool isSame(const ItemLook& other) const {

@@ -88,8 +88,8 @@ class __nvList {  // NOLINT(bugprone-reserved-identifier): the published name of
   /// EventId::KeyUp. Raised when a key is released.
   virtual void KeyUp(std::int16_t& KeyCode, std::int16_t& Shift);
 
-  // The list never raises the drag-and-drop events, from OLECompleteDrag to OLEStartDrag. They
-  // exist so that hosts can bind them.
+  /// The list never raises the drag-and-drop events, from OLECompleteDrag to OLEStartDrag. They
+  /// exist so that hosts can bind them.
   virtual void OLECompleteDrag(std::int32_t& Effect);
   virtual void OLEDragDrop(Ref<Object>& Data, std::int32_t& Effect, std::int16_t& Button,
                            std::int16_t& Shift, float& X, float& Y);
@@ -112,9 +112,12 @@ class EventSinks {
   void add(__nvList& sink);
   /// Removing a sink that is not registered changes nothing.
   void remove(__nvList& sink);
+  /// Removes all sinks.
   void removeAll();
+  /// Whether no sink is registered.
   bool isEmpty() const { return sinks_.empty(); }
 
+  /// Calls `event(sink)` for each sink.
   template <class Event>
   void raise(Event&& event) {
     const Raising raising(*this);

@@ -21,6 +21,7 @@ struct Problem {
   std::string text;    ///< for a person to read, with the name of the field if there is one
 };
 
+/// What was saved or loaded, and what was not.
 struct Result {
   std::int32_t items = 0;      ///< number of items saved or loaded
   bool hasProperties = false;  ///< whether the file that was loaded has properties of the list
@@ -31,6 +32,7 @@ struct Result {
   /// Names of fields in the file that no item or list has, each once; at most `mostKept`.
   std::vector<std::string> unknownFields;
 
+  /// The most entries of either list.
   static constexpr std::size_t mostKept = 100;
 };
 
@@ -40,14 +42,17 @@ enum class Fields {
   changed  ///< those that differ from the fields of a new item; the file is much smaller
 };
 
+/// How a list is saved.
 struct SaveOptions {
-  Fields fields = Fields::all;
-  Progress progress = {};
+  Fields fields = Fields::all;  ///< the fields that each line has
+  Progress progress = {};       ///< called after each block
 };
 
+/// How a list is loaded.
 struct LoadOptions {
   /// Whether the list takes the properties in the file. Otherwise it keeps its own.
   bool takesProperties = true;
+  /// Called after each block.
   Progress progress = {};
 };
 

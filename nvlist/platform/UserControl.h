@@ -73,6 +73,7 @@ class UserControl {
 
   // ---- the place, in pixels of the parent control ----
 
+  /// The position in the parent control.
   float Left() const { return bounds_.Left; }
   void Left(float value) {
     if (value != bounds_.Left) Move({value, Top(), Width(), Height()});
@@ -81,7 +82,7 @@ class UserControl {
   void Top(float value) {
     if (value != bounds_.Top) Move({Left(), value, Width(), Height()});
   }
-  /// A negative size counts as 0. A new size runs UserControl_Resize.
+  /// The size. A negative one counts as 0. A new one runs UserControl_Resize.
   float Width() const { return bounds_.Width; }
   void Width(float value) {
     if (value != bounds_.Width) Move({Left(), Top(), value, Height()});
@@ -90,6 +91,7 @@ class UserControl {
   void Height(float value) {
     if (value != bounds_.Height) Move({Left(), Top(), Width(), value});
   }
+  /// Sets position and size at once.
   void Move(const Bounds& bounds);
   /// Default: true. Becoming visible runs UserControl_Show.
   Boolean Visible() const { return visible_; }
@@ -111,6 +113,7 @@ class UserControl {
   std::unique_ptr<Container> ownPlace_;
 
  protected:
+  /// The place of the control, and what it draws on. Both outlive it.
   Container& container_;
   Surface& surface_;
 

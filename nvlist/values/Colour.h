@@ -13,10 +13,12 @@ constexpr Colour rgb(std::uint8_t red, std::uint8_t green, std::uint8_t blue) {
   return red | green << 8 | blue << 16;
 }
 
+/// The system colour with this index.
 constexpr Colour systemColour(std::uint8_t index) {
   return static_cast<Colour>(0x80000000U | index);
 }
 
+/// Whether the colour is one of the system's.
 constexpr bool isSystemColour(Colour colour) { return colour < 0; }
 
 namespace colours {

@@ -12,11 +12,14 @@ namespace norvane {
 /// catches it (objects/Trap.h). Hosts and platforms may throw one too.
 class Failure : public std::runtime_error {
  public:
+  /// Any number and text.
   Failure(std::int32_t number, const std::string& description)
       : std::runtime_error(description), number_(number) {}
 
+  /// The number that the reporter shows.
   std::int32_t number() const { return number_; }
 
+  /// The failures that the library itself throws.
   static Failure invalidCall() { return {5, "Invalid procedure call or argument"}; }
   static Failure overflow() { return {6, "Overflow"}; }
   static Failure outOfMemory() { return {7, "Out of memory"}; }
@@ -28,13 +31,14 @@ class Failure : public std::runtime_error {
   static Failure invalidPattern() { return {93, "Invalid pattern string"}; }
   static Failure invalidNull() { return {94, "Invalid use of Null"}; }
   static Failure invalidFormat() { return {321, "Invalid file format"}; }
-  static Failure noControlArrayElement(std::int32_t index) {
-    return {340, "Control array element '" + std::to_string(index) + "' doesn't exist"};
-  }
   static Failure objectRequired() { return {424, "Object required"}; }
   static Failure noSuchMember() { return {438, "Object doesn't support this property or method"}; }
   static Failure automation(const std::string& what) { return {440, "Automation error: " + what}; }
   static Failure invalidPicture() { return {481, "Invalid picture"}; }
+  /// A message asks for an element that the control array does not have.
+  static Failure noControlArrayElement(std::int32_t index) {
+    return {340, "Control array element '" + std::to_string(index) + "' doesn't exist"};
+  }
 
  private:
   std::int32_t number_;

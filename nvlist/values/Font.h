@@ -10,9 +10,11 @@ namespace norvane {
 /// A font as hosts describe it. The platform uses the closest font it has.
 class FontObject final : public Object {
  public:
+  /// The name of the font's family.
   std::string Name = "Tahoma";
   /// Height in points.
   float Size = 8.25F;
+  /// The style.
   Boolean Bold = false;
   Boolean Italic = false;
   Boolean Underline = false;
@@ -21,6 +23,7 @@ class FontObject final : public Object {
   /// Compares all fields.
   bool isSame(const Object& other) const override;
 
+  /// A copy, which can be changed independently.
   Ref<FontObject> Clone() const { return makeRef<FontObject>(*this); }
 };
 

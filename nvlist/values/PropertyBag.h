@@ -12,9 +12,10 @@ namespace norvane {
 /// A host may derive one that stores them elsewhere.
 class PropertyBag {
  public:
+  /// A stored property.
   struct Property {
-    std::string name;
-    Variant value;
+    std::string name;  ///< as it was written
+    Variant value;     ///< differs from the default
   };
 
   virtual ~PropertyBag() = default;

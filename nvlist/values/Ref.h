@@ -10,10 +10,12 @@ namespace norvane {
 /// Base of reference-counted objects. It contains the count, which is atomic.
 class Shared {
  public:
+  /// A copy of an object starts with a count of its own.
   Shared() = default;
   Shared(const Shared&) {}
   Shared& operator=(const Shared&) { return *this; }
 
+  /// Adds a reference.
   void retain() const { references_.fetch_add(1, std::memory_order_relaxed); }
   /// Releases a reference and returns whether it was the last.
   bool releaseLast() const { return references_.fetch_sub(1, std::memory_order_acq_rel) == 1; }
@@ -28,12 +30,16 @@ class Shared {
 /// The same for objects that only one thread uses; its count is not atomic, which is faster.
 class SharedInThread {
  public:
+  /// A copy of an object starts with a count of its own.
   SharedInThread() = default;
   SharedInThread(const SharedInThread&) {}
   SharedInThread& operator=(const SharedInThread&) { return *this; }
 
+  /// Adds a reference.
   void retain() const { ++references_; }
+  /// Releases a reference and returns whether it was the last.
   bool releaseLast() const { return --references_ == 0; }
+  /// Whether the caller's reference is the only one.
   bool isHeldOnce() const { return references_ == 1; }
 
  protected:
@@ -48,19 +54,24 @@ class SharedInThread {
 template <class T>
 class Ref {
  public:
+  /// Refers to nothing.
   Ref() = default;
   Ref(std::nullptr_t) {}
+  /// Takes part in the ownership of the object.
   explicit Ref(T* object) : object_(object) { retain(); }
   Ref(const Ref& other) : object_(other.object_) { retain(); }
   Ref(Ref&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
+  /// A reference to an object of a derived class converts to one to its base.
   template <class Derived>
   Ref(const Ref<Derived>& other) : object_(other.get()) {
     retain();
   }
+  /// Releases the object referred to before.
   Ref& operator=(const Ref& other) noexcept {
     Ref(other).swap(*this);
     return *this;
   }
+  /// Leaves `other` empty.
   Ref& operator=(Ref&& other) noexcept {
     Ref(std::move(other)).swap(*this);
     return *this;
@@ -69,13 +80,16 @@ class Ref {
     if (object_ && object_->releaseLast()) delete object_;
   }
 
+  /// Exchanges the objects.
   void swap(Ref& other) noexcept { std::swap(object_, other.object_); }
 
+  /// The object; nullptr if the reference is empty.
   T* get() const { return object_; }
   T* operator->() const { return object_; }
   T& operator*() const { return *object_; }
   explicit operator bool() const { return object_ != nullptr; }
 
+  /// Whether both refer to the same object.
   friend bool operator==(const Ref& a, const Ref& b) { return a.object_ == b.object_; }
 
  private:
@@ -86,6 +100,7 @@ class Ref {
   T* object_ = nullptr;
 };
 
+/// Creates an object and refers to it.
 template <class T, class... Arguments>
 Ref<T> makeRef(Arguments&&... arguments) {
   return Ref<T>(new T(std::forward<Arguments>(arguments)...));

@@ -39,9 +39,11 @@ class Object : public Shared {
 /// Overflow, if the result does not fit.
 class Variant {
  public:
+  /// What a value holds.
   enum class Type : std::uint8_t { Empty, Int16, Int32, Single, Boolean, Text, Object };
 
   constexpr Variant() = default;
+  /// A number.
   constexpr Variant(std::int16_t number)
       : bits_(pack(Type::Int16, static_cast<std::uint16_t>(number))) {}
   constexpr Variant(std::int32_t number)
@@ -50,19 +52,23 @@ class Variant {
       : bits_(pack(Type::Single, std::bit_cast<std::uint32_t>(number))) {}
   /// Stored as a 32-bit float, with about seven digits.
   constexpr Variant(double number) : Variant(static_cast<float>(number)) {}
+  /// A truth value.
   constexpr Variant(Boolean value)
       : bits_(pack(Type::Boolean, static_cast<std::uint16_t>(value.number()))) {}
   /// Only bool itself, so that pointers do not convert to truth values.
   template <std::same_as<bool> Bool>
   constexpr Variant(Bool value) : Variant(Boolean(value)) {}
   Variant(std::nullptr_t) = delete;
+  /// A text, which is copied.
   constexpr Variant(std::string_view text)
       : bits_(text.empty()          ? emptyText
               : text == defaultText ? markText
                                     : hold(text)) {}
   Variant(const std::string& text) : Variant(std::string_view(text)) {}
   constexpr Variant(const char* text) : Variant(std::string_view(text)) {}
+  /// An object, which is kept alive. An empty reference is an object too.
   Variant(const Ref<Object>& object);
+  /// Copies share texts and objects.
   constexpr Variant(const Variant& other) : bits_(other.bits_) { retain(); }
   constexpr Variant(Variant&& other) noexcept : bits_(std::exchange(other.bits_, 0)) {}
   Variant& operator=(Variant other) noexcept {
@@ -71,7 +77,9 @@ class Variant {
   }
   constexpr ~Variant() { release(); }
 
+  /// What the value holds.
   constexpr Type type() const { return static_cast<Type>(bits_ & tagMask); }
+  /// Whether it holds nothing.
   bool isEmpty() const { return bits_ == 0; }
   /// Whether both are the same number, or hold the same text or object and not only equal ones.
   bool isIdentical(const Variant& other) const { return bits_ == other.bits_; }
@@ -163,6 +171,7 @@ std::partial_ordering compareText(std::string_view a, const Variant& b);
 
 /// The value of an item's colour that means "the default colour".
 inline constexpr std::string_view defaultMark = "def";
+/// Whether an item's colour is the text "def".
 inline bool isDefaultMark(const Variant& colour) {
   return colour.isIdentical(Variant(defaultMark));
 }

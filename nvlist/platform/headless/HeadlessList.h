@@ -13,6 +13,7 @@ class HeadlessList {
     list_.UserControl_InitProperties();
   }
 
+  /// The control, its form and the form's surface. Valid as long as this object.
   nvList& list() { return list_; }
   HeadlessContainer& container() { return container_; }
   RecordingSurface& surface() { return container_.ownSurface(); }
@@ -23,6 +24,7 @@ class HeadlessList {
   /// What the list itself shows, without the controls in it: one drawing call a line.
   std::string face() { return surface().image().text(); }
 
+  /// Changes the size in pixels.
   void resize(float width, float height) {
     surface().resize(width, height);
     list_.UserControl_Resize();

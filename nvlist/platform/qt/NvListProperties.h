@@ -49,6 +49,7 @@ class NvListProperties : public QWidget {
   Q_PROPERTY(bool allowItemMoving READ allowItemMoving WRITE setAllowItemMoving)
 
  public:
+  /// The values of colorStyle.
   enum class ColorStyle {
     XPBlue = cXPBlue,
     XPSilver = cXPSilver,
@@ -56,12 +57,14 @@ class NvListProperties : public QWidget {
     Custom = cCustom
   };
   Q_ENUM(ColorStyle)
+  /// The values of scrollColorStyle.
   enum class ScrollColorStyle {
     XPBlue = cXPScrollBlue,
     XPSilver = cXPScrollSilver,
     XPOlive = cXPScrollOlive
   };
   Q_ENUM(ScrollColorStyle)
+  /// The values of listStyle.
   enum class ListStyle {
     Default = cDefault,
     CheckBoxes = cCheckBoxes,
@@ -69,8 +72,10 @@ class NvListProperties : public QWidget {
     CheckBoxesIcons = cCheckBoxesIcons
   };
   Q_ENUM(ListStyle)
+  /// The values of wheelFunction.
   enum class WheelFunction { Scroll = cWheelScroll, ListIndex = cWheelListIndex, Off = cWheelOff };
   Q_ENUM(WheelFunction)
+  /// The values of scrollBars.
   enum class ScrollBars {
     Neither = vbSBNone,
     Horizontal = vbHorizontal,
@@ -79,9 +84,11 @@ class NvListProperties : public QWidget {
   };
   Q_ENUM(ScrollBars)
 
+  /// The list itself. Valid as long as the widget.
   virtual nvList& list() = 0;
   virtual const nvList& list() const = 0;
 
+  /// The property of the list with this name (nvList.h).
   QColor foreColor() const { return shown(list().ForeColor()); }
   void setForeColor(const QColor& value) { list().ForeColor(chosen(value, list().ForeColor())); }
   QColor backColor() const { return shown(list().BackColor()); }

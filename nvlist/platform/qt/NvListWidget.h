@@ -154,8 +154,10 @@ class NvListWidget : public NvListProperties {
 
   // The events of the list in Qt's types.
 
+  /// A row or the free space below was clicked, or double-clicked.
   void clicked();
   void doubleClicked();
+  /// A button was pressed, or released, at a point of the widget.
   void mousePressed(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, const QPointF& point);
   void mouseReleased(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, const QPointF& point);
   /// `index` is the item under the pointer, or -1.

@@ -32,6 +32,7 @@ class NvScrollWidget : public QWidget {
       norvane::NvListProperties::ScrollColorStyle colorStyle READ colorStyle WRITE setColorStyle)
 
  public:
+  /// The colour schemes of a bar.
   using ColorStyle = NvListProperties::ScrollColorStyle;
 
   ~NvScrollWidget() override;
@@ -43,6 +44,7 @@ class NvScrollWidget : public QWidget {
   /// The place around that of the bar. Valid as long as the widget.
   QtPlace& place();
 
+  /// The properties of the bar.
   int minimum() const { return bar().Min(); }
   void setMinimum(int value) { bar().Min(value); }
   int maximum() const { return bar().Max(); }
@@ -60,6 +62,7 @@ class NvScrollWidget : public QWidget {
   ColorStyle colorStyle() const { return static_cast<ColorStyle>(bar().ColorStyle()); }
   void setColorStyle(ColorStyle value) { bar().ColorStyle(static_cast<cScrollColorStyle>(value)); }
 
+  /// The breadth of the bar by a usual length.
   QSize sizeHint() const override;
   /// The size of the two buttons and of the shortest track with a thumb.
   QSize minimumSizeHint() const override;
@@ -90,19 +93,25 @@ class NvScrollWidget : public QWidget {
   std::shared_ptr<Core> core_;
 };
 
+/// A vertical scroll bar.
 class NvVScrollWidget : public NvScrollWidget {
   Q_OBJECT
 
  public:
+  /// Its properties have their defaults.
   explicit NvVScrollWidget(QWidget* parent = nullptr) : NvScrollWidget(Qt::Vertical, parent) {}
+  /// The bar itself. Valid as long as the widget.
   nvVScroll& bar() { return static_cast<nvVScroll&>(NvScrollWidget::bar()); }
 };
 
+/// A horizontal scroll bar.
 class NvHScrollWidget : public NvScrollWidget {
   Q_OBJECT
 
  public:
+  /// Its properties have their defaults.
   explicit NvHScrollWidget(QWidget* parent = nullptr) : NvScrollWidget(Qt::Horizontal, parent) {}
+  /// The bar itself. Valid as long as the widget.
   nvHScroll& bar() { return static_cast<nvHScroll&>(NvScrollWidget::bar()); }
 };
 

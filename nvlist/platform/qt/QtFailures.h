@@ -17,6 +17,7 @@ class QtFailures : public QObject {
   Q_OBJECT
 
  public:
+  /// Where reports go.
   enum class Mode {
     Box,     ///< a message box; the default
     Log,     ///< a warning of the logging category "nvlist"
@@ -25,6 +26,7 @@ class QtFailures : public QObject {
   };
   Q_ENUM(Mode)
 
+  /// Takes effect at once. Default: Mode::Box.
   static void setMode(Mode mode);
   static Mode mode();
 
