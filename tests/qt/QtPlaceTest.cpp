@@ -66,8 +66,7 @@ TEST(QtPlaceTest, YieldsAfterHandlersHaveThrown) {
 
 TEST(QtTextBoxTest, CountsCharactersAndTakesTheFocusOnlyWhereItShows) {
   QWidget form;
-  QtTextBox box(
-      form, [](std::int16_t&) {}, [](QEvent::Type) {});
+  QtTextBox box(form, {[](std::int16_t&) {}, [](QEvent::Type) {}, {}});
   const QLineEdit& edit = *form.findChild<QLineEdit*>();
   box.Text("a\U0001F600b\U0001F600");
   box.select(2, INT32_MAX);

@@ -20,7 +20,8 @@ QString AccessibleBar::text(QAccessible::Text which) const {
 QRect AccessibleBar::rect() const {
   if (!isValid()) return {};
   const QRectF area(bar().Left(), bar().Top(), bar().Width(), bar().Height());
-  return {widget_->mapToGlobal(area.toRect().topLeft()), area.toRect().size()};
+  const QRect shown = widget_->place().shown(area.toRect());
+  return {widget_->mapToGlobal(shown.topLeft()), shown.size()};
 }
 
 QAccessible::State AccessibleBar::state() const {

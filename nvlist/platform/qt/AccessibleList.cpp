@@ -78,7 +78,7 @@ QAccessibleInterface* AccessibleList::childAt(int x, int y) const {
   for (auto part = front.rbegin(); part != front.rend(); ++part)
     if ((*part)->rect().contains(x, y)) return *part;
   const QPoint at = widgetOfList().mapFromGlobal(QPoint(x, y));
-  if (!areaOfRows(list(), widgetOfList().size()).contains(at)) return nullptr;
+  if (!areaOfRows(widgetOfList()).contains(at)) return nullptr;
   return cellAt(rowPaintedAt(list(), at.y()), 0);
 }
 

@@ -18,7 +18,7 @@ void AccessibleRow::setText(QAccessible::Text which, const QString& text) {
 
 QRect AccessibleRow::rect() const {
   if (!isValid()) return {};
-  const QRect row = paintedRow(list(), widget_->size(), index_);
+  const QRect row = paintedRow(*widget_, index_);
   return {widget_->mapToGlobal(row.topLeft()), row.size()};
 }
 
@@ -38,8 +38,7 @@ QAccessible::State AccessibleRow::state() const {
   state.checkable = hasCheckBox();
   state.checked = hasCheckBox() && item.Checked;
   state.editable = isEditable();
-  const QRect row = paintedRow(list(), widget_->size(), index_);
-  state.offscreen = !areaOfRows(list(), widget_->size()).intersects(row);
+  state.offscreen = !areaOfRows(*widget_).intersects(paintedRow(*widget_, index_));
   state.invisible = state.offscreen || !widget_->isVisible();
   return state;
 }

@@ -71,8 +71,8 @@ int NvListDrop::indexAt(const QPoint& point) const {
 /// -1 hides the bar.
 void NvListDrop::mark(int index) {
   if (!mark_) return;
-  const QRect area = areaOfRows(widget_.list(), widget_.size());
-  const QRect row = paintedRow(widget_.list(), widget_.size(), index);
+  const QRect area = areaOfRows(widget_);
+  const QRect row = paintedRow(widget_, index);
   mark_->setVisible(index >= 0);
   mark_->setGeometry(area.left(), std::min(row.top(), area.bottom() + 1 - markHeight), area.width(),
                      markHeight);

@@ -272,13 +272,14 @@ void NvListKeys::writeEdit() {
 /// Over the current row, whose text Return would write.
 void NvListKeys::placeEdit() {
   if (!edit_ || !list().state().EditActive) return;
-  const QRect row = paintedRow(list(), widget_.size(), list().ListIndex());
-  const QRect room = areaOfRows(list(), widget_.size()).adjusted(1, 1, -1, -1);
-  const int height = std::max(row.height(), edit_->fontMetrics().height());
-  QRect box(0, row.center().y() - (height - 1) / 2, 0, height);
-  box.setLeft(std::max(leftOfTexts(list()) - marginOfEdit, room.left()));
-  box.setRight(room.right());
-  box.moveTop(std::max(std::min(box.top(), room.bottom() + 1 - height), room.top()));
+  const QRect room = areaOfRows(widget_).adjusted(1, 1, -1, -1);
+  const QRect text =
+      textOfRow(widget_, list().ListIndex()).adjusted(-marginOfEdit, 0, marginOfEdit, 0);
+  const int height = std::max(text.height(), edit_->fontMetrics().height());
+  const int top = text.center().y() - (height - 1) / 2;
+  QRect box(0, std::max(std::min(top, room.bottom() + 1 - height), room.top()), 0, height);
+  box.setLeft(std::max(text.left(), room.left()));
+  box.setRight(std::min(text.right(), room.right()));
   edit_->setGeometry(box);
   if (!border_) return;
   QPalette palette;

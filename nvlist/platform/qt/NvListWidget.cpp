@@ -10,7 +10,6 @@
 #include <QPointer>
 #include <QScrollEvent>
 #include <QScrollPrepareEvent>
-#include <QStyle>
 #include <QStyleHints>
 #include <algorithm>
 #include <cmath>
@@ -66,11 +65,15 @@ NvListWidget::~NvListWidget() {
   core_->notifier.end();
   // The host may be destroyed with its window, while the list is still in the middle of a call.
   core_->list.removeAllSinks();
+  // An edit that loses the focus later would be written to a list that has ended (NvListKeys).
+  core_->list.closeEdit();
   core_->place.detach();
   QtPlace::endLater(std::move(core_));
 }
 
 QtPlace& NvListWidget::place() { return core_->place; }
+
+const QtPlace& NvListWidget::place() const { return core_->place; }
 
 nvList& NvListWidget::list() { return core_->list; }
 
@@ -162,6 +165,13 @@ void NvListWidget::changeEvent(QEvent* event) {
   if (guard) QWidget::changeEvent(event);
 }
 
+/// A value of the horizontal bar from the pixels that are hidden to the left, and the other way
+/// round.
+std::int32_t NvListWidget::sideways(std::int32_t value) const {
+  const nvHScroll& bar = list().horizontalBar();
+  return core_->place.isMirrored() && bar.Visible() ? bar.Max() - value : value;
+}
+
 /// QScroller scrolls by touch: by whole rows, since the list has no other places.
 void NvListWidget::prepareScroller(QScrollPrepareEvent& event) {
   const double height = list().state().ItemHeightValue;
@@ -169,7 +179,8 @@ void NvListWidget::prepareScroller(QScrollPrepareEvent& event) {
   const int last = std::max(count() - list().VisibleItems(), 0);
   event.setViewportSize(size());
   event.setContentPosRange({0, 0, bar.Visible() ? bar.Max() : 0.0, last * height});
-  event.setContentPos({bar.Visible() ? bar.Value() : 0.0, std::max(list().TopIndex(), 0) * height});
+  event.setContentPos({static_cast<double>(sideways(bar.Visible() ? bar.Value() : 0)),
+                       std::max(list().TopIndex(), 0) * height});
   event.accept();
 }
 
@@ -179,7 +190,8 @@ void NvListWidget::followScroller(const QScrollEvent& event) {
   const auto top = static_cast<std::int32_t>(std::lround(event.contentPos().y() / height));
   const QPointer<QWidget> guard(this);
   if (top != list().TopIndex()) list().TopIndex(top);
-  if (guard) list().userScrollsTo(static_cast<std::int32_t>(std::lround(event.contentPos().x())));
+  if (guard)
+    list().userScrollsTo(sideways(static_cast<std::int32_t>(std::lround(event.contentPos().x()))));
 }
 
 // ---- items ----
@@ -253,8 +265,7 @@ int NvListWidget::indexAt(const QPoint& point) const {
 QRect NvListWidget::itemRect(int index) const {
   const bool isItem = index >= 0 && index < count();
   if (!isItem) return {};
-  const QRect row = paintedRow(core_->list, size(), index);
-  return core_->place.isMirrored() ? QStyle::visualRect(Qt::RightToLeft, rect(), row) : row;
+  return paintedRow(*this, index);
 }
 
 void NvListWidget::scrollTo(int index) {

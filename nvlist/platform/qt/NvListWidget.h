@@ -50,6 +50,7 @@ class NvListWidget : public NvListProperties {
   const nvList& list() const override;
   /// The place of the list, which contains those of its bars. Valid as long as the widget.
   QtPlace& place();
+  const QtPlace& place() const;
   /// The edit box of the list, hidden while nothing is edited; valid as long as the widget.
   QLineEdit* editBox() const;
 
@@ -67,8 +68,8 @@ class NvListWidget : public NvListProperties {
   bool followsPalette() const { return followsPalette_; }
   void setFollowsPalette(bool on);
   /// Whether the list is mirrored while layoutDirection() is right to left: check boxes and texts
-  /// begin at the right, and the vertical bar is at the left. The edit box and the sinks of the
-  /// list keep the places of the layout from left to right. Default: false.
+  /// begin at the right, and the vertical bar is at the left. The sinks of the list get the points
+  /// of the layout from left to right. Default: false.
   bool mirrorsLayout() const { return mirrorsLayout_; }
   void setMirrorsLayout(bool on);
   /// Whether a text that is higher than its row is clipped to it (nvList::clipsTexts). Default:
@@ -200,6 +201,7 @@ class NvListWidget : public NvListProperties {
   void followDirection();
   void followFont();
   void followWheelSettings();
+  std::int32_t sideways(std::int32_t value) const;
   void prepareScroller(QScrollPrepareEvent& event);
   void followScroller(const QScrollEvent& event);
 

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <utility>
 
 #include <nvlist/objects/Trap.h>
 #include <nvlist/platform/UserControl.h>
@@ -95,13 +96,17 @@ std::unique_ptr<Container> QtPlace::addChild() {
 }
 
 std::unique_ptr<TextBox> QtPlace::addTextBox(std::function<void(std::int16_t&)> keyPress) {
-  return std::make_unique<QtTextBox>(*form().widget_, std::move(keyPress),
-                                     [this](QEvent::Type type) {
-                                       if (type == QEvent::Enter)
-                                         mouse().pointerLeft(shiftNow());
-                                       else if (control())
-                                         focusEvent(type, FocusOf::editBox);
-                                     });
+  const auto notify = [this](QEvent::Type type) {
+    if (type == QEvent::Enter)
+      mouse().pointerLeft(shiftNow());
+    else if (control())
+      focusEvent(type, FocusOf::editBox);
+  };
+  const auto shown = [this](const QRect& area) { return form().shown(area); };
+  auto box = std::make_unique<QtTextBox>(*form().widget_,
+                                         QtTextBox::Handlers{std::move(keyPress), notify, shown});
+  form().textBoxes_ << box.get();
+  return box;
 }
 
 std::unique_ptr<Timer> QtPlace::addTimer(std::function<void()> tick) {
@@ -182,7 +187,6 @@ QRect QtPlace::geometry() const {
   return form().shown(plain);
 }
 
-/// Where the widget shows an area of the layout from left to right.
 QRect QtPlace::shown(const QRect& area) const {
   if (!isMirrored_ || !widget_) return area;
   return QStyle::visualRect(Qt::RightToLeft, widget_->rect(), area);
@@ -193,6 +197,7 @@ void QtPlace::mirror(bool on) {
   isMirrored_ = on;
   surface_.mirror(on);
   renewImages();
+  placeTextBoxes();
   if (widget_) widget_->update();
 }
 
@@ -227,7 +232,14 @@ void QtPlace::showChanges() {
 }
 
 void QtPlace::resize() {
-  if (widget_->size() != surface_.size()) newImage(widget_->size());
+  if (widget_->size() == surface_.size()) return;
+  newImage(widget_->size());
+  if (isMirrored_) placeTextBoxes();
+}
+
+void QtPlace::placeTextBoxes() {
+  for (const QPointer<QtTextBox>& box : std::as_const(textBoxes_))
+    if (box) box->follow();
 }
 
 void QtPlace::newImage(QSize size) {

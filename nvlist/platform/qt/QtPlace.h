@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QEvent>
+#include <QList>
 #include <QPointer>
 #include <QRect>
 #include <QRegion>
@@ -16,6 +17,8 @@
 class QWheelEvent;
 
 namespace norvane {
+
+class QtTextBox;
 
 /// The place of a control in a widget. The outermost place has the widget; the places in it are
 /// regions of that widget, each with an image of its own.
@@ -75,6 +78,8 @@ class QtPlace : public Place {
 
   /// In whole pixels of the widget, in which it may be mirrored.
   QRect geometry() const;
+  /// Where an area of the outermost control appears in the widget. An empty one stays as it is.
+  QRect shown(const QRect& area) const;
   /// What the place shows, without the places in it.
   const QImage& image() { return surface_.image(); }
 
@@ -106,7 +111,6 @@ class QtPlace : public Place {
   const QtPlace& form() const { return const_cast<QtPlace*>(this)->form(); }
   void changed() override;
   void showAnew(const QRect& area);
-  QRect shown(const QRect& area) const;
   void showChanges();
 
   bool dispatch(QEvent* event);
@@ -120,6 +124,7 @@ class QtPlace : public Place {
   void watchHold();
   void newImage(QSize size);
   void setOpaque();
+  void placeTextBoxes();
   void takePalette();
   void renewImages();
 
@@ -135,6 +140,7 @@ class QtPlace : public Place {
   int restOfNotch_ = 0;
   double restOfPixel_ = 0;
   bool isEntered_ = false;
+  QList<QPointer<QtTextBox>> textBoxes_;
   std::unique_ptr<QObject> holdWatch_;
 };
 

@@ -19,9 +19,8 @@ bool isLegible(const QColor& text, const QColor& background) {
 
 }  // namespace
 
-QtTextBox::QtTextBox(QWidget& parent, std::function<void(std::int16_t&)> keyPress,
-                     std::function<void(QEvent::Type)> notify)
-    : edit_(new QLineEdit(&parent)), keyPress_(std::move(keyPress)), notify_(std::move(notify)) {
+QtTextBox::QtTextBox(QWidget& parent, Handlers handlers)
+    : edit_(new QLineEdit(&parent)), handlers_(std::move(handlers)) {
   edit_->hide();
   // The edit is as high as a line of text; a frame and margins would not fit.
   edit_->setFrame(false);
@@ -62,10 +61,14 @@ void QtTextBox::Text(const std::string& text) {
 
 void QtTextBox::Move(const Bounds& bounds) {
   place_ = bounds;
+  follow();
+}
+
+void QtTextBox::follow() {
   if (!edit_) return;
   const auto rounded = [](float length) { return static_cast<int>(std::lrint(length)); };
-  edit_->setGeometry(rounded(bounds.Left), rounded(bounds.Top), rounded(bounds.Width),
-                     rounded(bounds.Height));
+  edit_->setGeometry(handlers_.shown(
+      {rounded(place_.Left), rounded(place_.Top), rounded(place_.Width), rounded(place_.Height)}));
 }
 
 bool QtTextBox::Visible() const { return edit_ && !edit_->isHidden(); }
@@ -98,11 +101,12 @@ void QtTextBox::select(std::int32_t start, std::int32_t length) {
 
 bool QtTextBox::eventFilter(QObject* watched, QEvent* event) {
   const QEvent::Type type = event->type();
-  if (type == QEvent::FocusIn || type == QEvent::FocusOut || type == QEvent::Enter) notify_(type);
+  if (type == QEvent::FocusIn || type == QEvent::FocusOut || type == QEvent::Enter)
+    handlers_.notify(type);
   if (type == QEvent::KeyPress) {
     std::int16_t character = characterOf(*static_cast<QKeyEvent*>(event));
     if (character != 0) {
-      keyPress_(character);
+      handlers_.keyPress(character);
       if (character == 0 || !edit_) return true;
     }
   }

@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QLineEdit>
 #include <QPointer>
+#include <QRect>
 #include <functional>
 
 #include <nvlist/platform/TextBox.h>
@@ -13,10 +14,15 @@ namespace norvane {
 /// with it, and all calls do nothing.
 class QtTextBox final : public QObject, public TextBox {
  public:
-  /// `notify` is called when the edit gets or loses the focus, and when the pointer enters it:
-  /// with FocusIn, FocusOut or Enter.
-  QtTextBox(QWidget& parent, std::function<void(std::int16_t&)> keyPress,
-            std::function<void(QEvent::Type)> notify);
+  struct Handlers {
+    std::function<void(std::int16_t& character)> keyPress;
+    /// Called when the edit gets or loses the focus, and when the pointer enters it: with FocusIn,
+    /// FocusOut or Enter.
+    std::function<void(QEvent::Type)> notify;
+    /// Where the parent shows an area of the control, which may be mirrored in it.
+    std::function<QRect(const QRect&)> shown;
+  };
+  QtTextBox(QWidget& parent, Handlers handlers);
   ~QtTextBox() override;
 
   void Font(const norvane::Font& font) override;
@@ -25,6 +31,8 @@ class QtTextBox final : public QObject, public TextBox {
   void Text(const std::string& text) override;
   Bounds place() const override { return place_; }
   void Move(const Bounds& bounds) override;
+  /// Puts the edit to where its place is shown now.
+  void follow();
   bool Visible() const override;
   void Visible(bool isVisible) override;
   void SetFocus() override;
@@ -35,8 +43,7 @@ class QtTextBox final : public QObject, public TextBox {
 
  private:
   QPointer<QLineEdit> edit_;
-  std::function<void(std::int16_t&)> keyPress_;
-  std::function<void(QEvent::Type)> notify_;
+  const Handlers handlers_;
   Bounds place_;
 };
 

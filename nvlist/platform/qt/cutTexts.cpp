@@ -30,18 +30,19 @@ qreal widthOf(const QString& text, const nvList& list, const ListItem& item) {
 
 bool showCutText(NvListWidget& widget, const QHelpEvent& event) {
   const nvList& list = widget.list();
-  const QRect area = areaOfRows(list, widget.size());
   const std::int32_t index = rowPaintedAt(list, event.pos().y());
-  if (!area.contains(event.pos()) || index < 0 || index >= list.ItemsCount()) return false;
+  if (!areaOfRows(widget).contains(event.pos()) || index < 0 || index >= list.ItemsCount())
+    return false;
   const ListItem item = list.state().Items.at(index);
   QString text = readableText(item.Text);
-  const int left = leftOfTexts(list);
-  const bool isCut = left < 0 || left + widthOf(text, list, item) > area.right() + 1;
+  const QRect room = textOfRow(widget, index);
+  const bool isCut =
+      room.left() < 0 || room.right() >= widget.width() || widthOf(text, list, item) > room.width();
   if (!isCut || text.isEmpty()) return false;
   if (text.size() > longestTip) text = text.first(longestTip) + "...";
   // Rich text, which alone breaks long lines.
   const QString shown = "<p style='white-space:pre-wrap'>" + text.toHtmlEscaped() + "</p>";
-  QToolTip::showText(event.globalPos(), shown, &widget, paintedRow(list, widget.size(), index));
+  QToolTip::showText(event.globalPos(), shown, &widget, paintedRow(widget, index));
   return true;
 }
 
