@@ -19,7 +19,6 @@ class HearingListTest : public ListTest, public __nvList {
     list.addSink(*this);
     headless.container().onPropertyChanged = [this](std::string_view name) {
       hear(std::string(name));
-      onPropertyChanged();
     };
     heard();
   }
@@ -147,7 +146,6 @@ class HearingListTest : public ListTest, public __nvList {
 
   // ---- the host ----
 
-  std::function<void()> onPropertyChanged = [] {};
   std::function<void(Variant&)> onWrongIndex = [](Variant& Index) { Index = 0; };
   std::function<void(const std::string& event)> onEvent = [](const std::string&) {};
   std::optional<std::int16_t> newButton;   ///< the button set by the MouseDown handler

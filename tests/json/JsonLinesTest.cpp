@@ -114,51 +114,45 @@ TEST_F(JsonLines, KeepsTextsInEveryScript) {
 
 TEST_F(JsonLines, KeepsEveryFieldOfRandomItems) {
   std::mt19937 random(7);
-  const auto any = [&](auto... values) {
-    const Variant all[] = {Variant(values)...};
-    return all[random() % sizeof...(values)];
-  };
-  const auto flag = [&] {
-    return random() % 9 ? Boolean(random() % 2 == 0)
-                        : Boolean::ofNumber(static_cast<std::int16_t>(random()));
-  };
   const auto number = [&] { return static_cast<std::int32_t>(random()); };
   const auto variant = [&] {
-    return any("def", "", "#102030", "system 5", number(), number() & 0xFFFFFF,
-               static_cast<std::int16_t>(number()), true, false, Boolean::ofNumber(3),
-               systemColour(17), std::bit_cast<float>(number()), 2.0F, -0.0F, 1e-40F,
-               std::numeric_limits<float>::infinity(), Variant());
-  };
-  const auto colour = [&] {
-    return random() % 2 ? systemColour(static_cast<std::uint8_t>(number())) : number();
+    // NaN has many forms, of which one is kept.
+    const float single = std::bit_cast<float>(number());
+    const Variant values[] = {"def",
+                              "",
+                              "#102030",
+                              "system 5",
+                              number(),
+                              number() & 0xFFFFFF,
+                              static_cast<std::int16_t>(number()),
+                              true,
+                              false,
+                              Boolean::ofNumber(3),
+                              systemColour(17),
+                              std::isnan(single) ? std::numeric_limits<float>::quiet_NaN() : single,
+                              2.0F,
+                              -0.0F,
+                              1e-40F,
+                              std::numeric_limits<float>::infinity(),
+                              Variant()};
+    return values[random() % std::size(values)];
   };
   const Picture pictures[] = {nullptr, makeRef<BytePicture>("a"),
                               makeRef<BytePicture>(std::string("\0\xFF b", 4))};
   for (int i = 0; i < 400; ++i) {
-    ListItem item{{.AllowEdit = flag(),
-                   .Enabled = flag(),
-                   .Bold = flag(),
-                   .Italic = flag(),
-                   .Underline = flag(),
-                   .Alignment = static_cast<cItemAlignment>(random() % 4),
-                   .ForeColorDis = colour(),
-                   .BackColorDis = colour(),
-                   .ForeColor = variant(),
-                   .BackColor = variant(),
-                   .ForeColorSelect = variant(),
-                   .BackColorSelect = variant(),
-                   .Icon = pictures[random() % 3],
-                   .IconSelected = pictures[random() % 3]},
-                  flag(),
-                  flag(),
-                  "",
-                  variant(),
-                  ""};
-    // NaN has many forms, of which one is kept.
+    ListItem item;
+    for (Boolean* flag : {&item.AllowEdit, &item.Enabled, &item.Bold, &item.Italic, &item.Underline,
+                          &item.Checked, &item.Selected})
+      *flag = random() % 9 ? Boolean(random() % 2 == 0)
+                           : Boolean::ofNumber(static_cast<std::int16_t>(random()));
     for (Variant* value : {&item.ForeColor, &item.BackColor, &item.ForeColorSelect,
                            &item.BackColorSelect, &item.Tag})
-      if (value->type() == Variant::Type::Single && std::isnan(value->toSingle()))
-        *value = std::numeric_limits<float>::quiet_NaN();
+      *value = variant();
+    for (std::int32_t* colour : {&item.ForeColorDis, &item.BackColorDis})
+      *colour = random() % 2 ? systemColour(static_cast<std::uint8_t>(number())) : number();
+    item.Alignment = static_cast<cItemAlignment>(random() % 4);
+    item.Icon = pictures[random() % 3];
+    item.IconSelected = pictures[random() % 3];
     for (auto length = random() % 20; length > 0; --length)
       item.Text += static_cast<char>(random() % 4 ? 'a' + random() % 26 : random());
     list.ItemsAppend(item);

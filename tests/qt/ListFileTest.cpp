@@ -18,52 +18,38 @@ QImage painted() {
   return image;
 }
 
-TEST(QtListFileTest, bringsPicturesBack) {
+QImage imageOf(const Picture& picture) { return static_cast<const QtPicture&>(*picture).image(); }
+
+QByteArray fileOf(const QImage& image, const char* format) {
+  QByteArray bytes;
+  QBuffer file(&bytes);
+  EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+  EXPECT_TRUE(image.save(&file, format)) << format;
+  return bytes;
+}
+
+TEST(QtListFileTest, BringsPicturesBack) {
   QtApplication application;
   QTemporaryDir folder;
   const std::string path = folder.filePath("list.nvl").toStdString();
   NvListWidget widget;
   nvList& list = widget.list();
-  for (const char* format : {"PNG", "ICO"}) {
-    QByteArray bytes;
-    QBuffer file(&bytes);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_TRUE(painted().save(&file, format)) << format;
-    const Picture picture = QtPicture::fromBytes(bytes);
-    ASSERT_TRUE(picture) << format;
+  const std::pair<const char*, Picture> pictures[] = {
+      {"PNG", QtPicture::fromBytes(fileOf(painted(), "PNG"))},
+      {"ICO", QtPicture::fromBytes(fileOf(painted(), "ICO"))},
+      {"not loaded from a file", QtPicture::fromImage(painted())}};
+  for (const auto& [name, picture] : pictures) {
+    ASSERT_TRUE(picture) << name;
     list.ItemsClear();
-    list.ItemsAdd({.aText = format, .aIcon = picture, .aIconSelected = picture});
+    list.ItemsAdd({.aText = name, .aIcon = picture, .aIconSelected = picture});
     list.ListSave(path, true);
     list.ListInput(path, true);
     ASSERT_EQ(list.ItemsCount(), 1);
-    const Picture back = list.ItemIcon(0);
-    ASSERT_TRUE(back) << format;
-    EXPECT_EQ(back->fileBytes(), picture->fileBytes()) << format;
-    EXPECT_EQ(static_cast<const QtPicture&>(*back).image(),
-              static_cast<const QtPicture&>(*picture).image())
-        << format;
+    ASSERT_TRUE(list.ItemIcon(0)) << name;
+    EXPECT_EQ(list.ItemIcon(0)->fileBytes(), picture->fileBytes()) << name;
+    EXPECT_EQ(imageOf(list.ItemIcon(0)), imageOf(picture)) << name;
   }
-
-  // A picture that was not loaded from a file.
-  const Picture drawn = QtPicture::fromImage(painted());
-  list.ItemIconSelected(0, drawn);
-  list.ListSave(path, true);
-  list.ListInput(path, true);
-  ASSERT_TRUE(list.ItemIcon(0));
   EXPECT_THROW(application.loadPicture(std::vector<std::byte>(100)), Failure);
-  EXPECT_EQ(static_cast<const QtPicture&>(*list.ItemIcon(0)).image(),
-            static_cast<const QtPicture&>(*drawn).image());
-}
-
-/// Few bytes that decode to many pixels: 4096 by 4096, one bit per pixel.
-QByteArray largePicture() {
-  QImage image(4096, 4096, QImage::Format_Mono);
-  image.fill(1);
-  QByteArray bytes;
-  QBuffer file(&bytes);
-  file.open(QIODevice::WriteOnly);
-  image.save(&file, "PNG");
-  return bytes;
 }
 
 long residentMegabytes() {
@@ -72,23 +58,24 @@ long residentMegabytes() {
   return statistics.readAll().split(' ').value(1).toLong() * 4096 / 1'000'000;
 }
 
-TEST(QtListFileTest, keepsNoMorePixelsThanTheBudget) {
+TEST(QtListFileTest, KeepsNoMorePixelsThanTheBudget) {
   QtApplication application;
   QTemporaryDir folder;
   const std::string path = folder.filePath("large.nvl").toStdString();
   const qsizetype budget = QtPicture::pixelBudget();
   EXPECT_EQ(budget, 64'000'000);
-  const QByteArray bytes = largePicture();
+  // Few bytes that decode to many pixels.
+  QImage large(4096, 4096, QImage::Format_Mono);
+  large.fill(1);
+  const QByteArray bytes = fileOf(large, "PNG");
   QtPicture::pixelBudget(20'000'000);
   NvListWidget widget;
   widget.resize(200, 300);
   nvList& list = widget.list();
   list.Style(cIcons);
   const long before = residentMegabytes();
-  for (int i = 0; i < 8; ++i) {
-    // Each is a separate picture.
+  for (int i = 0; i < 8; ++i)
     list.ItemsAdd({.aText = "a", .aIconSelected = QtPicture::fromBytes(bytes)});
-  }
   list.ListSave(path, true);
   list.ListInput(path, true);
   ASSERT_TRUE(list.ItemIcon(7));
@@ -99,7 +86,7 @@ TEST(QtListFileTest, keepsNoMorePixelsThanTheBudget) {
   // A picture with more pixels than the budget is invalid.
   QtPicture::pixelBudget(4096 * 4096 - 1);
   EXPECT_FALSE(QtPicture::fromBytes(bytes));
-  EXPECT_TRUE(static_cast<const QtPicture&>(*list.ItemIcon(7)).image().isNull());
+  EXPECT_TRUE(imageOf(list.ItemIcon(7)).isNull());
   widget.grab();
   QtPicture::pixelBudget(budget);
 }
