@@ -24,7 +24,7 @@ using Continues = std::function<bool(int percent)>;
 enum class FileKind { jsonLines, list, text };
 
 /// The kind of a file by its first bytes. Throws a message for a folder, a device, a file that
-/// cannot be read, and one that is none of these kinds.
+/// cannot be read, and one of another kind.
 FileKind kindOf(const QString& path);
 
 /// Shows a file of any kind instead of the items: scrolls to the top and makes the first selected

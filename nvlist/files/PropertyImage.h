@@ -26,8 +26,8 @@ class PropertyImage final : public Object {
   /// keeps the old contents, if the layout is invalid or a property is cut short.
   void Contents(Variant bytes);
 
-  /// The value of a property, or the default if there is none. Names are case-sensitive; the first
-  /// of several properties of the same name counts. A picture is returned as a StoredPicture.
+  /// The value of a property, or the default if it is not stored. Names are case-sensitive; the
+  /// first of several properties of the same name counts. A picture is returned as a StoredPicture.
   Variant ReadProperty(std::string_view name, const Variant& defaultValue) const;
 
   /// Size of the contents in bytes.

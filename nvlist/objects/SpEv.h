@@ -47,8 +47,8 @@ class SpEv {
 
  private:
   static Boolean IsWinXP();
-  /// The text up to its first zero character, with one byte a character. Reports Failure 5 if there
-  /// is none.
+  /// The text up to its first zero character, with one byte a character. Reports Failure 5 if it
+  /// has no zero character.
   static std::string ConvUnicode(std::u16string_view text);
 };
 

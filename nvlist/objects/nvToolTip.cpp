@@ -82,7 +82,7 @@ Boolean nvToolTip::AddTool(const Variant& control, const std::string& text) {
     if (!IsWindow()) return;
     TipTool tool;
     if (on.test([&] { return GetToolInfo(lateBound<HostWindow>(control)->hwnd(), tool); })) return;
-    tool.flags = TipTool::isWindow | TipTool::hearsMouse;
+    tool.flags = TipTool::isWindow | TipTool::receivesMouse;
     on.step([&] { tool.owner = containerOf(control)->hwnd(); });
     on.step([&] { tool.id = lateBound<HostWindow>(control)->hwnd(); });
     on.step([&] { tool.text = text; });

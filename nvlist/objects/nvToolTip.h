@@ -64,7 +64,7 @@ class nvToolTip {
 
  private:
   bool IsWindow() const { return TipWindow_ != nullptr; }
-  /// Finds the tool of a control. `record` receives it or, if there is none, the last tool.
+  /// Finds the tool of a control. `record` receives it or, if it is not found, the last tool.
   Boolean GetToolInfo(std::int32_t controlHandle, TipTool& record, bool wantText = false);
   void keepLength(const std::string& text);
   static std::int16_t LoWord2(std::int32_t value);

@@ -13,7 +13,7 @@ struct TipTool {
   /// The id is the handle of a window.
   static constexpr std::uint32_t isWindow = 1;
   /// The tip window watches the mouse over the tool by itself.
-  static constexpr std::uint32_t hearsMouse = 16;
+  static constexpr std::uint32_t receivesMouse = 16;
 
   std::uint32_t flags = 0;
   /// Handle of the window that contains the tool.
@@ -56,7 +56,7 @@ class TipWindow {
   /// Changes the text of the tool with the same owner and id, if there is one.
   virtual void updateText(const TipTool& tool) = 0;
   virtual std::int32_t toolCount() = 0;
-  /// Copies the tool at an index, from 0, into `tool`; returns false if there is none. The text of
+  /// Copies the tool at an index, from 0, into `tool`; returns false if no tool has it. The text of
   /// `tool` is a buffer whose size stays the same: the tool's text is copied to its front, cut to
   /// fit, followed by a zero character. An empty buffer stays empty.
   virtual bool enumerateTool(std::int32_t index, TipTool& tool) = 0;

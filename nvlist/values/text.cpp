@@ -5,8 +5,8 @@ namespace norvane {
 
 namespace {
 
-/// The length in bytes of the valid sequence at `at`; if there is none, 1, and `character` is a
-/// stray byte. Only for bytes beyond ASCII.
+/// The length in bytes of the valid sequence at `at`. Without one, 1, and `character` is a stray
+/// byte. Only for bytes beyond ASCII.
 std::size_t decodeSequence(std::string_view text, std::size_t at, char32_t& character) {
   const auto lead = static_cast<unsigned char>(text[at]);
   character = firstStrayByte + lead;

@@ -353,7 +353,7 @@ TEST(WinDesktop, TipsAreKeptByTheSystemsControl) {
   const auto tips = desktop.createTipWindow(handle(form.window()));
   ASSERT_NE(nullptr, tips);
   EXPECT_NE(0, tips->handle());
-  TipTool tool{TipTool::isWindow | TipTool::hearsMouse,
+  TipTool tool{TipTool::isWindow | TipTool::receivesMouse,
                handle(form.window()),
                handle(form.window()),
                {},

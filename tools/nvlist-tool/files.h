@@ -15,7 +15,7 @@ enum class Kind { listFile, jsonLines, text };
 
 /// The kind with this name, as options give it; throws Trouble for any other.
 Kind kindNamed(const std::string& name);
-/// The kind that an extension stands for, or nothing.
+/// The kind of files with this extension, or nothing.
 std::optional<Kind> kindByExtension(const std::string& path);
 /// The kind of an existing file: by its extension, or else by its first bytes.
 Kind kindOfFile(const std::string& path);
