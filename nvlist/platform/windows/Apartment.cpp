@@ -50,7 +50,7 @@ std::shared_ptr<Apartment> Apartment::current() {
 
 Apartment::Apartment() {
   registerClass(procedure);
-  window_ = CreateWindowExW(0, className, L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, thisModule(),
+  window_ = CreateWindowExW(0, className, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, thisModule(),
                             nullptr);
   if (!window_) throw Failure::outOfMemory();
   SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));

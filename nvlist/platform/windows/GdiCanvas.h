@@ -14,7 +14,7 @@ namespace norvane {
 /// visible. It belongs to the thread that created it.
 class GdiCanvas final : public Surface {
  public:
-  GdiCanvas();
+  GdiCanvas() = default;
   ~GdiCanvas() override;
   GdiCanvas(const GdiCanvas&) = delete;
   GdiCanvas& operator=(const GdiCanvas&) = delete;
@@ -93,7 +93,7 @@ class GdiCanvas final : public Surface {
   Colour backColor_ = colours::white;
   Colour foreColor_ = 0;
   FontObject font_;
-  int dpi_;
+  int dpi_ = 0;  ///< 0 until a text is measured or resolution() is called
   unsigned flags_ = 0;
   std::array<std::shared_ptr<GdiFace>, 8> faces_;
 };

@@ -40,7 +40,7 @@ int resolutionOf(HWND window) {
   static const auto getDpi = reinterpret_cast<GetDpi>(
       reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32.dll"), "GetDpiForWindow")));
   const UINT dpi = getDpi ? getDpi(window) : 0;
-  return dpi != 0 ? static_cast<int>(dpi) : screenResolution(LOGPIXELSY);
+  return dpi != 0 ? static_cast<int>(dpi) : screenResolution().cy;
 }
 
 RECT rectOf(const Bounds& bounds) {

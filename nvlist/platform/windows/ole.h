@@ -107,10 +107,10 @@ inline BSTR newBstr(std::string_view text) {
 
 // ---- lengths: hundredths of a millimetre in COM, pixels in the library ----
 
-/// Pixels per inch of the screen; `index` is LOGPIXELSX or LOGPIXELSY.
-inline int screenResolution(int index) {
+/// Pixels per inch of the screen.
+inline SIZE screenResolution() {
   const HDC screen = GetDC(nullptr);
-  const int result = GetDeviceCaps(screen, index);
+  const SIZE result{GetDeviceCaps(screen, LOGPIXELSX), GetDeviceCaps(screen, LOGPIXELSY)};
   ReleaseDC(nullptr, screen);
   return result;
 }
@@ -118,12 +118,14 @@ inline int screenResolution(int index) {
 inline constexpr int himetricPerInch = 2540;
 
 inline SIZE pixelsOf(const SIZEL& size) {
-  return {MulDiv(size.cx, screenResolution(LOGPIXELSX), himetricPerInch),
-          MulDiv(size.cy, screenResolution(LOGPIXELSY), himetricPerInch)};
+  const SIZE resolution = screenResolution();
+  return {MulDiv(size.cx, resolution.cx, himetricPerInch),
+          MulDiv(size.cy, resolution.cy, himetricPerInch)};
 }
 inline SIZEL himetricOf(const SIZE& pixels) {
-  return {MulDiv(pixels.cx, himetricPerInch, screenResolution(LOGPIXELSX)),
-          MulDiv(pixels.cy, himetricPerInch, screenResolution(LOGPIXELSY))};
+  const SIZE resolution = screenResolution();
+  return {MulDiv(pixels.cx, himetricPerInch, resolution.cx),
+          MulDiv(pixels.cy, himetricPerInch, resolution.cy)};
 }
 
 }  // namespace norvane
