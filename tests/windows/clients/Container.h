@@ -26,17 +26,24 @@ inline void pump(DWORD milliseconds) {
   } while (static_cast<LONG>(end - GetTickCount()) > 0);
 }
 
-/// Interfaces of one object that outlives all its references.
-#define STANDING_UNKNOWN                               \
-  STDMETHODIMP_(ULONG) AddRef() override { return 2; } \
-  STDMETHODIMP_(ULONG) Release() override { return 1; }
+/// An object that outlives its references, which it counts.
+template <class... Interfaces>
+class Standing : public Interfaces... {
+ public:
+  ULONG references = 0;
+  STDMETHODIMP_(ULONG) AddRef() override { return ++references + 1; }
+  STDMETHODIMP_(ULONG) Release() override { return --references + 1; }
+
+ protected:
+  HRESULT handOut(void* object, void** out) {
+    *out = object;
+    return object ? (AddRef(), S_OK) : E_NOINTERFACE;
+  }
+};
 
 /// A container in one window, with ambients and counters that a test reads.
-class Container final : public IOleClientSite,
-                        public IOleInPlaceSite,
-                        public IOleInPlaceFrame,
-                        public IOleControlSite,
-                        public IDispatch {
+class Container final : public Standing<IOleClientSite, IOleInPlaceSite, IOleInPlaceFrame,
+                                        IOleControlSite, IDispatch> {
  public:
   HWND frame = CreateWindowExW(0, L"STATIC", L"container", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 20, 20,
                                360, 260, nullptr, nullptr, nullptr, nullptr);
@@ -47,16 +54,16 @@ class Container final : public IOleClientSite,
   std::map<std::string, int> calls;
   ~Container() { DestroyWindow(frame); }
 
-  STANDING_UNKNOWN
   STDMETHODIMP QueryInterface(REFIID id, void** out) override {
-    *out = id == IID_IUnknown || id == IID_IOleClientSite      ? static_cast<IOleClientSite*>(this)
-           : id == IID_IOleInPlaceSite || id == IID_IOleWindow ? static_cast<IOleInPlaceSite*>(this)
-           : id == IID_IOleInPlaceFrame || id == IID_IOleInPlaceUIWindow
-               ? static_cast<IOleInPlaceFrame*>(this)
-           : id == IID_IOleControlSite ? static_cast<IOleControlSite*>(this)
-           : id == IID_IDispatch       ? static_cast<void*>(static_cast<IDispatch*>(this))
-                                       : nullptr;
-    return *out ? S_OK : E_NOINTERFACE;
+    return handOut(
+        id == IID_IUnknown || id == IID_IOleClientSite      ? static_cast<IOleClientSite*>(this)
+        : id == IID_IOleInPlaceSite || id == IID_IOleWindow ? static_cast<IOleInPlaceSite*>(this)
+        : id == IID_IOleInPlaceFrame || id == IID_IOleInPlaceUIWindow
+            ? static_cast<IOleInPlaceFrame*>(this)
+        : id == IID_IOleControlSite ? static_cast<IOleControlSite*>(this)
+        : id == IID_IDispatch       ? static_cast<void*>(static_cast<IDispatch*>(this))
+                                    : nullptr,
+        out);
   }
   // IOleClientSite
   STDMETHODIMP SaveObject() override { return ++calls["SaveObject"], S_OK; }
@@ -74,6 +81,7 @@ class Container final : public IOleClientSite,
   STDMETHODIMP GetWindowContext(IOleInPlaceFrame** out, IOleInPlaceUIWindow** document,
                                 RECT* position, RECT* clip, OLEINPLACEFRAMEINFO* info) override {
     *out = this;
+    AddRef();
     *document = nullptr;
     *position = *clip = place;
     info->hwndFrame = frame;
@@ -138,20 +146,19 @@ class Container final : public IOleClientSite,
 };
 
 /// A sink of the list's events, of changed properties and of changed views.
-class Sink final : public IDispatch, public IPropertyNotifySink, public IAdviseSink {
+class Sink final : public Standing<IDispatch, IPropertyNotifySink, IAdviseSink> {
  public:
   std::map<DISPID, int> events, properties;
   int views = 0;
   std::function<void(DISPID, DISPPARAMS&)> onEvent = [](DISPID, DISPPARAMS&) {};
 
-  STANDING_UNKNOWN
   STDMETHODIMP QueryInterface(REFIID id, void** out) override {
-    *out = id == IID_IUnknown || id == IID_IDispatch || id == __uuidof(::__nvList)
-               ? static_cast<void*>(static_cast<IDispatch*>(this))
-           : id == IID_IPropertyNotifySink ? static_cast<IPropertyNotifySink*>(this)
-           : id == IID_IAdviseSink         ? static_cast<void*>(static_cast<IAdviseSink*>(this))
-                                           : nullptr;
-    return *out ? S_OK : E_NOINTERFACE;
+    return handOut(id == IID_IUnknown || id == IID_IDispatch || id == __uuidof(::__nvList)
+                       ? static_cast<void*>(static_cast<IDispatch*>(this))
+                   : id == IID_IPropertyNotifySink ? static_cast<IPropertyNotifySink*>(this)
+                   : id == IID_IAdviseSink ? static_cast<void*>(static_cast<IAdviseSink*>(this))
+                                           : nullptr,
+                   out);
   }
   STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
   STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
@@ -171,13 +178,12 @@ class Sink final : public IDispatch, public IPropertyNotifySink, public IAdviseS
   STDMETHODIMP_(void) OnClose() override {}
 };
 
-class Bag final : public IPropertyBag {
+class Bag final : public Standing<IPropertyBag> {
  public:
   std::map<std::wstring, std::unique_ptr<OleVariant>> values;
   bool refusesWriting = false;
 
-  STANDING_UNKNOWN
-  STDMETHODIMP QueryInterface(REFIID, void** out) override { return *out = this, S_OK; }
+  STDMETHODIMP QueryInterface(REFIID, void** out) override { return handOut(this, out); }
   STDMETHODIMP Read(LPCOLESTR name, VARIANT* value, IErrorLog*) override {
     const auto found = values.find(name);
     if (found == values.end()) return E_INVALIDARG;

@@ -2,11 +2,10 @@
 #include "Host.h"
 
 namespace norvane {
+namespace {
 
-void activation() {
-  Container site;
-  Sink sink;
-  auto list = make();
+void activate(Container& site, Sink& sink) {
+  const auto list = make();
   const auto object = asked<IOleObject>(list.get());
   QACONTAINER container{};
   container.cbSize = sizeof container;
@@ -71,13 +70,26 @@ void activation() {
   check(sink.events[12] == 2 && listIndex(list.get()) == 4, "KeyDown is read back");
   asked<IOleControl>(list.get())->FreezeEvents(TRUE);
   SendMessageW(window, WM_KEYDOWN, VK_DOWN, 0);
-  check(sink.events[12] == 2 && listIndex(list.get()) == 5, "frozen events are not raised");
+  asked<IOleControl>(list.get())->FreezeEvents(TRUE);
+  asked<IOleControl>(list.get())->FreezeEvents(FALSE);
+  SendMessageW(window, WM_KEYDOWN, VK_DOWN, 0);
+  check(sink.events[12] == 2 && listIndex(list.get()) == 6,
+        "frozen events are not raised until all have thawed");
   asked<IOleControl>(list.get())->FreezeEvents(FALSE);
   sink.onEvent = [](DISPID, DISPPARAMS&) {};
   PostMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(40, 20));
   PostMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(40, 20));
   pump(50);
   check(sink.events[6] == 1 && sink.events[4] == 1 && sink.events[1] == 1, "press, release, click");
+
+  VARIANT edited = number(1);
+  list->put_AllowEdit(VARIANT_TRUE);
+  list->put_ItemAllowEdit(&edited, VARIANT_TRUE);
+  list->SetEdit(&edited);
+  check(asked<IOleControl>(list.get())->GetControlInfo(&info) == S_OK &&
+            info.dwFlags == CTRLINFO_EATS_RETURN && active->TranslateAccelerator(&key) == S_OK &&
+            site.calls["TranslateAccelerator"] == 2,
+        "Return is its own while the edit box is open");
 
   const auto place = asked<IOleInPlaceObject>(list.get());
   const RECT moved{0, 0, 100, 80}, clip{0, 0, 50, 80};
@@ -97,6 +109,18 @@ void activation() {
         "closing saves and parks");
   check(IsWindow(window) && windowOf(list.get()) == window, "the window stays the same");
   object->SetClientSite(nullptr);
+  ComPtr<IAdviseSink> view;
+  asked<IViewObject2>(list.get())->GetAdvise(nullptr, nullptr, view.put());
+  check(view.get() == &sink, "the view's sink is handed out");
+}
+
+}  // namespace
+
+void activation() {
+  Container site;
+  Sink sink;
+  activate(site, sink);
+  check(site.references == 0 && sink.references == 0, "each reference is returned once");
 }
 
 void ambients() {
@@ -234,7 +258,52 @@ void persistence() {
   point->Unadvise(cookie);
 }
 
+/// What hands out the control itself, or a part that shares its references.
+void references() {
+  const auto list = make();
+  const auto count = [&] {
+    list->AddRef();
+    return list->Release();
+  };
+  constexpr int spare = 100;  // keeps the control alive if a reference is missing
+  for (int i = 0; i < spare; ++i) list->AddRef();
+  int wrong = 0;
+  for (const IID& id :
+       {IID_IUnknown, IID_IDispatch, IID_IPersistPropertyBag, IID_IPersistStreamInit,
+        IID_IOleObject, IID_IOleControl, IID_IOleInPlaceObject, IID_IOleInPlaceActiveObject,
+        IID_IViewObject2, IID_IDataObject, IID_IQuickActivate, IID_IConnectionPointContainer,
+        IID_IProvideClassInfo2, IID_ISupportErrorInfo}) {
+    const ULONG before = count();
+    IUnknown* object = nullptr;
+    wrong += list->QueryInterface(id, reinterpret_cast<void**>(&object)) != S_OK ||
+             count() != before + 1;
+    if (object) object->Release();
+    wrong += count() != before;
+  }
+  check(wrong == 0, "each interface has a reference of its own");
+
+  const ULONG before = count();
+  {
+    const auto container = asked<IConnectionPointContainer>(list.get());
+    ComPtr<IConnectionPoint> point;
+    ComPtr<IConnectionPointContainer> owner;
+    container->FindConnectionPoint(__uuidof(::__nvList), point.put());
+    check(count() == before + 2, "a connection point has a reference of its own");
+    point->GetConnectionPointContainer(owner.put());
+    check(count() == before + 3 && owner.get() == container.get(), "so has its container");
+  }
+  check(count() == before, "all references are returned");
+  Sink rows;
+  list->put_Recordset(static_cast<IDispatch*>(&rows));
+  const ULONG kept = rows.references;
+  ComPtr<IDispatch> read;
+  list->get_Recordset(read.put());
+  check(rows.references == kept + 1, "a recordset that is read has a reference of its own");
+  for (int i = 0; i < spare; ++i) list->Release();
+}
+
 void connections() {
+  references();
   auto list = make();
   const auto container = asked<IConnectionPointContainer>(list.get());
   ComPtr<IEnumConnectionPoints> points;
@@ -363,8 +432,8 @@ void events() {
       {"MouseUp", 4, [&] { send(WM_RBUTTONUP, 0, 41, 52); }, L"2:2 2:0 4:41 4:52 ; ", {}},
       {"MouseMove",
        5,
-       [&] { send(WM_MOUSEMOVE, 0, 43, 52); },
-       L"12:102 3:2 2:0 2:0 4:43 4:52 ; ",
+       [&] { send(WM_MOUSEMOVE, MK_RBUTTON, 43, 52); },
+       L"12:102 3:2 2:2 2:0 4:43 4:52 ; ",
        {}},
       {"MouseDown",
        6,

@@ -5,6 +5,8 @@
 //     host registry machine|user    counts the registry keys of the library
 #include "Host.h"
 
+#include <commctrl.h>
+
 using namespace norvane;
 
 namespace {
@@ -23,16 +25,25 @@ std::pair<int, int> nextHandles() {
 }
 
 void lifetimes() {
-  constexpr int count = 1000;
+  constexpr int count = 1000, listViews = 100;
   for (int i = 0; i < 10; ++i) add(make().get(), 1);
   const auto before = nextHandles();
-  const DWORD start = GetTickCount();
+  DWORD start = GetTickCount();
   for (int i = 0; i < count; ++i) add(make().get(), 1);
-  std::printf("%d controls made and ended: %lu ms\n", count, GetTickCount() - start);
+  const DWORD own = GetTickCount() - start;
   pump(50);
   const auto after = nextHandles();
   check(after.first <= before.first + count / 10, "GDI objects are returned");
   check(after.second <= before.second + count / 10, "windows are returned");
+
+  const Container form;
+  start = GetTickCount();
+  for (int i = 0; i < listViews; ++i)
+    DestroyWindow(CreateWindowExW(0, WC_LISTVIEWW, L"", WS_CHILD | WS_VISIBLE | LVS_REPORT, 0, 0,
+                                  200, 150, form.frame, nullptr, nullptr, nullptr));
+  const DWORD common = GetTickCount() - start;
+  std::printf("made and ended: a control in %.2f ms, a list-view control in %.2f ms\n",
+              1.0 * own / count, 1.0 * common / listViews);
 }
 
 /// Uses a control of its own on a thread of its own; the result counts as the exit code.
@@ -180,6 +191,7 @@ int main(int count, char** arguments) {
     return 0;
   }
   OleInitialize(nullptr);
+  InitCommonControls();
   {
     const auto list = make();
     check(static_cast<bool>(list), "made");
