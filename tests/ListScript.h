@@ -1,26 +1,15 @@
 #pragma once
 
 #include "HearingList.h"
+#include "Scenario.h"
 
 #include <algorithm>
-#include <cctype>
 #include <sstream>
 
 #include <nvlist/core/storedProperties.h>
 #include <nvlist/values/text.h>
 
 namespace norvane {
-
-/// A script and the outputs of its commands.
-struct Scenario {
-  const char* name;
-  const char* script;
-  const char* expected;
-
-  friend std::ostream& operator<<(std::ostream& out, const Scenario& scenario) {
-    return out << scenario.name;
-  }
-};
 
 /// A list of five items that is driven by scripts.
 class ListScript : public HearingListTest, public testing::WithParamInterface<Scenario> {
@@ -228,12 +217,5 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
 
   std::string lastCode;
 };
-
-inline std::string nameOf(const testing::TestParamInfo<Scenario>& test) {
-  std::string name = test.param.name;
-  std::ranges::replace_if(
-      name, [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
-  return name;
-}
 
 }  // namespace norvane

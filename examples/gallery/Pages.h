@@ -35,7 +35,7 @@ class Stage : public QWidget {
 
   /// Called before work that takes long.
   std::function<void(const QString& what)> onTold;
-  void tell(const QString& what) {
+  void tell(const QString& what) const {
     if (onTold) onTold(what);
   }
 

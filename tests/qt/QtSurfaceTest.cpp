@@ -171,30 +171,24 @@ TEST_F(QtSurfaceTest, anAmpersandUnderlinesAndIsNotShown) {
   EXPECT_NEAR(box("n&&n").width() - plain.width(), wider, 1);
 }
 
-TEST_F(QtSurfaceTest, tabsGoToStopsFromTheRectangleOrAreLeftOut) {
+TEST_F(QtSurfaceTest, textsLieInTheirRectangle) {
   EXPECT_GT(box("\tn").left(), box("n").left());
-  const Rectangle moved{37, 0, 400, 120};
-  EXPECT_EQ(ink(drawn("\tn", TextFormat::expandTabs, moved)), box("\tn").translated(37, 0));
+  EXPECT_EQ(ink(drawn("\tn", TextFormat::expandTabs, {37, 0, 400, 120})),
+            box("\tn").translated(37, 0));
   EXPECT_EQ(drawn("a\tb", TextFormat::right), drawn("ab", TextFormat::right));
-}
 
-TEST_F(QtSurfaceTest, rightAlignedLinesEndAtTheRectangle) {
-  const Rectangle where{10, 0, 200, 120};
+  const Rectangle where{10, 0, 200, 120}, small{50, 10, 60, 18};
   const QRect narrow = ink(drawn("n", TextFormat::right, where));
   EXPECT_NEAR(narrow.right(), 198, 1);
   EXPECT_EQ(ink(drawn("n\nnnnnnn", TextFormat::right, where)).bottomRight(),
             narrow.bottomRight() + QPoint(0, lineHeight()));
-}
 
-TEST_F(QtSurfaceTest, textIsClippedToItsRectangleOnly) {
-  const Rectangle where{50, 10, 60, 18};
   for (const TextFormat format : {TextFormat::expandTabs, TextFormat::right})
-    EXPECT_TRUE(QRect(50, 10, 10, 8).contains(ink(drawn("MMMMMMMM\nMMMM", format, where))));
+    EXPECT_TRUE(QRect(50, 10, 10, 8).contains(ink(drawn("MMMMMMMM\nMMMM", format, small))));
   EXPECT_FALSE(ink(drawn("M", TextFormat::expandTabs, {0, 0, huge, huge})).isEmpty());
   EXPECT_TRUE(ink(drawn("M", TextFormat::right, {lowest, lowest, lowest, lowest})).isEmpty());
-  // Later drawing is not clipped.
   surface.PSet(300, 100, red);
-  EXPECT_EQ(ink(surface.image()), QRect(300, 100, 1, 1));
+  EXPECT_EQ(ink(surface.image()), QRect(300, 100, 1, 1)) << "later drawing is not clipped";
 }
 
 TEST_F(QtSurfaceTest, lengthCountsBytes) {

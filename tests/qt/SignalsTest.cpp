@@ -1,6 +1,5 @@
 #include "WidgetTest.h"
 
-#include <QContextMenuEvent>
 #include <QDialog>
 
 namespace norvane {
@@ -15,70 +14,6 @@ class Signals : public WidgetTest {
     hearSignals();
   }
 };
-
-TEST_F(Signals, FollowWhatTheUserAndTheHostDo) {
-  const struct {
-    const char* name;
-    std::function<void()> act;
-    const char* emitted;
-  } cases[] = {
-      {"host selects", [&] { list().ListIndex(3); }, "current 3, selection"},
-      {"again", [&] { list().ListIndex(3); }, ""},
-      {"click on the selected row", [&] { click(3); }, ""},
-      {"click", [&] { click(4); }, "current 4, selection"},
-      {"extend", [&] { click(6, Qt::ShiftModifier); }, "current 6, selection"},
-      {"check", [&] { click(6, {}, 9); }, "selection, checked 6 1"},
-      {"host checks", [&] { list().ItemChecked(6, false); }, ""},
-      {"key", [&] { key(Qt::Key_Down); }, "current 7, selection"},
-      {"clear", [&] { widget->clearSelection(); }, "selection"},
-      {"clear nothing", [&] { widget->clearSelection(); }, ""},
-      {"select without the current one", [&] { list().ListIndex(7); }, "selection"},
-      {"remove a selected item", [&] { list().ItemsRemove(7); }, "selection"},
-      {"remove another one", [&] { list().ItemsRemove(7); }, ""},
-      {"return", [&] { key(Qt::Key_Return); }, "activated 7"},
-      {"bad index", [&] { list().ListIndex(99); }, "wrong 99"},
-      {"scroll", [&] { list().TopIndex(5); }, "scrolled"},
-      {"scroll to the same", [&] { widget->scrollTo(6); }, ""},
-      {"scroll into view", [&] { widget->scrollTo(17); }, "scrolled"},
-      {"scroll to no item", [&] { widget->scrollTo(-1); }, ""},
-      {"no file", [&] { list().ListInput("no such file"); }, "inputFailed"},
-      {"clear all", [&] { list().ItemsClear(); }, "current 0, scrolled"},
-  };
-  for (const auto& c : cases) {
-    c.act();
-    EXPECT_EQ(heard(), c.emitted) << c.name;
-  }
-}
-
-TEST_F(Signals, TellOfEditsMovesAndMenus) {
-  list().AllowEdit(true);
-  list().ItemAllowEdit(2, true);
-  click(2), click(2);
-  heard();
-  QTest::keyClicks(&edit(), "Zoe");
-  QTest::keyClick(&edit(), Qt::Key_Return);
-  EXPECT_EQ(heard(), "edited 2 Zoe");
-
-  const auto menu = [&](QContextMenuEvent::Reason reason, QPoint at) {
-    QContextMenuEvent event(reason, at, widget->mapToGlobal(at));
-    QApplication::sendEvent(widget, &event);
-    EXPECT_TRUE(event.isAccepted());
-    return heard();
-  };
-  EXPECT_EQ(menu(QContextMenuEvent::Mouse, row(4)), "menu 4 60,76");
-  EXPECT_EQ(menu(QContextMenuEvent::Keyboard, {}), "menu 2 1,50");
-
-  list().AllowItemMoving(true);
-  press(row(1));
-  heard();
-  drag(row(4)), release(row(4));
-  EXPECT_EQ(heard(), "current 3, moved 1 3");
-  EXPECT_EQ(widget->itemText(3), "1");
-
-  list().ItemsClear();
-  heard();
-  EXPECT_EQ(menu(QContextMenuEvent::Mouse, row(4)), "menu -1 60,76");
-}
 
 TEST_F(Signals, MayPreventACheck) {
   bool isPrevented = true;
