@@ -9,6 +9,7 @@
 #include <limits>
 #include <string>
 
+#include <nvlist/platform/qt/QtFace.h>
 #include <nvlist/platform/qt/QtFont.h>
 #include <nvlist/platform/qt/QtPicture.h>
 #include <nvlist/values/Failure.h>
@@ -138,6 +139,21 @@ TEST_F(QtSurfaceTest, measuresAsTheLayoutOfQtDoes) {
         "ΓΑ ΤΟ ΑΥ, ᾬχυ", "ГА ТД УЖ, съешь", "Ґ1 Vα Гa", "日本語、テスト。", "「〉漢 AV", "한글 AV",
         "שלום, V", "वि लि", "ệ e\u0301"})
     EXPECT_NEAR(surface.TextWidth(text), metrics.horizontalAdvance(QString(text)), 0.5) << text;
+}
+
+/// A layout takes as long as the sum of the characters of fifty texts.
+TEST_F(QtSurfaceTest, textsInCommonScriptsNeedNoLayout) {
+  QImage image(1, 1, QImage::Format_RGB32);
+  FontObject font;
+  font.Name = "DejaVu Sans";
+  font.Size = 8.25F;
+  QtFace face(toQFont(font), &image);
+  const QFontMetricsF metrics(toQFont(font), &image);
+  for (const char* text : {"item 12", "Größe für Übung", "fiel über", "μέγεθος 1", "размер 1",
+                           "項目の12リスト", "„Łódź“ – §5"})
+    EXPECT_EQ(face.widthWithoutLayout(text), metrics.horizontalAdvance(QString(text))) << text;
+  for (const char* text : {"Griffin für", "한글", "שלום"})
+    EXPECT_FALSE(face.widthWithoutLayout(text)) << text;
 }
 
 TEST_F(QtSurfaceTest, textsLookAsAPainterDrawsThem) {
