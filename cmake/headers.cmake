@@ -67,7 +67,6 @@ target_sources(nvlist PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FI
   nvlist/scroll/values.h
   nvlist/values/Boolean.h
   nvlist/values/Colour.h
-  nvlist/values/CompactText.h
   nvlist/values/Failure.h
   nvlist/values/Font.h
   nvlist/values/Picture.h

@@ -32,13 +32,14 @@ struct ItemLook {
 
   /// Whether both hold the same values. Texts and objects are the same if they are one.
   bool isSame(const ItemLook& other) const {
-    return AllowEdit == other.AllowEdit && Enabled == other.Enabled && Bold == other.Bold &&
-           Italic == other.Italic && Underline == other.Underline && Alignment == other.Alignment &&
-           ForeColorDis == other.ForeColorDis && BackColorDis == other.BackColorDis &&
-           ForeColor.isIdentical(other.ForeColor) && BackColor.isIdentical(other.BackColor) &&
+    // The fields that differ most often come first.
+    return ForeColor.isIdentical(other.ForeColor) && BackColor.isIdentical(other.BackColor) &&
+           Icon == other.Icon && Bold == other.Bold && Enabled == other.Enabled &&
+           AllowEdit == other.AllowEdit && Italic == other.Italic && Underline == other.Underline &&
+           Alignment == other.Alignment && ForeColorDis == other.ForeColorDis &&
+           BackColorDis == other.BackColorDis &&
            ForeColorSelect.isIdentical(other.ForeColorSelect) &&
-           BackColorSelect.isIdentical(other.BackColorSelect) && Icon == other.Icon &&
-           IconSelected == other.IconSelected;
+           BackColorSelect.isIdentical(other.BackColorSelect) && IconSelected == other.IconSelected;
   }
 };
 

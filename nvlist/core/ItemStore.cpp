@@ -23,14 +23,19 @@ Ref<StoredItem>& ItemStore::slot(std::int32_t index) {
   return reference;
 }
 
-void ItemStore::setText(std::int32_t index, CompactText text) {
-  StoredItem& item = *slot(index);
-  item.Text(std::move(text));
+const Ref<StoredItem>& ItemStore::setText(std::int32_t index, std::string_view text) {
+  if (!holds(index)) throw Failure::subscriptOutOfRange();
+  changed();
+  Ref<StoredItem>& reference = slots_.write(index);
+  if (!reference && !source_) return reference = StoredItem::make(text);
+  if (!reference) makeItem(reference, index);
+  reference->Text(text);
   // Another slot may hold the same item.
-  if (!item.isHeldOnce()) slots_.forgetWidest();
+  if (!reference->isHeldOnce()) slots_.forgetWidest();
+  return reference;
 }
 
-void ItemStore::setKey(std::int32_t index, CompactText key) { slot(index)->Key(std::move(key)); }
+void ItemStore::setKey(std::int32_t index, std::string_view key) { slot(index)->Key(key); }
 
 std::int32_t ItemStore::find(SearchIndex& index, Searched field, std::string_view text) {
   if (!index.wasSearched) {
@@ -48,22 +53,29 @@ std::int32_t ItemStore::find(SearchIndex& index, Searched field, std::string_vie
   return found != index.firsts.end() ? found->second : upperBound() + 1;
 }
 
+void ItemStore::dropSearches() {
+  texts_ = {};
+  keys_ = {};
+}
+
 void ItemStore::makeItem(Ref<StoredItem>& reference, std::int32_t index) const {
-  auto item = makeRef<StoredItem>();
-  if (source_) {
-    ListItem values;
-    if (source_->make(index, values)) assign(*item, index, values);
+  ListItem values;
+  if (!source_ || !source_->make(index, values)) {
+    reference = StoredItem::make();
+    return;
   }
+  auto item = StoredItem::make(values.Text);
+  assign(*item, index, values);
   reference = std::move(item);
 }
 
 void ItemStore::assign(std::int32_t index, ListItem values) {
-  const Ref<StoredItem> item = slot(index);
+  const Ref<StoredItem> item = setText(index, values.Text);
   assign(*item, index, values);
 }
 
+/// Sets all fields but the text.
 void ItemStore::assign(StoredItem& item, std::int32_t index, ListItem& values) const {
-  item.Text(values.Text);
   item.Key(values.Key);
   item.Tag(std::move(values.Tag));
   item.Checked(values.Checked);

@@ -41,9 +41,10 @@ class ItemStore {
   /// The item in a slot, for anything except changing its text or key. Valid until the list
   /// changes.
   StoredItem& touch(std::int32_t index) { return *peek(index); }
-  /// Changes the text, or the key, of the item in a slot.
-  void setText(std::int32_t index, CompactText text);
-  void setKey(std::int32_t index, CompactText key);
+  /// Changes the text, or the key, of the item in a slot. `text` must not be that of an item.
+  /// Returns the item's reference.
+  const Ref<StoredItem>& setText(std::int32_t index, std::string_view text);
+  void setKey(std::int32_t index, std::string_view key);
   /// Changes all fields of the item in a slot.
   void assign(std::int32_t index, ListItem values);
   /// Sets the look of an item that is, or will be, in the slot `index`. If an item shortly before
@@ -120,9 +121,9 @@ class ItemStore {
   std::int32_t find(SearchIndex& index, Searched field, std::string_view text);
   /// Drops what was made for searches. Called whenever a text, a key or a place may change.
   void changed() {
-    if (texts_.wasSearched) texts_ = {};
-    if (keys_.wasSearched) keys_ = {};
+    if (texts_.wasSearched || keys_.wasSearched) dropSearches();
   }
+  void dropSearches();
 
   Ref<StoredItem>& peek(std::int32_t index) const;
   void makeItem(Ref<StoredItem>& reference, std::int32_t index) const;

@@ -9,7 +9,7 @@
 
 namespace norvane {
 
-/// A sequence of references to items, stored in blocks of at most 512, so that inserting or
+/// A sequence of references to items, stored in blocks of at most 256, so that inserting or
 /// removing one in the middle of a million costs little more than at the end. A reference may be
 /// empty.
 ///
@@ -79,7 +79,7 @@ class SlotBlocks {
     std::size_t block;
     std::size_t offset;
   };
-  static constexpr std::size_t blockSize = 512;
+  static constexpr std::size_t blockSize = 256;
 
   Place find(std::int32_t index) {
     // Most calls are for a slot near the last one.

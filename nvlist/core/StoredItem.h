@@ -2,39 +2,46 @@
 
 #include <cstdint>
 #include <memory>
+#include <new>
 #include <string_view>
-#include <utility>
 
 #include <nvlist/core/ItemLook.h>
 #include <nvlist/core/ListItem.h>
-#include <nvlist/values/CompactText.h>
 
 namespace norvane {
 
 /// An item as a list keeps it, small because a list may hold a million of them: the fields that
 /// differ from item to item stand here, the others in a look that items share (ItemStore::setLook).
-/// Key and tag take memory of their own where there are any.
-///
-/// A new item has every field in the zero state of its type.
+/// The text follows them in the same block of memory, unless it is long or was changed to a longer
+/// one. Key and tag take memory of their own where there are any.
 class StoredItem final : public SharedInThread {
  public:
+  /// An item with a text. Every other field is in the zero state of its type.
+  static Ref<StoredItem> make(std::string_view text = {});
+  ~StoredItem() { freeText(); }
+  void operator delete(void* memory) { ::operator delete(memory); }
+
   /// All fields as a record.
   ListItem record() const;
 
-  std::string_view Text() const { return text_; }
+  /// Valid until the text changes.
+  std::string_view Text() const { return {isTextInside() ? text_ : outside(), textSize_}; }
   /// Forgets the measured width. In a list call ItemStore::setText instead.
-  void Text(CompactText text) {
-    text_ = std::move(text);
-    textWidth = notMeasured;
-  }
-  std::string_view Key() const { return labels_ ? labels_->key.view() : std::string_view(); }
-  void Key(CompactText key);
+  void Text(std::string_view text);
+  std::string_view Key() const { return labels_ ? labels_->key() : std::string_view(); }
+  void Key(std::string_view key);
   Variant Tag() const;
   void Tag(Variant tag);
   Boolean Checked() const { return isChecked_ ? shared().checkedAs : Boolean(); }
-  void Checked(Boolean checked);
+  void Checked(Boolean checked) {
+    if (checked && shared().checkedAs != checked) own().checkedAs = checked;
+    isChecked_ = static_cast<bool>(checked);
+  }
   Boolean Selected() const { return isSelected_ ? shared().selectedAs : Boolean(); }
-  void Selected(Boolean selected);
+  void Selected(Boolean selected) {
+    if (selected && shared().selectedAs != selected) own().selectedAs = selected;
+    isSelected_ = static_cast<bool>(selected);
+  }
 
   /// The shared fields, for reading. They live until the look changes.
   const ItemLook& look() const { return shared().fields; }
@@ -55,24 +62,40 @@ class StoredItem final : public SharedInThread {
     Boolean checkedAs = true;   ///< what Checked reads while the check mark is set
     Boolean selectedAs = true;  ///< what Selected reads while the item is selected
   };
+  /// A tag and a key, which stands behind it.
   struct Labels {
-    CompactText key;
+    static std::unique_ptr<Labels> make(std::string_view key, Variant tag);
+    void operator delete(void* memory) { ::operator delete(memory); }
+
+    std::string_view key() const { return {text, size}; }
+
     Variant tag;
+    std::uint32_t size;
+    char text[4];  ///< its first bytes
   };
   static const SharedLook blank;
 
+  explicit StoredItem(std::size_t room) : room_(static_cast<std::uint8_t>(room)) {}
+
+  bool isTextInside() const { return textSize_ <= room_; }
+  /// The text in memory of its own, to which `text_` holds a pointer.
+  char* outside() const;
+  void freeText() {
+    if (!isTextInside()) delete[] outside();
+  }
   const SharedLook& shared() const { return look_ ? *look_ : blank; }
   SharedLook& own();
-  Labels& labels();
 
+  const std::uint8_t room_;  ///< bytes for a text at `text_`, at least a pointer
   bool isChecked_ : 1 = false;
   bool isSelected_ : 1 = false;
   bool isTagEmptyText_ : 1 = false;  ///< of an item without labels; otherwise the tag is Empty
-  CompactText text_;
   Ref<SharedLook> look_;
   std::unique_ptr<Labels> labels_;
+  std::uint32_t textSize_ = 0;
+  char text_[4];  ///< the first bytes of the text; the others follow
 };
 
-static_assert(sizeof(StoredItem) <= 40, "every byte counts a million times");
+static_assert(sizeof(StoredItem) <= 32, "every byte counts a million times");
 
 }  // namespace norvane

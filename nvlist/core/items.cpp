@@ -2,13 +2,17 @@
 #include <nvlist/values/numbers.h>
 
 #include <cmath>
+#include <string>
+#include <string_view>
 #include <utility>
 
 namespace norvane {
 namespace {
 
-CompactText textOf(const Variant& value) {
-  return value.isText() ? CompactText(value.text()) : CompactText(value.toText());
+/// The value as a text, which is stored in `converted` if the value is none.
+std::string_view textOf(const Variant& value, std::string& converted) {
+  if (value.isText()) return value.text();
+  return converted = value.toText();
 }
 
 bool isNumber(const Variant& value) {
@@ -57,13 +61,11 @@ void nvList::ItemsAdd(NewItem values) {
     // Kept alive, because releasing the old value of a field may run host code that removes the
     // item.
     Ref<StoredItem> added;
-    CompactText text;
-    on.step([&] { text = textOf(values.aText); });
-    on.step([&] { added = items.slot(items.upperBound()); });
-    if (added) {
-      added->Text(std::move(text));
-      writeFields(on, *added, values);
-    }
+    std::string converted;
+    std::string_view text;
+    on.step([&] { text = textOf(values.aText, converted); });
+    on.step([&] { added = items.setText(items.upperBound(), text); });
+    if (added) writeFields(on, *added, values);
 
     if (state_.AutoRedraw.isTrue()) {
       on.step([&] { SetNoneSelected(); });
@@ -117,7 +119,10 @@ void nvList::writeFields(Trap& on, StoredItem& item, NewItem& values) {
   look.Underline = values.aUnderline;
   if (isReadable) state_.Items.setLook(item, state_.Items.upperBound(), collected);
   item.Tag(std::move(values.aTag));
-  on.step([&] { item.Key(textOf(values.aKey)); });
+  on.step([&] {
+    std::string converted;
+    item.Key(textOf(values.aKey, converted));
+  });
 }
 
 void nvList::ItemsAppend(ListItem added) {

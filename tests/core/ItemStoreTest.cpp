@@ -17,19 +17,27 @@ TEST(ItemStore, EqualsAVectorThroughAllChanges) {
   const auto expectSame = [&](std::int32_t index) {
     ASSERT_EQ(store.touch(index).Text(), *at(index)) << index;
   };
+  /// Short and long enough for each place in memory where a text may stand.
+  const auto textOf = [&](int step) {
+    return std::to_string(step) + std::string(static_cast<std::size_t>(below(600) / 2), 'x');
+  };
   for (int step = 0; step < 8'000; ++step) {
     // Grows to more than a thousand, shrinks to a few, and grows again.
     const bool grows = step % 4'000 < 2'400;
     const int action = below(100);
     const std::int32_t index = below(3) == 0 ? 0 : below(model.size());
     if (action < (grows ? 70 : 20)) {
+      const std::string text = textOf(step);
       store.grow();
-      store.setText(store.upperBound(), std::to_string(step));
+      store.setText(store.upperBound(), text);
       store.move(store.upperBound(), index);
-      model.insert(at(index), std::to_string(step));
+      model.insert(at(index), text);
     } else if (action < 90 && model.size() > 1) {
       store.remove(index);
       model.erase(at(index));
+    } else if (action < 94) {
+      *at(index) = textOf(step);
+      store.setText(index, *at(index));
     } else if (action < 99) {
       const std::int32_t to = below(model.size());
       store.move(index, to);
