@@ -1,6 +1,8 @@
 #include <nvlist/core/ItemStore.h>
 
 #include <algorithm>
+#include <bit>
+#include <functional>
 #include <limits>
 #include <vector>
 
@@ -42,15 +44,34 @@ std::int32_t ItemStore::find(SearchIndex& index, Searched field, std::string_vie
     index.wasSearched = true;
     return find([&](const StoredItem& item) { return (item.*field)() == text; });
   }
-  if (index.firsts.empty()) {
-    std::unordered_map<std::string_view, std::int32_t> firsts;
-    firsts.reserve(static_cast<std::size_t>(slots_.size()));
-    std::int32_t place = 0;
-    forEach([&](const StoredItem& item) { firsts.try_emplace((item.*field)(), place++); });
-    index.firsts = std::move(firsts);
+  if (index.entries.empty()) {
+    const std::size_t twice = 2 * static_cast<std::size_t>(slots_.size());
+    std::vector<SearchEntry> entries(std::bit_ceil(twice));
+    std::int32_t at = 0;
+    forEach([&](const StoredItem& item) {
+      SearchEntry& entry = place(entries, field, (item.*field)());
+      if (entry.index < 0) entry.index = at;
+      ++at;
+    });
+    index.entries = std::move(entries);
   }
-  const auto found = index.firsts.find(text);
-  return found != index.firsts.end() ? found->second : upperBound() + 1;
+  const std::int32_t found = place(index.entries, field, text).index;
+  return found >= 0 ? found : upperBound() + 1;
+}
+
+/// The entry of a text. If the text is not in the table, the entry is free and gets its hash.
+ItemStore::SearchEntry& ItemStore::place(std::span<SearchEntry> entries, Searched field,
+                                         std::string_view text) const {
+  const std::size_t whole = std::hash<std::string_view>()(text);
+  const auto hash = static_cast<std::uint32_t>(whole >> (sizeof whole * 4));
+  for (std::size_t at = whole;; ++at) {
+    SearchEntry& entry = entries[at & (entries.size() - 1)];
+    if (entry.index < 0) {
+      entry.hash = hash;
+      return entry;
+    }
+    if (entry.hash == hash && (peek(entry.index).get()->*field)() == text) return entry;
+  }
 }
 
 void ItemStore::dropSearches() {

@@ -5,8 +5,8 @@
 #include <memory>
 #include <span>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
+#include <vector>
 
 #include <nvlist/core/SlotBlocks.h>
 
@@ -112,13 +112,17 @@ class ItemStore {
   void reorder(std::span<const std::int32_t> order);
 
  private:
-  /// The first index of each text.
+  struct SearchEntry {
+    std::uint32_t hash = 0;
+    std::int32_t index = -1;  ///< the first one of a text; -1: free
+  };
   struct SearchIndex {
-    bool wasSearched = false;  ///< since the last change of the list
-    std::unordered_map<std::string_view, std::int32_t> firsts = {};
+    bool wasSearched = false;               ///< since the last change of the list
+    std::vector<SearchEntry> entries = {};  ///< a hash table with open addressing
   };
   using Searched = std::string_view (StoredItem::*)() const;
   std::int32_t find(SearchIndex& index, Searched field, std::string_view text);
+  SearchEntry& place(std::span<SearchEntry> entries, Searched field, std::string_view text) const;
   /// Drops what was made for searches. Called whenever a text, a key or a place may change.
   void changed() {
     if (texts_.wasSearched || keys_.wasSearched) dropSearches();

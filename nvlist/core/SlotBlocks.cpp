@@ -153,19 +153,19 @@ void SlotBlocks::removeOrMerge(std::size_t block) {
 std::optional<SlotBlocks::Measured> SlotBlocks::measuredFrom(std::int32_t index) {
   const Place place = find(index);
   if (place.offset != 0) return std::nullopt;
-  Measured result{0, index};
-  for (std::size_t block = place.block; block < blocks_.size() && measure(blocks_[block]);
-       ++block) {
-    result.widest = std::max(result.widest, blocks_[block].widest);
-    result.end += static_cast<std::int32_t>(blocks_[block].entries.size());
-  }
-  if (result.end == index) return std::nullopt;
-  return result;
+  std::uint16_t widest = 0;
+  std::size_t end = place.block;
+  while (end < blocks_.size() && (blocks_[end].isMeasured || measure(blocks_[end])))
+    widest = std::max(widest, blocks_[end++].widest);
+  if (end == place.block) return std::nullopt;
+  // Usually all blocks are measured, and need not be counted.
+  if (end == blocks_.size()) return Measured{widest, size_};
+  for (std::size_t block = place.block; block < end; ++block) index += blocks_[block].length();
+  return Measured{widest, index};
 }
 
 /// Returns whether all texts of the block have been measured.
 bool SlotBlocks::measure(Block& block) {
-  if (block.isMeasured) return true;
   std::uint16_t widest = 0;
   for (const Slot& slot : block.entries) {
     if (!slot || slot->textWidth == StoredItem::notMeasured) return false;

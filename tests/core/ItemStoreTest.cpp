@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <random>
 
 #include "../Lists.h"
@@ -19,7 +20,8 @@ TEST(ItemStore, EqualsAVectorThroughAllChanges) {
   };
   /// Short and long enough for each place in memory where a text may stand.
   const auto textOf = [&](int step) {
-    return std::to_string(step) + std::string(static_cast<std::size_t>(below(600) / 2), 'x');
+    const auto length = static_cast<std::size_t>(below(2) * below(300));
+    return std::to_string(step % 700) + std::string(length, 'x');
   };
   for (int step = 0; step < 8'000; ++step) {
     // Grows to more than a thousand, shrinks to a few, and grows again.
@@ -59,6 +61,11 @@ TEST(ItemStore, EqualsAVectorThroughAllChanges) {
     }
     ASSERT_EQ(store.upperBound() + 1, static_cast<std::int32_t>(model.size())) << step;
     expectSame(below(model.size()));
+    // The second search builds an index, which any change drops.
+    for (int search = 0; step % 20 == 0 && search < 3; ++search) {
+      const std::string text = search == 2 ? "none" : *at(below(model.size()));
+      ASSERT_EQ(store.findText(text), std::ranges::find(model, text) - model.begin()) << step;
+    }
   }
   for (std::int32_t i = 0; i <= store.upperBound(); ++i) expectSame(i);
 }
