@@ -72,7 +72,7 @@ class ItemProperties : public HearingListTest {
       of("ItemUnderline", &L::ItemUnderline, &L::ItemUnderline, &I::Underline, true)};
 };
 
-TEST_F(ItemProperties, EachWritesAFieldOfItsOwnAndTellsTheHost) {
+TEST_F(ItemProperties, EachWritesAFieldOfItsOwnAndNotifiesTheHost) {
   fill(3);
   const std::string before = fields(0) + fields(2);
   for (const Accessor& each : accessors) {

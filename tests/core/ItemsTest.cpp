@@ -100,17 +100,16 @@ TEST_F(Items, ADuplicatePastTheSixteenBitLimitIsAFailure) {
 
 TEST_F(Items, FindsWhatIsThereAfterEachChange) {
   list.AutoRedraw(false);
-  const std::function<void()> changes[] = {
-      [&] { list.ItemText(1, "new"), list.ItemKey(1, "new"); },
-      [&] { list.ItemsAdd({.aText = "new", .aIndex = 0, .aKey = "new"}); },
-      [&] { list.ItemsRemove(0); },
-      [&] { list.MoveItemUp(4, 3); },
-      [&] { list.MoveItemDown(2, -1); },
-      [&] { list.Sort(cDescending); },
-      [&] {
-        list.ItemsClear(), add({"b", "new"});
-      }};
-  for (const auto& change : changes) {
+  const std::pair<const char*, std::function<void()>> changes[] = {
+      {"text and key", [&] { list.ItemText(1, "new"), list.ItemKey(1, "new"); }},
+      {"insertion", [&] { list.ItemsAdd({.aText = "new", .aIndex = 0, .aKey = "new"}); }},
+      {"removal", [&] { list.ItemsRemove(0); }},
+      {"move", [&] { list.MoveItemUp(4, 3); }},
+      {"move that loses an item", [&] { list.MoveItemDown(2, -1); }},
+      {"sort", [&] { list.Sort(cDescending); }},
+      {"new list", [&] { list.ItemsClear(), list.ItemsAdd("b"), list.ItemsAdd("new"); }}};
+  for (const auto& [name, change] : changes) {
+    SCOPED_TRACE(name);
     list.ItemsClear();
     for (const char* text : {"a", "b", "a", "c", "new"})
       list.ItemsAdd({.aText = text, .aKey = text});
@@ -127,8 +126,8 @@ TEST_F(Items, FindsWhatIsThereAfterEachChange) {
       while (byText < count && item(byText).Text != text) ++byText;
       while (byKey < count && item(byKey).Key != text) ++byKey;
       for (int time = 0; time < 3; ++time) {
-        EXPECT_EQ(list.IsInList(text), byText < count ? byText : -1) << &change - changes << text;
-        EXPECT_EQ(list.IndexByKey(text), byKey < count ? byKey : -1) << &change - changes << text;
+        EXPECT_EQ(list.IsInList(text), byText < count ? byText : -1) << text;
+        EXPECT_EQ(list.IndexByKey(text), byKey < count ? byKey : -1) << text;
       }
     }
   }

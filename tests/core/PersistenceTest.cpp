@@ -143,7 +143,7 @@ TEST_F(Persistence, AFormWithoutAmbientPropertiesIsServed) {
   EXPECT_TRUE(onEmpty.Font());
 }
 
-TEST(PropertyText, TellsTheLineThatCannotBeRead) {
+TEST(PropertyText, NamesTheLineThatCannotBeRead) {
   const auto failure = [](std::string_view text) {
     try {
       propertiesOf(text);

@@ -93,8 +93,8 @@ TEST_F(ImageInput, RaisesTheEventOnTheWay) {
     list.ItemsClear();
     add({"old", "older"});
     input(image(properties));
-    EXPECT_EQ(events(), expected);
-    EXPECT_EQ(list.ItemsCount(), count);
+    EXPECT_EQ(events(), expected) << testing::PrintToString(properties);
+    EXPECT_EQ(list.ItemsCount(), count) << testing::PrintToString(properties);
   }
   // The failed item has what was read before the failure.
   EXPECT_EQ(told(1), "b|0010000 0 16777215 0 12937777 0 0 ||none none");

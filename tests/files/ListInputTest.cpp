@@ -186,16 +186,16 @@ TEST_F(ListInput, BringsBackWhatWasSaved) {
 
 /// Items are created on first access; operations before that must not reveal it.
 TEST_F(ListInput, ChangesItemsThatNobodyHasSeenLikeOthers) {
-  const std::function<void()> changes[] = {
-      [&] { list.ItemsAdd("last"); },
-      [&] { list.ItemsAdd("first", 0); },
-      [&] { list.ItemsRemove(Variant(29)), list.ItemsAdd("other"); },
-      [&] { list.Sort(cDescending); },
-      [&] { list.MoveItemUp(20, 15); },
-      [&] { list.ItemText(7, "other"); },
-      [&] { list.ItemsSelectedRemove(); },
-      [&] { list.AutoRedraw(true); },
-      [&] { save(); },
+  const std::pair<const char*, std::function<void()>> changes[] = {
+      {"addition", [&] { list.ItemsAdd("last"); }},
+      {"insertion", [&] { list.ItemsAdd("first", 0); }},
+      {"removal and addition", [&] { list.ItemsRemove(Variant(29)), list.ItemsAdd("other"); }},
+      {"sort", [&] { list.Sort(cDescending); }},
+      {"move", [&] { list.MoveItemUp(20, 15); }},
+      {"text", [&] { list.ItemText(7, "other"); }},
+      {"removal of the selected", [&] { list.ItemsSelectedRemove(); }},
+      {"repaint", [&] { list.AutoRedraw(true); }},
+      {"save", [&] { save(); }},
   };
   std::string records, expected;
   for (int i = 0; i < 30; ++i) {
@@ -204,7 +204,7 @@ TEST_F(ListInput, ChangesItemsThatNobodyHasSeenLikeOthers) {
                text(std::to_string(i)) + text("") + (i == 15 ? "\1" + text("picture") : "") +
                noIcons.substr(i == 15);
   }
-  for (const auto& change : changes) {
+  for (const auto& [name, change] : changes) {
     std::string results[2];
     for (const bool isSeen : {false, true}) {
       input(header(29, true) + records);
@@ -214,7 +214,7 @@ TEST_F(ListInput, ChangesItemsThatNobodyHasSeenLikeOthers) {
       change();
       for (int i = 0; i < list.ItemsCount(); ++i) results[isSeen] += told(item(i)) + "\n";
     }
-    EXPECT_EQ(results[false], results[true]);
+    EXPECT_EQ(results[false], results[true]) << name;
   }
 }
 

@@ -94,18 +94,19 @@ TEST_F(ListSave, GoesOnFromWhereTheHostPutsIt) {
   };
   EXPECT_EQ(save(false), header(3, false) + text("a") + text("d"));
   const struct {
+    const char* name;
     std::function<void(Variant&)> host;
     std::string heard;
-  } cases[] = {{[](Variant& Index) { Index = "x"; }, "0 save! "},
-               {[](Variant&) { throw 1; }, "0 save! "},
+  } cases[] = {{"no index", [](Variant& Index) { Index = "x"; }, "0 save! "},
+               {"failure", [](Variant&) { throw 1; }, "0 save! "},
                // The index is shared by all loops of the list.
-               {[this](Variant&) { list.ItemsCheckCount(); }, "0 "},
-               {[this](Variant&) { list.ItemsRemove(0); }, "0 save! "}};
+               {"another loop", [this](Variant&) { list.ItemsCheckCount(); }, "0 "},
+               {"removal", [this](Variant&) { list.ItemsRemove(0); }, "0 save! "}};
   events();
-  for (const auto& [host, expected] : cases) {
+  for (const auto& [name, host, expected] : cases) {
     onProgress = host;
     save();
-    EXPECT_EQ(events(), expected);
+    EXPECT_EQ(events(), expected) << name;
   }
 }
 

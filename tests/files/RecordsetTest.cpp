@@ -104,7 +104,7 @@ TEST_F(RecordsetBinding, ReportsWhatIsMissingAndEnds) {
                {rows({"a", std::nullopt, "c"}), "94", "offoff 1:a"},
                {rows({"a", Ref<Object>(makeRef<Object>())}), "13", "offoff 1:a"}};
   for (const auto& [object, report, left] : cases) {
-    EXPECT_EQ(filled(object), left);
+    EXPECT_EQ(filled(object), left) << report;
     EXPECT_EQ(reports(), report + " Recordset");
   }
 }

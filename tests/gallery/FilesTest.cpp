@@ -93,7 +93,7 @@ TEST_F(FilesTest, AnOlderFileBringsTheTextsAndItsReadingIsShown) {
   EXPECT_EQ(files.ItemText(1), "\u00c4 \u20ac");
 }
 
-TEST_F(FilesTest, aQueryFillsTheListAndABadOneIsTold) {
+TEST_F(FilesTest, AQueryFillsTheListAndABadOneIsLogged) {
   showPage("database");
   auto* query = window->findChild<QComboBox*>("query");
   if (!query) GTEST_SKIP() << "no database here";
@@ -114,7 +114,7 @@ TEST_F(FilesTest, aQueryFillsTheListAndABadOneIsTold) {
   EXPECT_TRUE(rows.AutoRedraw());
 }
 
-TEST_F(FilesTest, anyFileIsOpenedByItsContentsOrRefused) {
+TEST_F(FilesTest, AnyFileIsOpenedByItsContentsOrRefused) {
   const struct {
     const char* name;
     QByteArray bytes;
@@ -144,7 +144,7 @@ TEST_F(FilesTest, anyFileIsOpenedByItsContentsOrRefused) {
   EXPECT_TRUE(logged().contains("is a folder"));
 }
 
-TEST_F(FilesTest, aLongTextIsStoppedWhenAsked) {
+TEST_F(FilesTest, ALongTextIsStoppedWhenAsked) {
   showPage("files");
   openAnyFile(list("files"), write("text", QByteArray("line\n").repeated(50000)), Properties::kept,
               [](int percent) { return percent < 50; });

@@ -168,7 +168,7 @@ TEST_F(SpEvTest, AFailingFileOperationEndsTheHelperUnlessSilent) {
   EXPECT_EQ(failEachIn(saveRows), "one\r\ntwo ;  ; x\r\n ; x\r\n ; ");
 }
 
-TEST_F(SpEvTest, TellsTheThemeByItsColourScheme) {
+TEST_F(SpEvTest, KnowsAThemeByItsColourScheme) {
   const auto theme = [&](const std::u16string& scheme) {
     application.theme = {u"Luna.msstyles", scheme, u"NormalSize"};
     return static_cast<int>(helper.ActiveXPTheme());
@@ -191,7 +191,7 @@ TEST_F(SpEvTest, TellsTheThemeByItsColourScheme) {
   EXPECT_EQ(helper.ActiveXPTheme(), styleClassic);
 }
 
-TEST_F(SpEvTest, TellsTheFirstMouseButtonOfThree) {
+TEST_F(SpEvTest, ReturnsTheFirstPressedButtonOfThree) {
   auto& keys = application.keyStates;
   const auto pressed = [&] { return static_cast<int>(helper.MouseButtonPressed()); };
   keys[4] = -32768;

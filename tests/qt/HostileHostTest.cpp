@@ -59,8 +59,10 @@ class QtHostileHostTest : public WidgetTest {
         steps, [] {}, [&] { EXPECT_FALSE(Trap::anyRuns()) << life.current->name; });
     const long calls = life.out.calls;
     QObject::disconnect(changes);
-    if (widget) EXPECT_TRUE(life.serves(list()));
-    if (widget) widget->grab();
+    if (widget) {
+      EXPECT_TRUE(life.serves(list()));
+      widget->grab();
+    }
     delete widget;
     QCoreApplication::processEvents();
     EXPECT_EQ(life.files.open, 0);

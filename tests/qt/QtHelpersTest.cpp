@@ -74,7 +74,7 @@ TEST(QtAdaptersTest, GiveNoNumberTwice) {
   widget->~QWidget();
 }
 
-TEST(QtMouseTest, TellsButtonsThatAreDownOrWerePressed) {
+TEST(QtMouseTest, ReturnsAButtonThatIsDownOrWasPressed) {
   QtApplication application;
   SpEv helper;
   const auto pressed = [&] { return static_cast<int>(helper.MouseButtonPressed()); };

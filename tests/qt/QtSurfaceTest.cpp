@@ -293,7 +293,7 @@ TEST_F(QtSurfaceTest, bitmapsAreStretchedFromTheBottomUp) {
   EXPECT_THROW(spots({0, 0, 9, 9}, {2, 2, std::vector<std::uint8_t>(15)}), Failure);
 }
 
-TEST_F(QtSurfaceTest, handedOutImagesStayAndChangesAreTold) {
+TEST_F(QtSurfaceTest, handedOutImagesStayAndChangesAreReported) {
   const QImage before = surface.image();
   int told = 0;
   surface.onDrawn = [&] { ++told; };

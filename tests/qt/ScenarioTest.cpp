@@ -81,7 +81,7 @@ class WidgetScript : public WidgetTest, public testing::WithParamInterface<Scena
       QCoreApplication::sendEvent(focused, &composed);
     } else if (verb == "menu") menu(QContextMenuEvent::Mouse, row(a));
     else if (verb == "menuKey") menu(QContextMenuEvent::Keyboard, {});
-    else if (verb == "leave") after.setFocus();
+    else if (verb == "leave") lineAfter.setFocus();
     else if (verb == "enter") widget->setFocus();
     else if (verb == "popUp") {
       QFocusEvent menu(QEvent::FocusOut, Qt::PopupFocusReason);

@@ -149,7 +149,7 @@ TEST_F(ScrollBarsTest, APressOnTheTrackRepeatsUpToThePointer) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return picture(vertical).pixel(behind) == bare; }, 10'000));
   const int reached = list().TopIndex();
   EXPECT_GT(reached, 1);
-  // One more step stands between the thumb's arrival and the look at it.
+  // The thumb may make one more step before the picture is taken.
   QTest::qWait(350);
   EXPECT_LE(list().TopIndex(), reached + 1);
   release();
@@ -193,7 +193,7 @@ TEST_F(ScrollBarsTest, AnotherScreenIsPaintedFor) {
             qRgb(0xF3, 0xF1, 0xEC));
 }
 
-TEST_F(ScrollBarsTest, WhatADisabledBarCoversHearsNothing) {
+TEST_F(ScrollBarsTest, WhatADisabledBarCoversGetsNoMouse) {
   vertical.enable(false);
   const int before = presses;
   press(childOf(vertical, farButton), {8, 8});

@@ -95,7 +95,7 @@ TEST_F(QtToolTipTest, ShowsATextWhileTheMouseRests) {
   EXPECT_EQ(shown(), "nothing");
 }
 
-TEST_F(QtToolTipTest, StaysAsLongAsItWasTold) {
+TEST_F(QtToolTipTest, StaysAsLongAsItsTimeSays) {
   auto quick = std::make_unique<QI>();
   quick->Create(QtWindow::of(*form), QtWindow::of(*one), "one", 300, 0);
   showTipOf(*one);

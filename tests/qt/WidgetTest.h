@@ -33,7 +33,7 @@ class WidgetTest : public testing::Test, public __nvList {
  protected:
   WidgetTest() {
     make();
-    after.setParent(&form);
+    lineAfter.setParent(&form);
     form.resize(220, 260);
     form.show();
     form.activateWindow();
@@ -145,9 +145,9 @@ class WidgetTest : public testing::Test, public __nvList {
 
   HeadlessApplication application;
   QWidget form;
-  QLineEdit before{&form};
+  QLineEdit lineBefore{&form};
   QPointer<NvListWidget> widget;
-  QLineEdit after;
+  QLineEdit lineAfter;
   bool refusesChecks = false;
   bool swallowsKeys = false;
   /// What the host does in an event or signal.
