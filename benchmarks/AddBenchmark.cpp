@@ -73,7 +73,6 @@ void addShown(int count) {
   });
 }
 
-/// Every item has a key, a tag, a colour and a check mark of its own.
 void addAllFields(int count) {
   const std::string work = "AddAllFields/" + std::to_string(count);
   addFresh(
@@ -82,33 +81,14 @@ void addAllFields(int count) {
         texts(count), keys(count);
         return makeNvList(false);
       },
-      [count](auto& widget) {
-        for (int i = 0; i < count; ++i) {
-          const auto at = static_cast<std::size_t>(i);
-          widget->list().ItemsAdd({.aText = texts(count)[at],
-                                   .aChecked = i % 2 == 0,
-                                   .aForeColor = i % 8,
-                                   .aTag = keys(count)[at],
-                                   .aKey = keys(count)[at]});
-        }
-      });
+      [count](auto& widget) { fillAllFields(widget->list(), count); });
   addFresh(
       work, subject::listWidget, count,
       [count] {
-        qtTexts(count);
+        qtTexts(count), keys(count);
         return makeListWidget(false);
       },
-      [count](auto& widget) {
-        for (int i = 0; i < count; ++i) {
-          const QString& text = qtTexts(count)[static_cast<std::size_t>(i)];
-          auto* item = new QListWidgetItem(text);
-          item->setCheckState(i % 2 == 0 ? Qt::Checked : Qt::Unchecked);
-          item->setForeground(QColor(i % 8, 0, 0));
-          item->setData(Qt::UserRole, text);
-          item->setData(Qt::UserRole + 1, text);
-          widget->addItem(item);
-        }
-      });
+      [count](auto& widget) { fillAllFields(*widget, count); });
 }
 
 /// Each item is on the screen before the next one is added.

@@ -88,6 +88,63 @@ QtItems loadByDataStream(bool withProperties) {
   return items;
 }
 
+/// The texts of a list, as a program with a QListWidget would keep them in a file.
+void addTexts(int count) {
+  const std::string number = '/' + std::to_string(count);
+  const auto filled = [count](auto widget) {
+    if constexpr (requires { widget->list(); })
+      fill(widget->list(), count);
+    else
+      fill(*widget, count);
+    return widget;
+  };
+  const auto save = [](norvane::NvListWidget& widget) {
+    widget.list().ListSave(path("list"), false);
+  };
+  const auto saveStream = [](const QListWidget& widget) {
+    QFile file(QString::fromStdString(path("stream")));
+    if (!file.open(QIODevice::WriteOnly)) std::abort();
+    QDataStream stream(&file);
+    stream << static_cast<qint32>(widget.count());
+    for (int i = 0; i < widget.count(); ++i) stream << widget.item(i)->text();
+  };
+  addShared(
+      "Save from list" + number, subject::nvList, true, [=] { return filled(makeNvList(false)); },
+      [=](auto& widget) { save(*widget); });
+  addShared(
+      "Save from list" + number, subject::listWidget, true,
+      [=] { return filled(makeListWidget(false)); }, [=](auto& widget) { saveStream(*widget); });
+  addFresh(
+      "Load and read" + number, subject::nvList, count,
+      [=] {
+        save(*filled(makeNvList(false)));
+        return makeNvList(false);
+      },
+      [](auto& widget) {
+        norvane::nvList& list = widget->list();
+        list.ListInput(path("list"), false);
+        for (int i = 0; i < list.ItemsCount(); ++i) benchmark::DoNotOptimize(list.ItemText(i));
+      });
+  addFresh(
+      "Load and read" + number, subject::listWidget, count,
+      [=] {
+        saveStream(*filled(makeListWidget(false)));
+        return makeListWidget(false);
+      },
+      [](auto& widget) {
+        QFile file(QString::fromStdString(path("stream")));
+        if (!file.open(QIODevice::ReadOnly)) std::abort();
+        QDataStream stream(&file);
+        qint32 size = 0;
+        QString text;
+        for (stream >> size; size > 0; --size) {
+          stream >> text;
+          widget->addItem(text);
+        }
+        for (int i = 0; i < widget->count(); ++i) benchmark::DoNotOptimize(widget->item(i)->text());
+      });
+}
+
 std::string bytesOf(const std::string& path) {
   std::string bytes(static_cast<std::size_t>(QFile(QString::fromStdString(path)).size()), '\0');
   const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"),
@@ -165,11 +222,11 @@ void addLoad(int count, bool withProperties, const std::string& work) {
 }  // namespace
 
 void addListFileBenchmarks() {
+  constexpr int count = 1'000'000;
+  addTexts(count);
   for (const bool withProperties : {false, true}) {
-    for (const int count : {100'000, 1'000'000}) {
-      const std::string what = (withProperties ? " with properties/" : "/") + std::to_string(count);
-      addSave(count, withProperties, "ListSave" + what);
-      addLoad(count, withProperties, "ListInput" + what);
-    }
+    const std::string what = (withProperties ? " with properties/" : "/") + std::to_string(count);
+    addSave(count, withProperties, "ListSave" + what);
+    addLoad(count, withProperties, "ListInput" + what);
   }
 }

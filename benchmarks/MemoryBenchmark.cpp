@@ -16,9 +16,9 @@ double allocatedBytes() {
 
 /// Heap bytes per item, including an unshared copy of its text.
 template <class Make, class Fill>
-void addBytes(const char* who, Make make, Fill fillList) {
-  add("Memory/1000000", who, true, [=](benchmark::State& state) {
-    texts(count);
+void addBytes(const char* work, const char* who, Make make, Fill fillList) {
+  add(work, who, true, [=](benchmark::State& state) {
+    texts(count), keys(count);
     auto list = make();
     const double before = allocatedBytes();
     measure(
@@ -30,20 +30,24 @@ void addBytes(const char* who, Make make, Fill fillList) {
 }  // namespace
 
 void addMemoryBenchmarks() {
+  constexpr const char* plain = "Memory/1000000";
+  constexpr const char* all = "Memory, all fields/1000000";
+  const auto nvList = [] { return makeNvList(false); };
+  const auto listWidget = [] { return makeListWidget(false); };
+  addBytes(plain, subject::nvList, nvList, [](auto& widget) { fill(widget->list(), count); });
+  addBytes(plain, subject::listWidget, listWidget, [](auto& widget) {
+    for (const std::string& text : texts(count)) widget->addItem(QString::fromStdString(text));
+  });
   addBytes(
-      subject::nvList, [] { return makeNvList(false); },
-      [](auto& widget) { fill(widget->list(), count); });
-  addBytes(
-      subject::listWidget, [] { return makeListWidget(false); },
-      [](auto& widget) {
-        for (const std::string& text : texts(count)) widget->addItem(QString::fromStdString(text));
-      });
-  addBytes(
-      subject::floor, [] { return PlainList(); },
+      plain, subject::floor, [] { return PlainList(); },
       [](PlainList& list) {
         for (const std::string& text : texts(count)) {
           list.push_back(std::make_shared<PlainItem>());
           list.back()->text = text;
         }
       });
+  addBytes(all, subject::nvList, nvList,
+           [](auto& widget) { fillAllFields(widget->list(), count); });
+  addBytes(all, subject::listWidget, listWidget,
+           [](auto& widget) { fillAllFields(*widget, count); });
 }

@@ -78,3 +78,26 @@ void fill(norvane::nvList& list, int count) {
 void fill(QListWidget& list, int count) {
   for (const QString& text : qtTexts(count)) list.addItem(text);
 }
+
+void fillAllFields(norvane::nvList& list, int count) {
+  for (int i = 0; i < count; ++i) {
+    const auto at = static_cast<std::size_t>(i);
+    list.ItemsAdd({.aText = texts(count)[at],
+                   .aChecked = i % 2 == 0,
+                   .aForeColor = i % 8,
+                   .aTag = i,
+                   .aKey = keys(count)[at]});
+  }
+}
+
+void fillAllFields(QListWidget& list, int count) {
+  for (int i = 0; i < count; ++i) {
+    const auto at = static_cast<std::size_t>(i);
+    auto* item = new QListWidgetItem(qtTexts(count)[at]);
+    item->setCheckState(i % 2 == 0 ? Qt::Checked : Qt::Unchecked);
+    item->setForeground(QColor(i % 8, 0, 0));
+    item->setData(Qt::UserRole, i);
+    item->setData(Qt::UserRole + 1, QString::fromStdString(keys(count)[at]));
+    list.addItem(item);
+  }
+}

@@ -51,3 +51,6 @@ std::unique_ptr<norvane::HeadlessList> makeHeadlessList();
 
 void fill(norvane::nvList& list, int count);
 void fill(QListWidget& list, int count);
+/// Every item also has a key, a tag, a colour and a check mark.
+void fillAllFields(norvane::nvList& list, int count);
+void fillAllFields(QListWidget& list, int count);

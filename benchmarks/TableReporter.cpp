@@ -38,6 +38,9 @@ constexpr Aim aims[] = {
     {"Frame ", subject::listWidget, 0.2},
     {"ItemsRemoveDouble", subject::floor, 6.0},
     {"Memory/", nullptr, 72},
+    {"Memory, all fields/", nullptr, 88},
+    {"Save from list/", subject::listWidget, 0.2},
+    {"Load and read/", subject::listWidget, 0.2},
     {"ScrollRow/", subject::floor, 1.5},
     {"DragThumb/", subject::floor, 1.5},
     {"CheckItemWidth/", subject::floor, 1.3},
@@ -45,7 +48,7 @@ constexpr Aim aims[] = {
     {"ListInput", subject::dataStream, 0.25},
 };
 
-bool isMemory(std::string_view work) { return work.starts_with("Memory/"); }
+bool isMemory(std::string_view work) { return work.starts_with("Memory"); }
 
 std::string format(const char* pattern, double value) {
   char text[32];

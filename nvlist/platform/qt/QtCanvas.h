@@ -94,6 +94,7 @@ class QtCanvas final : public Surface {
   int edge(int logical) const { return qRound(logical * dpr_); }
   /// The part of a rectangle that is on the image.
   QRect visiblePart(const Rectangle& rectangle) const;
+  void fillAll();
   void fill(int left, int top, int right, int bottom, QRgb colour);
   void drawLine(int x1, int y1, int x2, int y2, QRgb colour);
   void invert(int x, int y);

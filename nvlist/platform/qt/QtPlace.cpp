@@ -207,13 +207,13 @@ void QtPlace::showAnew(const QRect& area) {
     all.widget_->update(area);
 }
 
-/// What was drawn often looks the same: the bars are painted after every added item. The recording
-/// is complete when the event arrives.
+/// What was drawn often looks the same: the bars are painted after every added item. So the check
+/// waits for the other events of this turn of the event loop, and paints in the same turn.
 void QtPlace::changed() {
   QtPlace& all = form();
   if (!all.widget_ || all.isPainting_ || !isShown()) return;
   if (std::exchange(all.isCheckPosted_, true)) return;
-  QCoreApplication::postEvent(all.widget_, new QEvent(drawnEvent));
+  QCoreApplication::postEvent(all.widget_, new QEvent(drawnEvent), Qt::LowEventPriority);
 }
 
 void QtPlace::showChanges() {
@@ -221,14 +221,17 @@ void QtPlace::showChanges() {
   // A widget that becomes visible is painted as a whole.
   if (!widget_->isVisible()) return;
   const QScopedValueRollback<int> paint(paints, paints + 1);
+  QRegion changed;
   forEachVisible([&](Place& place, Point, const Bounds&) {
     auto& drawn = static_cast<QtPlace&>(place);
     {
       const QScopedValueRollback<bool> painting(isPainting_, true);
       place.paintPending();
     }
-    if (drawn.surface_.isChanged()) showAnew(drawn.geometry());
+    if (drawn.surface_.isChanged()) changed += drawn.geometry();
   });
+  // update() would paint in the next turn.
+  if (!changed.isEmpty()) widget_->repaint(changed);
 }
 
 void QtPlace::resize() {
