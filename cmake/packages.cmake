@@ -7,7 +7,7 @@ set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
 set(CPACK_SOURCE_GENERATOR TGZ)
 set(CPACK_SOURCE_PACKAGE_FILE_NAME nvlist-${PROJECT_VERSION})
-set(CPACK_SOURCE_IGNORE_FILES /build/ /\\.git)
+set(CPACK_SOURCE_IGNORE_FILES /build/ /[.]git)
 set(CPACK_GENERATOR DEB)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
@@ -15,6 +15,9 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+# Where the packages find each other's libraries before they are installed.
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}
+  ${PROJECT_BINARY_DIR}/nvlist/json ${PROJECT_BINARY_DIR}/nvlist/platform/qt)
 set(CPACK_COMPONENTS_ALL library development)
 
 set(date "Sat, 21 Nov 2026 12:00:00 +0000")
@@ -33,6 +36,12 @@ Copyright: 2026 Norvane
 
 No licence has been chosen yet. Until the owner chooses one, all rights are reserved.
 ")
+
+# The cache of the linker is renewed after the installation of libraries.
+set(triggers ${PROJECT_BINARY_DIR}/packages/triggers)
+file(WRITE ${triggers} "activate-noawait ldconfig\n")
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${triggers})
+set(CPACK_DEBIAN_QT_PACKAGE_CONTROL_EXTRA ${triggers})
 
 # Describes the Debian package of a component. Arguments after these: lines of the description.
 function(debian_package component name section summary)
