@@ -65,6 +65,8 @@ void SlotBlocks::insert(std::int32_t index, Slot slot) {
   std::vector<Slot>& entries = blocks_[place.block].entries;
   entries.emplace_back();
   Slot* const at = entries.data() + place.offset;
+  // A reference is one pointer, which may be moved as bytes.
+  // NOLINTNEXTLINE(bugprone-undefined-memory-manipulation)
   std::memmove(static_cast<void*>(at + 1), at, sizeof(Slot) * (entries.size() - 1 - place.offset));
   new (at) Slot(std::move(slot));
   blocks_[place.block].isMeasured = false;
@@ -77,6 +79,7 @@ SlotBlocks::Slot SlotBlocks::take(std::int32_t index) {
   std::vector<Slot>& entries = blocks_[place.block].entries;
   Slot* const at = entries.data() + place.offset;
   Slot taken = std::move(*at);
+  // NOLINTNEXTLINE(bugprone-undefined-memory-manipulation)
   std::memmove(static_cast<void*>(at), at + 1, sizeof(Slot) * (entries.size() - 1 - place.offset));
   new (&entries.back()) Slot;
   entries.pop_back();

@@ -133,9 +133,11 @@ class RepeatedTexts {
 };
 
 RepeatedTexts::RepeatedTexts(std::span<const std::string_view> texts)
-    : texts_(texts), filter_(texts.size()), tails_(0) {
-  slots_.resize(std::bit_ceil(std::max<std::size_t>(texts.size() * 2, 2)));
-  shift_ = 64 - std::countr_zero(slots_.size());
+    : texts_(texts),
+      slots_(std::bit_ceil(std::max<std::size_t>(texts.size() * 2, 2))),
+      shift_(64 - std::countr_zero(slots_.size())),
+      filter_(texts.size()),
+      tails_(0) {
   slotOfText_.reserve(texts.size());
   std::set<std::pair<std::size_t, std::size_t>> shapes;
   std::size_t commaCount = 0;
