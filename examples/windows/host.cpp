@@ -1,6 +1,6 @@
 // The control on a window of a C++ program, by the type library alone. The system's ATL library is
-// the container. With a compiler that has #import, nvListTypes.h and the calls of Invoke give way
-// to: #import "nvList.ocx" named_guids
+// the container. A compiler that has #import needs no nvListTypes.h: #import "nvList.ocx"
+// named_guids
 #include <windows.h>
 
 #include <ole2.h>
@@ -16,7 +16,7 @@ namespace {
 _nvList* list;
 bool isDone = false;
 
-/// Hears the events of the list. Its arguments come last to first.
+/// Receives the events of the list. Arguments are in reverse order.
 struct Events final : IDispatch {
   STDMETHODIMP QueryInterface(REFIID id, void** out) override {
     *out = id == IID_IUnknown || id == IID_IDispatch || id == __uuidof(__nvList) ? this : nullptr;

@@ -5,27 +5,12 @@
 #include <utility>
 
 #include <nvlist/drawing/DrawnPicture.h>
+#include <nvlist/drawing/pixels.h>
 #include <nvlist/values/Failure.h>
 #include <nvlist/values/text.h>
 
 namespace norvane {
 namespace {
-
-/// Outside every image, and small enough for GDI arithmetic.
-constexpr int farOut = 1 << 24;
-
-int nearestPixel(float coordinate) {
-  if (!(coordinate > -farOut)) return -farOut;
-  return static_cast<int>(std::nearbyint(std::min(coordinate, static_cast<float>(farOut))));
-}
-
-/// Returns which of `count` equal parts of the span from `from` to `to` contains the centre of
-/// pixel `at`.
-int nearestOf(int count, int at, int from, int to) {
-  const auto place = static_cast<std::uint64_t>(std::int64_t{at} - from);
-  const auto length = static_cast<std::uint64_t>(std::int64_t{to} - from);
-  return static_cast<int>((2 * place + 1) * static_cast<std::uint64_t>(count) / (2 * length));
-}
 
 /// Converts the byte order of a Colour to that of an image, which begins with blue.
 std::uint32_t pixelOf(Colour colour) {
@@ -51,8 +36,8 @@ GdiCanvas::~GdiCanvas() { dropImage(); }
 
 void GdiCanvas::resize(int width, int height) {
   dropImage();
-  width_ = std::clamp(width, 0, farOut);
-  height_ = std::clamp(height, 0, farOut);
+  width_ = std::clamp(width, 0, farthestPixel);
+  height_ = std::clamp(height, 0, farthestPixel);
 }
 
 void GdiCanvas::resolution(int dpi) {
@@ -258,7 +243,7 @@ void GdiCanvas::Print(std::string_view text) {
   int y = nearestPixel(currentY_);
   forEachLine(text, [&](std::string_view line) {
     const std::wstring shown = wide(line);
-    RECT box{x, y, farOut, y + face().lineHeight()};
+    RECT box{x, y, farthestPixel, y + face().lineHeight()};
     DrawTextW(on, shown.data(), static_cast<int>(shown.size()), &box,
               DT_NOPREFIX | DT_EXPANDTABS | DT_SINGLELINE);
     x = 0;

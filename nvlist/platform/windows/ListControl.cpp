@@ -1,5 +1,5 @@
-// The list as its type library publishes it. The header that widl makes of nvList.idl declares each
-// member pure, so that the compiler proves that the two agree.
+// The members of the list in its type library. The header that widl generates from nvList.idl
+// declares each of them pure, so the compiler checks that none is missing.
 #include <algorithm>
 
 #include <nvlist/core/storedProperties.h>
@@ -355,8 +355,8 @@ class ListControl final : public OleControl, public Dispatch<::_nvList>, private
   }
 
  private:
-  /// Runs the body of a member: the list is there, the control lives until the body has returned,
-  /// and nothing that it throws leaves it.
+  /// Runs the body of a member with the properties initialised. The control is not destroyed before
+  /// the body has returned, and no exception leaves it.
   template <class Body>
   HRESULT run(Body&& body) {
     retain();

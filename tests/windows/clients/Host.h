@@ -67,8 +67,10 @@ void activation();
 void ambients();
 void persistence();
 void drawing();
+void references();
 void connections();
 void events();
 void badArguments();
+void images();
 
 }  // namespace norvane

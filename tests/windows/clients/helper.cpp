@@ -7,10 +7,10 @@
 //     Disconnect
 //     Picture(path)                  the picture in a file
 //     Report                         the reports received since the last call; empty: none
-//     Handle kind                    what the error handler does: takes reports, fails, or is
-//     missing AnswerBox                      closes the next message box of this thread Box the
-//     texts of the boxes closed since the last call CanUnload                      whether
-//     nvList.ocx says that it can be unloaded
+//     Handle kind                    the error handler "takes" reports, "fails" or "is missing"
+//     AnswerBox                      closes the next message box of this thread
+//     Box                            the texts of the boxes closed since the last call
+//     CanUnload                      whether nvList.ocx says that it can be unloaded
 //
 // It also provides NorvaneErrorHandler.ErrorHandler, which receives the reports of the library.
 #include <dispex.h>
@@ -155,7 +155,8 @@ IDispatch* objectIn(const VARIANT& value) {
 
 // ---- Connect ----
 
-/// Scripts take arguments by reference as VARIANTs alone: each is lent one, which is written back.
+/// Passes events to a script, which accepts arguments by reference only as VARIANTs. What the
+/// script writes into them is copied back.
 class Router final : public Dispatcher {
  public:
   Router(IDispatch* target, std::map<DISPID, std::wstring> names)
@@ -165,7 +166,7 @@ class Router final : public Dispatcher {
                       UINT*) override {
     const auto found = names_.find(id);
     const DISPID to = found == names_.end() ? DISPID_UNKNOWN : idOf(target_.get(), found->second);
-    if (to == DISPID_UNKNOWN) return S_OK;  // nobody listens
+    if (to == DISPID_UNKNOWN) return S_OK;  // the script has no such handler
     std::vector<OleVariant> lent(given->cArgs);
     std::vector<VARIANT> arguments(given->rgvarg, given->rgvarg + given->cArgs);
     for (UINT i = 0; i < given->cArgs; ++i)

@@ -201,11 +201,18 @@ int main(int count, char** arguments) {
   const struct {
     const char* name;
     void (*run)();
-  } tests[] = {{"types", types},           {"activation", activation},
-               {"ambients", ambients},     {"persistence", persistence},
-               {"drawing", drawing},       {"connections", connections},
-               {"events", events},         {"bad arguments", badArguments},
-               {"apartments", apartments}, {"lifetimes", lifetimes}};
+  } tests[] = {{"types", types},
+               {"references", references},
+               {"activation", activation},
+               {"ambients", ambients},
+               {"persistence", persistence},
+               {"drawing", drawing},
+               {"connections", connections},
+               {"events", events},
+               {"bad arguments", badArguments},
+               {"images", images},
+               {"apartments", apartments},
+               {"lifetimes", lifetimes}};
   for (const auto& test : tests) {
     test.run();
     pump(30);
