@@ -5,6 +5,7 @@
 #include <limits>
 #include <utility>
 
+#include <nvlist/drawing/pixels.h>
 #include <nvlist/platform/qt/QtColour.h>
 #include <nvlist/platform/qt/QtFont.h>
 #include <nvlist/platform/qt/QtPicture.h>
@@ -14,23 +15,7 @@
 namespace norvane {
 namespace {
 
-/// Beyond any image, and small enough to calculate with.
-constexpr int farOut = 1 << 24;
-
 constexpr std::size_t maximumForeign = 256;
-
-int nearestPixel(float coordinate) {
-  if (!(coordinate > -farOut)) return -farOut;
-  return static_cast<int>(std::nearbyint(std::min(coordinate, static_cast<float>(farOut))));
-}
-
-/// The span from `from` to `to` has `count` equal parts: the index of the one that contains the
-/// middle of the pixel `at`.
-int nearestOf(int count, int at, int from, int to) {
-  const auto place = static_cast<std::uint64_t>(std::int64_t{at} - from);
-  const auto length = static_cast<std::uint64_t>(std::int64_t{to} - from);
-  return static_cast<int>((2 * place + 1) * static_cast<std::uint64_t>(count) / (2 * length));
-}
 
 int lineCount(std::string_view text) {
   // Usually the text is one letter, measured for the height of a row.
@@ -78,7 +63,7 @@ QtCanvas::QtCanvas() { resize(size_, 1); }
 
 void QtCanvas::resize(QSize logical, qreal dpr) {
   endPainter();
-  size_ = logical.expandedTo(QSize(0, 0)).boundedTo(QSize(farOut, farOut));
+  size_ = logical.expandedTo(QSize(0, 0)).boundedTo(QSize(farthestPixel, farthestPixel));
   if (!(dpr > 0 && dpr < 100)) dpr = 1;
   if (dpr != dpr_) faces_ = {};
   dpr_ = dpr;
