@@ -105,6 +105,30 @@ TEST_F(Dropping, TakesFilesAndTexts) {
   EXPECT_EQ(mark(), "");
 }
 
+TEST_F(Dropping, ScrollsAtTheEdges) {
+  fill(40);
+  QMimeData text;
+  text.setText("text");
+  const auto hold = [&](int y) {
+    send(QDragMoveEvent({50, y}, Qt::CopyAction, &text, Qt::LeftButton, {}));
+  };
+  const int last = widget->count() - list().VisibleItems();
+  send(QDragEnterEvent({50, 100}, Qt::CopyAction, &text, Qt::LeftButton, {}));
+  hold(195);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return list().TopIndex() == last; }, 20'000));
+  hold(3);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return list().TopIndex() == last - 2; }, 20'000));
+  hold(100);
+  const int top = list().TopIndex();
+  QTest::qWait(200);
+  EXPECT_EQ(list().TopIndex(), top);
+  hold(3);
+  QDragLeaveEvent leave;
+  QCoreApplication::sendEvent(widget, &leave);
+  QTest::qWait(200);
+  EXPECT_EQ(list().TopIndex(), top);
+}
+
 TEST_F(Dropping, DragsTheSelectedRowsOut) {
   list().MultiSelect(true);
   drop->setDragsRows(true);

@@ -18,6 +18,10 @@ namespace {
 /// As high as the bar that shows where an item moves.
 constexpr int markHeight = 2;
 
+/// In pixels and milliseconds a row.
+constexpr int scrollMargin = 16;
+constexpr int scrollInterval = 80;
+
 }  // namespace
 
 NvListDrop::NvListDrop(NvListWidget& widget) : QObject(&widget), widget_(widget) {
@@ -28,6 +32,8 @@ NvListDrop::NvListDrop(NvListWidget& widget) : QObject(&widget), widget_(widget)
   mark_->setPalette(QPalette(Qt::black));
   mark_->setAttribute(Qt::WA_TransparentForMouseEvents);
   mark_->hide();
+  scrolling_.setInterval(scrollInterval);
+  scrolling_.callOnTimeout(this, [this] { scroll(); });
 }
 
 bool NvListDrop::eventFilter(QObject*, QEvent* event) {
@@ -36,12 +42,12 @@ bool NvListDrop::eventFilter(QObject*, QEvent* event) {
     case QEvent::DragMove:
       return over(*static_cast<QDropEvent*>(event));
     case QEvent::DragLeave:
-      mark(-1);
+      leave();
       return false;
     case QEvent::Drop: {
       auto& drop = *static_cast<QDropEvent*>(event);
       if (!over(drop)) return false;
-      mark(-1);
+      leave();
       // The slot may destroy the widget.
       emit dropped(drop.mimeData(), indexAt(drop.position().toPoint()));
       return true;
@@ -60,8 +66,36 @@ bool NvListDrop::over(QDropEvent& event) {
   const QMimeData& data = *event.mimeData();
   if (!widget_.isEnabled() || !(data.hasUrls() || data.hasText())) return false;
   event.acceptProposedAction();
-  mark(indexAt(event.position().toPoint()));
+  heldAt_ = event.position().toPoint();
+  mark(indexAt(heldAt_));
+  if (directionAt(heldAt_) == 0)
+    scrolling_.stop();
+  else if (!scrolling_.isActive())
+    scrolling_.start();
   return true;
+}
+
+void NvListDrop::leave() {
+  mark(-1);
+  scrolling_.stop();
+}
+
+/// -1 at the upper edge, 1 at the lower one, 0 elsewhere.
+int NvListDrop::directionAt(const QPoint& point) const {
+  const QRect area = areaOfRows(widget_);
+  if (point.y() < area.top() + scrollMargin) return -1;
+  return point.y() > area.bottom() - scrollMargin ? 1 : 0;
+}
+
+void NvListDrop::scroll() {
+  nvList& list = widget_.list();
+  const int last = std::max(widget_.count() - list.VisibleItems(), 0);
+  const int before = std::max(list.TopIndex(), 0);
+  const int top = std::clamp(before + directionAt(heldAt_), 0, last);
+  // A handler of the host may destroy the widget.
+  const QPointer<NvListDrop> guard(this);
+  if (top != before) list.TopIndex(top);
+  if (guard) mark(indexAt(heldAt_));
 }
 
 int NvListDrop::indexAt(const QPoint& point) const {

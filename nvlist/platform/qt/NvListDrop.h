@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QPoint>
 #include <QPointer>
+#include <QTimer>
 
 #include <nvlist/platform/qt/NvListWidget.h>
 
@@ -18,8 +19,8 @@ namespace norvane {
 ///     connect(drop, &NvListDrop::dropped, [=](const QMimeData* data, int index) { ... });
 ///
 /// Files and texts can be dropped. While they are over the list, a black bar shows where, as the
-/// one for moving items does. The list changes nothing by itself, and its events named OLE... stay
-/// silent.
+/// one for moving items does, and the list scrolls if they are held at its upper or lower edge. The
+/// list changes nothing by itself, and its events named OLE... stay silent.
 class NvListDrop : public QObject {
   Q_OBJECT
   Q_PROPERTY(bool dragsRows READ dragsRows WRITE setDragsRows)
@@ -45,12 +46,17 @@ class NvListDrop : public QObject {
   bool over(QDropEvent& event);
   int indexAt(const QPoint& point) const;
   void mark(int index);
+  int directionAt(const QPoint& point) const;
+  void scroll();
+  void leave();
   bool mouse(QMouseEvent& event);
   void replayPress();
   void drag();
 
   NvListWidget& widget_;
   QPointer<QWidget> mark_;
+  QPoint heldAt_;  ///< what may be dropped
+  QTimer scrolling_;
   bool dragsRows_ = false;
   bool isPressed_ = false;
   bool isHeldBack_ = false;
