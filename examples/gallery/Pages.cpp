@@ -288,6 +288,8 @@ QList<Page> allPages(const SampleText& text) {
        fillEdit},
       {"colours", "Colours", "ColorStyle: three families, and one of your own", palette,
        fillColours},
+      {"comfort", "Comfort", "Beyond the list's own: files and texts dropped, mirrored, clipped",
+       cup, fillComfort},
       {"bars", "Scroll bars", "The scroll bars alone: all their states, and some to use below",
        scrollBar, fillBars},
       {"files", "List files", "ListSave, ListInput, ListInput2: lists in files, texts as lists",

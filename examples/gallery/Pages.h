@@ -77,6 +77,9 @@ norvane::Picture icon(const Glyph& glyph, int size = 16);
 /// Converts a colour to the list's format.
 norvane::Colour hostColour(QRgb rgb);
 
+/// The page of what the widget offers beyond the list's own properties.
+void fillComfort(Stage& stage);
+
 /// The page of the scroll bars, which has no list.
 void fillBars(Stage& stage);
 
