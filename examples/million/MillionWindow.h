@@ -37,9 +37,8 @@ class MillionWindow : public QWidget {
     list_->list().MultiSelect(true);
     new norvane::NvListKeys(*list_);
 
-    connect(search_, &QLineEdit::textEdited, this, [this] { find(list_->list().ListIndex()); });
-    connect(search_, &QLineEdit::returnPressed, this,
-            [this] { find(list_->list().ListIndex() + 1); });
+    connect(search_, &QLineEdit::textEdited, this, [this] { find(list_->currentIndex()); });
+    connect(search_, &QLineEdit::returnPressed, this, [this] { find(list_->currentIndex() + 1); });
     connect(list_, &norvane::NvListWidget::selectionChanged, this, [this] {
       state_->setText(
           QString("%L1 of %L2 selected").arg(list_->selectedIndexes().size()).arg(rows_));
@@ -76,7 +75,7 @@ class MillionWindow : public QWidget {
     for (int i = 0; i < rows_; ++i) {
       const int index = (std::max(from, 0) + i) % rows_;
       if (!list_->itemText(index).contains(wanted, Qt::CaseInsensitive)) continue;
-      list_->list().ListIndex(index);
+      list_->setCurrentIndex(index);
       list_->scrollTo(index);
       state_->setText(QString("row %L1, found in %L2 ms").arg(index + 1).arg(clock_.elapsed()));
       return;

@@ -38,7 +38,7 @@ TEST(Examples, todo) {
     QTest::keyClick(&list, Qt::Key_F2);
     QTest::keyClicks(list.editBox(), "Call Mira and Jon");
     QTest::keyClick(list.editBox(), Qt::Key_Return);
-    EXPECT_EQ(list.list().ItemForeColor(1), grey);
+    EXPECT_EQ(list.list().ItemForeColor(1), norvane::colours::greyText);
     QTest::keyClick(&list, Qt::Key_Home);
     QTest::keyClick(&list, Qt::Key_Delete);
     EXPECT_EQ(window.statusBar()->currentMessage(), "1 of 3 done");
