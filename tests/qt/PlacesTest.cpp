@@ -85,6 +85,7 @@ TEST_P(PlacesTest, theEditBoxFollows) {
   EXPECT_EQ(edit.geometry(), plain);
   widget.setMirrorsLayout(true);
   EXPECT_EQ(shown(edit.geometry()), plain);
+  EXPECT_EQ(edit.alignment().testFlag(Qt::AlignAbsolute), GetParam());
   list.closeEdit();
 
   new NvListKeys(widget);

@@ -119,7 +119,13 @@ void NvListWidget::setMirrorsLayout(bool on) {
   followDirection();
 }
 
-void NvListWidget::followDirection() { core_->place.mirror(mirrorsLayout_ && isRightToLeft()); }
+void NvListWidget::followDirection() {
+  core_->place.mirror(mirrorsLayout_ && isRightToLeft());
+  // The text stays where the row has it, also if its own direction is the other one.
+  if (QLineEdit* const edit = editBox())
+    edit->setAlignment(core_->place.isMirrored() ? Qt::AlignRight | Qt::AlignAbsolute
+                                                 : Qt::AlignLeft);
+}
 
 QPointF NvListWidget::mirrored(const QPointF& point) const {
   return core_->place.isMirrored() ? QPointF(width() - 1 - point.x(), point.y()) : point;
