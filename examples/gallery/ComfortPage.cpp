@@ -22,7 +22,7 @@ QStringList linesOf(const QMimeData& data) {
 }
 
 void addDropping(Stage& stage) {
-  nvList& list = stage.addList("drop", "Drop files and texts here, drag rows out");
+  nvList& list = stage.addList("drop", "Drop here, drag rows out");
   NvListWidget* const widget = stage.lists().back();
   list.MultiSelect(true);
   list.MinHeight(20);
@@ -38,7 +38,7 @@ void addDropping(Stage& stage) {
 }
 
 void addMirrored(Stage& stage) {
-  nvList& list = stage.addList("mirrored", "Mirrored for languages written from right to left");
+  nvList& list = stage.addList("mirrored", "Mirrored: from right to left");
   NvListWidget* const widget = stage.lists().back();
   widget->setMirrorsLayout(true);
   widget->setLayoutDirection(Qt::RightToLeft);
@@ -72,9 +72,8 @@ void addVerses(Stage& stage, const QString& name, const QString& caption, bool c
 void fillComfort(Stage& stage) {
   addDropping(stage);
   addMirrored(stage);
-  addVerses(stage, "centred", "Texts of several lines, centred on their rows", false);
-  addVerses(stage, "clipped", "The same, clipped to their rows; rest on a text that is cut off",
-            true);
+  addVerses(stage, "centred", "Texts of several lines", false);
+  addVerses(stage, "clipped", "Clipped to their rows, with tips", true);
 }
 
 }  // namespace gallery
