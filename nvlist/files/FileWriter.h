@@ -42,7 +42,7 @@ class FileWriter {
   void flush();
 
  private:
-  static constexpr std::size_t blockSize = 256 * 1024;
+  static constexpr std::size_t blockSize = std::size_t{256} * 1024;
 
   template <std::integral Integer>
   static void put(char* bytes, Integer number) {
