@@ -205,23 +205,11 @@ void persistence() {
   check(wrong == 0, "each property is stored and notified under its own name");
 
   for (long i = 0; i < 3; ++i) add(list.get(), i);
-  const wchar_t* const names[] = {L"ItemChecked",
-                                  L"ItemBold",
-                                  L"ItemItalic",
-                                  L"ItemUnderline",
-                                  L"ItemEnabled",
-                                  L"ItemText",
-                                  L"ItemKey",
-                                  L"ItemTag",
-                                  L"ItemAllowEdit",
-                                  L"ItemAlignment",
-                                  L"ItemForeColor",
-                                  L"ItemBackColor",
-                                  L"ItemForeColorSelect",
-                                  L"ItemBackColorSelect",
-                                  L"ItemForeColorDis",
-                                  L"ItemBackColorDis"};
-  for (const wchar_t* name : names) {
+  for (const wchar_t* name :
+       {L"ItemChecked", L"ItemBold", L"ItemItalic", L"ItemUnderline", L"ItemEnabled", L"ItemText",
+        L"ItemKey", L"ItemTag", L"ItemAllowEdit", L"ItemAlignment", L"ItemForeColor",
+        L"ItemBackColor", L"ItemForeColorSelect", L"ItemBackColorSelect", L"ItemForeColorDis",
+        L"ItemBackColorDis"}) {
     auto* text = const_cast<LPOLESTR>(name);
     DISPID id = 0, put = DISPID_PROPERTYPUT;
     list->GetIDsOfNames(IID_NULL, &text, 1, 0, &id);
