@@ -150,6 +150,7 @@ void SlotBlocks::removeOrMerge(std::size_t block) {
   std::vector<Slot>& next = blocks_[block + 1].entries;
   if (slots.size() + next.size() > std::min(blockSize / 2, slots.capacity())) return;
   std::ranges::move(next, std::back_inserter(slots));
+  blocks_[block].isMeasured = false;
   blocks_.erase(at(blocks_, block + 1));
 }
 
