@@ -148,7 +148,12 @@ TEST_F(AccessibilityTest, ReportsChanges) {
                   list().ItemText(18, "out of view");
                 },
                 "Name(3) "},
-               {"disabled", [&] { list().ItemEnabled(3, false); }, "State(3) "},
+               {"disabled and checked",
+                [&] {
+                  list().ItemEnabled(3, false);
+                  list().ItemChecked(3, true);
+                },
+                "State(3) State(3) "},
                {"scroll", [&] { list().TopIndex(4); }, "Value "},
                {"remove", [&] { list().ItemsRemove(19); }, "Rows "},
                {"nothing", [&] { widget->update(); }, ""}};

@@ -81,14 +81,19 @@ void AccessibleWatch::report(int index, const ShownRow& before, const ShownRow& 
   if (now.text != before.text) reportRow(index, QAccessible::NameChanged);
   if (now.isSelected != before.isSelected)
     reportRow(index, now.isSelected ? QAccessible::SelectionAdd : QAccessible::SelectionRemove);
-  QAccessible::State changed;
-  changed.checked = now.isChecked != before.isChecked;
-  changed.disabled = now.isEnabled != before.isEnabled;
-  changed.selected = now.isSelected != before.isSelected;
-  if (!changed.checked && !changed.disabled && !changed.selected) return;
-  QAccessibleStateChangeEvent event(&widget_, changed);
-  event.setChild(index);
-  send(event);
+  // An event for each, as Qt passes on one state of an event alone.
+  const auto reportState = [&](bool hasChanged, void (*mark)(QAccessible::State&)) {
+    if (!hasChanged) return;
+    QAccessible::State changed;
+    mark(changed);
+    QAccessibleStateChangeEvent event(&widget_, changed);
+    event.setChild(index);
+    send(event);
+  };
+  using State = QAccessible::State;
+  reportState(now.isChecked != before.isChecked, [](State& state) { state.checked = true; });
+  reportState(now.isEnabled != before.isEnabled, [](State& state) { state.disabled = true; });
+  reportState(now.isSelected != before.isSelected, [](State& state) { state.selected = true; });
 }
 
 void AccessibleWatch::reportRow(int index, QAccessible::Event type) {
