@@ -1,4 +1,5 @@
 """Types tasks into examples/todo and reads them over AT-SPI, as a screen reader does."""
+import atexit
 import subprocess
 import sys
 import time
@@ -76,6 +77,9 @@ def click(row):
 pyatspi.setTimeout(PATIENCE * 1000, PATIENCE * 1000)
 for kind in ("object:state-changed", "object:property-change"):
     pyatspi.Registry.registerEventListener(hear, kind)
+# Qt misses what is registered while the program starts.
+program = subprocess.Popen(sys.argv[1:])
+atexit.register(program.terminate)
 items = wait_for("the list", lambda: pyatspi.findDescendant(
     pyatspi.Registry.getDesktop(0), lambda found: found.getRoleName() == "list"))
 window = xdotool("search", "--sync", "--name", "To do").split()[-1]
@@ -113,3 +117,4 @@ xdotool("type", "Call Jon")
 step("Return", lambda: xdotool("key", "Return"), "accessible-name 0 Call Jon")
 step("Delete", lambda: xdotool("key", "Delete"), "accessible-name 0 Mend the bicycle")
 wait_for("two rows", lambda: items.clearCache() or items.childCount == 2)
+expect("the end of the program", program.poll(), None)
