@@ -4,6 +4,7 @@
 #include "Scenario.h"
 
 #include <algorithm>
+#include <cmath>
 #include <sstream>
 
 #include <nvlist/core/storedProperties.h>
@@ -49,8 +50,9 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     if (word == "@") return {};
     if (word[0] == '\'') return word.substr(1, word.size() - 2);
     const double number = numberOf(word).value();
-    const auto whole = static_cast<std::int32_t>(number);
-    return whole == number ? Variant(whole) : Variant(static_cast<float>(number));
+    const bool isWhole =
+        number == std::trunc(number) && number >= -2147483648.0 && number <= 2147483647.0;
+    return isWhole ? Variant(static_cast<std::int32_t>(number)) : Variant(number);
   }
   std::string perform(const std::string& verb, const Words& words, const std::string& rest) {
     const auto real = [&](std::size_t i, float otherwise = 0) {
