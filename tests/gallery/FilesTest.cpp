@@ -129,13 +129,13 @@ TEST_F(FilesTest, AnyFileIsOpenedByItsContentsOrRefused) {
   showPage("files");
   norvane::nvList& files = list("files");
   for (const auto& [name, bytes, shown, count] : cases) {
-    const QString path = write(name, bytes);
-    window->openFile(path);
+    const QString file = write(name, bytes);
+    window->openFile(file);
     if (count > 0) {
       EXPECT_EQ(files.ItemsCount(), count) << name;
       EXPECT_EQ(files.ItemText(0), shown) << name;
     } else {
-      EXPECT_TRUE(logged().contains(path + " " + shown)) << name;
+      EXPECT_TRUE(logged().contains(file + " " + shown)) << name;
     }
   }
   EXPECT_TRUE(logged().contains("No field is called x"));
