@@ -73,6 +73,7 @@ class QtFace {
     QRectF ink;
   };
 
+  std::optional<double> knownSum(std::string_view ascii) const;
   template <class Reader>
   std::optional<double> sum(Reader text, unsigned& kinds);
   template <class Reader>
