@@ -102,7 +102,9 @@ void nvList::writeFields(Trap& on, StoredItem& item, NewItem& values) {
   // be converted, however, the fields before it must have been written.
   const bool isReadable = isNumber(values.aForeColorDis) && isNumber(values.aBackColorDis);
   ItemLook collected;
-  ItemLook& look = isReadable ? collected : item.ownLook();
+  ItemLook* own = &collected;
+  if (!isReadable) on.step([&] { own = &item.ownLook(); });
+  ItemLook& look = *own;
   look.Icon = std::move(values.aIcon);
   look.IconSelected = std::move(values.aIconSelected);
   look.ForeColor = std::move(values.aForeColor);
@@ -117,8 +119,9 @@ void nvList::writeFields(Trap& on, StoredItem& item, NewItem& values) {
   look.Bold = values.aBold;
   look.Italic = values.aItalic;
   look.Underline = values.aUnderline;
-  if (isReadable) state_.Items.setLook(item, state_.Items.upperBound(), collected);
-  item.Tag(std::move(values.aTag));
+  if (isReadable)
+    on.step([&] { state_.Items.setLook(item, state_.Items.upperBound(), collected); });
+  on.step([&] { item.Tag(std::move(values.aTag)); });
   on.step([&] {
     std::string converted;
     item.Key(textOf(values.aKey, converted));

@@ -7,6 +7,7 @@
 
 #include <nvlist/objects/Error.h>
 #include <nvlist/platform/headless/HeadlessList.h>
+#include <nvlist/values/Failure.h>
 
 #include "Allocations.h"
 #include "FailingPlatform.h"
@@ -37,16 +38,6 @@ class Host final : public __nvList {
   void ErrorListSave() override { ++saveErrors; }
 };
 
-template <class Body>
-bool runs(Body&& body) {
-  try {
-    body();
-    return true;
-  } catch (...) {
-    return false;
-  }
-}
-
 /// A list with everything around it that can fail.
 class Sweep {
  public:
@@ -61,7 +52,7 @@ class Sweep {
   Outcome run() {
     // Not making a control is no harm.
     const allocations::Watch memory(plan_.allocation, plan_.onward);
-    runs([&] {
+    ignoringFailures([&] {
       place_.emplace(form_, trouble_);
       list_ = std::make_unique<nvList>(*place_);
     });
@@ -102,10 +93,10 @@ class Sweep {
       life = lifeOf(*list_, hand, [this] { trouble_(); });
       list_->addSink(host);
     }
-    runs([&] { list_->UserControl_InitProperties(); });
+    ignoringFailures([&] { list_->UserControl_InitProperties(); });
     for (const Step& step : life) {
       const int before = host.saveErrors;
-      const bool wasCalled = runs(step.run);
+      const bool wasCalled = ignoringFailures(step.run);
       if (std::string_view(step.name).starts_with("save") && wasCalled && host.saveErrors == before)
         checkSaved();
       if (outcome_.fault && !*outcome_.step) outcome_.step = step.name;

@@ -280,6 +280,8 @@ void NvListKeys::placeEdit() {
   QRect box(0, std::max(std::min(top, room.bottom() + 1 - height), room.top()), 0, height);
   box.setLeft(std::max(text.left(), room.left()));
   box.setRight(std::min(text.right(), room.right()));
+  // Without room for it the box stays where the list has put it.
+  if (!box.isValid()) return;
   edit_->setGeometry(box);
   if (!border_) return;
   QPalette palette;

@@ -29,8 +29,8 @@ namespace norvane {
 /// - With AllowItemMoving, a click without a drag moves nothing.
 ///
 /// The host's KeyDown comes first if its sink was added first; a key whose code it sets to 0 does
-/// nothing here either. Written with the public operations of the list alone, as an example for
-/// helpers of your own.
+/// nothing here either. Written with the public operations of the list and the widget, as an
+/// example for helpers of your own; only the place of the edit box is taken from inside the widget.
 class NvListKeys : public QObject, private __nvList {
   Q_OBJECT
   Q_PROPERTY(int typingInterval READ typingInterval WRITE setTypingInterval)
