@@ -2,7 +2,7 @@
 #include <string>
 #include <vector>
 
-#include <nvlist/platform/qt/QtSurface.h>
+#include <nvlist/platform/qt/drawing/QtSurface.h>
 
 #include "Measure.h"
 #include "Subjects.h"

@@ -1,5 +1,5 @@
-#include <nvlist/platform/qt/AccessibleList.h>
-#include <nvlist/platform/qt/AccessibleWatch.h>
+#include <nvlist/platform/qt/accessibility/AccessibleList.h>
+#include <nvlist/platform/qt/accessibility/AccessibleWatch.h>
 
 #include <QAccessible>
 #include <map>

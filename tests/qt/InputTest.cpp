@@ -2,8 +2,8 @@
 
 #include <QInputMethodEvent>
 
-#include <nvlist/platform/qt/QtColour.h>
-#include <nvlist/platform/qt/QtKeys.h>
+#include <nvlist/platform/qt/drawing/QtColour.h>
+#include <nvlist/platform/qt/place/QtKeys.h>
 
 namespace norvane {
 namespace {

@@ -1,4 +1,4 @@
-#include <nvlist/platform/qt/QtPlace.h>
+#include <nvlist/platform/qt/place/QtPlace.h>
 
 #include <gtest/gtest.h>
 
@@ -8,8 +8,8 @@
 #include <functional>
 
 #include <nvlist/platform/UserControl.h>
-#include <nvlist/platform/qt/QtTextBox.h>
-#include <nvlist/platform/qt/QtTimer.h>
+#include <nvlist/platform/qt/place/QtTextBox.h>
+#include <nvlist/platform/qt/place/QtTimer.h>
 #include <nvlist/values/Failure.h>
 
 namespace norvane {

@@ -1,4 +1,4 @@
-#include <nvlist/platform/qt/QtSurface.h>
+#include <nvlist/platform/qt/drawing/QtSurface.h>
 
 #include <gtest/gtest.h>
 
@@ -9,9 +9,9 @@
 #include <limits>
 #include <string>
 
-#include <nvlist/platform/qt/QtFace.h>
 #include <nvlist/platform/qt/QtFont.h>
 #include <nvlist/platform/qt/QtPicture.h>
+#include <nvlist/platform/qt/drawing/QtFace.h>
 #include <nvlist/values/Failure.h>
 
 namespace norvane {

@@ -7,9 +7,9 @@
 
 #include <nvlist/core/storedProperties.h>
 #include <nvlist/platform/qt/QtApplication.h>
-#include <nvlist/platform/qt/QtColour.h>
 #include <nvlist/platform/qt/QtFailures.h>
 #include <nvlist/platform/qt/QtFont.h>
+#include <nvlist/platform/qt/drawing/QtColour.h>
 
 namespace norvane {
 namespace {

@@ -1,6 +1,6 @@
 // Draws the scenes with Qt: drawScenes FOLDER. The pictures of the Windows platform are compared
 // with them.
-#include <nvlist/platform/qt/QtCanvas.h>
+#include <nvlist/platform/qt/drawing/QtCanvas.h>
 
 #include <QGuiApplication>
 #include <exception>

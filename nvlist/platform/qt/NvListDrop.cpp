@@ -10,7 +10,7 @@
 #include <algorithm>
 #include <utility>
 
-#include <nvlist/platform/qt/QtRows.h>
+#include <nvlist/platform/qt/widget/QtRows.h>
 
 namespace norvane {
 namespace {

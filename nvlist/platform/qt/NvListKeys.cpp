@@ -11,8 +11,8 @@
 #include <QTimer>
 #include <algorithm>
 
-#include <nvlist/platform/qt/QtColour.h>
-#include <nvlist/platform/qt/QtRows.h>
+#include <nvlist/platform/qt/drawing/QtColour.h>
+#include <nvlist/platform/qt/widget/QtRows.h>
 #include <nvlist/render/colours.h>
 
 namespace norvane {

@@ -1,6 +1,6 @@
 #include <nvlist/platform/qt/NvListProperties.h>
 
-#include <nvlist/platform/qt/QtColour.h>
+#include <nvlist/platform/qt/drawing/QtColour.h>
 
 namespace norvane {
 

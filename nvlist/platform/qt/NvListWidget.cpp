@@ -19,10 +19,10 @@
 
 #include <nvlist/platform/qt/QtApplication.h>
 #include <nvlist/platform/qt/QtFont.h>
-#include <nvlist/platform/qt/QtListSignals.h>
-#include <nvlist/platform/qt/QtRows.h>
-#include <nvlist/platform/qt/accessibility.h>
-#include <nvlist/platform/qt/cutTexts.h>
+#include <nvlist/platform/qt/accessibility/accessibility.h>
+#include <nvlist/platform/qt/widget/QtListSignals.h>
+#include <nvlist/platform/qt/widget/QtRows.h>
+#include <nvlist/platform/qt/widget/cutTexts.h>
 
 namespace norvane {
 

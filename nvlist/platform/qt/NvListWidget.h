@@ -6,7 +6,7 @@
 #include <memory>
 
 #include <nvlist/platform/qt/NvListProperties.h>
-#include <nvlist/platform/qt/QtPlace.h>
+#include <nvlist/platform/qt/place/QtPlace.h>
 
 class QContextMenuEvent;
 class QScrollEvent;

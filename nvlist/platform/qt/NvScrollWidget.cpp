@@ -4,7 +4,7 @@
 #include <QPointer>
 
 #include <nvlist/platform/qt/QtApplication.h>
-#include <nvlist/platform/qt/QtPlace.h>
+#include <nvlist/platform/qt/place/QtPlace.h>
 
 namespace norvane {
 namespace {

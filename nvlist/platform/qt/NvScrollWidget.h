@@ -4,7 +4,7 @@
 #include <memory>
 
 #include <nvlist/platform/qt/NvListProperties.h>
-#include <nvlist/platform/qt/QtPlace.h>
+#include <nvlist/platform/qt/place/QtPlace.h>
 #include <nvlist/scroll/nvHScroll.h>
 #include <nvlist/scroll/nvVScroll.h>
 

@@ -15,12 +15,12 @@
 #include <QVersionNumber>
 
 #include <nvlist/platform/qt/QtFailures.h>
-#include <nvlist/platform/qt/QtMouse.h>
 #include <nvlist/platform/qt/QtPicture.h>
-#include <nvlist/platform/qt/QtPlace.h>
-#include <nvlist/platform/qt/QtSound.h>
-#include <nvlist/platform/qt/QtTipWindow.h>
 #include <nvlist/platform/qt/QtWindow.h>
+#include <nvlist/platform/qt/place/QtPlace.h>
+#include <nvlist/platform/qt/services/QtMouse.h>
+#include <nvlist/platform/qt/services/QtSound.h>
+#include <nvlist/platform/qt/services/QtTipWindow.h>
 #include <nvlist/values/Failure.h>
 
 namespace norvane {

@@ -4,7 +4,7 @@
 #include <QMetaMethod>
 #include <atomic>
 
-#include <nvlist/platform/qt/QtPlace.h>
+#include <nvlist/platform/qt/place/QtPlace.h>
 
 namespace norvane {
 namespace {

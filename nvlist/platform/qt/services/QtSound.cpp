@@ -1,4 +1,4 @@
-#include <nvlist/platform/qt/QtSound.h>
+#include <nvlist/platform/qt/services/QtSound.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>

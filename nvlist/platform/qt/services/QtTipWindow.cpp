@@ -1,4 +1,4 @@
-#include <nvlist/platform/qt/QtTipWindow.h>
+#include <nvlist/platform/qt/services/QtTipWindow.h>
 
 #include <QCoreApplication>
 #include <QCursor>

@@ -1,4 +1,4 @@
-#include <nvlist/platform/qt/QtColour.h>
+#include <nvlist/platform/qt/drawing/QtColour.h>
 
 #include <algorithm>
 #include <cmath>

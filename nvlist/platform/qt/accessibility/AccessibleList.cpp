@@ -1,11 +1,11 @@
-#include <nvlist/platform/qt/AccessibleList.h>
+#include <nvlist/platform/qt/accessibility/AccessibleList.h>
 
 #include <algorithm>
 
-#include <nvlist/platform/qt/AccessibleBar.h>
-#include <nvlist/platform/qt/AccessibleRow.h>
-#include <nvlist/platform/qt/AccessibleWatch.h>
-#include <nvlist/platform/qt/QtRows.h>
+#include <nvlist/platform/qt/accessibility/AccessibleBar.h>
+#include <nvlist/platform/qt/accessibility/AccessibleRow.h>
+#include <nvlist/platform/qt/accessibility/AccessibleWatch.h>
+#include <nvlist/platform/qt/widget/QtRows.h>
 
 namespace norvane {
 

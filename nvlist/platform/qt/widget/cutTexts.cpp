@@ -1,10 +1,10 @@
-#include <nvlist/platform/qt/cutTexts.h>
+#include <nvlist/platform/qt/widget/cutTexts.h>
 
 #include <QFontMetricsF>
 #include <QToolTip>
 
 #include <nvlist/platform/qt/QtFont.h>
-#include <nvlist/platform/qt/QtRows.h>
+#include <nvlist/platform/qt/widget/QtRows.h>
 
 namespace norvane {
 namespace {

@@ -1,4 +1,4 @@
-#include <nvlist/platform/qt/QtKeys.h>
+#include <nvlist/platform/qt/place/QtKeys.h>
 
 #include <algorithm>
 #include <limits>

@@ -1,4 +1,4 @@
-#include <nvlist/platform/qt/AccessibleBar.h>
+#include <nvlist/platform/qt/accessibility/AccessibleBar.h>
 
 #include <QCoreApplication>
 #include <algorithm>

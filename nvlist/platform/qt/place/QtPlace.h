@@ -12,9 +12,8 @@
 #include <string_view>
 
 #include <nvlist/platform/Place.h>
-#include <nvlist/platform/qt/QtSurface.h>
-
-class QWheelEvent;
+#include <nvlist/platform/qt/drawing/QtSurface.h>
+#include <nvlist/platform/qt/place/QtWheel.h>
 
 namespace norvane {
 
@@ -35,16 +34,8 @@ class QtPlace : public Place {
   /// Called with the name of each property of the control that has changed. Default: none.
   std::function<void(std::string_view name)> onPropertyChanged;
 
-  /// What the wheel does besides whole notches; read at the outermost place.
-  struct WheelOptions {
-    /// Whether each turn reaches the control as it comes. Otherwise parts of a notch, as touchpads
-    /// and fine wheels send them, are added up, and the control gets whole notches. Default: false.
-    bool passesParts = false;
-    /// Called with the pixels to scroll to the right (negative: to the left) when a wheel is turned
-    /// to the side. Default: none; the turn is then left to the form.
-    std::function<void(int pixels)> onSideways;
-  };
-  WheelOptions wheel;
+  /// What becomes of turns of the wheel; used at the outermost place.
+  QtWheel wheel;
 
   /// Called with what a handler of the program threw while the control let events run (DoEvents);
   /// the control then goes on as if nothing had been thrown. Read at the outermost place. Default:
@@ -95,9 +86,7 @@ class QtPlace : public Place {
   void show(bool isVisible) override;
   /// The widget's number (QtWindow.h); 0 once it is gone.
   std::int32_t hwnd() override;
-  void hookWheel(std::function<void(std::int32_t, std::int32_t)> procedure) override {
-    wheelProcedure_ = std::move(procedure);
-  }
+  void hookWheel(QtWheel::Procedure procedure) override { wheelProcedure_ = std::move(procedure); }
   std::unique_ptr<Container> addChild() override;
   std::unique_ptr<TextBox> addTextBox(std::function<void(std::int16_t&)> keyPress) override;
   std::unique_ptr<Timer> addTimer(std::function<void()> tick) override;
@@ -116,9 +105,7 @@ class QtPlace : public Place {
   bool dispatch(QEvent* event);
   bool mouseEvent(QEvent* event);
   bool keyEvent(QEvent* event);
-  bool wheelEvent(QEvent* event);
-  int wholeNotches(int turn);
-  bool turnSideways(const QWheelEvent& event);
+  bool wheelEvent(QWheelEvent& event);
   void focusEvent(QEvent::Type type, FocusOf of);
   bool isFocusInside() const;
   void watchHold();
@@ -129,16 +116,13 @@ class QtPlace : public Place {
   void renewImages();
 
   QtSurface surface_;
-  std::function<void(std::int32_t, std::int32_t)> wheelProcedure_;
+  QtWheel::Procedure wheelProcedure_;
   // In use at the outermost place only.
   QWidget* widget_ = nullptr;
   bool makesReadable_ = false;
   bool isMirrored_ = false;
   bool isPainting_ = false;
   bool isCheckPosted_ = false;
-  /// What turns have left of a notch, or of a pixel.
-  int restOfNotch_ = 0;
-  double restOfPixel_ = 0;
   bool isEntered_ = false;
   QList<QPointer<QtTextBox>> textBoxes_;
   std::unique_ptr<QObject> holdWatch_;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <nvlist/platform/qt/AccessiblePart.h>
+#include <nvlist/platform/qt/accessibility/AccessiblePart.h>
 
 namespace norvane {
 

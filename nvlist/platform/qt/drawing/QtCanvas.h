@@ -10,7 +10,7 @@
 #include <memory>
 
 #include <nvlist/drawing/Surface.h>
-#include <nvlist/platform/qt/QtFace.h>
+#include <nvlist/platform/qt/drawing/QtFace.h>
 
 namespace norvane {
 

@@ -1,4 +1,4 @@
-#include <nvlist/platform/qt/QtPlace.h>
+#include <nvlist/platform/qt/place/QtPlace.h>
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -15,12 +15,12 @@
 
 #include <nvlist/objects/Trap.h>
 #include <nvlist/platform/UserControl.h>
-#include <nvlist/platform/qt/QtColour.h>
 #include <nvlist/platform/qt/QtFont.h>
-#include <nvlist/platform/qt/QtKeys.h>
-#include <nvlist/platform/qt/QtTextBox.h>
-#include <nvlist/platform/qt/QtTimer.h>
 #include <nvlist/platform/qt/QtWindow.h>
+#include <nvlist/platform/qt/drawing/QtColour.h>
+#include <nvlist/platform/qt/place/QtKeys.h>
+#include <nvlist/platform/qt/place/QtTextBox.h>
+#include <nvlist/platform/qt/place/QtTimer.h>
 
 namespace norvane {
 namespace {
@@ -349,7 +349,7 @@ bool QtPlace::dispatch(QEvent* event) {
     case QEvent::MouseMove:
       return mouseEvent(event);
     case QEvent::Wheel:
-      return wheelEvent(event);
+      return wheelEvent(*static_cast<QWheelEvent*>(event));
     default:
       return false;
   }
@@ -419,53 +419,12 @@ bool QtPlace::keyEvent(QEvent* event) {
   return isArrow;
 }
 
-bool QtPlace::wheelEvent(QEvent* event) {
-  const auto* turned = static_cast<const QWheelEvent*>(event);
-  int turn = turned->angleDelta().y();
-  // Some systems turn the wheel sideways while Alt is down.
-  if (turn == 0 && (turned->modifiers() & Qt::AltModifier)) turn = turned->angleDelta().x();
+bool QtPlace::wheelEvent(QWheelEvent& event) {
   // In a designer the wheel is not hooked.
   if (!wheelProcedure_ || isDesignMode || !widget_->isEnabled()) return false;
-  if (turn == 0) return turnSideways(*turned);
-  event->accept();
-  if (!wheel.passesParts) {
-    if (turned->phase() == Qt::ScrollBegin) restOfNotch_ = 0;
-    turn = wholeNotches(turn);
-    if (turn == 0) return true;
-  }
-  turn = std::clamp(turn, -32768, 32767);
-  const QPoint position = turned->globalPosition().toPoint();
-  const auto packed = [](int high, int low) { return high * 0x10000 + (low & 0xFFFF); };
   // A copy: a handler of the host may end the hook.
   const auto procedure = wheelProcedure_;
-  procedure(packed(turn, wheelKeysOf(turned->buttons(), turned->modifiers())),
-            packed(static_cast<std::int16_t>(position.y()), position.x()));
-  return true;
-}
-
-/// Adds a turn to what earlier ones have left, and takes the whole notches from that. A turn in the
-/// other direction starts anew.
-int QtPlace::wholeNotches(int turn) {
-  constexpr int notch = 120;
-  if ((turn < 0) != (restOfNotch_ < 0)) restOfNotch_ = 0;
-  restOfNotch_ += turn;
-  const int whole = restOfNotch_ / notch * notch;
-  restOfNotch_ -= whole;
-  return whole;
-}
-
-bool QtPlace::turnSideways(const QWheelEvent& event) {
-  if (!wheel.onSideways || event.angleDelta().x() == 0) return false;
-  constexpr double pixelsOfLine = 16;
-  const double ofNotch = pixelsOfLine * QApplication::wheelScrollLines();
-  const int exact = event.pixelDelta().x();
-  restOfPixel_ -= exact != 0 ? exact : event.angleDelta().x() * ofNotch / 120;
-  const double whole = std::trunc(restOfPixel_);
-  restOfPixel_ -= whole;
-  // A copy: a handler of the host may destroy the widget.
-  const auto handler = wheel.onSideways;
-  if (whole != 0) handler(static_cast<int>(whole));
-  return true;
+  return wheel.turn(event, procedure);
 }
 
 /// Whether the focus is in the widget or in one in it.

@@ -1,4 +1,4 @@
-#include <nvlist/platform/qt/QtListSignals.h>
+#include <nvlist/platform/qt/widget/QtListSignals.h>
 
 #include <QMetaMethod>
 #include <QScopedValueRollback>
@@ -9,7 +9,7 @@
 #include <utility>
 
 #include <nvlist/platform/qt/NvListWidget.h>
-#include <nvlist/platform/qt/QtKeys.h>
+#include <nvlist/platform/qt/place/QtKeys.h>
 
 namespace norvane {
 

@@ -1,6 +1,6 @@
-#include <nvlist/platform/qt/AccessibleRow.h>
+#include <nvlist/platform/qt/accessibility/AccessibleRow.h>
 
-#include <nvlist/platform/qt/QtRows.h>
+#include <nvlist/platform/qt/widget/QtRows.h>
 
 namespace norvane {
 

@@ -1,8 +1,8 @@
-#include <nvlist/platform/qt/accessibility.h>
+#include <nvlist/platform/qt/accessibility/accessibility.h>
 
 #include <QAccessible>
 
-#include <nvlist/platform/qt/AccessibleList.h>
+#include <nvlist/platform/qt/accessibility/AccessibleList.h>
 
 namespace norvane {
 

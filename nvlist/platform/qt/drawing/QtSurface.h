@@ -2,7 +2,7 @@
 
 #include <nvlist/drawing/DeferredSurface.h>
 #include <nvlist/drawing/MirroredSurface.h>
-#include <nvlist/platform/qt/QtCanvas.h>
+#include <nvlist/platform/qt/drawing/QtCanvas.h>
 
 namespace norvane {
 

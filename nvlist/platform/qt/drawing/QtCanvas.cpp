@@ -1,4 +1,4 @@
-#include <nvlist/platform/qt/QtCanvas.h>
+#include <nvlist/platform/qt/drawing/QtCanvas.h>
 
 #include <algorithm>
 #include <cmath>
@@ -6,9 +6,9 @@
 #include <utility>
 
 #include <nvlist/drawing/pixels.h>
-#include <nvlist/platform/qt/QtColour.h>
 #include <nvlist/platform/qt/QtFont.h>
 #include <nvlist/platform/qt/QtPicture.h>
+#include <nvlist/platform/qt/drawing/QtColour.h>
 #include <nvlist/values/Failure.h>
 #include <nvlist/values/text.h>
 

@@ -1,4 +1,4 @@
-#include <nvlist/platform/qt/QtRows.h>
+#include <nvlist/platform/qt/widget/QtRows.h>
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include <nvlist/platform/qt/QtFace.h>
+#include <nvlist/platform/qt/drawing/QtFace.h>
 
 #include <QRawFont>
 #include <QTextLayout>

@@ -1,13 +1,13 @@
-#include <nvlist/platform/qt/QtTextBox.h>
+#include <nvlist/platform/qt/place/QtTextBox.h>
 
 #include <QKeyEvent>
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
-#include <nvlist/platform/qt/QtColour.h>
 #include <nvlist/platform/qt/QtFont.h>
-#include <nvlist/platform/qt/QtKeys.h>
+#include <nvlist/platform/qt/drawing/QtColour.h>
+#include <nvlist/platform/qt/place/QtKeys.h>
 #include <nvlist/values/Failure.h>
 
 namespace norvane {
