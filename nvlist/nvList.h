@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -82,7 +83,7 @@ class nvList final : public UserControl,
   void UserControl_LostFocus() override;
   void UserControl_ExitFocus() override;
   void UserControl_AmbientChanged(std::string_view PropertyName) override;
-  /// A turn of the wheel, which WheelFunction decides about. `Rotation` is in notches.
+  /// Handles a turn of the wheel as WheelFunction says. `Rotation` is in notches.
   void Wheel1_WheelScroll(std::int16_t& Rotation, std::int16_t& Keys, float& X, float& Y) override;
 
   /// The handle of the control's window, or 0 if the platform has no handles.
@@ -101,26 +102,26 @@ class nvList final : public UserControl,
 
   // ---- for helpers that add keys and gestures: input/gestures.cpp ----
   //
-  // What a user can do with the mouse, for programs to offer it by other means
-  // (platform/qt/NvListKeys.h). The list itself calls none of these.
+  // They do what a user does with the mouse, so that programs can offer it by other means
+  // (platform/qt/NvListKeys.h). The list itself calls none of them.
 
   /// Flips the check mark of the current item as a click on its box does: ItemCheck comes first and
-  /// may refuse it. Ignored if no item is current, or a disabled one.
+  /// may refuse it. Does nothing if there is no current item or it is disabled.
   void userChecks();
   /// Selects the enabled items from `anchor` to `end`, both included, and no others, and makes
   /// `current` the current item; -1 for none. Indexes beyond the list mean its first or last item.
-  /// Later presses with Shift select from `anchor`. Raises no event and does not scroll. Ignored if
-  /// the list is empty.
+  /// Later presses with Shift select from `anchor`. Raises no event and does not scroll. Does
+  /// nothing if the list is empty.
   void userSelects(std::int32_t anchor, std::int32_t end, std::int32_t current);
-  /// Scrolls to the side as dragging the thumb of the horizontal bar does: `left` is the new value
-  /// of the bar, limited to its range. Ignored if the bar is not visible.
+  /// Scrolls sideways as dragging the thumb of the horizontal bar does: `left` is the new value of
+  /// the bar, limited to its range. Does nothing if the bar is not visible.
   void userScrollsTo(std::int32_t left);
   /// Flips the selection mark of an item and makes it the current one, as a press with Ctrl does
-  /// under MultiSelect. Ignored if the item is disabled or outside the list.
+  /// under MultiSelect. Does nothing if the item is disabled or the index outside the list.
   void userToggles(std::int32_t index);
   /// Closes the edit box, if it is open, without writing its text.
   void closeEdit();
-  /// Whether the release of the mouse moves the current item only if a drag has marked where to.
+  /// Whether releasing the mouse moves the current item only if a drag has marked a target row.
   /// Otherwise a mere click moves it to the top under AllowItemMoving. Default: false.
   bool movesOnlyToMark() const { return movesOnlyToMark_; }
   void movesOnlyToMark(bool value) { movesOnlyToMark_ = value; }
@@ -463,12 +464,12 @@ class nvList final : public UserControl,
 
   // ---- painting: render/redraw.cpp, render/rows.cpp ----
 
-  /// Repaints the whole list, regardless of AutoRedraw. Nothing is painted while the list holds
-  /// painting back itself (ListState::SuppressRedraw): while it reads its properties, and while it
-  /// yields in a scroll by the vertical bar or the wheel. If that ends with a failure, for example
-  /// because a handler of the host throws during the yield, painting stays held back: the list
-  /// keeps its last picture until a later scroll or reading of its properties succeeds. On Qt a
-  /// host can prevent this (QtPlace::onYieldFailure).
+  /// Repaints the whole list, regardless of AutoRedraw. The list itself suppresses painting
+  /// (ListState::SuppressRedraw) while it reads its properties, and while it processes events
+  /// during a scroll by the vertical bar or the wheel. If that ends with a failure, for example
+  /// because a handler of the host throws, painting stays suppressed: the list keeps its last
+  /// picture until a later scroll or reading of its properties succeeds. On Qt a host can prevent
+  /// this (QtPlace::onYieldFailure).
   void Redraw();
 
   /// Number of whole rows that fit into the window, whatever the number of items. 0 if the row
@@ -476,12 +477,12 @@ class nvList final : public UserControl,
   std::int32_t VisibleItems();
 
   /// Height of a row, rounded to whole pixels. The mouse is matched to rows of this height; they
-  /// are painted with the height that is not rounded (ListState::ItemHeightValue).
+  /// are painted with the unrounded height (ListState::ItemHeightValue).
   std::int32_t ItemHeight();
 
   /// Whether a text that is higher than its row begins at the top of the row and is clipped to it.
-  /// Otherwise it is centred on the row, and covers the rows beside. Does not repaint. Default:
-  /// false.
+  /// Otherwise it is centred on the row and covers parts of the rows above and below. Does not
+  /// repaint. Default: false.
   bool clipsTexts() const { return state_.ClipsTexts; }
   void clipsTexts(bool value) { state_.ClipsTexts = value; }
 
@@ -527,9 +528,10 @@ class nvList final : public UserControl,
   // ---- text files: files/textInput.cpp ----
 
   /// Splits a text file at a delimiter and adds an item for each piece; an empty delimiter does not
-  /// split it. The bytes of the file are taken as UTF-8. AutoRedraw and AutoCheckScroll are off
-  /// afterwards. Raises ErrorListInput if the file does not exist. A file that cannot be read is
-  /// reported and counts as empty, which is one empty piece. Always returns 0.
+  /// split it. The bytes of the file are taken as UTF-8. Beside the items, the call takes as much
+  /// memory as the file has bytes. AutoRedraw and AutoCheckScroll are off afterwards. Raises
+  /// ErrorListInput if the file does not exist. A file that cannot be read is reported and counts
+  /// as empty, which is one empty piece. Always returns 0.
   std::int32_t ListInput2(const std::string& Filename, const Variant& Delimiter);
 
   // ---- data: files/recordset.cpp ----
@@ -586,6 +588,9 @@ class nvList final : public UserControl,
   /// The item at an index. Throws Failure 9 outside the bounds; slot 0 of an empty list is within
   /// them.
   StoredItem& item(std::int32_t index) { return state_.Items.touch(index); }
+  /// ItemsAdd. If `text` has a value, it replaces `values.aText`: a long text is then copied only
+  /// once, into the item.
+  void addItem(NewItem&& values, std::optional<std::string_view> text);
   void writeFields(Trap& on, StoredItem& item, NewItem& values);
   void moveLastTo(double index);
   std::int32_t shiftDownOnto(Trap& on, std::int32_t index);

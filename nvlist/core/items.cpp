@@ -2,6 +2,7 @@
 #include <nvlist/values/numbers.h>
 
 #include <cmath>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -40,7 +41,9 @@ void nvList::ItemsAdd(Variant aText, Variant aIndex, Picture aIcon, Picture aIco
                    aItalic, aUnderline, std::move(aKey)});
 }
 
-void nvList::ItemsAdd(NewItem values) {
+void nvList::ItemsAdd(NewItem values) { addItem(std::move(values), std::nullopt); }
+
+void nvList::addItem(NewItem&& values, std::optional<std::string_view> text) {
   trapped(here, "ItemsAdd", [&](Trap& on) {
     ItemStore& items = state_.Items;
     bool insert = false;
@@ -62,9 +65,8 @@ void nvList::ItemsAdd(NewItem values) {
     // item.
     Ref<StoredItem> added;
     std::string converted;
-    std::string_view text;
-    on.step([&] { text = textOf(values.aText, converted); });
-    on.step([&] { added = items.setText(items.upperBound(), text); });
+    if (!text) on.step([&] { text = textOf(values.aText, converted); });
+    on.step([&] { added = items.setText(items.upperBound(), text.value_or("")); });
     if (added) writeFields(on, *added, values);
 
     if (state_.AutoRedraw.isTrue()) {

@@ -3,22 +3,45 @@
 #include <nvlist/objects/SpEv.h>
 #include <nvlist/values/numbers.h>
 
-#include <vector>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
 
 namespace norvane {
 namespace {
 
-/// Splits the text into at least one piece. An empty delimiter does not split it.
-std::vector<std::string_view> split(std::string_view text, std::string_view delimiter) {
-  std::vector<std::string_view> pieces;
-  while (!delimiter.empty()) {
-    const std::size_t end = text.find(delimiter);
-    if (end == std::string_view::npos) break;
-    pieces.push_back(text.substr(0, end));
-    text.remove_prefix(end + delimiter.size());
+/// Finds the pieces of a text, of which there is at least one. An empty delimiter does not split
+/// it. Keeps no list of the pieces, which could take more memory than the text.
+class Pieces {
+ public:
+  Pieces(std::string_view text, std::string delimiter)
+      : text_(text), delimiter_(std::move(delimiter)) {}
+
+  /// The piece at an index, or nothing after the last one. Throws Failure 9 for a negative index.
+  /// Fast if called with ascending indexes.
+  std::optional<std::string_view> find(std::int32_t index);
+
+ private:
+  static constexpr std::size_t none = std::string_view::npos;
+
+  std::string_view text_;
+  std::string delimiter_;
+  std::int32_t next_ = 0;  ///< the index of the piece at `at_`
+  std::size_t at_ = 0;     ///< none: all pieces have been found
+};
+
+std::optional<std::string_view> Pieces::find(std::int32_t index) {
+  if (index < 0) throw Failure::subscriptOutOfRange();
+  if (index < next_) next_ = 0, at_ = 0;
+  while (at_ != none) {
+    const std::size_t end = delimiter_.empty() ? none : text_.find(delimiter_, at_);
+    const std::string_view piece = text_.substr(at_, end == none ? none : end - at_);
+    at_ = end == none ? none : end + delimiter_.size();
+    if (next_++ == index) return piece;
   }
-  pieces.push_back(text);
-  return pieces;
+  return std::nullopt;
 }
 
 }  // namespace
@@ -30,21 +53,21 @@ std::int32_t nvList::ListInput2(const std::string& Filename, const Variant& Deli
       return;
     }
     std::string text = SpEv().TextRead(Filename);
-    std::vector<std::string_view> pieces;
-    on.step([&] { pieces = split(text, Delimiter.toText()); });
+    std::optional<Pieces> pieces;
+    on.step([&] { pieces.emplace(text, Delimiter.toText()); });
     // Both flags stay off after the call; hosts turn them on again.
     state_.AutoCheckScroll = false;
     state_.AutoRedraw = false;
     const bool isWhole = orRaise(on, &__nvList::ErrorListInput, [&] {
-      if (pieces.empty()) throw Failure::subscriptOutOfRange();
-      const auto count = static_cast<std::int32_t>(pieces.size());
-      for (state_.LoopIndex = 0; state_.LoopIndex < count;
-           state_.LoopIndex = checked::add(state_.LoopIndex, 1))
-        ItemsAdd(pieces.at(static_cast<std::size_t>(state_.LoopIndex)));
+      if (!pieces) throw Failure::subscriptOutOfRange();
+      state_.LoopIndex = 0;
+      while (const auto piece = pieces->find(state_.LoopIndex)) {
+        addItem({}, *piece);
+        state_.LoopIndex = checked::add(state_.LoopIndex, 1);
+      }
     });
     if (!isWhole) return;
     // Measuring and painting long texts takes memory too.
-    pieces.clear();
     text = std::string();
     on.step([&] { CheckScroll(); });
     on.step([&] { Redraw(); });
