@@ -71,7 +71,7 @@ endif()
 if(TARGET nvlist-tool)
   list(APPEND CPACK_COMPONENTS_ALL tool)
   debian_package(tool nvlist-tool utils "list files: convert, compare and draw them"
-    "A command that looks into the list files of nvList, converts them to and from JSON Lines and"
+    "A command that inspects the list files of nvList, converts them to and from JSON Lines and"
     "texts, compares them, and draws them as pictures in SVG.")
   set(CPACK_COMPONENT_TOOL_DEPENDS library)
 endif()

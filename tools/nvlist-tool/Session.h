@@ -29,15 +29,15 @@ class Trouble : public std::runtime_error {
   Status status_;
 };
 
-/// The program around the lists. It keeps the description of the first report of a failure, and
-/// shows the progress of long work on a terminal.
+/// The running command. It keeps the description of the first failure that lists report, and shows
+/// the progress of long operations on a terminal.
 class Session : public norvane::HeadlessApplication {
  public:
   Session();
   ~Session() override;
 
-  /// Shows how much is done, at most some times a second. Throws Trouble if the user has
-  /// interrupted the command; the operation in progress removes what it has written.
+  /// Shows how much of an operation is done, in percent. Throws Trouble if the user has interrupted
+  /// the command; the operation then removes what it has written.
   void progress(const char* doing, std::uint64_t part, std::uint64_t whole);
   /// Removes the progress from the terminal.
   void endProgress();

@@ -181,7 +181,7 @@ Status convert(Session& session, const Arguments& arguments) {
   const std::string& from = arguments.files.at(0);
   const std::string& into = arguments.files.at(1);
   const auto kind = arguments.to ? arguments.to : kindByExtension(into);
-  if (!kind) throw Trouble(wrongUse, into + ": the extension names no kind of file; use --to");
+  if (!kind) throw Trouble(wrongUse, into + ": unknown extension; use --to");
   QuietList form;
   bool isWhole = !remarkDamage(session, from, loadFile(session, form.list(), from, arguments.from));
   const Saving saving{*kind, arguments.mayReplace, arguments.onlyChanged};

@@ -105,7 +105,7 @@ void loadText(Session& session, nvList& list, const std::string& path, Loaded& l
     std::string_view line = lines.line();
     if (lines.isTooLong() || line.find('\0') != std::string_view::npos)
       throw Trouble(cannotRead, path + ": line " + std::to_string(lines.number()) +
-                                    " is no text: it has a zero byte or is too long");
+                                    " is not a text: it has a zero byte or is too long");
     if (line.ends_with('\r')) line.remove_suffix(1);
     list.ItemsAdd(line);
     if (lines.number() % 4096 == 0) session.progress("reading", lines.done(), lines.whole());
@@ -201,7 +201,7 @@ void saveText(Session& session, nvList& list, const std::string& path) {
 Kind kindNamed(const std::string& name) {
   for (const Known& known : kinds)
     if (name == known.name) return known.kind;
-  throw Trouble(wrongUse, "no kind of file is called " + name + "; there are list, jsonl and text");
+  throw Trouble(wrongUse, "unknown kind of file " + name + "; use list, jsonl or text");
 }
 
 std::optional<Kind> kindByExtension(const std::string& path) {

@@ -1,4 +1,4 @@
-// nvlist-tool: looks into list files, converts, compares and draws them.
+// nvlist-tool: inspects, converts, compares and draws list files.
 
 #include <charconv>
 #include <cstdio>
@@ -17,25 +17,25 @@ constexpr const char* help = R"(Usage: nvlist-tool COMMAND FILE... [OPTION...]
 
 Commands:
   info FILE        show the format, the number of items, the fields and pictures
-                   that they use, and what is damaged
+                   they use, and any damage
   check FILE...    exit with 1 if a file is damaged, and say where
   convert A B      write the items of A to B
   render FILE -o OUT.svg|OUT.txt
                    draw the list with its scroll bars and its frame
   diff A B         show which items differ
 
-Files are list files (.nvl, .lst), JSON Lines (.jsonl, .ndjson) and texts with an
-item a line (.txt, .text). Any other file to read is recognised by its contents.
+Files are list files (.nvl, .lst), JSON Lines (.jsonl, .ndjson) and texts with one
+item per line (.txt, .text). The kind of any other input is found from its contents.
 
 Options:
-  --from KIND      what is read: list, jsonl or text
-  --to KIND        what convert writes: list, jsonl or text
-  --changed        JSON Lines without the fields that have their defaults
+  --from KIND      kind of the input: list, jsonl or text
+  --to KIND        kind of the output of convert: list, jsonl or text
+  --changed        write JSON Lines without fields that have their defaults
   --force          replace a file that exists
   -o, --output FILE
   --size WxH       size of the picture in pixels; default 300x200
   --style NAME     blue, silver or olive
-  --show PARTS     none, checks, icons or both; default: what the list has
+  --show PARTS     none, checks, icons or both; default: what the items have
   --page N         the N-th page of rows; default 1
   --help, --version
 
@@ -56,7 +56,7 @@ constexpr Command commands[] = {{"info", 1, 1, info},
                                 {"diff", 2, 2, diff}};
 
 [[noreturn]] void wrong(const std::string& message) {
-  throw Trouble(wrongUse, message + "; nvlist-tool --help shows what there is");
+  throw Trouble(wrongUse, message + "; see nvlist-tool --help");
 }
 
 int numberOf(std::string_view text, std::string_view option) {
@@ -73,7 +73,7 @@ Value named(const std::string& name, std::string_view option,
             const std::pair<std::string_view, Value> (&values)[count]) {
   for (const auto& [known, value] : values)
     if (name == known) return value;
-  wrong("no value of " + std::string(option) + " is called " + name);
+  wrong("unknown value " + name + " of " + std::string(option));
 }
 
 /// Takes the option at the front of `rest`, and its value if it has one.
@@ -115,7 +115,7 @@ void takeOption(std::vector<std::string>& rest, Arguments& arguments) {
                                                  {"icons", norvane::cIcons},
                                                  {"both", norvane::cCheckBoxesIcons}});
   } else {
-    wrong("no option is called " + option);
+    wrong("unknown option " + option);
   }
 }
 
@@ -155,7 +155,7 @@ Status run(Session& session, std::vector<std::string> rest) {
       wrong(command + " needs " + (known.fewest == 2 ? "two files" : "a file"));
     return known.run(session, arguments);
   }
-  wrong(command.empty() ? "a command is missing" : "no command is called " + command);
+  wrong(command.empty() ? "a command is missing" : "unknown command " + command);
 }
 
 }  // namespace
