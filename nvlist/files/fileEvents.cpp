@@ -26,10 +26,11 @@ void nvList::raiseAtLoopIndex(void (__nvList::*event)(Variant& Index)) {
   // Runs once per item; skipping it without hosts matters for large lists.
   if (sinks_.isEmpty()) return;
   Variant index = state_.LoopIndex;
-  const Variant told = index;
+  const Variant given = index;
   sinks_.raise([&](__nvList& sink) { (sink.*event)(index); });
-  // If the host left the argument alone, LoopIndex keeps what a loop run by the host made of it.
-  const bool isUntouched = index.type() == told.type() && index.toInt32() == told.toInt32();
+  // If no handler changed the argument, LoopIndex keeps the value that loops run by the handlers
+  // left.
+  const bool isUntouched = index.type() == given.type() && index.toInt32() == given.toInt32();
   if (!isUntouched) state_.LoopIndex = positionOf(index);
 }
 

@@ -8,7 +8,7 @@
 
 namespace norvane {
 
-/// A number of items that any file may have, however short it is.
+/// This many items are accepted, however short the file is.
 inline constexpr std::uint64_t alwaysBelieved = 4096;
 
 /// Checks the number of items that a file claims against the `left` bytes of the rest of the file,

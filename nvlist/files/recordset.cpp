@@ -45,8 +45,8 @@ void nvList::addRows(Trap& on, const Ref<Object>& rows) {
   bool isAtEnd = false;
   bool answers = true;
   while (!isAtEnd && answers) {
-    // If every call of a round fails, all further rounds would fail too. A recordset that lacks
-    // only Eof is read without end.
+    // If every call of a round fails, so would all further rounds. A recordset that lacks only Eof
+    // is read endlessly.
     answers = false;
     std::string text;
     on.step([&] {

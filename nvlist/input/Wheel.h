@@ -6,8 +6,8 @@
 
 namespace norvane {
 
-/// The events of a Wheel. `Rotation` is in notches, positive away from the user; 0 for a turn of
-/// less than half a notch.
+/// The events of a Wheel. `Rotation` is in notches, positive away from the user; 0 means less than
+/// half a notch.
 struct WheelEvents {
   virtual void Wheel1_WheelScroll(std::int16_t& Rotation, std::int16_t& Keys, float& X,
                                   float& Y) = 0;

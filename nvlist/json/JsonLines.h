@@ -11,14 +11,15 @@
 /// the format. Paths are UTF-8 and are opened by the Files in use.
 namespace norvane::json {
 
-/// Called after each block with the part that is done, in bytes of the file while loading and in
-/// items while saving. Returning false stops. It may use the list, but must not end it.
+/// Called after each block. Both numbers are bytes of the file while loading and items while
+/// saving. Returning false stops the operation. The function may use the list, but must not destroy
+/// it.
 using Progress = std::function<bool(std::uint64_t done, std::uint64_t whole)>;
 
 /// Something that was left out.
 struct Problem {
-  std::uint64_t line;  ///< in the file, counted from 1
-  std::string text;    ///< for a person to read, with the name of the field if there is one
+  std::uint64_t line;  ///< of the file, counted from 1
+  std::string text;    ///< a description for people, with the name of the field if there is one
 };
 
 /// What was saved or loaded, and what was not.
@@ -39,7 +40,7 @@ struct Result {
 /// Which fields of the items are saved.
 enum class Fields {
   all,
-  changed  ///< those that differ from the fields of a new item; the file is much smaller
+  changed  ///< those that differ from a new item; the file is much smaller
 };
 
 /// How a list is saved.
@@ -63,9 +64,9 @@ struct LoadOptions {
 /// listed as problems. Throws a Failure if the file cannot be written.
 Result save(const nvList& list, const std::string& path, const SaveOptions& options = {});
 
-/// Replaces the items of the list by those of the file, and paints if AutoRedraw is on. No items
-/// are lost because of others: a line that cannot be read is left out and listed as a problem, and
-/// so is a field with an unsuitable value, which then has the value of a new item. If loading is
+/// Replaces the items of the list by those of the file, and paints if AutoRedraw is on. A line that
+/// cannot be read is left out and listed as a problem; so is a field with an unsuitable value, and
+/// the item gets the value of a new item. All other lines and fields are loaded. If loading is
 /// stopped, the items loaded so far stay.
 ///
 /// Memory use beyond the list is that of a block and the longest line.

@@ -13,8 +13,8 @@
 
 namespace norvane::json {
 
-/// The last few of the pictures that were converted. Neighbouring items often have the same icon,
-/// which is then encoded once, and still one picture after loading.
+/// The pictures that were converted last. Neighbouring items often share an icon: it is encoded
+/// only once, and after loading the items share it again.
 class RecentPictures {
  public:
   /// The file of a picture in base64; empty if it has no file. Valid until the next call.

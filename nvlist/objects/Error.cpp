@@ -5,13 +5,13 @@
 namespace norvane {
 namespace {
 
-// The one value that all threads of a program share.
+// One value for all threads of a program.
 std::atomic<std::int16_t> silentError = 0;
 
 }  // namespace
 
 Error::Error() {
-  // Once in a program: other threads wait here, so that none sets the value before.
+  // Runs once per program. Other threads wait here, so that none can set the value earlier.
   [[maybe_unused]] static const bool isInitialised = [] {
     silentError = 0;
     return true;

@@ -13,7 +13,8 @@ namespace {
 
 constexpr Module here{kinds::classModule, "SpEv"};
 
-/// The names of interest are ASCII; no other character may turn into a part of one.
+/// The names compared with the text are ASCII. Any other character becomes '?', so that it matches
+/// none of them.
 std::string narrowed(std::u16string_view text) {
   std::string result;
   for (const char16_t unit : text) result += unit < 0x80 ? static_cast<char>(unit) : '?';

@@ -16,9 +16,9 @@
 namespace norvane {
 namespace {
 
-/// Passes the exception being handled to `reportAs` as a number and a text. What is not a Failure
-/// comes from a host, a platform or the standard library. Allocates nothing that it could not do
-/// without.
+/// Passes the exception being handled to `reportAs` as a number and a text. An exception that is
+/// not a Failure comes from a host, a platform or the standard library; if there is no memory for
+/// its text, Out of memory is passed instead.
 template <class ReportAs>
 void reportCurrent(ReportAs&& reportAs) {
   const auto outOfMemory = [&] { reportAs(7, "Out of memory"); };

@@ -12,9 +12,7 @@ enum class FileMode {
   /// Writes a new file, or empties and rewrites an existing one. Devices and pipes are written too.
   write,
   /// Like `write`, for the files of lists: only a regular file that is not read-only is written,
-  /// and
-  /// only by one writer at a time. Permissions stay as they are; of a symbolic link the target is
-  /// written.
+  /// and only by one writer at a time. The file keeps its permissions. A symbolic link is followed.
   save,
   /// Like `save`, but the bytes go to a second file in the same folder, which replaces the old file
   /// when it is closed. The old file survives a save that fails or is interrupted. Hard links to it

@@ -9,7 +9,7 @@
 namespace norvane {
 
 /// A property store, which maps names to values. It does not store values equal to their defaults.
-/// A host may derive one that stores them elsewhere.
+/// A host may derive a class from it that stores them elsewhere.
 class PropertyBag {
  public:
   /// A stored property.

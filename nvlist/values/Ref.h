@@ -57,7 +57,7 @@ class Ref {
   /// Refers to nothing.
   Ref() = default;
   Ref(std::nullptr_t) {}
-  /// Takes part in the ownership of the object.
+  /// Shares the ownership of the object.
   explicit Ref(T* object) : object_(object) { retain(); }
   Ref(const Ref& other) : object_(other.object_) { retain(); }
   Ref(Ref&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}

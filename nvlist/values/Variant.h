@@ -81,7 +81,8 @@ class Variant {
   constexpr Type type() const { return static_cast<Type>(bits_ & tagMask); }
   /// Whether it holds nothing.
   bool isEmpty() const { return bits_ == 0; }
-  /// Whether both are the same number, or hold the same text or object and not only equal ones.
+  /// Whether both hold the same number, or share one text or object. Equal texts may be stored
+  /// twice and are then not identical.
   bool isIdentical(const Variant& other) const { return bits_ == other.bits_; }
   bool isText() const { return type() == Type::Text; }
   /// Whether it is a number, a truth value, empty, or a text that can be read as a number.
