@@ -167,18 +167,28 @@ class FailingProgram final : public HeadlessApplication {
  public:
   explicit FailingProgram(Trouble& trouble) : on_(trouble) {}
 
+  /// Whether a report has failed since the last call. That failure reaches the host.
+  bool hasFailedToReport() { return std::exchange(hasFailedToReport_, false); }
+
   std::shared_ptr<ErrorHandler> createErrorHandler() override {
     return on_(), HeadlessApplication::createErrorHandler();
   }
-  ApplicationFacts facts() override { return on_(), HeadlessApplication::facts(); }
+  ApplicationFacts facts() override { return reporting(), HeadlessApplication::facts(); }
   std::string programPath() override { return on_(), HeadlessApplication::programPath(); }
   Variant readSetting(std::string_view key, std::string_view name) override {
-    return on_(), HeadlessApplication::readSetting(key, name);
+    return reporting(), HeadlessApplication::readSetting(key, name);
   }
-  void MsgBox(std::string_view, std::int32_t, std::string_view) override { on_(); }
+  void MsgBox(std::string_view, std::int32_t, std::string_view) override { reporting(); }
 
  private:
+  void reporting() {
+    hasFailedToReport_ = true;
+    on_();
+    hasFailedToReport_ = false;
+  }
+
   Trouble& on_;
+  bool hasFailedToReport_ = false;
 };
 
 class FailingFiles final : public MemoryFiles {

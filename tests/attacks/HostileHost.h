@@ -29,7 +29,13 @@ struct CallOut {
 class HostileProgram final : public HeadlessApplication {
  public:
   explicit HostileProgram(CallOut& out) : out_(out) {}
-  void MsgBox(std::string_view, std::int32_t, std::string_view) override { out_(); }
+  /// Whether a box has failed. That failure of the reporter reaches the host.
+  bool hasFailed = false;
+  void MsgBox(std::string_view, std::int32_t, std::string_view) override {
+    hasFailed = true;
+    out_();
+    hasFailed = false;
+  }
 
  private:
   CallOut& out_;
@@ -74,11 +80,8 @@ struct HostileLife {
     for (const Step& step : steps) {
       current = &step;
       beforeStep();
-      try {
-        step.run();
-      } catch (...) {
-        // Only failures of the reporter come out.
-      }
+      program.hasFailed = false;
+      hasLeaked = !ignoringFailures(step.run) && !program.hasFailed;
       afterStep();
     }
   }
@@ -96,6 +99,7 @@ struct HostileLife {
   MemoryFiles files;
   HostileHost host{out};
   const Step* current = nullptr;
+  bool hasLeaked = false;  ///< a failure has reached the caller of the current step
 };
 
 /// What a host does in the middle of an operation.

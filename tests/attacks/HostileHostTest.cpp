@@ -28,8 +28,10 @@ long live(long at, const NamedTrouble& trouble) {
   Hand hand = handOn(form, list);
   // A message waits in each loop that yields.
   const auto post = [&] { form.post([&] { life.out(); }); };
-  life.run(lifeOf(list, hand, [&] { life.out(); }), post,
-           [&] { EXPECT_FALSE(Trap::anyRuns()) << life.current->name; });
+  life.run(lifeOf(list, hand, [&] { life.out(); }), post, [&] {
+    EXPECT_FALSE(Trap::anyRuns()) << life.current->name;
+    EXPECT_FALSE(life.hasLeaked) << life.current->name;
+  });
   const long calls = life.out.calls;
   life.out.at = 0;
   while (form.waiting() > 0) form.DoEvents();

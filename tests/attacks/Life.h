@@ -100,17 +100,24 @@ class HostPicture final : public PictureObject {
 inline std::vector<Step> lifeOf(nvList& list, Hand& hand, const std::function<void()>& onCall) {
   const Picture icon = makeRef<HostPicture>(onCall);
   const Ref<Object> rows = makeRef<Rows>(onCall);
+  // Made here, so that no step allocates anything outside of the library.
+  const Variant wide = "a & long text that needs the bar", key = "key", comma = ",",
+                image = "image";
+  const NewItem pictured{
+      .aText = "b|right=c", .aIcon = icon, .aIconSelected = icon, .aTag = wide, .aKey = key};
+  const NewItem bad{.aText = wide, .aIcon = icon, .aTag = wide, .aForeColorDis = comma};
+  const std::string text(100, 'x');
+  const Font font = makeRef<FontObject>();
+  const PropertyBag stored = propertiesOf("Font = font \"A\" 9 bold\nForeColor = 1\nStyle = bad\n");
+  const NewItem coloured{.aText = "c", .aIndex = 0, .aBackColor = 0xFF, .aBold = true};
   std::vector<Step> life;
   const auto then = [&](const char* name, std::function<void()> run) {
     life.push_back({name, std::move(run)});
   };
   then("scroll bars", [&] { list.ScrollBars(vbBoth); });
-  then("add", [&] { list.ItemsAdd("a & long text that needs the bar"); });
-  then("add an icon", [&, icon] {
-    list.ItemsAdd({.aText = "b|right=c", .aIcon = icon, .aIconSelected = icon, .aKey = "key"});
-  });
-  then("insert",
-       [&] { list.ItemsAdd({.aText = "c", .aIndex = 0, .aBackColor = 0xFF, .aBold = true}); });
+  then("add", [&, wide] { list.ItemsAdd(wide); });
+  then("add an icon", [&, pictured] { list.ItemsAdd(pictured); });
+  then("insert", [&, coloured] { list.ItemsAdd(coloured); });
   then("add quietly", [&] { list.AutoRedraw(false); });
   for (int i = 0; i < 6; ++i)
     then("add another",
@@ -164,10 +171,10 @@ inline std::vector<Step> lifeOf(nvList& list, Hand& hand, const std::function<vo
   then("wheel selects", [&] { list.WheelFunction(cWheelListIndex); });
   then("wheel down", [&] { hand.turnWheel(-120); });
   then("wheel up", [&] { hand.turnWheel(120); });
-  for (const int key : {38, 40, 40, 65})
-    then("key", [&, key] { hand.key(static_cast<std::int16_t>(key)); });
+  for (const int code : {38, 40, 40, 65})
+    then("key", [&, code] { hand.key(static_cast<std::int16_t>(code)); });
   then("sort", [&] { list.Sort(cDescending); });
-  then("find a key", [&] { list.IndexByKey("key"); });
+  then("find a key", [&, key] { list.IndexByKey(key); });
   then("find a text", [&] { list.IsInList("*c*", cFindText); });
   then("remove", [&] { list.ItemsRemove(Variant(1)); });
   then("save texts", [&] { list.ListSave("list"); });
@@ -176,14 +183,21 @@ inline std::vector<Step> lifeOf(nvList& list, Hand& hand, const std::function<vo
   then("save", [&] { list.ListSave("list", true); });
   then("load without properties", [&] { list.ListInput("list", false); });
   then("load", [&] { list.ListInput("list", true); });
-  then("count an image", [&] { list.ListFileItemsCount("image"); });
+  then("count an image", [&, image] { list.ListFileItemsCount(image); });
   then("load an image", [&] { list.ListInput("image", true); });
   then("missing", [&] { list.ListInput("missing"); });
-  then("load a text", [&] { list.ListInput2("text", ","); });
+  then("load a text", [&, comma] { list.ListInput2("text", comma); });
   then("check scroll again", [&] { list.AutoCheckScroll(true); });
   then("recordset", [&, rows] { list.Recordset(rows); });
   then("duplicates", [&] { list.ItemsRemoveDouble(); });
   then("resize", [&] { hand.resize(80, 50); });
+  then("add badly", [&, bad] { list.ItemsAdd(bad); });
+  then("text", [&, text] { list.ItemText(0, text); });
+  then("read the text", [&] { list.ItemText(0); });
+  then("tag", [&, wide] { list.ItemTag(0, wide); });
+  then("item's key", [&, wide] { list.ItemKey(0, wide); });
+  then("a text for a colour", [&, wide] { list.ItemForeColorSelect(0, wide); });
+  then("font", [&, font] { list.Font(font); });
   then("select one", [&] { list.ItemSelected(0, true); });
   then("store", [&] {
     PropertyBag bag;
@@ -193,6 +207,7 @@ inline std::vector<Step> lifeOf(nvList& list, Hand& hand, const std::function<vo
   then("about", [&] { list.About(); });
   then("ambient", [&] { list.UserControl_AmbientChanged("DisplayName"); });
   then("clear", [&] { list.ItemsClear(); });
+  then("read properties", [&, stored] { list.UserControl_ReadProperties(stored); });
   then("terminate", [&] { list.UserControl_Terminate(); });
   return life;
 }
