@@ -8,13 +8,11 @@
 #include <string>
 #include <thread>
 
-#include <nvlist/core/storedProperties.h>
 #include <nvlist/objects/Error.h>
 #include <nvlist/objects/SpEv.h>
-#include <nvlist/platform/headless/HeadlessApplication.h>
 #include <nvlist/platform/headless/HeadlessList.h>
 
-#include "../files/MemoryFiles.h"
+#include "../attacks/HostileHost.h"
 
 namespace norvane {
 namespace {
@@ -34,57 +32,34 @@ void together(const std::function<void()>& one, const std::function<void()>& oth
   thread.join();
 }
 
-class Counting final : public __nvList {
- public:
-  int heard = 0;
-  void Scroll() override { ++heard; }
-  void ErrorWrongIndex(Variant&) override { ++heard; }
-};
-
-/// Uses what lists share: art, texts and case tables that are created once, services, the reporter.
-/// Returns the last picture of the list.
+/// Uses all that lists share: art, texts and case tables that are created once, services, the
+/// reporter. Returns every picture of the lists.
 std::string life(const std::string& name) {
+  attacks::HostileLife life(0);
   HeadlessApplication application;
   application.program.EXEName = name;
-  MemoryFiles files;
-  std::string picture;
+  std::string pictures;
   for (int round = 0; round < rounds; ++round) {
-    HeadlessList headless(120, 80);
+    HeadlessList headless(60, 60);
     nvList& list = headless.list();
-    Counting host;
-    list.addSink(host);
-    for (const cListStyle style : {cDefault, cCheckBoxes, cIcons, cCheckBoxesIcons}) {
-      list.Style(style);
-      list.ColorStyle(static_cast<cColorStyle>(round % 3));
-      for (const char* text : {"Ärger", "öl", "def", "", "zebra"}) list.ItemsAdd(name + text);
-    }
-    EXPECT_GE(list.IsInList("*ÄRGER", cFindText), 0);
-    list.Sort(cAscending);
-    list.MultiSelect(true);
-    headless.container().press(20, 30);
-    list.ListIndex(99);
-    list.TopIndex(3);
-    EXPECT_GT(host.heard, 0);
-    list.ListSave("list", true);
-    list.ListInput("list", true);
-    EXPECT_EQ(list.ItemsCount(), 20);
-    PropertyBag bag;
-    list.UserControl_WriteProperties(bag);
-    picture = headless.face();
-    list.UserControl_ReadProperties(bag);
-    list.ItemsAdd("x"), list.ItemsAdd("y", "no number");
-    list.ItemsSelectedRemove();
+    list.addSink(life.host);
+    list.ItemsAdd("Ärger");
+    EXPECT_EQ(list.IsInList("ÄRGER", cFindText), 0);
+    list.ItemsClear();
     SpEv().MouseButtonPressed();
-    const auto& boxes = application.boxes;
-    EXPECT_EQ(boxes.size(), static_cast<std::size_t>(round + 1));
-    EXPECT_NE(boxes.back().text.find("Project: " + name + "\r\n"), std::string::npos);
+    attacks::Hand hand = attacks::handOn(headless.container(), list);
+    life.run(
+        attacks::lifeOf(list, hand, [] {}), [] {}, [&] { pictures += headless.face(); });
+    list.ItemsAdd("y", "no number");
+    EXPECT_NE(application.boxes.back().text.find("Project: " + name + "\r\n"), std::string::npos);
   }
-  return picture;
+  EXPECT_GT(life.out.calls, 50 * rounds);
+  return pictures;
 }
 
 TEST(Threads, ListsOfTwoThreadsDoNotTouchEachOther) {
   std::string one, other;
-  together([&] { one = life("program"); }, [&] { other = life("program"); });
+  together([&] { one = life("one"); }, [&] { other = life("other"); });
   EXPECT_EQ(one, other);
 }
 
