@@ -32,12 +32,49 @@ TEST_F(Signals, WaitForTheEndOfTheCall) {
   hearEvents();
   heard();
   onEvent = [&](const std::string& name) {
-    if (name != "Click") return;
+    if (name != "MouseUp") return;
     list().ListIndex(18);
     list().ListIndex(19);
   };
   release(row(2));
   EXPECT_EQ(heard(), "MouseUp 1, Click, current 19, selection, scrolled");
+}
+
+/// Not even at a widget that has the place of the first one in memory.
+TEST_F(Signals, EndWithTheWidget) {
+  alignas(NvListWidget) std::byte place[sizeof(NvListWidget)];
+  auto* first = new (place) NvListWidget;
+  first->addItem("a");
+  int selections = 0;
+  const auto count = [&] { ++selections; };
+  QObject::connect(first, &NvListWidget::selectionChanged, count);
+  QObject::connect(first, &NvListWidget::currentChanged, [&] {
+    first->~NvListWidget();
+    first = new (place) NvListWidget;
+    QObject::connect(first, &NvListWidget::selectionChanged, count);
+  });
+  first->list().ListIndex(0);
+  EXPECT_EQ(selections, 0);
+  first->~NvListWidget();
+}
+
+/// Also where the receiver has ended.
+TEST_F(Signals, AreConnectedAtAnyTime) {
+  std::string names;
+  auto receiver = std::make_unique<QObject>();
+  const auto connection =
+      QObject::connect(widget, &NvListWidget::propertyChanged, receiver.get(),
+                       [&](const QString& name) { names += name.toStdString() + " "; });
+  list().MinHeight(20);
+  EXPECT_EQ(names, "MinHeight ");
+  QObject::disconnect(connection);
+  list().MinHeight(21);
+  QObject::connect(widget, &NvListWidget::propertyChanged, receiver.get(),
+                   [&] { names += "again"; });
+  list().MinHeight(22);
+  receiver.reset();
+  list().MinHeight(23);
+  EXPECT_EQ(names, "MinHeight again");
 }
 
 /// A slot may open a dialog with another list, whose signals work meanwhile.
@@ -62,17 +99,22 @@ TEST_F(Signals, MayOpenADialog) {
 
 /// The index of a point is that of the row which a press there hits, also on the bar and the frame.
 TEST_F(Signals, TheIndexAtAPointIsTheOneThatAClickHits) {
-  for (const int top : {0, 7})
+  // Rows from the first one on, from another one on, and too few to fill the list.
+  const std::pair<int, int> lists[] = {{20, 0}, {20, 7}, {3, 0}};
+  for (const auto& [count, top] : lists) {
+    while (widget->count() > count) list().ItemsRemove(0);
+    list().TopIndex(top);
     for (int y = -2; y < 210; ++y)
       for (const int x : {-1, 60, 190}) {
-        list().TopIndex(top);
         widget->clearSelection();
         const int index = widget->indexAt({x, y});
         press({x, y});
         const auto hit = widget->selectedIndexes();
         release({x, y});
-        ASSERT_EQ(hit, index < 0 ? QList<int>() : QList<int>{index}) << top << " " << x << "," << y;
+        ASSERT_EQ(hit, index < 0 ? QList<int>() : QList<int>{index})
+            << count << " " << top << " " << x << "," << y;
       }
+  }
 }
 
 TEST_F(Signals, TextsAndKeysAreThoseOfQt) {

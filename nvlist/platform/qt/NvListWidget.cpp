@@ -354,7 +354,10 @@ void NvListWidget::resizeEvent(QResizeEvent*) {
 }
 
 void NvListWidget::connectNotify(const QMetaMethod&) {
+  hasNewConnections_ = true;
   if (core_) core_->notifier.watch();
 }
+
+void NvListWidget::disconnectNotify(const QMetaMethod&) { hasNewConnections_ = true; }
 
 }  // namespace norvane

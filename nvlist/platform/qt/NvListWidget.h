@@ -3,6 +3,7 @@
 #include <QList>
 #include <QPointF>
 #include <QPointer>
+#include <atomic>
 #include <memory>
 
 #include <nvlist/platform/qt/NvListProperties.h>
@@ -188,6 +189,7 @@ class NvListWidget : public NvListProperties {
   void keyPressEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;
   void connectNotify(const QMetaMethod& signal) override;
+  void disconnectNotify(const QMetaMethod& signal) override;
 
  private:
   friend class QtListSignals;
@@ -208,6 +210,9 @@ class NvListWidget : public NvListProperties {
   std::shared_ptr<Core> core_;
   /// The font that the widget gave the list last.
   norvane::Font followedFont_;
+  /// Whether signals were connected or disconnected since QtListSignals has asked which are. Set on
+  /// the threads of receivers.
+  std::atomic<bool> hasNewConnections_ = true;
   bool followsPalette_ = false;
   bool mirrorsLayout_ = false;
   bool followsWheelSettings_ = false;

@@ -13,10 +13,23 @@
 
 namespace norvane {
 
+/// The signals that somebody is connected to, a bit for each in the order of their declaration. Qt
+/// would take a lock at each question.
+std::uint32_t QtListSignals::connected() const {
+  if (!widget_->hasNewConnections_) return connected_;
+  widget_->hasNewConnections_ = false;
+  const QMetaObject& meta = NvListWidget::staticMetaObject;
+  connected_ = 0;
+  for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+    if (widget_->isConnected(meta.method(i))) connected_ |= 1U << (i - meta.methodOffset());
+  return connected_;
+}
+
 template <auto signal>
 bool QtListSignals::isConnected() const {
-  static const QMetaMethod method = QMetaMethod::fromSignal(signal);
-  return widget_ && widget_->isConnected(method);
+  static const std::uint32_t bit = 1U << (QMetaMethod::fromSignal(signal).methodIndex() -
+                                          NvListWidget::staticMetaObject.methodOffset());
+  return widget_ && (connected() & bit) != 0;
 }
 
 template <auto signal, class... Arguments>

@@ -60,6 +60,7 @@ class QtListSignals final : public __nvList {
   void ListReading(Variant& Index) override;
   void ErrorWrongIndex(Variant& Index) override;
 
+  std::uint32_t connected() const;
   template <auto signal>
   bool isConnected() const;
   /// Emits the signal as soon as no call is running.
@@ -71,6 +72,7 @@ class QtListSignals final : public __nvList {
 
   NvListWidget* widget_;  ///< nullptr after its end
   nvList& list_;
+  mutable std::uint32_t connected_ = 0;
   std::optional<Trap::Watch> watch_;
   Look seen_;
   std::vector<std::function<void()>> waiting_;
