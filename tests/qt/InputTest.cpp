@@ -2,8 +2,8 @@
 
 #include <QInputMethodEvent>
 
+#include <nvlist/platform/qt/NvListKeys.h>
 #include <nvlist/platform/qt/drawing/QtColour.h>
-#include <nvlist/platform/qt/place/QtKeys.h>
 
 namespace norvane {
 namespace {
@@ -57,26 +57,6 @@ TEST_F(Input, WhatIsEditedCanBeReadOnADesktopOfAnyColours) {
   EXPECT_EQ(background(Qt::white, 0xFFFFFF), QColor(Qt::black));
 }
 
-TEST_F(Input, TheKeysHaveTheirCodes) {
-  const struct {
-    Qt::Key key;
-    Qt::KeyboardModifiers modifiers;
-    int code;
-  } codes[] = {{Qt::Key_Exclam, Qt::ShiftModifier, 49},
-               {Qt::Key_7, Qt::KeypadModifier, 103},
-               {Qt::Key_Plus, Qt::ShiftModifier, 187},
-               {Qt::Key_Plus, Qt::KeypadModifier, 107},
-               {Qt::Key_Question, {}, 191},
-               {Qt::Key_F24, {}, 135},
-               {Qt::Key_MediaPlay, {}, 0}};
-  for (const auto& c : codes)
-    EXPECT_EQ(keyCodeOf(QKeyEvent(QEvent::KeyPress, c.key, c.modifiers)), c.code) << c.key;
-  EXPECT_EQ(characterOf(QKeyEvent(QEvent::KeyPress, Qt::Key_Delete, {}, "\x7f")), 0);
-  QKeyEvent repeat(QEvent::KeyRelease, Qt::Key_A, {}, "a", true);
-  QApplication::sendEvent(widget, &repeat);
-  EXPECT_EQ(heard(), "") << "only the user's own release is one";
-}
-
 /// In each event and signal, and while the list yields.
 TEST_F(Input, AHandlerMayEndTheWidget) {
   const auto menu = [&] {
@@ -95,6 +75,11 @@ TEST_F(Input, AHandlerMayEndTheWidget) {
   };
   // Yields, and would then open the box.
   const auto pressTheCurrentRow = [&] { endSoon(), click(0); };
+  const auto withKeys = [&](int code) {
+    list().Style(cCheckBoxes);
+    QObject::connect(new NvListKeys(*widget), &NvListKeys::deleteRequested, [&] { delete widget; });
+    key(code);
+  };
   const std::pair<const char*, std::function<void()>> endings[] = {
       {"MouseDown", [&] { click(2); }},
       {"MouseUp", [&] { click(2); }},
@@ -123,7 +108,9 @@ TEST_F(Input, AHandlerMayEndTheWidget) {
       {"activated", [&] { QTest::keyPress(widget, Qt::Key_Return); }},
       {"menu", menu},
       {"wrong", [&] { list().ListIndex(99); }},
-      {"edited", finishEdit}};
+      {"edited", finishEdit},
+      {"ItemCheck", [&] { withKeys(Qt::Key_Space); }},
+      {"a request to delete", [&] { withKeys(Qt::Key_Delete); }}};
   for (const auto& [event, act] : endings) {
     SCOPED_TRACE(std::string(event) + " " + std::to_string(&act - &endings[0].second));
     delete widget;

@@ -10,7 +10,6 @@
 #include <QTimer>
 #include <QWindow>
 #include <string>
-#include <type_traits>
 #include <utility>
 
 namespace norvane {
@@ -18,31 +17,29 @@ namespace {
 
 /// A bar of 200 pixels in a form. Positions are along the bar, so that one test serves both
 /// orientations.
-template <class Widget>
-class NvScrollWidgetTest : public testing::Test {
+class NvScrollWidgetTest : public testing::TestWithParam<Qt::Orientation> {
  protected:
-  static constexpr bool isVertical = std::is_same_v<Widget, NvVScrollWidget>;
-
   NvScrollWidgetTest() {
-    auto* layout = new QBoxLayout(isVertical ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
-    form.setLayout(layout);
+    if (isVertical)
+      widget = new NvVScrollWidget;
+    else
+      widget = new NvHScrollWidget;
+    auto* const layout = new QHBoxLayout(&form);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(widget);
-    QObject::connect(widget, &NvScrollWidget::changed, &form, [this] {
-      tell("Change");
-      if (onChange) onChange();
-    });
-    QObject::connect(widget, &NvScrollWidget::scrolled, &form, [this] {
-      tell("Scroll");
-      if (onScroll) onScroll();
-    });
+    QObject::connect(widget, &NvScrollWidget::changed,
+                     [this](int value) { hear("Change", value); });
+    QObject::connect(widget, &NvScrollWidget::scrolled,
+                     [this](int value) { hear("Scroll", value); });
     length(200);
     form.show();
     QCoreApplication::processEvents();
   }
 
-  void tell(const char* event) {
-    told += (told.empty() ? "" : ", ") + std::string(event) + " " + std::to_string(widget->value());
+  void hear(const std::string& event, int value) {
+    told += (told.empty() ? "" : ", ") + event + " " + std::to_string(value);
+    const auto act = event == "Change" ? onChange : onScroll;
+    if (act) act();
   }
   std::string heard() { return std::exchange(told, {}); }
 
@@ -50,94 +47,88 @@ class NvScrollWidgetTest : public testing::Test {
     form.resize(isVertical ? QSize(17, pixels) : QSize(pixels, 17));
     QCoreApplication::processEvents();
   }
-
-  QPoint at(int along) { return isVertical ? QPoint(8, along) : QPoint(along, 8); }
+  QPoint at(int along) const { return isVertical ? QPoint(8, along) : QPoint(along, 8); }
   void press(int along) { QTest::mousePress(form.windowHandle(), Qt::LeftButton, {}, at(along)); }
   void moveTo(int along) { QTest::mouseMove(form.windowHandle(), at(along)); }
   void release(int along) {
     QTest::mouseRelease(form.windowHandle(), Qt::LeftButton, {}, at(along));
   }
-
-  QRect thumb() {
-    return static_cast<QtPlace&>(*widget->place().places()[0]->places()[0]).geometry();
+  /// The first pixel of the thumb, and the first one behind it.
+  std::pair<int, int> thumb() {
+    const QRect area = static_cast<QtPlace&>(*widget->place().places()[0]->places()[0]).geometry();
+    return isVertical ? std::pair(area.top(), area.bottom() + 1)
+                      : std::pair(area.left(), area.right() + 1);
   }
 
+  const bool isVertical = GetParam() == Qt::Vertical;
   QWidget form;
-  QPointer<Widget> widget{new Widget};
+  QPointer<NvScrollWidget> widget;
   std::string told;
   std::function<void()> onChange, onScroll;
 };
 
-using BothWidgets = testing::Types<NvVScrollWidget, NvHScrollWidget>;
-TYPED_TEST_SUITE(NvScrollWidgetTest, BothWidgets);
-
-TYPED_TEST(NvScrollWidgetTest, isSteppedDraggedAndTells) {
-  this->press(195);
-  this->release(195);
-  EXPECT_EQ(this->heard(), "Change 1");
-  this->press(50);
-  this->moveTo(60);
-  this->moveTo(199);
-  this->release(199);
-  EXPECT_EQ(this->heard(), "Scroll 11, Scroll 100, Change 100");
+TEST_P(NvScrollWidgetTest, IsSteppedAndDragged) {
+  press(195), release(195);
+  EXPECT_EQ(heard(), "Change 1");
+  press(50), moveTo(60), moveTo(199), release(199);
+  EXPECT_EQ(heard(), "Scroll 11, Scroll 100, Change 100");
 }
 
-TYPED_TEST(NvScrollWidgetTest, theThumbStandsByItsValueAtEachNewLength) {
-  this->widget->bar().Value(100);
-  for (const int length : {300, 150}) {
-    this->length(length);
-    const QRect thumb = this->thumb();
-    EXPECT_EQ(TestFixture::isVertical ? thumb.bottom() : thumb.right(), length - 18);
-    EXPECT_EQ(TestFixture::isVertical ? thumb.height() : thumb.width(), length - 34 - 100);
+TEST_P(NvScrollWidgetTest, TheThumbIsAtItsValueAtEachNewLength) {
+  widget->setValue(100);
+  for (const int pixels : {300, 150}) {
+    length(pixels);
+    EXPECT_EQ(thumb(), std::pair(17 + 100, pixels - 17));
   }
 }
 
-TYPED_TEST(NvScrollWidgetTest, aPressEndsAlsoWhereAHandlerTakesTheMouseAway) {
+TEST_P(NvScrollWidgetTest, APressEndsWhereAHandlerTakesTheMouseAway) {
   const auto openDialog = [] {
     QDialog dialog;
     dialog.setModal(true);
     dialog.show();
     QTest::qWait(5);
   };
-  const std::function<void()> deeds[] = {openDialog, [this] { this->widget->bar().Enabled(false); },
-                                         [this] { this->form.hide(); }};
-  // The far button and the track.
-  for (const int place : {195, 130})
+  const std::function<void()> deeds[] = {openDialog, [&] { widget->bar().Enabled(false); },
+                                         [&] { form.hide(); }};
+  constexpr int button = 195, track = 130;
+  for (const int pressed : {button, track})
     for (const auto& deed : deeds) {
-      this->widget->bar().Value(0);
-      this->onChange = deed;
-      this->press(place);
+      SCOPED_TRACE(std::to_string(pressed) + " " + std::to_string(&deed - deeds));
+      widget->setValue(0);
+      onChange = deed;
+      press(pressed);
       // A hidden window may not receive it.
-      const bool isHidden = !this->form.isVisible();
-      if (!isHidden) this->release(place);
-      EXPECT_EQ(this->heard(), "Change 1");
+      const bool isHidden = !form.isVisible();
+      if (!isHidden) release(pressed);
+      EXPECT_EQ(heard(), "Change 1");
       QTest::qWait(700);
-      EXPECT_EQ(this->heard(), "");
-      this->widget->bar().Enabled(true);
-      this->form.show();
-      if (isHidden) this->release(place);
+      EXPECT_EQ(heard(), "") << "repeated";
+      widget->bar().Enabled(true);
+      form.show();
+      if (isHidden) release(pressed);
     }
-  // The thumb is not left hanging where the mouse has had it.
-  this->onChange = nullptr;
-  this->onScroll = openDialog;
-  this->press(50);
-  this->moveTo(60);
-  this->release(60);
+  onChange = nullptr;
+  onScroll = openDialog;
+  press(50), moveTo(60), release(60);
   QTest::qWait(10);
-  this->widget->bar().Value(0);
-  const QPoint thumb = this->thumb().topLeft();
-  EXPECT_EQ(TestFixture::isVertical ? thumb.y() : thumb.x(), 17);
+  widget->setValue(0);
+  EXPECT_EQ(thumb().first, 17) << "the thumb is not left where the mouse has had it";
 }
 
-TYPED_TEST(NvScrollWidgetTest, mayEndInAHandlerOfItsOwn) {
-  this->onScroll = [this] { delete this->widget; };
-  this->press(50);
-  this->moveTo(60);
-  EXPECT_FALSE(this->widget);
-  this->release(60);
-  QTimer::singleShot(20, qApp, &QCoreApplication::quit);
-  QCoreApplication::exec();
+TEST_P(NvScrollWidgetTest, MayEndInAHandlerOfItsOwn) {
+  onScroll = [&] { delete widget; };
+  press(50), moveTo(60);
+  EXPECT_FALSE(widget);
+  release(60);
+  // The bar itself ends later.
+  QTest::qWait(20);
 }
+
+INSTANTIATE_TEST_SUITE_P(Bars, NvScrollWidgetTest, testing::Values(Qt::Vertical, Qt::Horizontal),
+                         [](const auto& bar) {
+                           return bar.param == Qt::Vertical ? "Vertical" : "Horizontal";
+                         });
 
 }  // namespace
 }  // namespace norvane

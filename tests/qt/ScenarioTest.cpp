@@ -2,12 +2,20 @@
 
 #include "../Scenario.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QDrag>
+#include <QDropEvent>
+#include <QHelpEvent>
 #include <QInputMethodEvent>
+#include <QMimeData>
+#include <QScroller>
+#include <QToolTip>
 #include <sstream>
 
 #include <nvlist/core/storedProperties.h>
+#include <nvlist/platform/qt/NvListDrop.h>
 #include <nvlist/platform/qt/NvListKeys.h>
 
 #include "WidgetTest.h"
@@ -17,6 +25,8 @@ namespace {
 
 class WidgetScript : public WidgetTest, public testing::WithParamInterface<Scenario> {
  protected:
+  ~WidgetScript() override { QToolTip::hideText(); }
+
   /// Runs the commands of the scenario, separated by semicolons, and compares their outputs. Rows
   /// are those of the window; an output without text is "-". The name of a stored property sets
   /// that property to a number. Keys and texts go to the widget with the focus.
@@ -59,6 +69,13 @@ class WidgetScript : public WidgetTest, public testing::WithParamInterface<Scena
     else if (verb == "typingInterval") widget->findChild<NvListKeys*>()->setTypingInterval(a);
     else if (verb == "refuseChecks") refusesChecks = true;
     else if (verb == "swallowKeys") swallowsKeys = true;
+    else if (verb == "mirror") mirror();
+    else if (verb == "resize") widget->resize(a, b), QCoreApplication::processEvents();
+    else if (verb == "keys") new NvListKeys(*widget);
+    else if (verb == "noKeys") delete widget->findChild<NvListKeys*>();
+    else if (verb == "tips") widget->setShowsCutTexts(a != 0);
+    else if (verb == "toolTip") widget->setToolTip(QString::fromStdString(text));
+    else if (verb == "drops") allowDrops();
     else if (const auto* property = storedProperty(verb)) property->set(list(), a);
     // The user.
     else if (verb == "click") click(a, {}, b);
@@ -71,10 +88,20 @@ class WidgetScript : public WidgetTest, public testing::WithParamInterface<Scena
     else if (verb == "button") QTest::mouseClick(widget, Qt::MouseButton(a), {}, row(8));
     else if (verb == "wheel") turn({0, a});
     else if (verb == "sideways") turn({a, 0});
+    else if (verb == "touch") QScroller::scroller(widget)->scrollTo(QPointF(a, b), 0);
+    else if (verb == "hold") return hold(a);
+    else if (verb == "drop") hold(a), sendText<QDropEvent>(a);
+    else if (verb == "dragOff") {
+      QDragLeaveEvent off;
+      QCoreApplication::sendEvent(widget, &off);
+    } else if (verb == "dragOut") return dragOut(a, b);
     else if (verb == "type") QTest::keyClicks(focused, QString::fromStdString(text));
     else if (verb == "key") {
       const QKeyCombination keys = QKeySequence(QString::fromStdString(text))[0];
       QTest::keyClick(focused, keys.key(), keys.keyboardModifiers());
+    } else if (verb == "repeat") {
+      QKeyEvent again(QEvent::KeyRelease, Qt::Key_A, {}, "a", true);
+      QCoreApplication::sendEvent(focused, &again);
     } else if (verb == "compose") {
       QInputMethodEvent composed;
       composed.setCommitString(QString::fromStdString(text));
@@ -87,7 +114,7 @@ class WidgetScript : public WidgetTest, public testing::WithParamInterface<Scena
       QFocusEvent menu(QEvent::FocusOut, Qt::PopupFocusReason);
       QCoreApplication::sendEvent(focused, &menu);
     }
-    // Outputs.
+    // Outputs. Places are those of the layout from left to right.
     else if (verb == "forget") heard();
     else if (verb == "heard") return shown(heard());
     else if (verb == "state") return state();
@@ -100,6 +127,16 @@ class WidgetScript : public WidgetTest, public testing::WithParamInterface<Scena
     else if (verb == "editing")
       return edit().isVisible() ? shown(edit().text().toStdString()) : "closed";
     else if (verb == "hasFocus") return list().state().HasFocus ? "yes" : "no";
+    else if (verb == "rect") return shown(widget->itemRect(a));
+    else if (verb == "readable") return readable(a);
+    else if (verb == "at") return std::to_string(widget->indexAt(mirrored(QPoint(a, b))));
+    else if (verb == "box") {
+      EXPECT_EQ(edit().alignment().testFlag(Qt::AlignAbsolute), widget->place().isMirrored());
+      return shown(edit().geometry());
+    }
+    else if (verb == "mark") return mark->isVisible() ? shown(mark->geometry()) : "-";
+    else if (verb == "tip") return shown(tipAt(a));
+    else if (verb == "pressed") return widget->place().mouse().pressed() ? "yes" : "no";
     else if (verb == "focus")
       return focused == widget ? "list" : focused == &edit() ? "edit" : "other";
     else ADD_FAILURE() << "no verb " << verb;
@@ -111,12 +148,74 @@ class WidgetScript : public WidgetTest, public testing::WithParamInterface<Scena
     QApplication::sendEvent(widget, &event);
     EXPECT_TRUE(event.isAccepted());
   }
+
+  void allowDrops() {
+    auto* const drop = new NvListDrop(*widget);
+    drop->setDragsRows(true);
+    mark = widget->findChildren<QWidget*>(Qt::FindDirectChildrenOnly).last();
+    QObject::connect(drop, &NvListDrop::dropped, [this](const QMimeData* data, int index) {
+      hear("dropped", data->text(), index);
+    });
+  }
+  template <class Event>
+  bool sendText(int y) {
+    QMimeData text;
+    text.setText("text");
+    Event event(mirrored(QPoint(60, y)), Qt::CopyAction | Qt::MoveAction, &text, Qt::LeftButton,
+                Qt::NoModifier);
+    event.ignore();
+    QCoreApplication::sendEvent(widget, &event);
+    return event.isAccepted();
+  }
+  /// Holds a text over the list. Returns where the mark is.
+  std::string hold(int y) {
+    EXPECT_TRUE(sendText<QDragEnterEvent>(y) && sendText<QDragMoveEvent>(y));
+    return shown(mark->geometry());
+  }
+  /// The text that is dragged out by a press on a row and a move to another.
+  std::string dragOut(int from, int to) {
+    QString dragged;
+    // The drag deletes itself later.
+    const auto look = [&] {
+      if (const auto* const data = widget->findChild<QDrag*>()) dragged = data->mimeData()->text();
+    };
+    QTimer::singleShot(0, widget, [&] {
+      look();
+      QDrag::cancel();
+    });
+    press(row(from)), drag(row(to));
+    if (dragged.isEmpty()) look();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    return dragged.replace('\n', '+').toStdString();
+  }
+
+  std::string tipAt(int index) {
+    const QPoint at = mirrored(row(index));
+    // A hidden tip keeps its text for a while.
+    QToolTip::showText(widget->mapToGlobal(at), "none", widget);
+    QHelpEvent help(QEvent::ToolTip, at, widget->mapToGlobal(at));
+    QCoreApplication::sendEvent(widget, &help);
+    const QString tip = QToolTip::text().remove("none");
+    return tip.isEmpty() ? "" : tip.split("pre-wrap'>").last().remove("</p>").toStdString();
+  }
+  std::string readable(int child) {
+    const QRect onScreen = QAccessible::queryAccessibleInterface(widget)->child(child)->rect();
+    return shown(QRect(widget->mapFromGlobal(onScreen.topLeft()), onScreen.size()));
+  }
+  std::string shown(const QRect& area) {
+    if (area.isEmpty()) return "none";
+    const QRect plain = mirrored(area);
+    return std::to_string(plain.x()) + " " + std::to_string(plain.y()) + " " +
+           std::to_string(plain.width()) + "x" + std::to_string(plain.height());
+  }
   static std::string shown(const std::string& text) { return text.empty() ? "-" : text; }
   std::string texts() {
     std::string result;
     for (int i = 0; i < list().ItemsCount(); ++i) result += (i ? " " : "") + list().ItemText(i);
     return result;
   }
+
+  QPointer<QWidget> mark;
 };
 
 // clang-format off
@@ -142,6 +241,10 @@ const Scenario ofAList[] = {
   {"keys have their codes", "fill 40; select 2; key Shift+Down; type a; key Alt+F2; heard",
    "KeyDown 16 1, KeyDown 40 1, KeyUp 40, KeyUp 16, KeyDown 65 0, KeyPress 97, KeyUp 65, "
    "KeyDown 18 4, KeyDown 113 4, KeyUp 113, KeyUp 18"},
+  {"digits, signs, the keypad and others have theirs, too",
+   "key !; key Num+7; key +; key Num++; key ?; key F24; key Del; key Media Play; repeat; heard", "KeyDown 49 0, KeyPress 33, KeyUp 49, KeyDown 103 0, KeyPress 55, KeyUp 103, "
+   "KeyDown 187 0, KeyPress 43, KeyUp 187, KeyDown 107 0, KeyPress 43, KeyUp 107, "
+   "KeyDown 191 0, KeyPress 63, KeyUp 191, KeyDown 135 0, KeyUp 135, KeyDown 46 0, KeyUp 46"},
   {"a handler swallows a key, and Tab is the form's",
    "fill 40; swallowKeys; type a; key Tab; heard; focus", "KeyDown 65 0, KeyUp 65 / other"},
   {"a wheel scrolls by whole notches, and by parts where asked to",
@@ -153,6 +256,41 @@ const Scenario ofAList[] = {
    "fill 40; add mmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmm; sideways -120; left;"
    "ScrollBars 3; fit; sideways -60; left; sideways -60; left; sideways 1200; left; top",
    "0 / 24 / 48 / 0 / 0"},
+  {"a touch scrolls by rows and to the side",
+   "fill 40; touch 0 165; top; touch 0 100000; top; add mmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmm;"
+   "ScrollBars 3; fit; touch 30 0; left; top; mirror; touch 30 0; left", "10 / 28 / 30 / 0 / 282"},
+};
+
+/// In both layouts.
+const Scenario ofItsPlaces[] = {
+  {"rows and bars",
+   "fill 40; scroll 3; rect 3; rect 14; rect 0; rect 40; readable 3; readable 40; at 30 100;"
+   "at 175 100; at 190 100; at 60 2; at 60 199",
+   "1 3 181x16 / 1 179 181x16 / 1 -45 181x16 / none / 1 3 181x16 / 182 1 17x198 / 9 / 9 / -1 / "
+   "2 / -1"},
+  {"clicks on rows, a check box and a button of the bar",
+   "fill 40; scroll 3; click 2; state; click 4 175; state; Style 1; click 5 9; checked 8;"
+   "click 11 190; top", "5 (5) / 7 (7) / yes / 4"},
+  {"the edit box of the list alone covers the bar",
+   "AllowEdit 1; fill 40; click 0; edit 0; box; resize 260 200; box; mirror; box",
+   "1 3 197x15 / 1 3 197x15 / 1 3 197x15"},
+  {"with the keys the edit box is over its row",
+   "AllowEdit 1; fill 40; keys; select 3; key F2; box; key Esc; select 0; key F2; box;"
+   "resize 150 100; box", "2 51 179x16 / 2 3 179x16 / 2 3 129x16"},
+  {"tips of cut texts",
+   "resize 100 100; add short; add A text with <b>& more than fits into a row;"
+   "add Another text that is long|right=9; add left column|right=right column; add ; tip 0; tip 1;"
+   "tip 2; tip 3; tip 4; tip 5; tips 0; tip 1; tips 1; toolTip the host's; tip 1; toolTip ;"
+   "resize 600 100; tip 1",
+   "- / A text with &lt;b&gt; more than fits into a row / Another text that is long\t9 / "
+   "left column\tright column / - / - / - / the host's / -"},
+  {"a text is dropped between rows",
+   "fill 3; drops; hold 24; mark; dragOff; mark; drop 24; drop 90; drop 1; heard; mark",
+   "1 19 198x2 / 1 19 198x2 / - / dropped text 1, dropped text 3, dropped text 0 / -"},
+  {"rows are dragged out as text",
+   "MultiSelect 1; fill 5; drops; select 1; shiftClick 2; click 1; state; shiftClick 2;"
+   "dragOut 1 4; state; pressed; dragOut 4 1; state; pressed",
+   "1 (1) / 1+2 / 2 (1 2) / no / 4 / 4 (4) / no"},
 };
 
 const Scenario ofItsSignals[] = {
@@ -183,6 +321,8 @@ const Scenario withKeys[] = {
    "fill 40; disable 0; disable 39; select 5; forget; key PgDown; heard; state; top; key PgDown;"
    "state; top; key PgUp; state; top; key PgUp; state; top",
    "KeyDown 0 0, KeyUp 34 / 11 (11) / 0 / 22 (22) / 11 / 11 (11) / 11 / 1 (1) / 1"},
+  {"page keys from a row out of view", "fill 40; select 5; scroll 20; key PgDown; state; top;"
+   "select 5; scroll 20; key PgUp; state", "16 (16) / 16 / 0 (0)"},
   {"Home and End go to the last enabled rows",
    "fill 40; disable 0; disable 39; select 5; key End; state; top; key PgDown; state; key PgUp;"
    "state; top; key Home; state; key Up; state; key Down; state; top",
@@ -212,12 +352,17 @@ const Scenario withKeys[] = {
    "checked 4; typingInterval -1; type a; state; typingInterval 100000; type a; state; type a;"
    "state",
    "4 (4) / no / 0 (0) / 1 (1) / 3 (3)"},
+  {"a blank alone begins no word", "Style 0; add a; add b; select 0; typingInterval 100000;"
+   "key Space; type b; state", "1 (1)"},
   {"Ctrl and C copy what is read in the selected rows",
    "MultiSelect 1; add &one|right=1; add two; add three; select 1; key Shift+Home; key Ctrl+C;"
    "clipboard", "one\t1\ntwo"},
   {"a click moves nothing, a drag does",
    "fill 5; AllowItemMoving 1; click 2; texts; press 2; drag 0; release 0; texts",
    "0 1 2 3 4 / 2 0 1 3 4"},
+  {"without the keys the list is as before",
+   "fill 5; noKeys; AllowItemMoving 1; select 1; key End; state; click 2; texts",
+   "1 (1) / 2 0 1 3 4"},
 };
 // clang-format on
 
@@ -227,6 +372,17 @@ class OfAList : public WidgetScript {
 };
 TEST_P(OfAList, GivesItsOutputs) { check(); }
 INSTANTIATE_TEST_SUITE_P(Widget, OfAList, testing::ValuesIn(ofAList), nameOf);
+
+class OfItsPlaces : public WidgetScript {};
+TEST_P(OfItsPlaces, GivesItsOutputs) { check(); }
+INSTANTIATE_TEST_SUITE_P(Widget, OfItsPlaces, testing::ValuesIn(ofItsPlaces), nameOf);
+
+class OfItsMirroredPlaces : public WidgetScript {
+ protected:
+  OfItsMirroredPlaces() { mirror(); }
+};
+TEST_P(OfItsMirroredPlaces, GivesItsOutputs) { check(); }
+INSTANTIATE_TEST_SUITE_P(Widget, OfItsMirroredPlaces, testing::ValuesIn(ofItsPlaces), nameOf);
 
 class OfItsSignals : public WidgetScript {
  protected:

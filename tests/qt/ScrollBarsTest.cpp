@@ -141,20 +141,6 @@ TEST_F(ScrollBarsTest, AHeldButtonPausesOutsideAndEndsWithTheReleaseThere) {
   expectNoScroll();
 }
 
-TEST_F(ScrollBarsTest, APressOnTheTrackRepeatsUpToThePointer) {
-  const QPoint behind(2, vertical.geometry().height() - 20);
-  const QRgb bare = picture(vertical).pixel(behind);
-  press(vertical, {8, childOf(vertical, thumb).geometry().bottom() + 4});
-  EXPECT_NE(picture(vertical).pixel(behind), bare);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return picture(vertical).pixel(behind) == bare; }, 10'000));
-  const int reached = list().TopIndex();
-  EXPECT_GT(reached, 1);
-  // The thumb may make one more step before the picture is taken.
-  QTest::qWait(350);
-  EXPECT_LE(list().TopIndex(), reached + 1);
-  release();
-}
-
 TEST_F(ScrollBarsTest, AHandlerMayEmptyTheListDuringADrag) {
   onScroll = [&] { list().ItemsClear(); };
   press(childOf(vertical, thumb), {8, 3});
@@ -191,18 +177,6 @@ TEST_F(ScrollBarsTest, AnotherScreenIsPaintedFor) {
   const QImage shown = picture();
   EXPECT_EQ(shown.pixel(2 * vertical.geometry().x(), 2 * vertical.geometry().height() - 36),
             qRgb(0xF3, 0xF1, 0xEC));
-}
-
-TEST_F(ScrollBarsTest, WhatADisabledBarCoversGetsNoMouse) {
-  vertical.enable(false);
-  const int before = presses;
-  press(childOf(vertical, farButton), {8, 8});
-  release();
-  EXPECT_EQ(scrolls, 0);
-  EXPECT_EQ(presses, before);
-  press(*widget, {50, 50});
-  release();
-  EXPECT_EQ(presses, before + 1);
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include <QMetaProperty>
 #include <QPalette>
 #include <QRegularExpression>
-#include <QScroller>
 
 #include <nvlist/core/storedProperties.h>
 #include <nvlist/platform/qt/QtApplication.h>
@@ -111,15 +110,6 @@ TEST_F(WidgetProperties, RowsAreReadableInEveryPalette) {
   widget->setFollowsPalette(false);
   EXPECT_EQ(list().ForeColor(), 0x112233);
   EXPECT_EQ(list().BackColor(), colours::white);
-}
-
-TEST_F(WidgetProperties, TouchScrollsByRows) {
-  fill(40);
-  QScroller* const scroller = QScroller::scroller(widget);
-  scroller->scrollTo(QPointF(0, 165), 0);
-  EXPECT_EQ(list().TopIndex(), 10);
-  scroller->scrollTo(QPointF(0, 1e6), 0);
-  EXPECT_EQ(list().TopIndex(), 28);
 }
 
 TEST(Failures, GoWhereTheProgramWants) {

@@ -67,14 +67,26 @@ class WidgetTest : public testing::Test, public __nvList {
     return std::to_string(list().ListIndex()) + " (" + rows + ")";
   }
 
+  void mirror() {
+    widget->setMirrorsLayout(true);
+    widget->setLayoutDirection(Qt::RightToLeft);
+  }
+  /// Between the layout from left to right, which the points below are of, and that of the widget.
+  QRect mirrored(const QRect& area) const {
+    return widget->place().isMirrored()
+               ? QRect(widget->width() - area.right() - 1, area.y(), area.width(), area.height())
+               : area;
+  }
+  QPoint mirrored(QPoint at) const { return mirrored(QRect(at, QSize(1, 1))).topLeft(); }
+
   // ---- the hand: rows are those of the window; events are those of a real mouse ----
 
   static QPoint row(int index, int x = 60) { return {x, 12 + 16 * index}; }
   void press(QPoint at, Qt::KeyboardModifiers keys = {}) {
-    QTest::mousePress(widget, Qt::LeftButton, keys, at);
+    QTest::mousePress(widget, Qt::LeftButton, keys, mirrored(at));
   }
   void release(QPoint at, Qt::KeyboardModifiers keys = {}) {
-    if (widget) QTest::mouseRelease(widget, Qt::LeftButton, keys, at);
+    if (widget) QTest::mouseRelease(widget, Qt::LeftButton, keys, mirrored(at));
   }
   void click(int index, Qt::KeyboardModifiers keys = {}, int x = 60) {
     press(row(index, x), keys);
@@ -82,10 +94,11 @@ class WidgetTest : public testing::Test, public __nvList {
   }
   void doubleClick(int index) {
     click(index);
-    QTest::mouseDClick(widget, Qt::LeftButton, {}, row(index));
+    QTest::mouseDClick(widget, Qt::LeftButton, {}, mirrored(row(index)));
     release(row(index));
   }
-  void drag(QPoint to) {
+  void drag(QPoint at) {
+    const QPoint to = mirrored(at);
     QMouseEvent move(QEvent::MouseMove, to, widget->mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
                      {});
     QApplication::sendEvent(widget, &move);
@@ -119,6 +132,15 @@ class WidgetTest : public testing::Test, public __nvList {
     on(&NvListWidget::contextMenuRequested, "menu");
     on(&NvListWidget::wrongIndex, "wrong");
     on(&NvListWidget::inputFailed, "inputFailed");
+  }
+
+  template <class... Values>
+  void hear(const std::string& name, Values... values) {
+    EXPECT_TRUE(widget) << name << " after the end";
+    told += (told.empty() ? "" : ", ") + name;
+    ((told += " " + word(values)), ...);
+    const auto act = onEvent;
+    act(name);
   }
 
   void Click() override { hear("Click"); }
@@ -157,15 +179,6 @@ class WidgetTest : public testing::Test, public __nvList {
   static std::string word(int number) { return std::to_string(number); }
   static std::string word(const QString& text) { return text.toStdString(); }
   static std::string word(QPoint at) { return word(at.x()) + "," + word(at.y()); }
-
-  template <class... Values>
-  void hear(const std::string& name, Values... values) {
-    EXPECT_TRUE(widget) << name << " after the end";
-    told += (told.empty() ? "" : ", ") + name;
-    ((told += " " + word(values)), ...);
-    const auto act = onEvent;
-    act(name);
-  }
 
   std::string told;
 };
