@@ -1,6 +1,7 @@
 # The installed headers of the library: those that a host or a platform includes, and those that they
 # include. All other headers are private.
 target_sources(nvlist PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES
+  nvlist/core/BlockPool.h
   nvlist/core/ItemLook.h
   nvlist/core/ItemStore.h
   nvlist/core/ListItem.h

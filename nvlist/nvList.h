@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include <nvlist/core/ListState.h>
@@ -146,7 +147,14 @@ class nvList final : public UserControl,
                 Boolean aEnabled = true, Variant aTag = "",
                 Variant aForeColorDis = colours::greyText, Variant aBackColorDis = colours::light3D,
                 Boolean aBold = false, Boolean aItalic = false, Boolean aUnderline = false,
-                Variant aKey = "");
+                Variant aKey = "") {
+    ItemsAdd(NewItem{std::move(aText), std::move(aIndex), std::move(aIcon),
+                     std::move(aIconSelected), aChecked, std::move(aForeColor),
+                     std::move(aBackColor), aAllowEdit, aAlignment, std::move(aForeColorSelected),
+                     std::move(aBackColorSelected), aEnabled, std::move(aTag),
+                     std::move(aForeColorDis), std::move(aBackColorDis), aBold, aItalic, aUnderline,
+                     std::move(aKey)});
+  }
   /// The same with named arguments.
   void ItemsAdd(NewItem values);
   /// Appends an item with exactly these fields, for readers of files. Nothing else changes, not
@@ -591,7 +599,7 @@ class nvList final : public UserControl,
   /// ItemsAdd. If `text` has a value, it replaces `values.aText`: a long text is then copied only
   /// once, into the item.
   void addItem(NewItem&& values, std::optional<std::string_view> text);
-  void writeFields(Trap& on, StoredItem& item, NewItem& values);
+  void writeFields(Trap& on, StoredItem& item, NewItem& values) const;
   void moveLastTo(double index);
   std::int32_t shiftDownOnto(Trap& on, std::int32_t index);
   void removeSwept(Trap& on);

@@ -10,13 +10,6 @@
 
 namespace norvane {
 
-Ref<StoredItem>& ItemStore::peek(std::int32_t index) const {
-  if (!holds(index)) throw Failure::subscriptOutOfRange();
-  Ref<StoredItem>& reference = slots_.peek(index);
-  if (!reference) makeItem(reference, index);
-  return reference;
-}
-
 Ref<StoredItem>& ItemStore::slot(std::int32_t index) {
   if (!holds(index)) throw Failure::subscriptOutOfRange();
   changed();
@@ -29,7 +22,7 @@ const Ref<StoredItem>& ItemStore::setText(std::int32_t index, std::string_view t
   if (!holds(index)) throw Failure::subscriptOutOfRange();
   changed();
   Ref<StoredItem>& reference = slots_.write(index);
-  if (!reference && !source_) return reference = StoredItem::make(text);
+  if (!reference && !source_) return reference = StoredItem::make(*pool_, text);
   if (!reference) makeItem(reference, index);
   reference->Text(text);
   // Another slot may hold the same item.
@@ -82,10 +75,10 @@ void ItemStore::dropSearches() {
 void ItemStore::makeItem(Ref<StoredItem>& reference, std::int32_t index) const {
   ListItem values;
   if (!source_ || !source_->make(index, values)) {
-    reference = StoredItem::make();
+    reference = StoredItem::make(*pool_);
     return;
   }
-  auto item = StoredItem::make(values.Text);
+  auto item = StoredItem::make(*pool_, values.Text);
   assign(*item, index, values);
   reference = std::move(item);
 }
@@ -97,8 +90,7 @@ void ItemStore::assign(std::int32_t index, ListItem values) {
 
 /// Sets all fields but the text.
 void ItemStore::assign(StoredItem& item, std::int32_t index, ListItem& values) const {
-  item.Key(values.Key);
-  item.Tag(std::move(values.Tag));
+  item.KeyAndTag(values.Key, std::move(values.Tag));
   item.Checked(values.Checked);
   item.Selected(values.Selected);
   setLook(item, index, values);
@@ -141,7 +133,7 @@ void ItemStore::forgetTextWidths() {
 void ItemStore::grow() {
   if (upperBound() == std::numeric_limits<std::int32_t>::max()) throw Failure::overflow();
   changed();
-  slots_.insert(slots_.size(), nullptr);
+  slots_.append();
 }
 
 // Memory is allocated before anything moves, so that running out of it loses no item. References

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include <nvlist/core/SlotBlocks.h>
+#include <nvlist/values/Failure.h>
 
 namespace norvane {
 
@@ -129,12 +130,18 @@ class ItemStore {
   }
   void dropSearches();
 
-  Ref<StoredItem>& peek(std::int32_t index) const;
+  Ref<StoredItem>& peek(std::int32_t index) const {
+    if (!holds(index)) throw Failure::subscriptOutOfRange();
+    Ref<StoredItem>& reference = slots_.peek(index);
+    if (!reference) makeItem(reference, index);
+    return reference;
+  }
   void makeItem(Ref<StoredItem>& reference, std::int32_t index) const;
   void assign(StoredItem& item, std::int32_t index, ListItem& values) const;
   bool sharesLook(StoredItem& item, std::int32_t index, const ItemLook& look) const;
   void makeAllItems();
 
+  Ref<BlockPool> pool_ = makeRef<BlockPool>();
   /// Mutable, because reading a slot may create its item.
   mutable SlotBlocks slots_{1};
   /// Knows slots by their original indexes, so all items are created before any reference moves.

@@ -26,7 +26,10 @@ SlotBlocks::SlotBlocks(std::int32_t count) : size_(count) {
 
 SlotBlocks::Place SlotBlocks::search(std::int32_t index) {
   const std::int32_t lastFirst = size_ - blocks_.back().length();
-  if (index >= lastFirst) return {blocks_.size() - 1, static_cast<std::size_t>(index - lastFirst)};
+  if (index >= lastFirst) {
+    if (placed_ == blocks_.size()) lastFound_ = placed_ - 1;
+    return {blocks_.size() - 1, static_cast<std::size_t>(index - lastFirst)};
+  }
   const auto end = [&](std::size_t block) {
     return blocks_[block].first + blocks_[block].length();
   };
@@ -46,6 +49,16 @@ void SlotBlocks::keepPlaces(std::size_t count) {
 
 // A reference is only a pointer: those of a block are moved as bytes, which is many times faster
 // than one by one.
+
+void SlotBlocks::append() {
+  if (blocks_.empty() || blocks_.back().entries.size() == blockSize) {
+    addBlock(blocks_.size()).first = size_;
+    if (placed_ == blocks_.size() - 1) lastFound_ = placed_++;
+  }
+  blocks_.back().entries.emplace_back();
+  blocks_.back().isMeasured = false;
+  ++size_;
+}
 
 void SlotBlocks::insert(std::int32_t index, Slot slot) {
   if (blocks_.empty()) addBlock(0);

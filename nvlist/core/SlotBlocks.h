@@ -38,6 +38,8 @@ class SlotBlocks {
     return blocks_[place.block].entries[place.offset];
   }
 
+  /// Adds an empty slot at the end. If memory runs out, nothing changes.
+  void append();
   /// Inserts a reference before `index`, or at the end. If memory runs out, nothing changes.
   void insert(std::int32_t index, Slot slot);
   /// Removes the slot at `index` and returns its reference.

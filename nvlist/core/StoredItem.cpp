@@ -18,27 +18,35 @@ void copy(std::string_view text, char* to) {
   if (!text.empty()) std::memcpy(to, text.data(), text.size());
 }
 
-/// As many bytes as a heap has for a text anyway: it hands out 8 less than a multiple of 16, and
-/// the other fields take 28.
-constexpr std::size_t roomFor(std::size_t size) { return (size + 3) / 16 * 16 + 12; }
-constexpr std::size_t mostRoom = roomFor(252);
-static_assert(mostRoom == 252 && roomFor(0) == 12 && roomFor(13) == 28);
+constexpr std::size_t unitsFor(std::size_t bytes) {
+  return (bytes + BlockPool::unit - 1) / BlockPool::unit;
+}
 
 }  // namespace
 
 const StoredItem::SharedLook StoredItem::blank;
 
-Ref<StoredItem> StoredItem::make(std::string_view text) {
-  const std::size_t room = roomFor(text.size() <= mostRoom ? text.size() : 0);
-  void* const memory = ::operator new(sizeof(StoredItem) - sizeof text_ + room);
-  Ref<StoredItem> item(new (memory) StoredItem(room));
+Ref<StoredItem> StoredItem::make(BlockPool& pool, std::string_view text) {
+  static_assert(beforeText == sizeof(StoredItem) - sizeof text_);
+  const std::size_t inside = beforeText + std::max(text.size(), sizeof(char*));
+  const std::size_t most = BlockPool::mostUnits * BlockPool::unit;
+  const std::size_t units = unitsFor(inside <= most ? inside : beforeText + sizeof(char*));
+  const BlockPool::Block block = pool.allocate(units);
+  Ref<StoredItem> item(new (block.memory) StoredItem(units, block.slot));
   item->Text(text);
   return item;
 }
 
+void StoredItem::operator delete(StoredItem* item, std::destroying_delete_t) {
+  const std::size_t units = item->units_;
+  const std::size_t slot = item->slot_;
+  item->~StoredItem();
+  BlockPool::release(item, units, slot);
+}
+
 void StoredItem::Text(std::string_view text) {
   const std::uint32_t size = checkedSize(text);
-  char* const outside = size > room_ ? new char[size] : nullptr;
+  char* const outside = size > room() ? new char[size] : nullptr;
   freeText();
   copy(text, outside ? outside : text_);
   if (outside) std::memcpy(static_cast<void*>(text_), &outside, sizeof outside);
@@ -52,13 +60,27 @@ char* StoredItem::outside() const {
   return result;
 }
 
-std::unique_ptr<StoredItem::Labels> StoredItem::Labels::make(std::string_view key, Variant tag) {
+std::unique_ptr<StoredItem::Labels> StoredItem::makeLabels(std::string_view key, Variant tag) {
   const std::uint32_t size = checkedSize(key);
-  constexpr std::size_t first = sizeof text;
-  void* const memory = ::operator new(sizeof(Labels) - first + std::max<std::size_t>(size, first));
-  std::unique_ptr<Labels> made(new (memory) Labels{std::move(tag), size, {}});
+  const std::size_t bytes =
+      sizeof(Labels) - sizeof Labels::text + std::max(key.size(), sizeof Labels::text);
+  const std::size_t units = unitsFor(bytes) <= BlockPool::mostUnits ? unitsFor(bytes) : 0;
+  const BlockPool::Block block = units > 0 ? BlockPool::of(this, units_, slot_).allocate(units)
+                                           : BlockPool::Block{::operator new(bytes), 0};
+  std::unique_ptr<Labels> made(new (block.memory) Labels{
+      std::move(tag), size, static_cast<std::uint8_t>(units), block.slot, {}});
   copy(key, made->text);
   return made;
+}
+
+void StoredItem::Labels::operator delete(Labels* labels, std::destroying_delete_t) {
+  const std::size_t units = labels->units;
+  const std::size_t slot = labels->slot;
+  labels->~Labels();
+  if (units > 0)
+    BlockPool::release(labels, units, slot);
+  else
+    ::operator delete(labels);
 }
 
 ListItem StoredItem::record() const {
@@ -66,7 +88,7 @@ ListItem StoredItem::record() const {
 }
 
 void StoredItem::Key(std::string_view key) {
-  if (labels_ || !key.empty()) labels_ = Labels::make(key, Tag());
+  if (labels_ || !key.empty()) labels_ = makeLabels(key, Tag());
 }
 
 Variant StoredItem::Tag() const {
@@ -80,7 +102,14 @@ void StoredItem::Tag(Variant tag) {
   else if (tag.isEmpty() || (tag.isText() && tag.text().empty()))
     isTagEmptyText_ = tag.isText();
   else
-    labels_ = Labels::make({}, std::move(tag));
+    labels_ = makeLabels({}, std::move(tag));
+}
+
+void StoredItem::KeyAndTag(std::string_view key, Variant tag) {
+  if (key.empty() && !labels_)
+    Tag(std::move(tag));
+  else
+    labels_ = makeLabels(key, std::move(tag));
 }
 
 bool StoredItem::shareLookOf(const StoredItem& other, const ItemLook& look) {

@@ -5,6 +5,7 @@
 #include <new>
 #include <string_view>
 
+#include <nvlist/core/BlockPool.h>
 #include <nvlist/core/ItemLook.h>
 #include <nvlist/core/ListItem.h>
 
@@ -16,10 +17,11 @@ namespace norvane {
 /// one. Key and tag take memory of their own where there are any.
 class StoredItem final : public SharedInThread {
  public:
-  /// An item with a text. Every other field is in the zero state of its type.
-  static Ref<StoredItem> make(std::string_view text = {});
+  /// An item with a text, in memory of the pool. Every other field is in the zero state of its
+  /// type.
+  static Ref<StoredItem> make(BlockPool& pool, std::string_view text = {});
   ~StoredItem() { freeText(); }
-  void operator delete(void* memory) { ::operator delete(memory); }
+  static void operator delete(StoredItem* item, std::destroying_delete_t);
 
   /// All fields as a record.
   ListItem record() const;
@@ -32,6 +34,8 @@ class StoredItem final : public SharedInThread {
   void Key(std::string_view key);
   Variant Tag() const;
   void Tag(Variant tag);
+  /// Both at once, which is cheaper.
+  void KeyAndTag(std::string_view key, Variant tag);
   Boolean Checked() const { return isChecked_ ? shared().checkedAs : Boolean(); }
   void Checked(Boolean checked) {
     if (checked && shared().checkedAs != checked) own().checkedAs = checked;
@@ -62,22 +66,26 @@ class StoredItem final : public SharedInThread {
     Boolean checkedAs = true;   ///< what Checked reads while the check mark is set
     Boolean selectedAs = true;  ///< what Selected reads while the item is selected
   };
-  /// A tag and a key, which stands behind it.
+  /// A tag and a key, which follows it.
   struct Labels {
-    static std::unique_ptr<Labels> make(std::string_view key, Variant tag);
-    void operator delete(void* memory) { ::operator delete(memory); }
+    static void operator delete(Labels* labels, std::destroying_delete_t);
 
     std::string_view key() const { return {text, size}; }
 
     Variant tag;
     std::uint32_t size;
-    char text[4];  ///< its first bytes
+    std::uint8_t units;  ///< the size of its block; 0: not of the pool
+    std::uint8_t slot;
+    char text[2];  ///< its first bytes
   };
   static const SharedLook blank;
 
-  explicit StoredItem(std::size_t room) : room_(static_cast<std::uint8_t>(room)) {}
+  StoredItem(std::size_t units, std::size_t slot) : units_(units & 0x3F), slot_(slot & 0x7F) {}
 
-  bool isTextInside() const { return textSize_ <= room_; }
+  std::unique_ptr<Labels> makeLabels(std::string_view key, Variant tag);
+  bool isTextInside() const { return textSize_ <= room(); }
+  /// Bytes for a text at `text_`, at least a pointer.
+  std::size_t room() const { return units_ * BlockPool::unit - beforeText; }
   /// The text in memory of its own, to which `text_` holds a pointer.
   char* outside() const;
   void freeText() {
@@ -86,10 +94,13 @@ class StoredItem final : public SharedInThread {
   const SharedLook& shared() const { return look_ ? *look_ : blank; }
   SharedLook& own();
 
-  const std::uint8_t room_;  ///< bytes for a text at `text_`, at least a pointer
-  bool isChecked_ : 1 = false;
+  static constexpr std::size_t beforeText = 28;
+
+  const std::uint8_t units_ : 6;  ///< the size of its block
   bool isSelected_ : 1 = false;
   bool isTagEmptyText_ : 1 = false;  ///< of an item without labels; otherwise the tag is Empty
+  const std::uint8_t slot_ : 7;      ///< of its block
+  bool isChecked_ : 1 = false;
   Ref<SharedLook> look_;
   std::unique_ptr<Labels> labels_;
   std::uint32_t textSize_ = 0;

@@ -28,19 +28,6 @@ bool nvList::WrongIndex(const Variant& Index) const {
   return !(number >= 0 && number <= state_.Items.upperBound());
 }
 
-void nvList::ItemsAdd(Variant aText, Variant aIndex, Picture aIcon, Picture aIconSelected,
-                      Boolean aChecked, Variant aForeColor, Variant aBackColor, Boolean aAllowEdit,
-                      cItemAlignment aAlignment, Variant aForeColorSelected,
-                      Variant aBackColorSelected, Boolean aEnabled, Variant aTag,
-                      Variant aForeColorDis, Variant aBackColorDis, Boolean aBold, Boolean aItalic,
-                      Boolean aUnderline, Variant aKey) {
-  ItemsAdd(NewItem{std::move(aText), std::move(aIndex), std::move(aIcon), std::move(aIconSelected),
-                   aChecked, std::move(aForeColor), std::move(aBackColor), aAllowEdit, aAlignment,
-                   std::move(aForeColorSelected), std::move(aBackColorSelected), aEnabled,
-                   std::move(aTag), std::move(aForeColorDis), std::move(aBackColorDis), aBold,
-                   aItalic, aUnderline, std::move(aKey)});
-}
-
 void nvList::ItemsAdd(NewItem values) { addItem(std::move(values), std::nullopt); }
 
 void nvList::addItem(NewItem&& values, std::optional<std::string_view> text) {
@@ -97,22 +84,19 @@ void nvList::addItem(NewItem&& values, std::optional<std::string_view> text) {
   });
 }
 
-void nvList::writeFields(Trap& on, StoredItem& item, NewItem& values) {
+void nvList::writeFields(Trap& on, StoredItem& item, NewItem& values) const {
   item.Checked(values.aChecked);
   item.Selected(false);
-  // Collected first, so that the item can share its look with the one before it. If a colour cannot
-  // be converted, however, the fields before it must have been written.
-  const bool isReadable = isNumber(values.aForeColorDis) && isNumber(values.aBackColorDis);
-  ItemLook collected;
-  ItemLook* own = &collected;
-  if (!isReadable) on.step([&] { own = &item.ownLook(); });
-  ItemLook& look = *own;
-  look.Icon = std::move(values.aIcon);
-  look.IconSelected = std::move(values.aIconSelected);
-  look.ForeColor = std::move(values.aForeColor);
-  look.BackColor = std::move(values.aBackColor);
-  look.ForeColorSelect = std::move(values.aForeColorSelected);
-  look.BackColorSelect = std::move(values.aBackColorSelected);
+  // Collected first, so that the item can share its look with the one before it.
+  ItemLook look = {.ForeColor = std::move(values.aForeColor),
+                   .BackColor = std::move(values.aBackColor),
+                   .ForeColorSelect = std::move(values.aForeColorSelected),
+                   .BackColorSelect = std::move(values.aBackColorSelected),
+                   .Icon = std::move(values.aIcon),
+                   .IconSelected = std::move(values.aIconSelected)};
+  // If one of these cannot be converted, the fields before it must have been written.
+  if (!isNumber(values.aForeColorDis) || !isNumber(values.aBackColorDis))
+    on.step([&] { item.ownLook() = look; });
   on.step([&] { look.ForeColorDis = values.aForeColorDis.toInt32(); });
   on.step([&] { look.BackColorDis = values.aBackColorDis.toInt32(); });
   look.AllowEdit = values.aAllowEdit;
@@ -121,13 +105,13 @@ void nvList::writeFields(Trap& on, StoredItem& item, NewItem& values) {
   look.Bold = values.aBold;
   look.Italic = values.aItalic;
   look.Underline = values.aUnderline;
-  if (isReadable)
-    on.step([&] { state_.Items.setLook(item, state_.Items.upperBound(), collected); });
+  on.step([&] { state_.Items.setLook(item, state_.Items.upperBound(), look); });
+  if (values.aKey.isText()) {
+    on.step([&] { item.KeyAndTag(values.aKey.text(), std::move(values.aTag)); });
+    return;
+  }
   on.step([&] { item.Tag(std::move(values.aTag)); });
-  on.step([&] {
-    std::string converted;
-    item.Key(textOf(values.aKey, converted));
-  });
+  on.step([&] { item.Key(values.aKey.toText()); });
 }
 
 void nvList::ItemsAppend(ListItem added) {

@@ -87,7 +87,7 @@ void nvList::Row::paintText() {
 
   setFontFlags();
   std::size_t marker = std::string_view::npos;
-  on_.step([&] { marker = markerIn(text()); });
+  on_.step([&] { marker = markerIn(item().Text()); });
   if (marker != std::string_view::npos) {
     paintTwoColumns(rect, marker);
     return;

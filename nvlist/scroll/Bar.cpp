@@ -50,28 +50,28 @@ void Bar::assemble(Thumb& thumb, RepeatButton& nearButton, RepeatButton& farButt
 // ---- properties ----
 
 template <class Field>
-void Bar::assign(Trap& on, const char* name, Field ScrollState::*field, const Field& value) {
+void Bar::assign(Trap& on, std::string_view name, Field ScrollState::*field, const Field& value) {
   if (state_.*field != value) isPlaced_ = false;
   state_.*field = value;
   on.step([&] { container_.PropertyChanged(name); });
 }
 
 template <class Field>
-void Bar::assignOnly(const char* name, Field ScrollState::*field, const Field& value) {
-  trapped(kind_.module, name, [&](Trap& on) { assign(on, name, field, value); });
+void Bar::assignOnly(std::string_view name, Field ScrollState::*field, const Field& value) {
+  trapped(kind_.module, name.data(), [&](Trap& on) { assign(on, name, field, value); });
 }
 
 template <class Field>
-void Bar::assignAndRedraw(const char* name, Field ScrollState::*field, const Field& value) {
-  trapped(kind_.module, name, [&](Trap& on) {
+void Bar::assignAndRedraw(std::string_view name, Field ScrollState::*field, const Field& value) {
+  trapped(kind_.module, name.data(), [&](Trap& on) {
     assign(on, name, field, value);
     redrawIfNeeded(on);
   });
 }
 
-void Bar::assignRange(const char* name, std::int32_t ScrollState::*field, std::int32_t value,
+void Bar::assignRange(std::string_view name, std::int32_t ScrollState::*field, std::int32_t value,
                       bool isRefused, const char* refusal) {
-  trapped(kind_.module, name, [&](Trap& on) {
+  trapped(kind_.module, name.data(), [&](Trap& on) {
     if (isRefused) {
       on.step([&] { Program::inUse().MsgBox(refusal, criticalStop, boxTitle); });
       return;

@@ -120,12 +120,12 @@ class Bar : public UserControl, protected ThumbEvents, protected ButtonEvents {
   virtual void raiseScroll() = 0;
 
   template <class Field>
-  void assign(Trap& on, const char* name, Field ScrollState::*field, const Field& value);
+  void assign(Trap& on, std::string_view name, Field ScrollState::*field, const Field& value);
   template <class Field>
-  void assignOnly(const char* name, Field ScrollState::*field, const Field& value);
+  void assignOnly(std::string_view name, Field ScrollState::*field, const Field& value);
   template <class Field>
-  void assignAndRedraw(const char* name, Field ScrollState::*field, const Field& value);
-  void assignRange(const char* name, std::int32_t ScrollState::*field, std::int32_t value,
+  void assignAndRedraw(std::string_view name, Field ScrollState::*field, const Field& value);
+  void assignRange(std::string_view name, std::int32_t ScrollState::*field, std::int32_t value,
                    bool isRefused, const char* refusal);
   void redrawIfNeeded(Trap& on);
   void read(Trap& on, const PropertyBag& bag);

@@ -3,6 +3,9 @@
 #include <QRawFont>
 #include <QTextLayout>
 #include <algorithm>
+#include <bit>
+#include <cmath>
+#include <limits>
 #include <utility>
 
 namespace norvane {
@@ -16,8 +19,12 @@ constexpr qsizetype longestCached = 128;
 /// Enough for the rows of several windows.
 constexpr int cachedCharacters = 16384;
 
-constexpr int maximumIndex = 255;
-constexpr float notMeasured = -1e6F;
+constexpr unsigned char asciiEnd = 0x80;
+/// In the table of pairs, what is before the first character and after the last one.
+constexpr std::uint8_t nothing = asciiEnd;
+constexpr int firstIndex = nothing + 1;
+constexpr int lastIndex = 255;
+constexpr float notMeasured = std::numeric_limits<float>::quiet_NaN();
 
 constexpr qreal widerThanAnyPiece = 1 << 24;
 
@@ -118,7 +125,12 @@ QtFace::QtFace(const QFont& shown, QPaintDevice* device)
       tabStop(8 * std::max(qRound(metrics_.averageCharWidth()), 1)),
       underlineTop(std::max(qRound(metrics_.underlinePos()), 1)),
       underlineHeight(std::max(qRound(metrics_.lineWidth()), 1)),
-      glyphs_(cachedCharacters) {}
+      nextIndex_(firstIndex),
+      glyphs_(cachedCharacters) {
+  pairs_.emplace_back().fill(notMeasured);
+  rows_[nothing] = 1;
+  pairs_.emplace_back().fill(0);
+}
 
 qsizetype QtFace::pieceEnd(QStringView line, qsizetype from) {
   qsizetype end = std::min(from + pieceLength, line.size());
@@ -135,30 +147,60 @@ double QtFace::widthOf(QStringView text) {
 }
 
 std::optional<double> QtFace::widthWithoutLayout(std::string_view text) {
-  const auto known = knownSum(text);
-  return known ? known : provenSum(Utf8Reader(text));
+  auto width = asciiSum(text);
+  if (!width) width = knownSum(text);
+  return width ? width : provenSum(Utf8Reader(text));
 }
 
-/// The same sum as below for ASCII, as long as all its pairs have been measured: a list measures
-/// each text that is added.
-std::optional<double> QtFace::knownSum(std::string_view ascii) const {
-  const Page* const page = characters_[0].get();
-  if (!page || ascii.empty()) return {};
+/// The same sum as below for ASCII, if all its pairs have been measured: a list measures each text
+/// that is added.
+std::optional<double> QtFace::asciiSum(std::string_view text) const {
   double width = 0;
-  const Character* current = nullptr;
-  for (const char byte : ascii) {
+  unsigned all = 0;
+  std::uint8_t before = nothing;
+  for (const char byte : text) {
     const auto code = static_cast<unsigned char>(byte);
-    if (code >= 0x80) return {};
-    const Character& next = (*page)[code];
-    if (next.kind == Kind::unknown || next.kind == Kind::layout) return {};
-    if (current) {
-      const float added = pairs_[std::size_t{current->index} << 8 | next.index];
-      if (added == notMeasured) return {};
-      width += added;
-    }
-    current = &next;
+    all |= code;
+    width += pair(before, code);
+    before = code;
   }
-  return width + current->width;
+  if (all >= asciiEnd || text.empty()) return {};
+  width += pair(before, nothing);
+  return std::isnan(width) ? std::nullopt : std::optional(width);
+}
+
+/// The same for a text in one script.
+std::optional<double> QtFace::knownSum(std::string_view utf8) const {
+  double width = 0;
+  qsizetype length = 0;
+  unsigned kinds = 0;
+  unsigned beyondAscii = 0;
+  bool isKerned = false;
+  bool hasLongLigature = false;
+  char16_t before = 0;
+  Character current = {.index = nothing};
+  for (Utf8Reader text(utf8); !text.isAtEnd(); ++length) {
+    const char16_t code = text.next();
+    const Page* const page = characters_[code >> 8].get();
+    if (!page) return {};
+    const Character next = (*page)[code & 0xFF];
+    kinds |= bit(next.kind);
+    if (code >= asciiEnd) beyondAscii |= bit(next.kind);
+    hasLongLigature = hasLongLigature || (code == u'f' && before == u'f');
+    const bool isAlone = current.kind == Kind::wide || next.kind == Kind::wide;
+    const float added = isAlone ? current.width : pair(current.index, next.index);
+    isKerned = isKerned || added != current.width;
+    width += added;
+    current = next;
+    before = code;
+  }
+  const unsigned letters = kinds & ~bit(Kind::common);
+  if (length == 0 || std::popcount(letters) > 1) return {};
+  if ((letters & (bit(Kind::unknown) | bit(Kind::layout))) != 0) return {};
+  if ((beyondAscii & ~provenKinds_) != 0 || std::isnan(width)) return {};
+  if (beyondAscii != 0 && (hasLongLigature || length > pieceLength)) return {};
+  if (letters == bit(Kind::wide) && isKerned) return {};
+  return width + current.width;
 }
 
 double QtFace::laidOutWidth(QStringView text) const {
@@ -268,8 +310,10 @@ QtFace::Character& QtFace::character(char16_t code) {
   if (known.kind == Kind::common && !isSameInAllScripts(code, known.width)) {
     known.kind = Kind::layout;
   } else if (known.kind != Kind::wide) {
-    known.index = static_cast<std::uint8_t>(indexed_++);
-    pairs_.resize(pairs_.size() + maximumIndex + 1, notMeasured);
+    known.index = static_cast<std::uint8_t>(code < asciiEnd ? code : nextIndex_++);
+    rows_[known.index] = static_cast<std::uint8_t>(pairs_.size());
+    pairs_.emplace_back().fill(notMeasured);
+    pairs_.back()[nothing] = known.width;
   }
   return known;
 }
@@ -277,7 +321,8 @@ QtFace::Character& QtFace::character(char16_t code) {
 QtFace::Kind QtFace::kindOf(char16_t code) {
   const QChar character(code);
   if (!standsAlone(character)) return Kind::layout;
-  const auto indexed = [&](Kind kind) { return indexed_ <= maximumIndex ? kind : Kind::layout; };
+  const bool hasIndex = code < asciiEnd || nextIndex_ <= lastIndex;
+  const auto indexed = [&](Kind kind) { return hasIndex ? kind : Kind::layout; };
   switch (character.script()) {
     case QChar::Script_Common:
       return indexed(Kind::common);
@@ -310,8 +355,8 @@ bool QtFace::isSameInAllScripts(char16_t code, float width) const {
 
 float QtFace::pairWidth(const Character& first, char16_t code, const Character& second,
                         char16_t secondCode) {
-  float& known = pairs_[std::size_t{first.index} << 8 | second.index];
-  if (known == notMeasured) {
+  float& known = pairs_[rows_[first.index]][second.index];
+  if (std::isnan(known)) {
     const QChar pair[] = {QChar(code), QChar(secondCode)};
     known = static_cast<float>(metrics_.horizontalAdvance(QString(pair, 2))) - second.width;
   }

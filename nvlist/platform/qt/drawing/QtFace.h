@@ -63,7 +63,7 @@ class QtFace {
   };
   struct Character {
     Kind kind = Kind::unknown;
-    std::uint8_t index = 0;  ///< in the table of pairs
+    std::uint8_t index = 0;  ///< in the table of pairs; that of ASCII is the character
     float width = 0;
   };
   using Page = std::array<Character, 256>;
@@ -73,7 +73,11 @@ class QtFace {
     QRectF ink;
   };
 
-  std::optional<double> knownSum(std::string_view ascii) const;
+  /// What a character adds to a width before another one, by the indices of both. NaN if that has
+  /// not been measured.
+  float pair(std::uint8_t first, std::uint8_t second) const { return pairs_[rows_[first]][second]; }
+  std::optional<double> asciiSum(std::string_view text) const;
+  std::optional<double> knownSum(std::string_view utf8) const;
   template <class Reader>
   std::optional<double> sum(Reader text, unsigned& kinds);
   template <class Reader>
@@ -89,9 +93,11 @@ class QtFace {
 
   /// By the high and the low byte of the character.
   std::array<std::unique_ptr<Page>, 256> characters_;
-  int indexed_ = 0;
-  /// What a character adds to a width before another one, by the indices of both.
-  std::vector<float> pairs_;
+  /// The index of the next character beyond ASCII, of which each is its own.
+  int nextIndex_;
+  /// By index: the row of a first character in `pairs_`. 0: not measured.
+  std::array<std::uint8_t, 256> rows_ = {};
+  std::vector<std::array<float, 256>> pairs_;
   unsigned provenKinds_ = 0;
   unsigned refutedKinds_ = 0;
   Qt::LayoutDirection direction_ = Qt::LeftToRight;
