@@ -15,11 +15,11 @@ namespace norvane {
 /// colour of its own and takes the one that the style of the list gives. The two colours of the
 /// disabled state are always colours.
 struct ItemLook {
-  Boolean AllowEdit;                 ///< may be edited in place if the list's AllowEdit is set too
-  Boolean Enabled;                   ///< a disabled item cannot become the current one
-  Boolean Bold;                      ///< bold text
-  Boolean Italic;                    ///< italic text
-  Boolean Underline;                 ///< underlined text
+  Boolean AllowEdit = false;         ///< may be edited in place if the list's AllowEdit is set too
+  Boolean Enabled = false;           ///< a disabled item cannot become the current one
+  Boolean Bold = false;              ///< bold text
+  Boolean Italic = false;            ///< italic text
+  Boolean Underline = false;         ///< underlined text
   cItemAlignment Alignment = cLeft;  ///< where the text is placed in the row
   Colour ForeColorDis = 0;           ///< text colour while disabled
   Colour BackColorDis = 0;           ///< background colour while disabled
