@@ -35,7 +35,7 @@ TEST_F(Pictures, ComeBackFromAListFile) {
     SCOPED_TRACE(name);
     ASSERT_TRUE(picture);
     list().ItemsClear();
-    list().ItemsAdd({.aIcon = picture, .aIconSelected = picture});
+    list().ItemsAdd({.aText = "", .aIcon = picture, .aIconSelected = picture});
     list().ListSave(path, true);
     list().ListInput(path, true);
     ASSERT_TRUE(list().ItemsCount() == 1 && list().ItemIcon(0));
@@ -61,7 +61,7 @@ TEST_F(Pictures, KeepNoMorePixelsThanTheBudget) {
   EXPECT_FALSE(QtPicture::fromBytes(bytes));
   EXPECT_TRUE(imageOf(one).isNull());
   list().Style(cIcons);
-  list().ItemsAdd({.aIcon = one});
+  list().ItemsAdd({.aText = "", .aIcon = one});
   EXPECT_FALSE(widget->grab().isNull());
   QtPicture::pixelBudget(64'000'000);
 }

@@ -69,26 +69,36 @@ class QtSurfaceTest : public testing::Test {
   QtSurface surface;
 };
 
-TEST_F(QtSurfaceTest, boxesIncludeTheirEdgesAndLinesLeaveOutTheirLastPoint) {
-  EXPECT_EQ(line(LineMode::filledBox, 0, 0, 9, 9), QRect(0, 0, 10, 10));
-  EXPECT_EQ(surface.image().pixel(5, 5), redPixel);
-  EXPECT_EQ(line(LineMode::outlineBox, 20, 10, 3, 4), QRect(3, 4, 18, 7));
-  EXPECT_EQ(surface.image().pixel(19, 9), white);
-  EXPECT_EQ(surface.CurrentX(), 3);
-  EXPECT_EQ(surface.CurrentY(), 4);
-  EXPECT_EQ(line(LineMode::plainLine, 7, 3, 2, 3), QRect(3, 3, 5, 1));
-  EXPECT_EQ(line(LineMode::plainLine, 9, 1, 0, 10), QRect(1, 1, 9, 9));
-  EXPECT_EQ(surface.image().pixel(5, 5), redPixel);
-  EXPECT_TRUE(line(LineMode::plainLine, 5, 5, 5, 5).isEmpty());
+TEST_F(QtSurfaceTest, linesAndBoxesCoverTheirPixels) {
+  using enum LineMode;
+  const QRect none, ten(0, 0, 10, 10);
+  const struct {
+    const char* name;
+    LineMode mode;
+    float x1, y1, x2, y2;
+    QRect ink;
+    QPoint red, white;
+  } cases[] = {
+      {"a box includes its edges", filledBox, 0, 0, 9, 9, ten, {5, 5}, {10, 10}},
+      {"an outline", outlineBox, 20, 10, 3, 4, {3, 4, 18, 7}, {20, 10}, {19, 9}},
+      {"a line leaves out its last point", plainLine, 7, 3, 2, 3, {3, 3, 5, 1}, {7, 3}, {2, 3}},
+      {"a diagonal", plainLine, 9, 1, 0, 10, {1, 1, 9, 9}, {5, 5}, {0, 10}},
+      {"a line without length", plainLine, 5, 5, 5, 5, none, {}, {5, 5}},
+      {"halves", filledBox, 0.5F, 1.5F, 2.5F, 3.5F, {0, 2, 3, 3}, {0, 2}, {0, 1}},
+      {"out of all bounds", filledBox, -1e30F, 100, 1e30F, 1e30F, {0, 100, 400, 20}, {0, 100}, {}},
+      {"an outline outside", outlineBox, -1, -1, 400, 120, none, {}, {0, 0}},
+      {"a long line", plainLine, -1e9F, -1e9F, 1e9F, 1e9F, {0, 0, 120, 120}, {9, 9}, {9, 8}}};
+  for (const auto& test : cases) {
+    SCOPED_TRACE(test.name);
+    EXPECT_EQ(line(test.mode, test.x1, test.y1, test.x2, test.y2), test.ink);
+    if (!test.ink.isEmpty()) EXPECT_EQ(surface.image().pixel(test.red), redPixel);
+    EXPECT_EQ(surface.image().pixel(test.white), white);
+  }
+  line(outlineBox, 20, 10, 3, 4);
+  EXPECT_EQ(QPointF(surface.CurrentX(), surface.CurrentY()), QPointF(3, 4));
+  surface.Cls();
   surface.PSet(7, 3, red);
   EXPECT_EQ(ink(surface.image()), QRect(7, 3, 1, 1));
-}
-
-TEST_F(QtSurfaceTest, coordinatesAreRoundedAndClipped) {
-  EXPECT_EQ(line(LineMode::filledBox, 0.5F, 1.5F, 2.5F, 3.5F), QRect(QPoint(0, 2), QPoint(2, 4)));
-  EXPECT_EQ(line(LineMode::filledBox, -1e30F, 100, 1e30F, 1e30F), QRect(0, 100, 400, 20));
-  EXPECT_EQ(line(LineMode::outlineBox, -1, -1, 400, 120), QRect());
-  EXPECT_EQ(line(LineMode::plainLine, -1e9F, -1e9F, 1e9F, 1e9F), QRect(0, 0, 120, 120));
 }
 
 TEST_F(QtSurfaceTest, edgesStaySharpAtEveryRatio) {
@@ -293,62 +303,50 @@ TEST_F(QtSurfaceTest, bitmapsAreStretchedFromTheBottomUp) {
   EXPECT_THROW(spots({0, 0, 9, 9}, {2, 2, std::vector<std::uint8_t>(15)}), Failure);
 }
 
-TEST_F(QtSurfaceTest, handedOutImagesStayAndChangesAreReported) {
-  const QImage before = surface.image();
-  int told = 0;
-  surface.onDrawn = [&] { ++told; };
-  surface.Line(LineMode::filledBox, 0, 0, 9, 9, red);
-  draw("n", {0, 0, 50, 50});
-  EXPECT_EQ(told, 1);
-  EXPECT_TRUE(ink(before).isEmpty());
-  EXPECT_FALSE(ink(surface.image()).isEmpty());
-  surface.Cls();
-  EXPECT_EQ(told, 2);
-}
-
 TEST_F(QtSurfaceTest, whatLooksTheSameIsNotDrawnAgain) {
-  const auto draw = [&](int rows) {
+  const auto drawRows = [&](int rows) {
     surface.Cls();
     surface.FontBold(true);
-    for (int i = 0; i < rows; ++i) this->draw("n", {0, 20 * i, 50, 120});
+    for (int i = 0; i < rows; ++i) draw("n", {0, 20 * i, 50, 120});
     surface.FontBold(false);
   };
-  const auto change = [&](const char* what, bool isChange, const std::function<void()>& work) {
-    draw(2);
-    surface.image();
-    draw(2);
+  const std::pair<const char*, std::function<void()>> changes[] = {
+      {"fewer calls", [&] { drawRows(1); }},
+      {"another call", [&] { surface.PSet(0, 0, red); }},
+      {"more calls before the same ones",
+       [&] {
+         surface.PSet(0, 0, red);
+         surface.image();
+         drawRows(2);
+       }},
+      {"another background",
+       [&] {
+         surface.BackColor(red);
+         drawRows(2);
+         surface.BackColor(0xFFFFFF);
+       }},
+      {"another palette",
+       [&] {
+         surface.setPalette(QPalette(Qt::red));
+         drawRows(2);
+       }},
+      {"another size",
+       [&] {
+         surface.resize({200, 120}, 1);
+       }},
+      {"a size without area", [&] {
+         surface.resize({0, 50}, 0), drawRows(2);
+       }}};
+  for (const auto& [what, change] : changes) {
+    drawRows(2);
+    const QImage before = surface.image(), copy = before.copy();
+    drawRows(2);
     EXPECT_FALSE(surface.isChanged()) << what;
-    work();
-    EXPECT_EQ(surface.isChanged(), isChange) << what;
+    change();
+    EXPECT_TRUE(surface.isChanged()) << what;
     surface.image();
-  };
-  change("nothing", false, [] {});
-  change("the same", false, [&] { draw(2); });
-  change("fewer calls", true, [&] { draw(1); });
-  change("another call", true, [&] { surface.PSet(0, 0, red); });
-  change("more calls before the same ones", true, [&] {
-    surface.PSet(0, 0, red);
-    surface.image();
-    draw(2);
-  });
-  change("another background", true, [&] {
-    surface.BackColor(red);
-    draw(2);
-    surface.BackColor(0xFFFFFF);
-  });
-  change("another palette", true, [&] {
-    surface.setPalette(QPalette(Qt::red));
-    draw(2);
-  });
-  change("another size", true, [&] { surface.resize({200, 120}, 1); });
-}
-
-TEST_F(QtSurfaceTest, anImageWithoutAreaIsNoTrouble) {
-  surface.resize({0, 50}, 0);
-  surface.Line(LineMode::plainLine, 0, 0, 9, 7, red);
-  draw("n", {0, 0, 50, 50});
-  surface.DrawFocusRect(surface.hDC(), {0, 0, 5, 5});
-  EXPECT_TRUE(ink(surface.image()).isEmpty());
+    EXPECT_EQ(before, copy) << "the image that was handed out has changed: " << what;
+  }
 }
 
 }  // namespace

@@ -1,221 +1,14 @@
 // What users and hosts do to a list widget, as scripts.
 
 #include "../Scenario.h"
-
-#include <QAccessible>
-#include <QClipboard>
-#include <QContextMenuEvent>
-#include <QDrag>
-#include <QDropEvent>
-#include <QHelpEvent>
-#include <QInputMethodEvent>
-#include <QMimeData>
-#include <QScroller>
-#include <QToolTip>
-#include <sstream>
-
-#include <nvlist/core/storedProperties.h>
-#include <nvlist/platform/qt/NvListDrop.h>
-#include <nvlist/platform/qt/NvListKeys.h>
-
-#include "WidgetTest.h"
+#include "WidgetScript.h"
 
 namespace norvane {
 namespace {
 
-class WidgetScript : public WidgetTest, public testing::WithParamInterface<Scenario> {
+class WidgetScenario : public WidgetScript, public testing::WithParamInterface<Scenario> {
  protected:
-  ~WidgetScript() override { QToolTip::hideText(); }
-
-  /// Runs the commands of the scenario, separated by semicolons, and compares their outputs. Rows
-  /// are those of the window; an output without text is "-". The name of a stored property sets
-  /// that property to a number. Keys and texts go to the widget with the focus.
-  void check() {
-    std::istringstream commands(GetParam().script);
-    std::string outputs;
-    for (std::string command; std::getline(commands, command, ';');) {
-      std::istringstream words(command);
-      std::string verb, rest;
-      std::getline(words >> verb >> std::ws, rest);
-      int first = 0, second = 60;
-      std::istringstream(rest) >> first >> second;
-      const std::string output = perform(verb, rest, first, second);
-      if (output != nothing) outputs += (outputs.empty() ? "" : " / ") + output;
-    }
-    EXPECT_EQ(outputs, GetParam().expected);
-  }
-
- private:
-  static constexpr const char* nothing = "nothing";
-
-  std::string perform(const std::string& verb, const std::string& text, int a, int b) {
-    QWidget* const focused = QApplication::focusWidget();
-    // clang-format off
-    // The host.
-    if (verb == "fill") fill(a);
-    else if (verb == "add") add(text);
-    else if (verb == "clear") list().ItemsClear();
-    else if (verb == "disable") list().ItemEnabled(a, false);
-    else if (verb == "select") list().ListIndex(a);
-    else if (verb == "scroll") list().TopIndex(a);
-    else if (verb == "edit") list().SetEdit(a);
-    else if (verb == "fit") list().CheckScroll();
-    else if (verb == "fineWheel") widget->setPassesFineWheel(a != 0);
-    else if (verb == "remove") list().ItemsRemove(a);
-    else if (verb == "check") list().ItemChecked(a, b != 0);
-    else if (verb == "load") list().ListInput(text);
-    else if (verb == "deselect") widget->clearSelection();
-    else if (verb == "scrollTo") widget->scrollTo(a);
-    else if (verb == "typingInterval") widget->findChild<NvListKeys*>()->setTypingInterval(a);
-    else if (verb == "refuseChecks") refusesChecks = true;
-    else if (verb == "swallowKeys") swallowsKeys = true;
-    else if (verb == "mirror") mirror();
-    else if (verb == "resize") widget->resize(a, b), QCoreApplication::processEvents();
-    else if (verb == "keys") new NvListKeys(*widget);
-    else if (verb == "noKeys") delete widget->findChild<NvListKeys*>();
-    else if (verb == "tips") widget->setShowsCutTexts(a != 0);
-    else if (verb == "toolTip") widget->setToolTip(QString::fromStdString(text));
-    else if (verb == "drops") allowDrops();
-    else if (const auto* property = storedProperty(verb)) property->set(list(), a);
-    // The user.
-    else if (verb == "click") click(a, {}, b);
-    else if (verb == "shiftClick") click(a, Qt::ShiftModifier);
-    else if (verb == "ctrlClick") click(a, Qt::ControlModifier);
-    else if (verb == "double") doubleClick(a);
-    else if (verb == "press") press(row(a));
-    else if (verb == "drag") drag(row(a));
-    else if (verb == "release") release(row(a, b));
-    else if (verb == "button") QTest::mouseClick(widget, Qt::MouseButton(a), {}, row(8));
-    else if (verb == "wheel") turn({0, a});
-    else if (verb == "sideways") turn({a, 0});
-    else if (verb == "touch") QScroller::scroller(widget)->scrollTo(QPointF(a, b), 0);
-    else if (verb == "hold") return hold(a);
-    else if (verb == "drop") hold(a), sendText<QDropEvent>(a);
-    else if (verb == "dragOff") {
-      QDragLeaveEvent off;
-      QCoreApplication::sendEvent(widget, &off);
-    } else if (verb == "dragOut") return dragOut(a, b);
-    else if (verb == "type") QTest::keyClicks(focused, QString::fromStdString(text));
-    else if (verb == "key") {
-      const QKeyCombination keys = QKeySequence(QString::fromStdString(text))[0];
-      QTest::keyClick(focused, keys.key(), keys.keyboardModifiers());
-    } else if (verb == "repeat") {
-      QKeyEvent again(QEvent::KeyRelease, Qt::Key_A, {}, "a", true);
-      QCoreApplication::sendEvent(focused, &again);
-    } else if (verb == "compose") {
-      QInputMethodEvent composed;
-      composed.setCommitString(QString::fromStdString(text));
-      QCoreApplication::sendEvent(focused, &composed);
-    } else if (verb == "menu") menu(QContextMenuEvent::Mouse, row(a));
-    else if (verb == "menuKey") menu(QContextMenuEvent::Keyboard, {});
-    else if (verb == "leave") lineAfter.setFocus();
-    else if (verb == "enter") widget->setFocus();
-    else if (verb == "popUp") {
-      QFocusEvent menu(QEvent::FocusOut, Qt::PopupFocusReason);
-      QCoreApplication::sendEvent(focused, &menu);
-    }
-    // Outputs. Places are those of the layout from left to right.
-    else if (verb == "forget") heard();
-    else if (verb == "heard") return shown(heard());
-    else if (verb == "state") return state();
-    else if (verb == "top") return std::to_string(list().TopIndex());
-    else if (verb == "left") return std::to_string(list().horizontalBar().Value());
-    else if (verb == "text") return list().ItemText(a);
-    else if (verb == "texts") return texts();
-    else if (verb == "checked") return list().ItemChecked(a) ? "yes" : "no";
-    else if (verb == "clipboard") return QApplication::clipboard()->text().toStdString();
-    else if (verb == "editing")
-      return edit().isVisible() ? shown(edit().text().toStdString()) : "closed";
-    else if (verb == "hasFocus") return list().state().HasFocus ? "yes" : "no";
-    else if (verb == "rect") return shown(widget->itemRect(a));
-    else if (verb == "readable") return readable(a);
-    else if (verb == "at") return std::to_string(widget->indexAt(mirrored(QPoint(a, b))));
-    else if (verb == "box") {
-      EXPECT_EQ(edit().alignment().testFlag(Qt::AlignAbsolute), widget->place().isMirrored());
-      return shown(edit().geometry());
-    }
-    else if (verb == "mark") return mark->isVisible() ? shown(mark->geometry()) : "-";
-    else if (verb == "tip") return shown(tipAt(a));
-    else if (verb == "pressed") return widget->place().mouse().pressed() ? "yes" : "no";
-    else if (verb == "focus")
-      return focused == widget ? "list" : focused == &edit() ? "edit" : "other";
-    else ADD_FAILURE() << "no verb " << verb;
-    // clang-format on
-    return nothing;
-  }
-  void menu(QContextMenuEvent::Reason reason, QPoint at) {
-    QContextMenuEvent event(reason, at, widget->mapToGlobal(at));
-    QApplication::sendEvent(widget, &event);
-    EXPECT_TRUE(event.isAccepted());
-  }
-
-  void allowDrops() {
-    auto* const drop = new NvListDrop(*widget);
-    drop->setDragsRows(true);
-    mark = widget->findChildren<QWidget*>(Qt::FindDirectChildrenOnly).last();
-    QObject::connect(drop, &NvListDrop::dropped, [this](const QMimeData* data, int index) {
-      hear("dropped", data->text(), index);
-    });
-  }
-  template <class Event>
-  bool sendText(int y) {
-    QMimeData text;
-    text.setText("text");
-    Event event(mirrored(QPoint(60, y)), Qt::CopyAction | Qt::MoveAction, &text, Qt::LeftButton,
-                Qt::NoModifier);
-    event.ignore();
-    QCoreApplication::sendEvent(widget, &event);
-    return event.isAccepted();
-  }
-  /// Holds a text over the list. Returns where the mark is.
-  std::string hold(int y) {
-    EXPECT_TRUE(sendText<QDragEnterEvent>(y) && sendText<QDragMoveEvent>(y));
-    return shown(mark->geometry());
-  }
-  /// The text that is dragged out by a press on a row and a move to another.
-  std::string dragOut(int from, int to) {
-    QString dragged;
-    // The drag deletes itself later.
-    const auto look = [&] {
-      if (const auto* const data = widget->findChild<QDrag*>()) dragged = data->mimeData()->text();
-    };
-    QTimer::singleShot(0, widget, [&] {
-      look();
-      QDrag::cancel();
-    });
-    press(row(from)), drag(row(to));
-    if (dragged.isEmpty()) look();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    return dragged.replace('\n', '+').toStdString();
-  }
-
-  std::string tipAt(int index) {
-    const QPoint at = mirrored(row(index));
-    // A hidden tip keeps its text for a while.
-    QToolTip::showText(widget->mapToGlobal(at), "none", widget);
-    QHelpEvent help(QEvent::ToolTip, at, widget->mapToGlobal(at));
-    QCoreApplication::sendEvent(widget, &help);
-    const QString tip = QToolTip::text().remove("none");
-    return tip.isEmpty() ? "" : tip.split("pre-wrap'>").last().remove("</p>").toStdString();
-  }
-  std::string readable(int child) {
-    const QRect onScreen = QAccessible::queryAccessibleInterface(widget)->child(child)->rect();
-    return shown(QRect(widget->mapFromGlobal(onScreen.topLeft()), onScreen.size()));
-  }
-  std::string shown(const QRect& area) {
-    if (area.isEmpty()) return "none";
-    const QRect plain = mirrored(area);
-    return std::to_string(plain.x()) + " " + std::to_string(plain.y()) + " " +
-           std::to_string(plain.width()) + "x" + std::to_string(plain.height());
-  }
-  static std::string shown(const std::string& text) { return text.empty() ? "-" : text; }
-  std::string texts() {
-    std::string result;
-    for (int i = 0; i < list().ItemsCount(); ++i) result += (i ? " " : "") + list().ItemText(i);
-    return result;
-  }
-
-  QPointer<QWidget> mark;
+  void check() { EXPECT_EQ(run(GetParam().script), GetParam().expected); }
 };
 
 // clang-format off
@@ -251,6 +44,12 @@ const Scenario ofAList[] = {
    "fill 40; wheel -30; wheel -30; wheel -30; top; wheel -30; top; wheel -110; wheel 20; top;"
    "wheel -240; top; fineWheel 1; wheel -120; wheel 0; top; wheel 30; top",
    "0 / 1 / 1 / 2 / 3 / 28"},
+  {"the edit box composes and undoes",
+   "AllowEdit 1; fill 3; edit 2; editing; compose 你好; editing; key Ctrl+Z; editing", "2 / 你好 / 2"},
+  {"a handler empties the list during a drag of the thumb",
+   "fill 40; on Scroll clear; pressAt 190 25; dragTo 190 60; heard; dragTo 190 70;"
+   "releaseAt 190 70; add new; texts", "Scroll / new"},
+  {"a drag scrolls by a real timer", "fill 40; AllowItemMoving 1; press 1; dragTo 60 230; reach 28", ""},
   {"a disabled list has no wheel", "fill 40; scroll 5; Enabled 0; wheel -120; top", "6"},
   {"a sideways wheel moves the horizontal bar",
    "fill 40; add mmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmm; sideways -120; left;"
@@ -287,6 +86,12 @@ const Scenario ofItsPlaces[] = {
   {"a text is dropped between rows",
    "fill 3; drops; hold 24; mark; dragOff; mark; drop 24; drop 90; drop 1; heard; mark",
    "1 19 198x2 / 1 19 198x2 / - / dropped text 1, dropped text 3, dropped text 0 / -"},
+  {"files and texts alone are taken, while the list is enabled",
+   "fill 3; drops; holdColour 24; enable 0; hold 24", "refused / refused"},
+  {"the list scrolls while something is held at an edge",
+   "fill 40; drops; hold 195; hold 100; rest; hold 195; dragOff; rest; top; hold 195; reach 28;"
+   "hold 3; reach 0",
+   "1 195 181x2 / 1 99 181x2 / 1 195 181x2 / 0 / 1 195 181x2 / 1 3 181x2"},
   {"rows are dragged out as text",
    "MultiSelect 1; fill 5; drops; select 1; shiftClick 2; click 1; state; shiftClick 2;"
    "dragOut 1 4; state; pressed; dragOut 4 1; state; pressed",
@@ -299,6 +104,12 @@ const Scenario ofItsSignals[] = {
    "remove 7; heard",
    "current 3, selection / - / - / current 4, selection / current 6, selection / "
    "current 7, selection / selection / - / selection / selection / -"},
+  {"a slot may prevent a check",
+   "preventChecks 1; click 3 9; heard; preventChecks 0; click 3 9; heard",
+   "current 3, selection / checked 3 1"},
+  {"they wait for the end of the event",
+   "press 2; forget; hearEvents; on MouseUp select 18+select 19+scroll 3; release 2; heard",
+   "MouseUp 1, Click, current 19, selection, scrolled"},
   {"only the user's checks", "select 4; shiftClick 6; forget; click 6 9; heard; check 6 0; heard",
    "selection, checked 6 1 / -"},
   {"scrolling that moves something",
@@ -366,25 +177,25 @@ const Scenario withKeys[] = {
 };
 // clang-format on
 
-class OfAList : public WidgetScript {
+class OfAList : public WidgetScenario {
  protected:
   OfAList() { hearEvents(); }
 };
 TEST_P(OfAList, GivesItsOutputs) { check(); }
 INSTANTIATE_TEST_SUITE_P(Widget, OfAList, testing::ValuesIn(ofAList), nameOf);
 
-class OfItsPlaces : public WidgetScript {};
+class OfItsPlaces : public WidgetScenario {};
 TEST_P(OfItsPlaces, GivesItsOutputs) { check(); }
 INSTANTIATE_TEST_SUITE_P(Widget, OfItsPlaces, testing::ValuesIn(ofItsPlaces), nameOf);
 
-class OfItsMirroredPlaces : public WidgetScript {
+class OfItsMirroredPlaces : public WidgetScenario {
  protected:
   OfItsMirroredPlaces() { mirror(); }
 };
 TEST_P(OfItsMirroredPlaces, GivesItsOutputs) { check(); }
 INSTANTIATE_TEST_SUITE_P(Widget, OfItsMirroredPlaces, testing::ValuesIn(ofItsPlaces), nameOf);
 
-class OfItsSignals : public WidgetScript {
+class OfItsSignals : public WidgetScenario {
  protected:
   OfItsSignals() {
     list().Style(cCheckBoxes);
@@ -396,11 +207,11 @@ class OfItsSignals : public WidgetScript {
 TEST_P(OfItsSignals, GivesItsOutputs) { check(); }
 INSTANTIATE_TEST_SUITE_P(Widget, OfItsSignals, testing::ValuesIn(ofItsSignals), nameOf);
 
-class WithKeys : public WidgetScript {
+class WithKeys : public WidgetScenario {
  protected:
   WithKeys() {
     list().Style(cCheckBoxes);
-    new NvListKeys(*widget);
+    run("keys");
     hearEvents();
   }
 };

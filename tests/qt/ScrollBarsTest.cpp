@@ -141,15 +141,6 @@ TEST_F(ScrollBarsTest, AHeldButtonPausesOutsideAndEndsWithTheReleaseThere) {
   expectNoScroll();
 }
 
-TEST_F(ScrollBarsTest, AHandlerMayEmptyTheListDuringADrag) {
-  onScroll = [&] { list().ItemsClear(); };
-  press(childOf(vertical, thumb), {8, 3});
-  moveTo(vertical, {8, 60});
-  EXPECT_FALSE(vertical.isShown());
-  moveTo(vertical, {8, 70});
-  release();
-}
-
 TEST_F(ScrollBarsTest, BarsAndFrameFollowTheSizePixelByPixel) {
   widget->resize(201, 81);
   EXPECT_EQ(vertical.geometry(), QRect(183, 1, 17, 62));

@@ -15,31 +15,6 @@ class Signals : public WidgetTest {
   }
 };
 
-TEST_F(Signals, MayPreventACheck) {
-  bool isPrevented = true;
-  QObject::connect(widget, &NvListWidget::itemAboutToBeChecked,
-                   [&](int, bool& cancel) { cancel = isPrevented; });
-  click(3, {}, 9);
-  EXPECT_EQ(heard(), "current 3, selection");
-  isPrevented = false;
-  click(3, {}, 9);
-  EXPECT_EQ(heard(), "checked 3 1");
-}
-
-/// Several changes in one call, or in a handler that it calls, are one change.
-TEST_F(Signals, WaitForTheEndOfTheCall) {
-  press(row(2));
-  hearEvents();
-  heard();
-  onEvent = [&](const std::string& name) {
-    if (name != "MouseUp") return;
-    list().ListIndex(18);
-    list().ListIndex(19);
-  };
-  release(row(2));
-  EXPECT_EQ(heard(), "MouseUp 1, Click, current 19, selection, scrolled");
-}
-
 /// Not even at a widget that has the place of the first one in memory.
 TEST_F(Signals, EndWithTheWidget) {
   alignas(NvListWidget) std::byte place[sizeof(NvListWidget)];

@@ -1,8 +1,10 @@
 #include "WidgetTest.h"
 
 #include <QElapsedTimer>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QToolTip>
 
 #include <nvlist/objects/QI.h>
 #include <nvlist/objects/nvToolTip.h>
@@ -111,6 +113,19 @@ TEST_F(ToolTips, GoWithAPressAlsoOnAChildThatHandlesIt) {
   expect("list");
   QTest::mouseClick(button, Qt::LeftButton);
   EXPECT_EQ(shown(), "-");
+}
+
+/// The widget's own tip of a cut text does not appear beside one of the host's.
+TEST_F(ToolTips, ReplaceThoseOfCutTexts) {
+  add(std::string(60, 'w'));
+  QHelpEvent help(QEvent::ToolTip, row(0), widget->mapToGlobal(row(0)));
+  give(*widget, "list");
+  QCoreApplication::sendEvent(widget, &help);
+  EXPECT_EQ(QToolTip::text(), "");
+  tips.RemoveTool(QtWindow::of(*widget));
+  QCoreApplication::sendEvent(widget, &help);
+  EXPECT_NE(QToolTip::text(), "");
+  QToolTip::hideText();
 }
 
 TEST_F(ToolTips, MoveOnToTheNextControlSooner) {

@@ -132,6 +132,8 @@ class WidgetTest : public testing::Test, public __nvList {
     on(&NvListWidget::contextMenuRequested, "menu");
     on(&NvListWidget::wrongIndex, "wrong");
     on(&NvListWidget::inputFailed, "inputFailed");
+    QObject::connect(widget, &NvListWidget::itemAboutToBeChecked,
+                     [this](int, bool& cancel) { cancel = preventsChecks; });
   }
 
   template <class... Values>
@@ -171,6 +173,7 @@ class WidgetTest : public testing::Test, public __nvList {
   QPointer<NvListWidget> widget;
   QLineEdit lineAfter;
   bool refusesChecks = false;
+  bool preventsChecks = false;
   bool swallowsKeys = false;
   /// What the host does in an event or signal.
   std::function<void(const std::string& name)> onEvent = [](const std::string&) {};
