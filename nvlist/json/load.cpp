@@ -57,6 +57,7 @@ class Loader {
   Report report_;
   std::int64_t announced_ = 0;  ///< number of items by the header
   std::uint64_t done_ = 0;      ///< bytes that `progress` was last called with
+  const ListItem blank_ = newItem();
   std::size_t nextField_ = 0;
 };
 
@@ -174,7 +175,8 @@ void Loader::readProperties(const Element& value, PropertyBag& bag) {
 }
 
 void Loader::readItem(const dom::object& object) {
-  ListItem item = newItem();
+  ListItem item = blank_;
+  nextField_ = 0;
   for (const dom::key_value_pair pair : object) {
     const ItemField* const field = fieldNamed(pair.key);
     if (!field && pair.key == format::marker) {
@@ -197,11 +199,13 @@ void Loader::readItem(const dom::object& object) {
   ++report_.result.items;
 }
 
-/// Items mostly have their fields in the same order, so the search begins after the last field.
+/// Most lines have their fields in the order of the table, so the search begins after the field
+/// that was found last.
 const ItemField* Loader::fieldNamed(std::string_view name) {
   const auto fields = itemFields();
-  for (std::size_t i = 0; i < fields.size(); ++i) {
-    const std::size_t at = (nextField_ + i) % fields.size();
+  std::size_t at = nextField_;
+  for (std::size_t left = fields.size(); left > 0; --left, ++at) {
+    if (at == fields.size()) at = 0;
     if (fields[at].name != name) continue;
     nextField_ = at + 1;
     return &fields[at];

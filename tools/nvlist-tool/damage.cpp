@@ -29,19 +29,32 @@ class Walker {
   void pass(std::int64_t count) {
     // A negative count becomes a huge unsigned one.
     if (static_cast<std::uint64_t>(count) > left()) throw norvane::Failure::pastEndOfFile();
-    for (; count > 0; --count) next();
+    for (auto rest = static_cast<std::size_t>(count); rest > 0;) {
+      requireByte();
+      const std::size_t part = std::min(rest, end_ - begin_);
+      take(part);
+      rest -= part;
+    }
   }
   void passText() { pass(number<std::int32_t>()); }
 
  private:
   char next() {
-    if (begin_ == end_) {
-      begin_ = 0;
-      end_ = file_.read(block_.data(), block_.size());
-      if (end_ == 0) throw norvane::Failure::pastEndOfFile();
-    }
-    ++at_;
-    return block_[begin_++];
+    requireByte();
+    const char byte = block_[begin_];
+    take(1);
+    return byte;
+  }
+  void take(std::size_t count) {
+    begin_ += count;
+    at_ += count;
+  }
+  /// Reads another block if this one is used up.
+  void requireByte() {
+    if (begin_ < end_) return;
+    begin_ = 0;
+    end_ = file_.read(block_.data(), block_.size());
+    if (end_ == 0) throw norvane::Failure::pastEndOfFile();
   }
 
   norvane::File& file_;

@@ -1,5 +1,6 @@
 #include "files.h"
 
+#include <algorithm>
 #include <memory>
 
 #include <nvlist/files/ByteReader.h>
@@ -125,16 +126,17 @@ void requireNew(const std::string& path, bool mayReplace) {
 /// Returns what is lost.
 std::vector<std::string> prepareForListFile(nvList& list) {
   std::int64_t texts = 0, pictures = 0;
-  const auto isKept = [](const std::string& text) {
-    std::string bytes;
+  std::string bytes;
+  const auto isKept = [&](std::string_view text) {
+    const auto isAscii = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
+    if (std::ranges::all_of(text, isAscii)) return true;
+    bytes.clear();
     norvane::windows1252::append(bytes, text);
     return norvane::windows1252::textOf(bytes) == text;
   };
   for (std::int32_t i = 0; i < list.ItemsCount(); ++i) {
     const norvane::ListItem item = list.state().Items.at(i);
-    if (!isKept(item.Text) || !isKept(item.Key) ||
-        (item.Tag.isText() && !isKept(item.Tag.toText())))
-      ++texts;
+    if (!isKept(item.Text) || !isKept(item.Key) || !isKept(item.Tag.text())) ++texts;
     if (item.Icon && !item.IconSelected)
       list.ItemIconSelected(i, item.Icon);
     else if (item.Icon && item.Icon != item.IconSelected)
