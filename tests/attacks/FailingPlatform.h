@@ -9,28 +9,13 @@
 #include <nvlist/platform/headless/HeadlessApplication.h>
 
 #include "../files/MemoryFiles.h"
+#include "Life.h"
 
 namespace norvane::attacks {
 
-/// Counts the calls of the platform; the `first` one fails, with `onward` all after it too. 0:
-/// none.
-struct Trouble {
-  long calls = 0;
-  long first = 0;
-  bool onward = false;
-
-  void operator()() {
-    ++calls;
-    if (first == 0 || calls < first || (calls > first && !onward)) return;
-    if (first % 3 == 0) throw Failure(57, "Device I/O error");
-    if (first % 3 == 1) throw std::runtime_error("the platform failed");
-    throw first;
-  }
-};
-
 class FailingSurface final : public Surface {
  public:
-  FailingSurface(Surface& inner, Trouble& trouble) : to_(inner), on_(trouble) {}
+  FailingSurface(Surface& inner, CallOut& out) : to_(inner), on_(out) {}
 
   void Cls() override { on_(), to_.Cls(); }
   void Line(LineMode mode, float x1, float y1, float x2, float y2, Colour colour) override {
@@ -72,13 +57,12 @@ class FailingSurface final : public Surface {
 
  private:
   Surface& to_;
-  Trouble& on_;
+  CallOut& on_;
 };
 
 class FailingTextBox final : public TextBox {
  public:
-  FailingTextBox(std::unique_ptr<TextBox> inner, Trouble& trouble)
-      : to_(std::move(inner)), on_(trouble) {}
+  FailingTextBox(std::unique_ptr<TextBox> inner, CallOut& out) : to_(std::move(inner)), on_(out) {}
 
   void Font(const norvane::Font& font) override { on_(), to_->Font(font); }
   void ForeColor(Colour colour) override { on_(), to_->ForeColor(colour); }
@@ -95,13 +79,12 @@ class FailingTextBox final : public TextBox {
 
  private:
   std::unique_ptr<TextBox> to_;
-  Trouble& on_;
+  CallOut& on_;
 };
 
 class FailingTimer final : public Timer {
  public:
-  FailingTimer(std::unique_ptr<Timer> inner, Trouble& trouble)
-      : to_(std::move(inner)), on_(trouble) {}
+  FailingTimer(std::unique_ptr<Timer> inner, CallOut& out) : to_(std::move(inner)), on_(out) {}
 
   std::int32_t Interval() const override { return on_(), to_->Interval(); }
   void Interval(std::int32_t milliseconds) override { on_(), to_->Interval(milliseconds); }
@@ -110,15 +93,14 @@ class FailingTimer final : public Timer {
 
  private:
   std::unique_ptr<Timer> to_;
-  Trouble& on_;
+  CallOut& on_;
 };
 
 class FailingContainer final : public Container {
  public:
-  FailingContainer(Container& inner, Trouble& trouble)
-      : to_(inner), on_(trouble), surface_(inner.surface(), trouble) {}
-  FailingContainer(std::unique_ptr<Container> inner, Trouble& trouble)
-      : FailingContainer(*inner, trouble) {
+  FailingContainer(Container& inner, CallOut& out)
+      : to_(inner), on_(out), surface_(inner.surface(), out) {}
+  FailingContainer(std::unique_ptr<Container> inner, CallOut& out) : FailingContainer(*inner, out) {
     own_ = std::move(inner);
   }
 
@@ -159,13 +141,13 @@ class FailingContainer final : public Container {
  private:
   std::unique_ptr<Container> own_;
   Container& to_;
-  Trouble& on_;
+  CallOut& on_;
   FailingSurface surface_;
 };
 
 class FailingProgram final : public HeadlessApplication {
  public:
-  explicit FailingProgram(Trouble& trouble) : on_(trouble) {}
+  explicit FailingProgram(CallOut& out) : on_(out) {}
 
   /// Whether a report has failed since the last call. That failure reaches the host.
   bool hasFailedToReport() { return std::exchange(hasFailedToReport_, false); }
@@ -187,13 +169,13 @@ class FailingProgram final : public HeadlessApplication {
     hasFailedToReport_ = false;
   }
 
-  Trouble& on_;
+  CallOut& on_;
   bool hasFailedToReport_ = false;
 };
 
 class FailingFiles final : public MemoryFiles {
  public:
-  explicit FailingFiles(Trouble& trouble) : on_(trouble) {}
+  explicit FailingFiles(CallOut& out) : on_(out) {}
 
   Picture loadPicture(std::vector<std::byte> file) override {
     return on_(), MemoryFiles::loadPicture(std::move(file));
@@ -203,7 +185,7 @@ class FailingFiles final : public MemoryFiles {
   void operate() override { on_(); }
 
  private:
-  Trouble& on_;
+  CallOut& on_;
 };
 
 }  // namespace norvane::attacks

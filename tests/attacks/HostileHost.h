@@ -11,20 +11,6 @@
 
 namespace norvane::attacks {
 
-/// Counts the places where the library calls out, and runs `trouble` in one of them.
-struct CallOut {
-  long calls = 0;
-  long at = 0;  ///< counted from 1; 0: none
-  std::function<void()> trouble = [] {};
-
-  void operator()() {
-    // Not in the trouble itself, which may raise events too.
-    if (++calls != at) return;
-    const std::function<void()> run = trouble;
-    run();
-  }
-};
-
 /// A program whose boxes call the host.
 class HostileProgram final : public HeadlessApplication {
  public:

@@ -16,6 +16,22 @@
 
 namespace norvane::attacks {
 
+/// Counts the places where the library calls out, and runs `trouble` in one of them, or from there
+/// on.
+struct CallOut {
+  long calls = 0;
+  long at = 0;  ///< counted from 1; 0: none
+  bool onward = false;
+  std::function<void()> trouble = [] {};
+
+  void operator()() {
+    // The trouble may call out too.
+    if (++calls < at || at == 0 || (calls > at && !onward)) return;
+    const std::function<void()> run = trouble;
+    run();
+  }
+};
+
 /// What a user does to a list, on whichever platform. Positions are pixels of the list.
 struct Hand {
   std::function<void(float x, float y, std::int16_t shift)> press;

@@ -44,8 +44,9 @@ class Sweep {
   explicit Sweep(const Plan& plan) : plan_(plan) {
     Error().SilentError(plan.silent);
     for (auto& [name, bytes] : filesOfALife()) files_.files[name] = bytes;
-    trouble_.first = plan.call;
-    trouble_.onward = plan.onward;
+    calls_.at = plan.call;
+    calls_.onward = plan.onward;
+    calls_.trouble = [this] { fail(); };
   }
   ~Sweep() { Error().SilentError(false); }
 
@@ -53,32 +54,38 @@ class Sweep {
     // Not making a control is no harm.
     const allocations::Watch memory(plan_.allocation, plan_.onward);
     ignoringFailures([&] {
-      place_.emplace(form_, trouble_);
+      place_.emplace(form_, calls_);
       list_ = std::make_unique<nvList>(*place_);
     });
     if (list_) live();
-    calls_ = trouble_.calls;
     outcome_.allocations = memory.count();
     return outcome_;
   }
   /// Without trouble.
   void check() {
-    trouble_.first = 0;
+    lifeCalls_ = std::exchange(calls_.calls, 0);
+    calls_.at = 0;
     if (list_) checkUse();
     if (files_.open != 0) fault("a file is still open");
     if (Trap::anyRuns()) fault("a procedure has not ended");
   }
   /// With trouble again, if it goes on.
   void end() {
-    trouble_ = {calls_, plan_.call, plan_.onward};
+    calls_.calls = lifeCalls_;
+    calls_.at = plan_.call;
     const bool isMemoryGone = plan_.onward && plan_.allocation > 0;
     const allocations::Watch memory(isMemoryGone ? 1 : 0, true);
     list_.reset();
-    outcome_.calls = trouble_.calls;
+    outcome_.calls = calls_.calls;
   }
   const Outcome& outcome() const { return outcome_; }
 
  private:
+  void fail() const {
+    if (plan_.call % 3 == 0) throw Failure(57, "Device I/O error");
+    if (plan_.call % 3 == 1) throw std::runtime_error("the platform failed");
+    throw plan_.call;
+  }
   void fault(const char* what) {
     if (!outcome_.fault) outcome_.fault = what;
   }
@@ -97,7 +104,7 @@ class Sweep {
     {
       const allocations::Pause pause;
       hand = handOn(form_, *list_);
-      life = lifeOf(*list_, hand, [this] { trouble_(); });
+      life = lifeOf(*list_, hand, [this] { calls_(); });
       list_->addSink(host);
     }
     succeeds([&] { list_->UserControl_InitProperties(); });
@@ -113,12 +120,13 @@ class Sweep {
   /// A save that raised nothing has written the whole list.
   void checkSaved() {
     const allocations::Pause pause;
-    const Trouble trouble = std::exchange(trouble_, {});
+    const auto [calls, at] = std::pair(calls_.calls, std::exchange(calls_.at, 0));
     HeadlessList copy;
     Host host;
     copy.list().ListInput("list", true);
     if (copy.list().ItemsCount() != list_->ItemsCount()) fault("a file was lost without an event");
-    trouble_ = trouble;
+    calls_.calls = calls;
+    calls_.at = at;
   }
   /// After its properties are read and the wheel is turned, which ends a repaint that a failure has
   /// left unfinished, the list serves like any other.
@@ -136,10 +144,10 @@ class Sweep {
   }
 
   const Plan plan_;
-  Trouble trouble_;
-  long calls_ = 0;
-  FailingProgram program_{trouble_};
-  FailingFiles files_{trouble_};
+  CallOut calls_;
+  long lifeCalls_ = 0;
+  FailingProgram program_{calls_};
+  FailingFiles files_{calls_};
   HeadlessContainer form_{60, 60};
   std::optional<FailingContainer> place_;
   std::unique_ptr<nvList> list_;
