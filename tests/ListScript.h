@@ -82,6 +82,7 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     else if (verb == "removeDouble") list.ItemsRemoveDouble(code != 0);
     else if (verb == "removeSelected") list.ItemsSelectedRemove();
     else if (verb == "setIndex") list.ListIndex(value(0).toInt32());
+    else if (verb == "choose") list.Text(value(0).toText());
     else if (verb == "setTop") list.TopIndex(value(0).toInt32());
     else if (verb == "disable") each([&](auto& index) { list.ItemEnabled(index, false); });
     else if (verb == "editable") each([&](auto& index) { list.ItemAllowEdit(index, true); });
@@ -144,6 +145,7 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     else if (verb == "texts") return "<" + texts() + ">";
     else if (verb == "keys") return "<" + keys() + ">";
     else if (verb == "index") return textOf(list.ListIndex());
+    else if (verb == "chosen") return list.Text();
     else if (verb == "top") return textOf(list.TopIndex());
     else if (verb == "bars") return told(list.verticalBar()) + ", " + told(list.horizontalBar());
     else if (verb == "range") return textOf(list.verticalBar().Max());

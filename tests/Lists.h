@@ -22,6 +22,17 @@ inline std::string rowsOf(const RecordingSurface& surface) {
   return result;
 }
 
+/// A picture without pixels, with a description.
+struct NamedPicture final : PictureObject {
+  explicit NamedPicture(const char* text, std::uintptr_t any = 1) : name(text), number(any) {}
+  std::uintptr_t handle() const override { return number; }
+  float width() const override { return 32; }
+  float height() const override { return 24; }
+  std::string description() const override { return name; }
+  const char* name;
+  std::uintptr_t number;
+};
+
 /// A headless list in a program that collects all reports.
 class ListTest : public testing::Test {
  protected:

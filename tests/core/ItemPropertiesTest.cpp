@@ -11,14 +11,6 @@ std::string shown(const std::string& value) { return value; }
 std::string shown(const Picture& value) { return value ? value->description() : "none"; }
 std::string shown(const Variant& value) { return value.isEmpty() ? "(empty)" : value.toText(); }
 
-struct Drawing : PictureObject {
-  explicit Drawing(const char* text) : name(text) {}
-  float width() const override { return 16; }
-  float height() const override { return 16; }
-  std::string description() const override { return name; }
-  std::string name;
-};
-
 /// One item property, with a value that new items do not have.
 struct Accessor {
   std::string name, zero, value;
@@ -60,9 +52,9 @@ class ItemProperties : public HearingListTest {
       of("ItemBackColorDis", &L::ItemBackColorDis, &L::ItemBackColorDis, &I::BackColorDis, 6),
       of("ItemTag", &L::ItemTag, &L::ItemTag, &I::Tag, 7.5, ""),
       of("ItemKey", &L::ItemKey, &L::ItemKey, &I::Key, "a key of some length", ""),
-      of("ItemIcon", &L::ItemIcon, &L::ItemIcon, &I::Icon, makeRef<Drawing>("icon")),
+      of("ItemIcon", &L::ItemIcon, &L::ItemIcon, &I::Icon, makeRef<NamedPicture>("icon")),
       of("ItemIconSelected", &L::ItemIconSelected, &L::ItemIconSelected, &I::IconSelected,
-         makeRef<Drawing>("selected")),
+         makeRef<NamedPicture>("selected")),
       of("ItemAlignment", &L::ItemAlignment, &L::ItemAlignment, &I::Alignment, cItemAlignment{77}),
       of("ItemAllowEdit", &L::ItemAllowEdit, &L::ItemAllowEdit, &I::AllowEdit, true),
       of("ItemText", &L::ItemText, &L::ItemText, &I::Text, "a text"),
@@ -143,22 +135,6 @@ TEST_F(ItemProperties, AnIndexIsRoundedAndAValueConverted) {
   EXPECT_EQ(reports(), "9 ItemKey");
   silent();
   EXPECT_EQ(setBadly(), "ItemForeColorDis* ItemBackColorDis*");
-}
-
-TEST_F(ItemProperties, TextIsThatOfTheCurrentItemAndSelectsByText) {
-  add({"A", "a", "b", "a"});
-  list.ItemsAdd({.aText = "off", .aEnabled = false});
-  heard();
-  list.Text("a");
-  EXPECT_EQ(list.ListIndex(), 1);
-  EXPECT_EQ(heard(), "ListIndex*");
-  for (const char* none : {"", "a*", "off"}) list.Text(none);
-  EXPECT_EQ(heard(), "(4)");
-  EXPECT_EQ(list.Text(), "a");
-  list.Text("b");
-  for (int i = 0; i < 3; ++i) list.ItemsRemove(0);
-  EXPECT_EQ(list.Text(), "");
-  EXPECT_EQ(reports(), "9 Text");
 }
 
 }  // namespace

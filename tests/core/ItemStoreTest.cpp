@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <numeric>
 #include <random>
 
 #include "../Lists.h"
@@ -18,6 +19,11 @@ TEST(ItemStore, EqualsAVectorThroughAllChanges) {
   const auto expectSame = [&](std::int32_t index) {
     ASSERT_EQ(store.touch(index).Text(), *at(index)) << index;
   };
+  /// The key of each item is its text.
+  const auto setBoth = [&](std::int32_t index, const std::string& text) {
+    store.setText(index, text);
+    store.setKey(index, text);
+  };
   /// Short and long enough for each place in memory where a text may stand.
   const auto textOf = [&](int step) {
     const auto length = static_cast<std::size_t>(below(2) * below(300));
@@ -31,7 +37,7 @@ TEST(ItemStore, EqualsAVectorThroughAllChanges) {
     if (action < (grows ? 70 : 20)) {
       const std::string text = textOf(step);
       store.grow();
-      store.setText(store.upperBound(), text);
+      setBoth(store.upperBound(), text);
       store.move(store.upperBound(), index);
       model.insert(at(index), text);
     } else if (action < 90 && model.size() > 1) {
@@ -39,7 +45,7 @@ TEST(ItemStore, EqualsAVectorThroughAllChanges) {
       model.erase(at(index));
     } else if (action < 94) {
       *at(index) = textOf(step);
-      store.setText(index, *at(index));
+      setBoth(index, *at(index));
     } else if (action < 99) {
       const std::int32_t to = below(model.size());
       store.move(index, to);
@@ -58,13 +64,24 @@ TEST(ItemStore, EqualsAVectorThroughAllChanges) {
       EXPECT_EQ(store.removeSelected(index, end), static_cast<std::int32_t>(removed));
       model.erase(at(index), at(end));
       model.insert(at(index), kept.begin(), kept.end());
+    } else {
+      std::vector<std::int32_t> order(model.size());
+      std::iota(order.begin(), order.end(), 0);
+      std::ranges::shuffle(order, random);
+      store.reorder(order);
+      const std::vector<std::string> before = model;
+      std::ranges::transform(order, model.begin(), [&](std::int32_t from) {
+        return before[static_cast<std::size_t>(from)];
+      });
     }
     ASSERT_EQ(store.upperBound() + 1, static_cast<std::int32_t>(model.size())) << step;
     expectSame(below(model.size()));
     // The second search builds an index, which any change drops.
     for (int search = 0; step % 20 == 0 && search < 3; ++search) {
       const std::string text = search == 2 ? "none" : *at(below(model.size()));
-      ASSERT_EQ(store.findText(text), std::ranges::find(model, text) - model.begin()) << step;
+      const auto expected = std::ranges::find(model, text) - model.begin();
+      ASSERT_EQ(store.findText(text), expected) << step;
+      ASSERT_EQ(store.findKey(text), expected) << step;
     }
   }
   for (std::int32_t i = 0; i <= store.upperBound(); ++i) expectSame(i);

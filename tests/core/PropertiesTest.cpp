@@ -1,41 +1,64 @@
+#include <nvlist/core/storedProperties.h>
+
+#include <set>
+
 #include "../HearingList.h"
 
 namespace norvane {
 namespace {
 
 using Properties = HearingListTest;
+using Persistence = HearingListTest;
+
+/// Every property except the font, in stored order, with a value that is not its default.
+const std::pair<std::string, Variant> otherValues[] = {
+    {"ForeColor", 1},           {"BackColor", systemColour(5)},
+    {"Enabled", false},         {"ClickOnIndexChange", 1},
+    {"ColorStyle", 99},         {"BorderColor", 2},
+    {"HoverSelect", true},      {"Style", 3},
+    {"FullRowSelect", false},   {"AllowEdit", true},
+    {"ValueColor", 3},          {"IconSelect", false},
+    {"BorderVisible", false},   {"IndentTop", 4.5F},
+    {"IndentLeft", -5.0F},      {"IndentRight", 6.0F},
+    {"IndentBottom", 7.0F},     {"DistPicText", 8.0F},
+    {"AutoCheckScroll", false}, {"IconW", 9.0F},
+    {"IconH", 10.0F},           {"ScrollColorStyle", 2},
+    {"GridLines", true},        {"GridLineColor", 4},
+    {"MultiSelect", true},      {"ShowFocusRect", true},
+    {"WheelFunction", 1},       {"WheelScrollLines", 5},
+    {"MinHeight", 17.5F},       {"AutoRedraw", false},
+    {"ScrollBars", 3},          {"AllowItemMoving", true}};
+
+PropertyBag otherBag() {
+  PropertyBag bag;
+  auto font = makeRef<FontObject>();
+  font->Name = "Sans \"x\"";
+  font->Italic = true;
+  bag.WriteProperty("Font", Variant(Ref<Object>(font)), Variant());
+  for (const auto& [name, value] : otherValues) bag.WriteProperty(name, value, Variant(""));
+  return bag;
+}
 
 TEST_F(Properties, EachIsMarkedAndPaintsInItsOwnWay) {
+  const std::set<std::string> always = {"ColorStyle", "BorderColor", "AllowEdit", "BorderVisible"},
+                              never = {"AutoCheckScroll", "ScrollColorStyle", "MultiSelect",
+                                       "ShowFocusRect",   "WheelFunction",    "WheelScrollLines",
+                                       "AllowItemMoving"};
   fill(3);
-  const auto font = makeRef<FontObject>();
-  const auto setAll = [&] {
+  for (const bool isAutomatic : {true, false}) {
+    list.AutoRedraw(isAutomatic);
     heard();
-    list.Font(font), list.ForeColor(1), list.BackColor(1), list.Enabled(false);
-    list.ClickOnIndexChange(true), list.ColorStyle(cXPSilver), list.ColorStyle(cCustom);
-    list.BorderColor(1), list.HoverSelect(true), list.Style(cIcons), list.FullRowSelect(false);
-    list.AllowEdit(true), list.ValueColor(1), list.IconSelect(false), list.BorderVisible(false);
-    list.IndentTop(1), list.IndentLeft(1), list.IndentRight(1), list.IndentBottom(1);
-    list.DistPicText(1), list.AutoCheckScroll(true), list.IconW(1), list.IconH(1);
-    list.ScrollColorStyle(cXPScrollOlive), list.GridLines(true), list.GridLineColor(1);
-    list.MultiSelect(true), list.ShowFocusRect(true), list.WheelFunction(cWheelOff);
-    list.WheelScrollLines(2), list.MinHeight(14), list.ScrollBars(vbBoth);
-    list.AllowItemMoving(true);
-    return heard();
-  };
-  EXPECT_EQ(setAll(),
-            "Font* ForeColor* BackColor* Enabled* ClickOnIndexChange* ScrollColorStyle ColorStyle* "
-            "ColorStyle* BorderColor* HoverSelect* Style* FullRowSelect* AllowEdit* ValueColor* "
-            "IconSelect* BorderVisible* IndentTop* IndentLeft* IndentRight* IndentBottom* "
-            "DistPicText* AutoCheckScroll IconW* IconH* ScrollColorStyle GridLines* GridLineColor* "
-            "MultiSelect ShowFocusRect WheelFunction WheelScrollLines MinHeight* ScrollBars* "
-            "AllowItemMoving");
-  list.AutoRedraw(false);
-  EXPECT_EQ(setAll(),
-            "Font ForeColor BackColor Enabled ClickOnIndexChange ScrollColorStyle ColorStyle* "
-            "ColorStyle* BorderColor* HoverSelect Style FullRowSelect AllowEdit* ValueColor "
-            "IconSelect BorderVisible* IndentTop IndentLeft IndentRight IndentBottom DistPicText "
-            "AutoCheckScroll IconW IconH ScrollColorStyle GridLines GridLineColor MultiSelect "
-            "ShowFocusRect WheelFunction WheelScrollLines MinHeight ScrollBars AllowItemMoving");
+    for (const auto& [name, value] : otherValues) {
+      if (name == "AutoRedraw") continue;
+      storedProperty(name)->set(list, value);
+      const bool isPainted = always.contains(name) || (isAutomatic && !never.contains(name));
+      EXPECT_EQ(heard(), name + (isPainted ? "*" : ""));
+    }
+    list.Font(list.Font());
+    list.ColorStyle(cXPSilver);
+    EXPECT_EQ(heard(), isAutomatic ? "Font* ScrollColorStyle ColorStyle*"
+                                   : "Font ScrollColorStyle ColorStyle*");
+  }
   EXPECT_EQ(reports(), "");
 }
 
@@ -73,6 +96,135 @@ TEST_F(Properties, AFontIsClonedAndGivesTheRowsTheirHeight) {
   list.MinHeight(25.5);
   list.Font(font);
   EXPECT_EQ(list.state().ItemHeightValue, 25.5F);
+}
+
+TEST_F(Persistence, EveryPropertyComesBackInItsOrder) {
+  HeadlessList other;
+  other.list().UserControl_ReadProperties(otherBag());
+  PropertyBag written;
+  other.list().UserControl_WriteProperties(written);
+  const auto properties = storedProperties();
+  ASSERT_EQ(properties.size(), 1 + std::size(otherValues));
+  ASSERT_EQ(written.properties().size(), properties.size());
+  for (std::size_t i = 0; i < std::size(otherValues); ++i) {
+    const StoredProperty& property = properties[i + 1];
+    const auto& [name, value] = otherValues[i];
+    EXPECT_EQ(property.name, name);
+    EXPECT_EQ(storedProperty(name), &property) << name;
+    EXPECT_EQ(written.properties()[i + 1].name, name);
+    const bool isFlag = property.type == PropertyType::boolean;
+    const double number = isFlag ? value.toBoolean().number() : value.toNumber();
+    EXPECT_EQ(written.properties()[i + 1].value.toNumber(), number) << name;
+    // The table alone, on a list with default values.
+    EXPECT_EQ(property.get(list).toNumber(), property.defaultValue.toNumber()) << name;
+    property.set(list, value);
+    EXPECT_EQ(property.get(list).toNumber(), number) << name;
+    EXPECT_THROW(property.set(list, "many"), Failure) << name;
+  }
+  EXPECT_EQ(storedProperty("font"), nullptr);
+  const StoredProperty& font = properties[0];
+  EXPECT_EQ(font.get(list).object().get(), list.Font().get());
+  font.set(list, font.get(other.list()));
+  EXPECT_EQ(list.Font()->Name, "Sans \"x\"");
+
+  // To text and back, with the same result twice.
+  const std::string text = propertyText(written);
+  list.UserControl_ReadProperties(propertiesOf(text));
+  PropertyBag again;
+  list.UserControl_WriteProperties(again);
+  EXPECT_EQ(propertyText(again), text);
+  EXPECT_EQ(
+      text.substr(0, 81),
+      "Font = font \"Sans \\\"x\\\"\" 8.25 italic\nForeColor = 1\nBackColor = &H80000005\nEnabled");
+}
+
+TEST_F(Persistence, DefaultsAreNotStored) {
+  PropertyBag bag;
+  list.UserControl_WriteProperties(bag);
+  EXPECT_EQ(propertyText(bag), "");
+  // Values stored before are removed.
+  bag = otherBag();
+  list.UserControl_WriteProperties(bag);
+  EXPECT_EQ(propertyText(bag), "");
+  const int frames = headless.surface().frames();
+  list.ItemsAdd("gone");
+  list.UserControl_ReadProperties(bag);
+  EXPECT_EQ(list.ItemsCount(), 0);
+  EXPECT_EQ(headless.surface().frames(), frames + 3);  // the item, ItemsClear and the end
+}
+
+TEST_F(Persistence, AValueThatDoesNotFitEndsTheReading) {
+  const PropertyBag bag = propertiesOf("BackColor = 255\nStyle = many\nGridLines = True\n");
+  list.UserControl_ReadProperties(bag);
+  EXPECT_EQ(reports(), "13 UserControl_ReadProperties");
+  EXPECT_EQ(list.BackColor(), 255);
+  EXPECT_FALSE(list.GridLines());
+  silent();
+  list.UserControl_ReadProperties(bag);
+  EXPECT_TRUE(list.GridLines().isTrue());
+  list.UserControl_ReadProperties(propertiesOf("Font = 7"));
+  EXPECT_EQ(list.Font()->Name, "Tahoma");
+}
+
+TEST_F(Persistence, ColorStyleComesBeforeTheScrollBarsOwn) {
+  list.UserControl_ReadProperties(propertiesOf("ColorStyle = 1\nScrollColorStyle = 2"));
+  EXPECT_EQ(list.ScrollColorStyle(), cXPScrollOlive);
+  list.ColorStyle(cXPSilver);
+  EXPECT_EQ(list.ScrollColorStyle(), cXPScrollSilver);
+}
+
+TEST_F(Persistence, ReadingForgetsTheHandAndTheFormsLaterFont) {
+  list.AllowItemMoving(true);
+  list.ItemsAdd("a"), list.ItemsAdd("b");
+  headless.container().press(50, 10), headless.container().moveTo(50, 20, 1);
+  list.UserControl_ReadProperties(PropertyBag());
+  EXPECT_EQ(list.state().SelectAnchor, -1);
+  EXPECT_EQ(list.state().HoverIndex, -1);
+  auto font = makeRef<FontObject>();
+  font->Size = 20;
+  headless.container().ambientFont = font;
+  PropertyBag bag;
+  list.UserControl_WriteProperties(bag);
+  EXPECT_EQ(propertyText(bag), "");
+}
+
+TEST_F(Persistence, AFormWithoutAmbientPropertiesIsServed) {
+  struct BareForm : HeadlessContainer {
+    Boolean UserMode() override { throw Failure::invalidCall(); }
+    norvane::Font AmbientFont() override { throw Failure::invalidCall(); }
+  } form;
+  nvList onForm(form);
+  onForm.UserControl_InitProperties();
+  EXPECT_TRUE(form.turnWheel(120));
+  ASSERT_TRUE(onForm.Font());
+  EXPECT_EQ(onForm.Font()->Name, "Tahoma");
+  HeadlessContainer empty;
+  empty.ambientFont = nullptr;
+  nvList onEmpty(empty);
+  onEmpty.UserControl_InitProperties();
+  EXPECT_TRUE(onEmpty.Font());
+}
+
+TEST(PropertyText, NamesTheLineThatCannotBeRead) {
+  const auto failure = [](std::string_view text) {
+    try {
+      propertiesOf(text);
+    } catch (const Failure& thrown) {
+      return std::to_string(thrown.number()) + " " + thrown.what();
+    }
+    return std::string();
+  };
+  EXPECT_EQ(failure("# a note\n\n a = 1 \r\nb"), "321 Invalid file format in line 4");
+  EXPECT_EQ(failure("= 3"), "321 Invalid file format in line 1");
+  EXPECT_EQ(failure("a = \"open\nb = 2"), "321 Invalid file format in line 1");
+  const PropertyBag bag =
+      propertiesOf("t = \"\\x41\\\\\\\"\\n\"\nf = -0.5\nfont = font \"A\" 8 bold heavy\nn = 1e99");
+  EXPECT_EQ(bag.ReadProperty("t", 0).text(), "A\\\"n");
+  PropertyBag lines;
+  lines.WriteProperty("t", "a\nb", "");
+  EXPECT_EQ(propertyText(lines), "t = \"a\\x0Ab\"\n");
+  EXPECT_EQ(bag.ReadProperty("f", 0).toSingle(), -0.5F);
+  EXPECT_TRUE(bag.ReadProperty("font", 0).isText());
 }
 
 }  // namespace

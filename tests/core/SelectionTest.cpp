@@ -25,6 +25,10 @@ const Scenario scenarios[] = {
    "setTop 0; setIndex 10; top; setTop 0; setIndex 89; top; setTop 50; setIndex 49; top;"
    "setTop 50; forget; setIndex 59; events; top",
    "ListIndex TopIndex** / 50 / 86 / 10 / 80 / 49 / ListIndex* / 50"},
+  {"Text is that of the current item and chooses by text",
+   "clear; add 'A' 'a' 'b' 'a' 'off'; disable 4; forget; choose 'a'; outcome; choose ''; choose 'a*';"
+   "choose 'off'; events; chosen; choose 'b'; remove 0 0 0; chosen; reports",
+   "ListIndex* | 1: a / (4) / a / 9 Text"},
   {"selecting an item stores the truth value as the current index",
    "setIndex 1; forget; select 4; outcome; deselect 1; index", "ItemSelected* | -1: 1 4 / 0"},
   {"a selected item scrolls into the window",

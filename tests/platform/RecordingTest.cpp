@@ -26,23 +26,15 @@ void drawEverything(Surface& surface, const Picture& picture) {
   surface.Print("a \"b\"");
 }
 
-Picture somePicture() {
-  class Square : public PictureObject {
-    float width() const override { return 5; }
-    float height() const override { return 5; }
-  };
-  return makeRef<Square>();
-}
-
 TEST(Recording, KeepsEveryCallAndReplaysIt) {
   RecordingSurface surface(20, 20);
-  drawEverything(surface, somePicture());
+  drawEverything(surface, makeRef<NamedPicture>("flag"));
   EXPECT_EQ(surface.image().text(),
             "Cls\n"
             "Line 6 (0, 1.5)-(10, 1.5) system 17\n"
             "Line 22 (0, 0)-(4, 4) #FF0000\n"
-            "PaintPicture 5x5 at (1, 2)\n"
-            "PaintPicture 5x5 at (1, 2) as 16x16\n"
+            "PaintPicture 32x24 \"flag\" at (1, 2)\n"
+            "PaintPicture 32x24 \"flag\" at (1, 2) as 16x16\n"
             "CurrentX 7\n"
             "CurrentY 8\n"
             "BackColor #0000FF\n"

@@ -8,19 +8,6 @@
 namespace norvane {
 namespace {
 
-class Flag final : public PictureObject {
- public:
-  explicit Flag(std::string name, std::uintptr_t handle = 1) : name_(name), handle_(handle) {}
-  std::uintptr_t handle() const override { return handle_; }
-  float width() const override { return 32; }
-  float height() const override { return 24; }
-  std::string description() const override { return name_; }
-
- private:
-  std::string name_;
-  std::uintptr_t handle_;
-};
-
 class Rows : public ListTest {
  protected:
   /// The visible effects of a repaint: no position changes, and font flags only when they change.
@@ -38,7 +25,7 @@ class Rows : public ListTest {
     return "\n" + visible.text();
   }
 
-  Picture flag = makeRef<Flag>("flag");
+  Picture flag = makeRef<NamedPicture>("flag");
 };
 
 TEST_F(Rows, ASelectedRowWithPicturesCallByCall) {
@@ -71,7 +58,7 @@ TEST_F(Rows, ASelectedRowWithPicturesCallByCall) {
 }
 
 TEST_F(Rows, EachStyleHasItsPictureColumn) {
-  list.ItemsAdd({.aText = "ab", .aIcon = flag, .aIconSelected = makeRef<Flag>("chosen")});
+  list.ItemsAdd({.aText = "ab", .aIcon = flag, .aIconSelected = makeRef<NamedPicture>("chosen")});
   list.ItemSelected(0, true);
   const auto row = [&](cListStyle style) {
     list.Style(style);
@@ -125,7 +112,7 @@ TEST_F(Rows, ADisabledRowIsNeverShownAsSelected) {
   list.Style(cCheckBoxesIcons);
   list.ItemsAdd({.aText = "ab",
                  .aIcon = flag,
-                 .aIconSelected = makeRef<Flag>("chosen"),
+                 .aIconSelected = makeRef<NamedPicture>("chosen"),
                  .aEnabled = false,
                  .aBackColorDis = 0x00FF00});
   list.ItemSelected(0, true);
@@ -235,7 +222,7 @@ TEST_F(Rows, PicturesThatAreNoneAreSkipped) {
   };
   list.Style(cIcons);
   list.ItemsAdd({.aText = "a"});
-  list.ItemsAdd({.aText = "b", .aIcon = flag, .aIconSelected = makeRef<Flag>("empty", 0U)});
+  list.ItemsAdd({.aText = "b", .aIcon = flag, .aIconSelected = makeRef<NamedPicture>("empty", 0U)});
   list.ItemsAdd({.aText = "c", .aIcon = makeRef<Broken>()});
   list.ItemSelected(1, true);
   EXPECT_EQ(seen().find("PaintPicture"), seen().find("PaintPicture 32x24 \"flag\" at (3, 14.5)"));
