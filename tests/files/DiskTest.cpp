@@ -1,7 +1,3 @@
-#include <filesystem>
-#include <fstream>
-#include <random>
-
 #ifndef _WIN32
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -10,6 +6,7 @@
 #endif
 
 #include "../Lists.h"
+#include "Folder.h"
 
 #include <nvlist/files/fileExists.h>
 #include <nvlist/platform/Files.h>
@@ -23,31 +20,21 @@ namespace fs = std::filesystem;
 class Disk : public ListTest, protected __nvList {
  protected:
   Disk() {
-    fs::create_directories(folder_ / "folder");
+    fs::create_directory(folder / "folder");
     list.addSink(*this);
   }
-  ~Disk() override {
-    list.removeSink(*this);
-    fs::remove_all(folder_);
-  }
+  ~Disk() override { list.removeSink(*this); }
   void ErrorListSave() override { ++failures; }
   void ErrorListInput() override { ++failures; }
   void ListSaving(Variant&) override {
     std::exchange(onSaving, [] {})();
   }
 
-  /// The path of a file in the folder. Both texts are UTF-8 on every system.
-  std::string at(const std::string& name) {
-    const std::u8string path = (folder_ / std::u8string(name.begin(), name.end())).u8string();
-    return {path.begin(), path.end()};
-  }
-  static std::string contents(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
+  std::string at(const std::string& name) { return folder.at(name); }
+  std::string contents(const std::string& name) { return folder.bytes(name); }
   /// Creates a file whose first byte changes when a list is saved to it.
   std::string oldFile(const std::string& name = "old") {
-    std::ofstream(at(name)) << "old contents";
+    folder.put(name, "old contents");
     return at(name);
   }
   /// Saves a list of one item. Returns false if that raised ErrorListSave.
@@ -64,17 +51,12 @@ class Disk : public ListTest, protected __nvList {
   int failures = 0;
   /// Runs once.
   std::function<void()> onSaving = [] {};
-
- private:
-  const fs::path folder_ =
-      fs::temp_directory_path() / ("nvlist" + std::to_string(std::random_device()()));
+  Folder folder;
 };
 
 TEST_F(Disk, FindsFilesByWildcards) {
-  for (const char* name : {"one.txt", "two.list", "bare", "#[1]", "\u00fc.nvl"}) {
-    const std::string path = at(name);
-    std::ofstream(fs::path(std::u8string(path.begin(), path.end()))) << name;
-  }
+  for (const char* name : {"one.txt", "two.list", "bare", "#[1]", "\u00fc.nvl"})
+    folder.put(name, name);
   for (const char* there :
        {"one.txt", "*.txt", "?ne.txt", "*.*", "bare.*", "fol*", "#[?]", "?.nvl"})
     EXPECT_TRUE(FileExists(at(there))) << there;
@@ -103,7 +85,7 @@ TEST_F(Disk, RefusesWhatIsNoFile) {
     for (const std::string& path :
          {at("folder"), at("none/file"), std::string(), oldFile() + '\0' + "s"})
       EXPECT_FALSE(save(path)) << path;
-    EXPECT_EQ(contents(at("old")), "old contents");
+    EXPECT_EQ(contents("old"), "old contents");
   }
   failures = 0;
   for (const std::string& path : {at("folder"), at("fold*")}) list.ListInput(path);
@@ -122,11 +104,11 @@ TEST_F(Disk, KeepsWhatAFileIs) {
     fs::permissions(oldFile(), mode);
     EXPECT_TRUE(save(at("old")));
     EXPECT_EQ(fs::status(at("old")).permissions(), mode);
-    EXPECT_EQ(contents(at("old")), saved);
+    EXPECT_EQ(contents("old"), saved);
 
     fs::permissions(oldFile("read only"), fs::perms::owner_read);
     EXPECT_FALSE(save(at("read only")));
-    EXPECT_EQ(contents(at("read only")), "old contents");
+    EXPECT_EQ(contents("read only"), "old contents");
 
     // Symbolic links to a file, a missing file and a device, and a hard link.
     fs::create_symlink(fs::path(oldFile("target")).filename(), at("link"));
@@ -138,9 +120,9 @@ TEST_F(Disk, KeepsWhatAFileIs) {
       EXPECT_TRUE(fs::is_symlink(at(link))) << link;
     }
     EXPECT_FALSE(save(at("device")));
-    EXPECT_EQ(contents(at("target")) + contents(at("new target")), saved + saved);
+    EXPECT_EQ(contents("target") + contents("new target"), saved + saved);
     EXPECT_TRUE(save(at("first name")));
-    EXPECT_EQ(contents(at("second name")), isBeside ? "old contents" : saved);
+    EXPECT_EQ(contents("second name"), isBeside ? "old contents" : saved);
 
     // A pipe without a reader would block, and a device would be read endlessly.
     ASSERT_EQ(mkfifo(at("pipe").c_str(), 0600), 0);
@@ -167,7 +149,7 @@ TEST_F(Disk, LocksAFileWhileItIsSaved) {
     };
     EXPECT_TRUE(save(at("old")));
     EXPECT_EQ(WEXITSTATUS(inside), 2);
-    EXPECT_EQ(contents(at("old")), saved);
+    EXPECT_EQ(contents("old"), saved);
     EXPECT_TRUE(save(at("old")));
   }
 }
@@ -185,9 +167,9 @@ TEST_F(Disk, OutlivesASaveThatIsKilled) {
     int status = 0;
     ASSERT_EQ(waitpid(child, &status, 0), child);
     EXPECT_TRUE(WIFSIGNALED(status));
-    EXPECT_EQ(contents(at("old")), isBeside ? "old contents" : "");
+    EXPECT_EQ(contents("old"), isBeside ? "old contents" : "");
     EXPECT_TRUE(save(at("old")));
-    EXPECT_EQ(contents(at("old")), saved);
+    EXPECT_EQ(contents("old"), saved);
     EXPECT_FALSE(fs::exists(at("old.nvlist-new")));
   }
 }
@@ -197,7 +179,7 @@ TEST_F(Disk, KeepsTheOldFileIfSavingBesideItFails) {
   oldFile();
   onSaving = [] { throw 1; };
   EXPECT_FALSE(save(at("old")));
-  EXPECT_EQ(contents(at("old")), "old contents");
+  EXPECT_EQ(contents("old"), "old contents");
   EXPECT_FALSE(fs::exists(at("old.nvlist-new")));
 }
 

@@ -1,14 +1,11 @@
 #include <nvlist/objects/SpEv.h>
 
-#include <filesystem>
-#include <fstream>
 #include <functional>
-#include <iterator>
-#include <random>
 
 #include <nvlist/platform/ListBox.h>
 
 #include "../Lists.h"
+#include "../files/Folder.h"
 #include "../files/MemoryFiles.h"
 
 namespace norvane {
@@ -33,24 +30,9 @@ class Rows final : public ListBox {
 
 class SpEvTest : public ListTest {
  protected:
-  SpEvTest() { fs::create_directory(folder); }
-  ~SpEvTest() override { fs::remove_all(folder); }
+  std::string path(const std::string& name) { return folder.at(name); }
 
-  std::string path(const std::string& name) {
-    const std::u8string text = (folder / name).u8string();
-    return {text.begin(), text.end()};
-  }
-  void put(const std::string& name, const std::string& bytes) {
-    std::ofstream(folder / name, std::ios::binary) << bytes;
-  }
-  std::string bytes(const std::string& name) {
-    std::ifstream file(folder / name, std::ios::binary);
-    if (!file) return "no file";
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
-
-  const fs::path folder = fs::temp_directory_path() /
-                          fs::path(u8"nvlist Zoë").concat(std::to_string(std::random_device()()));
+  Folder folder;
   Ref<Rows> rows = makeRef<Rows>();
   Variant box = Variant(rows);
   SpEv helper;
@@ -59,12 +41,12 @@ class SpEvTest : public ListTest {
 TEST_F(SpEvTest, SavesATextAsOneRecordAndReadsAFileByteByByte) {
   helper.TextSave(path("a"), "a longer text that was here before");
   helper.TextSave(path("a"), "grün\nblau");
-  EXPECT_EQ(bytes("a"), "grün\nblau\r\n");
+  EXPECT_EQ(folder.bytes("a"), "grün\nblau\r\n");
   EXPECT_EQ(helper.TextRead(path("a")), "grün\nblau\r\n");
 
   std::string everything;
   for (int byte = 0; byte < 256; ++byte) everything += static_cast<char>(byte);
-  put("b", everything);
+  folder.put("b", everything);
   EXPECT_EQ(helper.TextRead(path("b")), everything);
 }
 
@@ -87,13 +69,13 @@ TEST_F(SpEvTest, ReportsFilesThatCannotBeOpened) {
 
 TEST_F(SpEvTest, AddsALineAsARow) {
   rows->texts = {"there"};
-  put("a", "one\r\n\r\ntwo\nthree\rfour\n\r\nfive");
+  folder.put("a", "one\r\n\r\ntwo\nthree\rfour\n\r\nfive");
   helper.ListRead(box, path("a"));
   EXPECT_EQ(rows->texts,
             (std::vector<std::string>{"there", "one", "", "two", "three", "four", "", "five"}));
 
   // A line end split between two blocks counts once.
-  put("a", std::string(65535, 'l') + "\r\nx");
+  folder.put("a", std::string(65535, 'l') + "\r\nx");
   rows->texts.clear();
   helper.ListRead(box, path("a"));
   EXPECT_EQ(rows->texts, (std::vector<std::string>{std::string(65535, 'l'), "x"}));
@@ -116,12 +98,12 @@ TEST_F(SpEvTest, CountsRowsIn16Bits) {
 }
 
 TEST_F(SpEvTest, ABoxIsAnyObjectWithTheMembers) {
-  put("a", "line");
+  folder.put("a", "line");
   helper.ListRead(Variant(makeRef<Object>()), path("a"));
   helper.ListSave("box", path("a"));
   EXPECT_EQ(reports(), "438 ListRead, 424 ListSave");
   // The file is opened before the box is used.
-  EXPECT_EQ(bytes("a"), "");
+  EXPECT_EQ(folder.bytes("a"), "");
   helper.ListRead("box", path("a"));
   EXPECT_EQ(reports(), "");
 }
