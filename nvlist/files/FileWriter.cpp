@@ -21,12 +21,13 @@ void FileWriter::flush() {
 
 void FileWriter::text(std::string_view text) {
   const std::size_t start = buffer_.size();
-  number(std::int32_t{0});
+  number(static_cast<std::uint32_t>(text.size()));
   const std::size_t first = buffer_.size();
   windows1252::append(buffer_, text);
   // The length counts bytes in the file, not bytes of UTF-8.
-  put(buffer_.data() + start,
-      checked::narrow<std::int32_t>(static_cast<std::int64_t>(buffer_.size() - first)));
+  const std::size_t size = buffer_.size() - first;
+  const auto length = checked::narrow<std::int32_t>(static_cast<std::int64_t>(size));
+  if (size != text.size()) put(buffer_.data() + start, length);
 }
 
 }  // namespace norvane

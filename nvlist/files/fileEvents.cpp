@@ -30,8 +30,7 @@ void nvList::raiseAtLoopIndex(void (__nvList::*event)(Variant& Index)) {
   sinks_.raise([&](__nvList& sink) { (sink.*event)(index); });
   // If no handler changed the argument, LoopIndex keeps the value that loops run by the handlers
   // left.
-  const bool isUntouched = index.type() == given.type() && index.toInt32() == given.toInt32();
-  if (!isUntouched) state_.LoopIndex = positionOf(index);
+  if (!index.isIdentical(given)) state_.LoopIndex = positionOf(index);
 }
 
 void nvList::toNextItem() {
