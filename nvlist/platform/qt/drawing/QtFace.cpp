@@ -157,14 +157,16 @@ std::optional<double> QtFace::widthWithoutLayout(std::string_view text) {
 std::optional<double> QtFace::asciiSum(std::string_view text) const {
   double width = 0;
   unsigned all = 0;
+  bool hasLongLigature = false;
   std::uint8_t before = nothing;
   for (const char byte : text) {
     const auto code = static_cast<unsigned char>(byte);
     all |= code;
+    hasLongLigature |= code == 'f' && before == 'f';
     width += pair(before, code);
     before = code;
   }
-  if (all >= asciiEnd || text.empty()) return {};
+  if (all >= asciiEnd || hasLongLigature || text.empty()) return {};
   width += pair(before, nothing);
   return std::isnan(width) ? std::nullopt : std::optional(width);
 }
@@ -198,7 +200,7 @@ std::optional<double> QtFace::knownSum(std::string_view utf8) const {
   if (length == 0 || std::popcount(letters) > 1) return {};
   if ((letters & (bit(Kind::unknown) | bit(Kind::layout))) != 0) return {};
   if ((beyondAscii & ~provenKinds_) != 0 || std::isnan(width)) return {};
-  if (beyondAscii != 0 && (hasLongLigature || length > pieceLength)) return {};
+  if (hasLongLigature || (beyondAscii != 0 && length > pieceLength)) return {};
   if (letters == bit(Kind::wide) && isKerned) return {};
   return width + current.width;
 }
@@ -240,10 +242,11 @@ std::optional<double> QtFace::sum(Reader text, unsigned& kinds) {
     if ((kinds & refutedKinds_) != 0) return {};
     if (text.isAtEnd()) return width + current->width;
     // The pieces of a longer line have no kerning between them.
-    if ((++length > pieceLength || isLongLigature) && kinds != 0) return {};
-    const char16_t nextCode = text.next();
+    if (++length > pieceLength && kinds != 0) return {};
     // Many fonts have ligatures of three letters, such as "ffi". Pairs contain those of two.
-    isLongLigature = isLongLigature || (code == u'f' && nextCode == u'f');
+    if (isLongLigature) return {};
+    const char16_t nextCode = text.next();
+    isLongLigature = code == u'f' && nextCode == u'f';
     const Character& next = character(nextCode);
     // Common characters belong to the letters before them, or at the beginning to those after
     // them. There is no kerning between the letters of two scripts.
