@@ -42,9 +42,6 @@ NvListWidget::NvListWidget(QWidget* parent) : NvListProperties(parent) {
   QtApplication::ensure();
   makeListsAccessible();
   setFocusPolicy(Qt::StrongFocus);
-  core_->place.onPropertyChanged = [this](std::string_view name) {
-    core_->notifier.propertyChanged(name);
-  };
   connect(this, &QObject::objectNameChanged, this,
           [this] { list().UserControl_AmbientChanged("DisplayName"); });
   connect(QGuiApplication::styleHints(), &QStyleHints::wheelScrollLinesChanged, this,

@@ -64,6 +64,12 @@ bool QtListSignals::isCompared() const {
 }
 
 void QtListSignals::watch() {
+  // A list sets its properties often: without a connection, nothing is called.
+  auto& onPropertyChanged = widget_->place().onPropertyChanged;
+  if (!isConnected<&NvListWidget::propertyChanged>())
+    onPropertyChanged = nullptr;
+  else if (!onPropertyChanged)
+    onPropertyChanged = [this](std::string_view name) { propertyChanged(name); };
   const bool isNeeded = !waiting_.empty() || !checks_.empty() || isCompared();
   if (!isNeeded) return watch_.reset();
   if (watch_) return;
@@ -115,9 +121,9 @@ void QtListSignals::emitWaiting() {
 // ---- what happens ----
 
 void QtListSignals::propertyChanged(std::string_view name) {
-  if (isConnected<&NvListWidget::propertyChanged>())
-    emit widget_->propertyChanged(
-        QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+  if (!isConnected<&NvListWidget::propertyChanged>()) return watch();
+  emit widget_->propertyChanged(
+      QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
 }
 
 void QtListSignals::Click() { later<&NvListWidget::clicked>(); }

@@ -31,7 +31,6 @@ class QtListSignals final : public __nvList {
   /// when a slot was connected. A disconnection is noticed after the next call: Qt reports it while
   /// it holds a lock, under which nobody can ask what is connected.
   void watch();
-  void propertyChanged(std::string_view name);
 
  private:
   /// What signals are compared with.
@@ -46,6 +45,8 @@ class QtListSignals final : public __nvList {
     std::int32_t index;
     bool wasChecked;
   };
+
+  void propertyChanged(std::string_view name);
 
   void Click() override;
   void DblClick() override;
