@@ -10,6 +10,7 @@ Chooser::Chooser(const QList<Page>& pages) {
   constexpr int iconSize = 32;
   setObjectName("chooser");
   setFollowsPalette(true);
+  setMirrorsLayout(true);
   norvane::nvList& own = list();
   own.AutoRedraw(false);
   own.Style(norvane::cIcons);

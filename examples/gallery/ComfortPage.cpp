@@ -1,4 +1,8 @@
+#include <QApplication>
+#include <QCheckBox>
+#include <QHBoxLayout>
 #include <QMimeData>
+#include <QPalette>
 #include <QStringList>
 #include <QUrl>
 
@@ -40,7 +44,6 @@ void addDropping(Stage& stage) {
 void addMirrored(Stage& stage) {
   nvList& list = stage.addList("mirrored", "Mirrored: from right to left");
   NvListWidget* const widget = stage.lists().back();
-  widget->setMirrorsLayout(true);
   widget->setLayoutDirection(Qt::RightToLeft);
   list.Style(norvane::cCheckBoxes);
   list.MinHeight(20);
@@ -67,9 +70,32 @@ void addVerses(Stage& stage, const QString& name, const QString& caption, bool c
     list.ItemsAdd({.aText = text, .aAllowEdit = true});
 }
 
+/// For the whole program.
+void addSwitches(Stage& stage) {
+  QHBoxLayout* const row = stage.addRow();
+  const auto add = [row](const QString& text, bool isOn, void (*turn)(bool)) {
+    auto* const box = new QCheckBox(text);
+    box->setChecked(isOn);
+    QObject::connect(box, &QCheckBox::toggled, turn);
+    row->addWidget(box);
+  };
+  const QPalette palette = QApplication::palette();
+  const bool isDark =
+      palette.color(QPalette::WindowText).lightness() > palette.color(QPalette::Window).lightness();
+  add("Dark palette", isDark,
+      [](bool on) { QApplication::setPalette(on ? darkPalette() : QPalette()); });
+  add("Right to left", QApplication::isRightToLeft(),
+      [](bool on) { QApplication::setLayoutDirection(on ? Qt::RightToLeft : Qt::LeftToRight); });
+  row->addStretch(1);
+}
+
 }  // namespace
 
+/// Qt computes all colours from that of the buttons.
+QPalette darkPalette() { return QColor(50, 50, 54); }
+
 void fillComfort(Stage& stage) {
+  addSwitches(stage);
   addDropping(stage);
   addMirrored(stage);
   addVerses(stage, "centred", "Texts of several lines", false);

@@ -54,7 +54,7 @@ void fillChecks(Stage& stage) {
       {.aText = "Run every test, with the sanitizers too", .aChecked = true},
       {.aText = "Write down what has changed", .aChecked = true},
       {.aText = "Look at the pictures in the manual", .aItalic = true},
-      {.aText = "Two translations are still missing", .aForeColor = hostColour(0xB22222)},
+      {.aText = "Two translations are still missing", .aForeColor = hostColour(0xD04030)},
       {.aText = "The day itself", .aForeColor = navy, .aBackColor = heading, .aBold = true},
       {.aText = "Freeze the branch (done by the server)", .aChecked = true, .aEnabled = false},
       {.aText = "Build and sign the packages"},
@@ -64,7 +64,7 @@ void fillChecks(Stage& stage) {
       {.aText = "Publish (needs both signatures)", .aEnabled = false},
       {.aText = "Afterwards", .aForeColor = navy, .aBackColor = heading, .aBold = true},
       {.aText = "Announcement to the readers",
-       .aForeColor = hostColour(0x1A5FB4),
+       .aForeColor = hostColour(0x3478DC),
        .aUnderline = true},
       {.aText = "Thank those who found faults", .aItalic = true},
       {.aText = "Cake"},
@@ -309,6 +309,7 @@ nvList& Stage::addList(const QString& name, const QString& caption) {
   auto* widget = new NvListWidget;
   widget->setObjectName(name);
   widget->setFollowsPalette(true);
+  widget->setMirrorsLayout(true);
   auto* column = new QVBoxLayout;
   column->setSpacing(4);
   if (!caption.isEmpty()) column->addWidget(new QLabel(caption));

@@ -77,7 +77,11 @@ norvane::Picture icon(const Glyph& glyph, int size = 16);
 /// Converts a colour to the list's format.
 norvane::Colour hostColour(QRgb rgb);
 
-/// The page of what the widget offers beyond the list's own properties.
+/// A palette for a dark desktop.
+QPalette darkPalette();
+
+/// The page of what the widget offers beyond the list's own properties, with switches that change
+/// the palette and the direction of the whole program.
 void fillComfort(Stage& stage);
 
 /// The page of the scroll bars, which has no list.

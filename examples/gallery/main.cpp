@@ -84,6 +84,8 @@ int main(int argumentCount, char** arguments) {
   options.addOption(screenshot);
   const QCommandLineOption page("page", "Open this page; the first one without it.", "name");
   options.addOption(page);
+  const QCommandLineOption dark("dark", "Use a dark palette.");
+  options.addOption(dark);
 
   // The file is read first, so that a failure prints one line and opens no window.
   QStringList words;
@@ -111,6 +113,7 @@ int main(int argumentCount, char** arguments) {
   application.setApplicationName("gallery");
   application.setApplicationVersion(NVLIST_VERSION);
   options.process(application);
+  if (options.isSet(dark)) QApplication::setPalette(gallery::darkPalette());
 
   gallery::GalleryWindow window(std::move(pages));
   window.showPage(first);

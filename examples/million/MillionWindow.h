@@ -34,7 +34,9 @@ class MillionWindow : public QWidget {
     search_->setPlaceholderText("Search: any part of a name; Return for the next one");
     search_->setEnabled(false);
     progress_->setMaximum(rows);
-    list_->list().MultiSelect(true);
+    list_->setFollowsPalette(true);
+    list_->setMirrorsLayout(true);
+    list_->setMultiSelect(true);
     new norvane::NvListKeys(*list_);
 
     connect(search_, &QLineEdit::textEdited, this, [this] { find(list_->currentIndex()); });

@@ -22,6 +22,7 @@ class TodoWindow : public QMainWindow {
     resize(380, 420);
     list_->setListStyle(NvListWidget::ListStyle::CheckBoxes);
     list_->setFollowsPalette(true);
+    list_->setMirrorsLayout(true);
     list_->setMinHeight(24);
     list_->setDistPicText(6);
     list_->setAllowEdit(true);
