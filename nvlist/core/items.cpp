@@ -87,16 +87,18 @@ void nvList::addItem(NewItem&& values, std::optional<std::string_view> text) {
 void nvList::writeFields(Trap& on, StoredItem& item, NewItem& values) const {
   item.Checked(values.aChecked);
   item.Selected(false);
-  // Collected first, so that the item can share its look with the one before it.
-  ItemLook look = {.ForeColor = std::move(values.aForeColor),
-                   .BackColor = std::move(values.aBackColor),
-                   .ForeColorSelect = std::move(values.aForeColorSelected),
-                   .BackColorSelect = std::move(values.aBackColorSelected),
-                   .Icon = std::move(values.aIcon),
-                   .IconSelected = std::move(values.aIconSelected)};
-  // If one of these cannot be converted, the fields before it must have been written.
-  if (!isNumber(values.aForeColorDis) || !isNumber(values.aBackColorDis))
-    on.step([&] { item.ownLook() = look; });
+  // Collected first, so that the item can share its look with the one before it. If a colour cannot
+  // be converted, however, the fields before it must have been written.
+  ItemLook collected = {.ForeColor = std::move(values.aForeColor),
+                        .BackColor = std::move(values.aBackColor),
+                        .ForeColorSelect = std::move(values.aForeColorSelected),
+                        .BackColorSelect = std::move(values.aBackColorSelected),
+                        .Icon = std::move(values.aIcon),
+                        .IconSelected = std::move(values.aIconSelected)};
+  const bool isReadable = isNumber(values.aForeColorDis) && isNumber(values.aBackColorDis);
+  ItemLook* own = &collected;
+  if (!isReadable) on.step([&] { own = &(item.ownLook() = std::move(collected)); });
+  ItemLook& look = *own;
   on.step([&] { look.ForeColorDis = values.aForeColorDis.toInt32(); });
   on.step([&] { look.BackColorDis = values.aBackColorDis.toInt32(); });
   look.AllowEdit = values.aAllowEdit;
@@ -105,7 +107,7 @@ void nvList::writeFields(Trap& on, StoredItem& item, NewItem& values) const {
   look.Bold = values.aBold;
   look.Italic = values.aItalic;
   look.Underline = values.aUnderline;
-  on.step([&] { state_.Items.setLook(item, state_.Items.upperBound(), look); });
+  if (isReadable) on.step([&] { state_.Items.setLook(item, state_.Items.upperBound(), look); });
   if (values.aKey.isText()) {
     on.step([&] { item.KeyAndTag(values.aKey.text(), std::move(values.aTag)); });
     return;

@@ -81,6 +81,17 @@ TEST_F(Items, AHostMayComeBackAsItsObjectsGo) {
   EXPECT_EQ(reports(), "");
 }
 
+TEST_F(Items, AColourThatIsNoNumberLeavesTheFieldsBeforeIt) {
+  list.ItemsClear();
+  list.ItemsAdd({.aText = "a", .aAllowEdit = true, .aForeColorDis = 3, .aBackColorDis = "def"});
+  list.ItemsAdd({.aText = "b", .aForeColor = 1, .aForeColorDis = "def", .aBackColorDis = 4});
+  EXPECT_EQ(reports(), "13 ItemsAdd, 13 ItemsAdd");
+  EXPECT_EQ(list.ItemForeColorDis(0).toInt32(), 3);
+  EXPECT_FALSE(list.ItemAllowEdit(0));
+  EXPECT_EQ(list.ItemForeColor(1), 1);
+  EXPECT_EQ(list.ItemBackColorDis(1).toInt32(), 0);
+}
+
 TEST_F(Items, ADuplicatePastTheSixteenBitLimitIsAFailure) {
   list.AutoRedraw(false);
   for (int i = 0; i <= 32767; ++i) list.ItemsAdd(std::to_string(100000 + i));
