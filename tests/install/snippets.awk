@@ -1,4 +1,4 @@
-# Turns the C++ in a document into functions that a compiler can check: each block of ```cpp, and the calls
+# Turns the C++ in documents into functions that a compiler can check: each block of ```cpp, and the calls
 # of the list in tables. Left out are blocks marked "cpp fragment", and whole programs, which are examples.
 BEGIN { print "#include <SnippetContext.h>" }
 
