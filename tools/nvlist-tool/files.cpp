@@ -19,7 +19,7 @@ using norvane::nvList;
 namespace tool {
 namespace {
 
-constexpr std::size_t blockSize = 256 * 1024;
+constexpr std::size_t blockSize = std::size_t{256} * 1024;
 
 struct Known {
   Kind kind;
