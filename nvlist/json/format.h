@@ -13,8 +13,8 @@ inline constexpr std::string_view properties = "Properties";
 
 inline constexpr int version = 1;
 
-inline constexpr std::size_t blockSize = 256 * 1024;
+inline constexpr std::size_t blockSize = std::size_t{256} * 1024;
 /// No longer line is written, and a longer one is not read, so that memory use is bounded.
-inline constexpr std::size_t longestLine = 256 * 1024 * 1024;
+inline constexpr std::size_t longestLine = std::size_t{256} * 1024 * 1024;
 
 }  // namespace norvane::json::format

@@ -60,7 +60,7 @@ class Walker {
   norvane::File& file_;
   const std::uint64_t size_;
   std::uint64_t at_ = 0;
-  std::vector<char> block_ = std::vector<char>(64 * 1024);
+  std::vector<char> block_ = std::vector<char>(std::size_t{64} * 1024);
   std::size_t begin_ = 0;
   std::size_t end_ = 0;
 };
