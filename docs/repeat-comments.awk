@@ -1,7 +1,7 @@
 # Doxygen's filter for headers. A comment documents all declarations below it up to a blank line or the
 # next comment, as a getter and its setter; Doxygen would use it for the first of them only. Left out are
 # overrides that Qt calls, and properties, whose functions are documented.
-/^ *(void|bool|QSize) ([A-Za-z]*[eE]vent|eventFilter|connectNotify|sizeHint)\(.*override/ { next }
+/^ *(void|bool|QSize) ([A-Za-z]*[eE]vent|eventFilter|connectNotify|disconnectNotify|sizeHint)\(.*override/ { next }
 /^ *Q_PROPERTY\(/ { inProperty = 1 }
 inProperty { if (/\)$/) inProperty = 0; next }
 body != "" { print; if ($0 == body) { body = ""; whole = 1 } next }

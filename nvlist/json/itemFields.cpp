@@ -118,8 +118,8 @@ constexpr ItemField fields[] = {
 }  // namespace
 
 const std::string& RecentPictures::textOf(const Picture& picture) {
-  const auto known = std::ranges::find(entries_, picture, &Entry::picture);
-  if (known != entries_.end()) return known->text;
+  auto* const known = std::ranges::find(entries_, picture, &Entry::picture);
+  if (known != std::end(entries_)) return known->text;
   const std::vector<std::byte> file = picture->fileBytes();
   Entry& entry = next();
   entry.picture = picture;
@@ -129,8 +129,8 @@ const std::string& RecentPictures::textOf(const Picture& picture) {
 }
 
 Picture RecentPictures::pictureOf(std::string_view text) {
-  const auto known = std::ranges::find(entries_, text, &Entry::text);
-  if (known != entries_.end() && known->picture) return known->picture;
+  auto* const known = std::ranges::find(entries_, text, &Entry::text);
+  if (known != std::end(entries_) && known->picture) return known->picture;
   const auto bytes = bytesOfBase64(text);
   if (!bytes) throw Unsuitable("the base64 is malformed");
   const auto* first = reinterpret_cast<const std::byte*>(bytes->data());

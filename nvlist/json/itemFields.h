@@ -1,8 +1,7 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
-#include <functional>
+#include <iterator>
 #include <span>
 #include <string>
 #include <string_view>
@@ -27,9 +26,9 @@ class RecentPictures {
     Picture picture;
     std::string text;
   };
-  Entry& next() { return entries_[next_++ % entries_.size()]; }
+  Entry& next() { return entries_[next_++ % std::size(entries_)]; }
 
-  std::array<Entry, 8> entries_;
+  Entry entries_[8];
   std::size_t next_ = 0;
 };
 

@@ -9,7 +9,7 @@
 
 namespace tool {
 
-/// The arguments of the command line, checked as far as one argument alone can be.
+/// The command line. Each argument is valid by itself.
 struct Arguments {
   std::vector<std::string> files;
   std::optional<Kind> from;
