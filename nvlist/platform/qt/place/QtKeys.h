@@ -9,7 +9,7 @@ namespace norvane {
 /// The sum of 1 for Shift, 2 for Ctrl and 4 for Alt.
 std::int16_t shiftOf(Qt::KeyboardModifiers modifiers);
 
-/// The other way round.
+/// The modifiers in such a sum.
 Qt::KeyboardModifiers modifiersOf(std::int16_t shift);
 
 /// The sum of 1 for left, 2 for right and 4 for middle.

@@ -33,13 +33,13 @@ SteadyClock::time_point lastDone = SteadyClock::now();
 int eventLoops = 0;
 int paints = 0;
 
-/// A handler may cause the event that calls it again; from here on it has to wait.
+/// A handler may cause the event that calls it again. Beyond this depth, events wait.
 constexpr int mostEventLoops = 16;
 
 /// Sent to the widget when something was drawn.
 const auto drawnEvent = static_cast<QEvent::Type>(QEvent::registerEventType());
 
-/// In pixels; further than any screen, and no widget takes more.
+/// In pixels: beyond any screen, and as far as widgets can be placed.
 constexpr float farOut = 1 << 24;
 
 std::int16_t shiftNow() { return shiftOf(QGuiApplication::keyboardModifiers()); }
@@ -137,7 +137,7 @@ std::int32_t QtPlace::hwnd() {
   return widget ? handleOf(*widget) : 0;
 }
 
-/// Looks at the clock once in a while only: loops over a million items ask.
+/// Reads the clock at every 64th call only, because loops over a million items call this.
 bool QtPlace::EventsWaiting() {
   if (++timesAsked % 64 != 0) return false;
   return SteadyClock::now() - lastDone >= std::chrono::milliseconds(10);
@@ -251,8 +251,9 @@ void QtPlace::newImage(QSize size) {
   setOpaque();
 }
 
-/// With a broken ratio the edges of the widget lie inside pixels, which the image may not reach:
-/// what is behind the widget has to be painted there. Without a control there is nothing to show.
+/// With a fractional ratio the edges of the widget lie inside pixels, which the image may not
+/// reach: what is behind the widget has to be painted there. Without a control there is nothing to
+/// show.
 void QtPlace::setOpaque() {
   if (!widget_) return;
   const qreal ratio = widget_->devicePixelRatioF();
@@ -272,7 +273,7 @@ void QtPlace::makesReadable(bool on) {
   renewImages();
 }
 
-/// The look of the screen or of the program has changed, and the images are of no use any more.
+/// Paints all images again, for another palette or screen.
 void QtPlace::renewImages() {
   const QWidget* const widget = form().widget_;
   if (!widget) return;
@@ -369,7 +370,7 @@ bool QtPlace::mouseEvent(QEvent* event) {
   // A child control that is pressed gets its release in any case: it repeats until then.
   const bool isChildHeld = mouse().pressed() && mouse().pressed() != this;
   if (!widget_->isEnabled() && !(isRelease && isChildHeld)) return false;
-  // Other buttons are the form's.
+  // Other buttons are left to the form.
   if (button == 0 && !isMove) return false;
   event->accept();
   if (isRelease) {
@@ -399,7 +400,7 @@ void QtPlace::watchHold() {
 
 bool QtPlace::keyEvent(QEvent* event) {
   auto* key = static_cast<QKeyEvent*>(event);
-  // The keys that leave the control are the form's, and so are those that come by from an edit box.
+  // Keys that leave the control are left to the form, and so are those that the edit box ignores.
   const bool isFromEditBox = isFocusInside() && !widget_->hasFocus();
   if (isFromEditBox || key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab) return false;
   std::int16_t code = keyCodeOf(*key);

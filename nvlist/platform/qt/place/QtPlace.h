@@ -29,12 +29,12 @@ class QtPlace : public Place {
   explicit QtPlace(QWidget& widget);
   ~QtPlace() override;
 
-  /// Whether a designer has the form; read at the outermost place. Default: false.
+  /// Whether the form is open in a designer; read at the outermost place. Default: false.
   bool isDesignMode = false;
   /// Called with the name of each property of the control that has changed. Default: none.
   std::function<void(std::string_view name)> onPropertyChanged;
 
-  /// What becomes of turns of the wheel; used at the outermost place.
+  /// Converts the turns of the wheel; used at the outermost place.
   QtWheel wheel;
 
   /// Called with what a handler of the program threw while the control let events run (DoEvents);
@@ -58,7 +58,8 @@ class QtPlace : public Place {
   /// outermost place. Default: false.
   void mirror(bool on);
   bool isMirrored() const { return form().isMirrored_; }
-  /// Called before the widget is destroyed, if the control lives on: from now on nothing is shown.
+  /// Has to be called before the widget is destroyed if the control outlives it. From then on
+  /// nothing is shown.
   void detach() { widget_ = nullptr; }
   /// Destroys a control and its place as soon as no procedure of the library runs: a handler of the
   /// host may have destroyed the widget around them.

@@ -7,11 +7,11 @@ class QWheelEvent;
 
 namespace norvane {
 
-/// Turns of the mouse wheel over a widget, as its control gets them: forward and back as messages
-/// of the wheel, to the side as pixels.
+/// Converts turns of the mouse wheel over a widget: forward and back into wheel messages for its
+/// control, to the side into pixels.
 class QtWheel {
  public:
-  /// What takes the messages (Container::hookWheel).
+  /// Receives the messages (Container::hookWheel).
   using Procedure = std::function<void(std::int32_t wParam, std::int32_t lParam)>;
 
   /// Whether each turn reaches the control as it comes. Otherwise parts of a notch, as touchpads
