@@ -37,7 +37,7 @@ TEST(QtApplicationTest, ReadsSettingsByTheLastLevelOfTheKey) {
   EXPECT_EQ(application.readSetting("Software\\Norvane", "Code").toText(), "007");
   EXPECT_TRUE(application.readSetting("Software\\Nobody", "Folder").isEmpty());
 
-  // Written by hand, without quotes.
+  // As a person writes them, without quotes.
   QFile file(QSettings(QSettings::UserScope, "Norvane").fileName());
   ASSERT_TRUE(file.open(QIODevice::WriteOnly));
   file.write("[Other]\nByHand=a,b\n[General]\nByHand=/var/log/a,  b\nQuoted=x, \"y\"\n");

@@ -93,7 +93,7 @@ TEST_F(ToolTips, StayAsLongAsTheirTimeSays) {
   expect("-");
   EXPECT_GE(clock.elapsed(), 200);
   EXPECT_LT(clock.elapsed(), 2000);
-  // It has had its time until the mouse comes anew.
+  // It appears again only when the mouse has left the control and entered it again.
   moveTo(QCursor::pos() + QPoint(3, 3));
   QTest::qWait(700);
   EXPECT_EQ(shown(), "-");

@@ -112,6 +112,23 @@ TEST_F(WidgetProperties, RowsAreReadableInEveryPalette) {
   EXPECT_EQ(list().BackColor(), colours::white);
 }
 
+TEST_F(WidgetProperties, WhatIsEditedCanBeReadOnADesktopOfAnyColours) {
+  list().AllowEdit(true);
+  fill(3);
+  const auto background = [&](Qt::GlobalColor desktop, Colour text) {
+    QPalette palette = form.palette();
+    palette.setColor(QPalette::Base, desktop);
+    form.setPalette(palette);
+    list().ForeColor(text);
+    list().SetEdit(2);
+    EXPECT_EQ(edit().palette().color(QPalette::Text), QColor(rgbOf(text, palette)));
+    return edit().palette().color(QPalette::Base);
+  };
+  EXPECT_EQ(background(Qt::yellow, 0), QColor(Qt::yellow));
+  EXPECT_EQ(background(Qt::black, 0), QColor(Qt::white));
+  EXPECT_EQ(background(Qt::white, 0xFFFFFF), QColor(Qt::black));
+}
+
 TEST(Failures, GoWhereTheProgramWants) {
   QtApplication application;
   NvListWidget widget;
