@@ -231,7 +231,7 @@ Status render(Session& session, const Arguments& arguments) {
 Status diff(Session& session, const Arguments& arguments) {
   QuietList first, second;
   bool isSame = true;
-  for (auto& [form, path] :
+  for (const auto& [form, path] :
        {std::pair<QuietList&, const std::string&>(first, arguments.files.at(0)),
         {second, arguments.files.at(1)}}) {
     const Loaded loaded = loadFile(session, form.list(), path, arguments.from);
