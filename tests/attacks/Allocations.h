@@ -5,12 +5,12 @@
 /// The allocations of this program, whose operator new is replaced (Allocations.cpp).
 namespace norvane::attacks::allocations {
 
-/// Blocks and bytes that are allocated now.
+/// The number of blocks and bytes that are allocated now.
 long blocks();
 std::size_t bytes();
 
-/// Counts the allocations of its lifetime and lets some of them fail: the `first` one, with
-/// `onward` all after it too. 0: none. Only one may exist.
+/// Counts the allocations during its lifetime. The `first` one, counted from 1, fails, and with
+/// `onward` all later ones; 0: none fails. Only one watch may exist.
 class Watch {
  public:
   explicit Watch(long first = 0, bool onward = false);
@@ -19,7 +19,7 @@ class Watch {
   ~Watch();
 
   long count() const;
-  /// Size of the largest block, and the most bytes in use at once beyond those before.
+  /// The size of the largest block, and the most bytes in use at once beyond those in use before.
   std::size_t largest() const;
   std::size_t peak() const;
 };

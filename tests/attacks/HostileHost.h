@@ -27,7 +27,7 @@ class HostileProgram final : public HeadlessApplication {
   CallOut& out_;
 };
 
-/// A host in each of whose handlers something may happen.
+/// A host whose every handler is a call-out.
 class HostileHost final : public __nvList {
  public:
   explicit HostileHost(CallOut& out) : out_(out) {}
@@ -54,8 +54,8 @@ class HostileHost final : public __nvList {
   CallOut& out_;
 };
 
-/// The life of a list whose host does something bad when it is called for the `at`-th time. Whoever
-/// runs it makes the list.
+/// The life of a list whose host does something bad when it is called for the `at`-th time. The
+/// caller creates the list.
 struct HostileLife {
   explicit HostileLife(long at) : out{0, at} {
     for (auto& [name, bytes] : filesOfALife()) files.files[name] = bytes;
@@ -71,7 +71,7 @@ struct HostileLife {
       afterStep();
     }
   }
-  /// Without further trouble, the list serves like any other.
+  /// Whether the list works again once the host behaves.
   bool serves(nvList& list) {
     out.at = 0;
     list.removeSink(host);
@@ -94,7 +94,7 @@ struct NamedTrouble {
   std::function<void(HostileLife&, nvList&)> run;
 };
 
-/// What it can do to the list alone.
+/// Everything that needs the list alone.
 inline std::vector<NamedTrouble> troublesForAList() {
   const auto toList = [](const char* name, void (*run)(nvList&)) {
     return NamedTrouble{name, [run](HostileLife&, nvList& list) { run(list); }};

@@ -12,7 +12,7 @@
 namespace norvane::attacks {
 namespace {
 
-/// One life, with the trouble in the call-out of that number. Returns how many there were.
+/// Runs one life, with the trouble in the call-out of that number. Returns the number of call-outs.
 long live(long at, const NamedTrouble& trouble) {
   HostileLife life(at);
   HeadlessList headless(60, 60);
@@ -42,7 +42,7 @@ long live(long at, const NamedTrouble& trouble) {
 TEST(HostileHostTest, IsSurvivedWhereverItIsCalled) {
   std::vector<NamedTrouble> troubles = troublesForAList();
   troubles.push_back({"nested loop", nullptr});
-  // What the library allocates once stays.
+  // The first life allocates what the library keeps.
   live(0, troubles[0]);
   const long calls = live(0, troubles[0]);
   ASSERT_GT(calls, 100);

@@ -16,8 +16,8 @@
 
 namespace norvane::attacks {
 
-/// Counts the places where the library calls out, and runs `trouble` in one of them, or from there
-/// on.
+/// Counts the calls from the library to its host or platform. Runs `trouble` in one of them, with
+/// `onward` in all later ones too.
 struct CallOut {
   long calls = 0;
   long at = 0;  ///< counted from 1; 0: none
@@ -40,13 +40,13 @@ struct Hand {
   std::function<void(float x, float y)> doubleClick;
   std::function<void(std::int16_t delta)> turnWheel;
   std::function<void(std::int16_t code)> key;
-  /// Types the end of an edit.
+  /// Presses Return in the edit box.
   std::function<void()> finishEdit;
   std::function<void(int milliseconds)> wait;
   std::function<void(float width, float height)> resize;
 };
 
-/// The hand in front of a form without a screen.
+/// The hand of a user of a headless form.
 inline Hand handOn(HeadlessContainer& form, nvList& list) {
   Hand hand;
   hand.press = [&](float x, float y, std::int16_t shift) { form.press(x, y, 1, shift); };
@@ -64,7 +64,7 @@ inline Hand handOn(HeadlessContainer& form, nvList& list) {
   return hand;
 }
 
-/// The distance between two calls that fail: that of scripts/sweep, or the usual one.
+/// The distance between two calls that fail: the one that scripts/sweep sets, or the usual one.
 inline long strideOr(long usual) {
   const char* value = std::getenv("NVLIST_SWEEP_STRIDE");
   return value ? std::max(std::atol(value), 1L) : usual;
@@ -83,7 +83,7 @@ class Rows final : public Recordset {
   void MoveFirst() override { onCall_(), at_ = 0; }
   void MoveNext() override {
     onCall_();
-    // A list that never learns of the end would go on for ever.
+    // Ends a list that never sees the end of the rows.
     if (++at_ > 20) throw std::bad_alloc();
   }
   Boolean Eof() override { return onCall_(), at_ >= 3; }
@@ -116,7 +116,7 @@ class HostPicture final : public PictureObject {
 inline std::vector<Step> lifeOf(nvList& list, Hand& hand, const std::function<void()>& onCall) {
   const Picture icon = makeRef<HostPicture>(onCall);
   const Ref<Object> rows = makeRef<Rows>(onCall);
-  // Made here, so that no step allocates anything outside of the library.
+  // Created here, so that no step allocates anything outside of the library.
   const Variant wide = "a & long text that needs the bar", key = "key", comma = ",",
                 image = "image";
   const NewItem pictured{

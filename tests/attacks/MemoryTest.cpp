@@ -1,4 +1,4 @@
-// The memory that files may take.
+// Bounds on the memory that reading a file uses.
 
 #include "../files/FileTest.h"
 #include "Allocations.h"

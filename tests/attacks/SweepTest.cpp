@@ -27,7 +27,7 @@ struct Plan {
 struct Outcome {
   long calls = 0;
   long allocations = 0;
-  /// What is wrong; nullptr: nothing.
+  /// A description of the fault that was found, or nullptr.
   const char* fault = nullptr;
   const char* step = "";
 };
@@ -38,7 +38,7 @@ class Host final : public __nvList {
   void ErrorListSave() override { ++saveErrors; }
 };
 
-/// A list with everything around it that can fail.
+/// A list whose platform, files and memory can fail.
 class Sweep {
  public:
   explicit Sweep(const Plan& plan) : plan_(plan) {
@@ -51,7 +51,7 @@ class Sweep {
   ~Sweep() { Error().SilentError(false); }
 
   Outcome run() {
-    // Not making a control is no harm.
+    // A constructor may throw.
     const allocations::Watch memory(plan_.allocation, plan_.onward);
     ignoringFailures([&] {
       place_.emplace(form_, calls_);
@@ -61,7 +61,7 @@ class Sweep {
     outcome_.allocations = memory.count();
     return outcome_;
   }
-  /// Without trouble.
+  /// Checks the list after its life, without trouble.
   void check() {
     lifeCalls_ = std::exchange(calls_.calls, 0);
     calls_.at = 0;
@@ -69,7 +69,7 @@ class Sweep {
     if (files_.open != 0) fault("a file is still open");
     if (Trap::anyRuns()) fault("a procedure has not ended");
   }
-  /// With trouble again, if it goes on.
+  /// Destroys the list, with trouble again if it is onward.
   void end() {
     calls_.calls = lifeCalls_;
     calls_.at = plan_.call;
@@ -117,7 +117,7 @@ class Sweep {
     }
     succeeds([&] { list_->removeSink(host); });
   }
-  /// A save that raised nothing has written the whole list.
+  /// A save without an event must have written the whole list.
   void checkSaved() {
     const allocations::Pause pause;
     const auto [calls, at] = std::pair(calls_.calls, std::exchange(calls_.at, 0));
@@ -129,7 +129,7 @@ class Sweep {
     calls_.at = at;
   }
   /// After its properties are read and the wheel is turned, which ends a repaint that a failure has
-  /// left unfinished, the list serves like any other.
+  /// left unfinished, the list must work again.
   void checkUse() {
     list_->UserControl_ReadProperties(PropertyBag());
     list_->ItemsClear();
@@ -167,7 +167,7 @@ class SweepTest : public testing::TestWithParam<std::pair<bool, bool>> {
   void sweep(long Plan::*what, long Outcome::*number) {
     const auto [onward, silent] = GetParam();
     Plan plan{0, 0, onward, silent};
-    // What the library allocates once stays.
+    // The first life allocates what the library keeps.
     outcomeOf(plan);
     const Outcome whole = outcomeOf(plan);
     ASSERT_EQ(whole.fault, nullptr);
