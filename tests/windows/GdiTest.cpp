@@ -2,14 +2,18 @@
 #include <nvlist/platform/windows/GdiSurface.h>
 #include <nvlist/values/Failure.h>
 
+#include <algorithm>
 #include <cstdlib>
+#include <fstream>
+#include <map>
 
 #include "scenes.h"
 
 namespace norvane {
 namespace {
 
-scenes::Pixels pixelsOf(GdiCanvas& canvas) {
+/// The pixels as 0xRRGGBB, row by row from the top.
+std::vector<std::uint32_t> pixelsOf(GdiCanvas& canvas) {
   const int width = canvas.width();
   const int height = canvas.height();
   BITMAPINFO info{};
@@ -25,8 +29,8 @@ scenes::Pixels pixelsOf(GdiCanvas& canvas) {
   canvas.copyTo(dc, 0, 0, width, height);
   GdiFlush();
   const auto* values = static_cast<const std::uint32_t*>(bits);
-  scenes::Pixels result{width, height, {values, values + width * height}};
-  for (std::uint32_t& value : result.values) value &= 0xFFFFFF;
+  std::vector<std::uint32_t> result(values, values + width * height);
+  for (std::uint32_t& value : result) value &= 0xFFFFFF;
   SelectObject(dc, before);
   DeleteObject(bitmap);
   DeleteDC(dc);
@@ -51,23 +55,18 @@ TEST(Gdi, DrawsTheScenesAsQtDoes) {
     canvas.resize(static_cast<int>(image.surface.ScaleWidth()),
                   static_cast<int>(image.surface.ScaleHeight()));
     image.surface.replay(canvas);
-    const scenes::Pixels drawn = pixelsOf(canvas);
-    const std::string path = std::string(folder) + "/" + image.name;
-    const scenes::Pixels expected = scenes::read(path + ".ppm");
-    ASSERT_EQ(expected.values.size(), drawn.values.size()) << image.name;
-    std::size_t differing = 0;
-    std::size_t first = drawn.values.size();
-    for (std::size_t i = 0; i < drawn.values.size(); ++i) {
-      if (isSame(drawn.values[i], expected.values[i])) continue;
-      ++differing;
-      first = std::min(first, i);
-    }
-    if (differing == 0) return;
-    scenes::write(drawn, path + "-gdi.ppm");
-    const auto width = static_cast<std::size_t>(drawn.width);
-    ADD_FAILURE() << image.name << ": " << differing << " pixels differ, the first one at column "
-                  << first % width << ", row " << first / width << ": " << std::hex
-                  << expected.values[first] << " on Qt, " << drawn.values[first] << " here";
+    const std::vector<std::uint32_t> drawn = pixelsOf(canvas);
+    std::ifstream file(std::string(folder) + "/" + image.name, std::ios::binary);
+    std::vector<std::uint32_t> expected(drawn.size());
+    file.read(reinterpret_cast<char*>(expected.data()),
+              static_cast<std::streamsize>(expected.size() * sizeof expected[0]));
+    ASSERT_TRUE(file && file.peek() == EOF) << image.name;
+    const auto [here, onQt] = std::ranges::mismatch(drawn, expected, isSame);
+    if (here == drawn.end()) return;
+    const auto at = here - drawn.begin();
+    ADD_FAILURE() << image.name << " differs at column " << at % canvas.width() << ", row "
+                  << at / canvas.width() << ": " << std::hex << *onQt << " on Qt, " << *here
+                  << " here";
   });
   EXPECT_GT(images, 50);
 }
@@ -89,30 +88,13 @@ TEST(Gdi, DrawsItsOwnCallsExactly) {
                                   "....oooo",
                                   "....o..o",
                                   "....oooo"};
-  const scenes::Pixels drawn = pixelsOf(canvas);
-  const auto name = [](std::uint32_t value) {
-    switch (value) {
-      case 0xFFFFFF:
-        return '.';
-      case 0x000000:
-        return '#';
-      case 0x00FF00:
-        return 'g';
-      case 0x010203:
-        return 'o';
-      case 0x090807:
-        return 'p';
-      case 0xFF0000:
-        return 'r';
-      case 0x0000FF:
-        return 'b';
-      default:
-        return '?';
-    }
-  };
+  const std::vector<std::uint32_t> drawn = pixelsOf(canvas);
+  const std::map<std::uint32_t, char> names = {{0xFFFFFF, '.'}, {0, '#'},        {0x00FF00, 'g'},
+                                               {0x010203, 'o'}, {0x090807, 'p'}, {0xFF0000, 'r'},
+                                               {0x0000FF, 'b'}};
   for (int y = 0; y < 6; ++y) {
     std::string row;
-    for (int x = 0; x < 8; ++x) row += name(drawn.values[static_cast<std::size_t>(y * 8 + x)]);
+    for (int x = 0; x < 8; ++x) row += names.at(drawn[static_cast<std::size_t>(y * 8 + x)]);
     EXPECT_EQ(expected[y], row) << "row " << y;
   }
   EXPECT_EQ(7, canvas.CurrentX());
@@ -140,18 +122,19 @@ TEST(Gdi, MeasuresTextsAsTheSystemDoes) {
   DeleteDC(dc);
 }
 
-/// A png of one row: a red pixel, one that is half transparent green, one that is transparent.
-const unsigned char pngBytes[] = {
-    0x89, 0x50, 0x4E, 0x47, 0x0D, 0x0A, 0x1A, 0x0A, 0x00, 0x00, 0x00, 0x0D, 0x49, 0x48, 0x44,
-    0x52, 0x00, 0x00, 0x00, 0x03, 0x00, 0x00, 0x00, 0x01, 0x08, 0x06, 0x00, 0x00, 0x00, 0x1B,
-    0xE0, 0x14, 0xB4, 0x00, 0x00, 0x00, 0x11, 0x49, 0x44, 0x41, 0x54, 0x78, 0x9C, 0x63, 0xF8,
-    0xCF, 0xC0, 0xF0, 0x1F, 0x08, 0x1B, 0x40, 0x14, 0x00, 0x20, 0x6F, 0x04, 0x7D, 0x3D, 0x9F,
-    0x67, 0x30, 0x00, 0x00, 0x00, 0x00, 0x49, 0x45, 0x4E, 0x44, 0xAE, 0x42, 0x60, 0x82};
+std::vector<std::byte> bytesOf(std::string_view hex) {
+  std::vector<std::byte> result;
+  for (std::size_t i = 0; i < hex.size(); i += 2)
+    result.push_back(static_cast<std::byte>(std::stoi(std::string(hex.substr(i, 2)), nullptr, 16)));
+  return result;
+}
 
 TEST(Gdi, BlendsATransparentPicture) {
   CoInitialize(nullptr);
-  const auto* begin = reinterpret_cast<const std::byte*>(pngBytes);
-  const std::vector<std::byte> file(begin, begin + sizeof pngBytes);
+  // A png of one row: a red pixel, one that is half transparent green, one that is transparent.
+  const std::vector<std::byte> file = bytesOf(
+      "89504e470d0a1a0a0000000d49484452000000030000000108060000001be014b400000011494441"
+      "54789c63f8cfc0f01f081b401400206f047d3d9f67300000000049454e44ae426082");
   const Picture picture = OlePicture::fromBytes(file);
   ASSERT_TRUE(picture);
   EXPECT_EQ(3, picture->width());
@@ -163,20 +146,13 @@ TEST(Gdi, BlendsATransparentPicture) {
     GdiCanvas canvas;
     canvas.resize(3, 1);
     canvas.PaintPicture(shown, 0, 0);
-    const std::vector<std::uint32_t> drawn = pixelsOf(canvas).values;
+    const std::vector<std::uint32_t> drawn = pixelsOf(canvas);
     EXPECT_EQ(0xFF0000u, drawn[0]);
     EXPECT_NEAR(127, drawn[1] >> 16, 2);
     EXPECT_NEAR(255, drawn[1] >> 8 & 0xFF, 2);
     EXPECT_EQ(0xFFFFFFu, drawn[2]);
   }
-  EXPECT_FALSE(OlePicture::fromBytes({begin, 20}));
-}
-
-std::vector<std::byte> bytesOf(std::string_view hex) {
-  std::vector<std::byte> result;
-  for (std::size_t i = 0; i < hex.size(); i += 2)
-    result.push_back(static_cast<std::byte>(std::stoi(std::string(hex.substr(i, 2)), nullptr, 16)));
-  return result;
+  EXPECT_FALSE(OlePicture::fromBytes({file.data(), 20}));
 }
 
 /// A metafile of 8 by 8 red pixels: the placeable form of 16 bits, or the enhanced one.
@@ -250,7 +226,7 @@ TEST(Gdi, ShowsAndKeepsPicturesOfEachFormat) {
     GdiCanvas canvas;
     canvas.resize(width, 1);
     canvas.PaintPicture(picture, 0, 0);
-    const std::uint32_t colour = pixelsOf(canvas).values[0];
+    const std::uint32_t colour = pixelsOf(canvas)[0];
     EXPECT_NEAR(255, colour >> 16, 10) << name;
     EXPECT_NEAR(0, colour & 0xFFFF, 10 << 8) << name;
   }
@@ -267,7 +243,7 @@ TEST(Gdi, ASurfaceDrawsWhenItIsPainted) {
     surface.Line(LineMode::filledBox, 0, 0, 3, 3, rgb(0, 0, static_cast<std::uint8_t>(i)));
   }
   EXPECT_EQ(1, reports);
-  EXPECT_EQ(99u, pixelsOf(surface.image()).values[0]);
+  EXPECT_EQ(99u, pixelsOf(surface.image())[0]);
   surface.Cls();
   EXPECT_EQ(2, reports);
 }

@@ -3,9 +3,6 @@
 #include <nvlist/drawing/DrawnPicture.h>
 #include <nvlist/platform/headless/HeadlessList.h>
 
-#include <fstream>
-#include <stdexcept>
-
 using namespace norvane;
 
 namespace scenes {
@@ -121,34 +118,6 @@ void forEachImage(const std::function<void(const Image&)>& take) {
     list.surface().image();  // draws pending calls
     visit(scene.name, list.container(), take);
   }
-}
-
-void write(const Pixels& pixels, const std::string& path) {
-  std::ofstream file(path, std::ios::binary);
-  file << "P6\n" << pixels.width << ' ' << pixels.height << "\n255\n";
-  for (const std::uint32_t value : pixels.values)
-    for (const int shift : {16, 8, 0}) file.put(static_cast<char>(value >> shift));
-  if (!file.flush()) throw std::runtime_error("cannot write " + path);
-}
-
-Pixels read(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  std::string form;
-  Pixels result;
-  int most = 0;
-  file >> form >> result.width >> result.height >> most;
-  file.get();
-  if (!file || form != "P6") throw std::runtime_error("cannot read " + path);
-  const auto count =
-      static_cast<std::size_t>(result.width) * static_cast<std::size_t>(result.height);
-  for (std::size_t i = 0; i < count; ++i) {
-    std::uint32_t value = 0;
-    for (int channel = 0; channel < 3; ++channel)
-      value = value << 8 | static_cast<std::uint8_t>(file.get());
-    result.values.push_back(value);
-  }
-  if (!file) throw std::runtime_error("cannot read " + path);
-  return result;
 }
 
 }  // namespace scenes

@@ -2,7 +2,8 @@
 
 #include <cstdio>
 
-/// Each client prints what failed, and a last line that scripts/test-windows demands.
+/// Counts checks. A client prints each one that fails and ends with a line of both counts, which
+/// tests/windows/run-clients requires.
 struct Checks {
   int passed = 0, failed = 0;
 

@@ -26,7 +26,7 @@ inline void pump(DWORD milliseconds) {
   } while (static_cast<LONG>(end - GetTickCount()) > 0);
 }
 
-/// An object that outlives its references, which it counts.
+/// An object that counts its references and is not destroyed with the last one.
 template <class... Interfaces>
 class Standing : public Interfaces... {
  public:

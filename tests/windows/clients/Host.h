@@ -66,11 +66,10 @@ inline long listIndex(::_nvList* list) {
 void activation();
 void ambients();
 void persistence();
+void members();
 void drawing();
-void references();
 void connections();
 void events();
 void badArguments();
-void images();
 
 }  // namespace norvane

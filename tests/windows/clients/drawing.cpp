@@ -29,8 +29,8 @@ std::vector<COLORREF> drawn(Draw&& draw) {
   return result;
 }
 
-HRESULT drawOn(HDC target, ::_nvList* list, DWORD aspect = DVASPECT_CONTENT) {
-  const RECTL place{bounds.left, bounds.top, bounds.right, bounds.bottom};
+HRESULT drawOn(HDC target, ::_nvList* list, DWORD aspect = DVASPECT_CONTENT,
+               const RECTL& place = {bounds.left, bounds.top, bounds.right, bounds.bottom}) {
   return asked<IViewObject2>(list)->Draw(aspect, -1, nullptr, nullptr, nullptr, target, &place,
                                          nullptr, nullptr, 0);
 }
@@ -72,6 +72,10 @@ void drawing() {
   };
   check(answer == S_OK && at(100, 145) == 0xFFFFFF && at(100, 24) == 0x316AC5 && at(-1, -1) == 0,
         "drawn without a window");
+  const auto halved = drawn([&](HDC target) {
+    drawOn(target, list.get(), DVASPECT_CONTENT, {20, 20, 20 + size.cx / 2, 20 + size.cy / 2});
+  });
+  check(halved[(20 + 12) * (size.cx + 40) + 20 + 50] == 0x316AC5, "drawn at half the size");
   check(direct == drawn([&](HDC target) { printOn(target, list.get()); }), "printed");
   drawn([&](HDC target) {
     check(drawOn(target, list.get(), DVASPECT_ICON) == DV_E_DVASPECT, "no other aspect");

@@ -1,23 +1,16 @@
 // A DLL that script clients use, as NvListTest.Helper:
 //
-//     Make(name)                     a new object; CreateObject of Wine keeps its class object
-//     Watch(object)                  an object that passes every call on and remembers it
-//     Missed(watched)                the members that were never called, by kind and name
-//     Connect source, sink, prefix   routes the source's events to sink.<prefix><event>
-//     Disconnect
-//     Picture(path)                  the picture in a file
-//     Report                         the reports received since the last call; empty: none
-//     Handle kind                    the error handler "takes" reports, "fails" or "is missing"
-//     AnswerBox                      closes the next message box of this thread
-//     Box                            the texts of the boxes closed since the last call
-//     CanUnload                      whether nvList.ocx says that it can be unloaded
+//     Make(name)         a new object; CreateObject of Wine keeps its class object
+//     Members(object)    the names of its functions and of its properties that hold objects
+//     Picture(path)      the picture in a file
+//     Report             the reports received since the last call; empty: none
+//     Handle kind        the error handler "takes" reports, "fails" or "is missing"
+//     AnswerBox          closes the next message box of this thread
+//     Box                the texts of the boxes closed since the last call
+//     CanUnload          whether nvList.ocx says that it can be unloaded
 //
 // It also provides NorvaneErrorHandler.ErrorHandler, which receives the reports of the library.
-#include <dispex.h>
-
 #include <functional>
-#include <map>
-#include <set>
 #include <vector>
 
 #include <nvlist/platform/windows/ole.h>
@@ -55,28 +48,13 @@ class Counted : public Interface {
   ULONG references_ = 0;
 };
 
-class Dispatcher : public Counted<IDispatch> {
- public:
-  STDMETHODIMP GetTypeInfoCount(UINT* count) override { return *count = 0, S_OK; }
-  STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-};
-
-DISPID idOf(IDispatch* object, const std::wstring& name) {
-  DISPID id = DISPID_UNKNOWN;
-  auto* text = const_cast<LPOLESTR>(name.c_str());
-  if (SUCCEEDED(object->GetIDsOfNames(IID_NULL, &text, 1, LOCALE_USER_DEFAULT, &id))) return id;
-  if (const auto byName = asked<IDispatchEx>(object)) {
-    const BSTR copy = SysAllocString(text);
-    if (FAILED(byName->GetDispID(copy, fdexNameCaseInsensitive, &id))) id = DISPID_UNKNOWN;
-    SysFreeString(copy);
-  }
-  return id;
-}
-
-class Object final : public Dispatcher {
+/// An object with these methods.
+class Object final : public Counted<IDispatch> {
  public:
   explicit Object(std::vector<std::pair<const wchar_t*, Method>> methods)
       : methods_(std::move(methods)) {}
+  STDMETHODIMP GetTypeInfoCount(UINT* count) override { return *count = 0, S_OK; }
+  STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
   STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) override {
     for (std::size_t i = 0; i < methods_.size(); ++i)
       if (lstrcmpiW(names[0], methods_[i].first) == 0)
@@ -99,138 +77,23 @@ class Object final : public Dispatcher {
   std::vector<std::pair<const wchar_t*, Method>> methods_;
 };
 
-// ---- Watch ----
-
-using Member = std::pair<MEMBERID, INVOKEKIND>;
-
-class Watched final : public Dispatcher {
- public:
-  explicit Watched(IDispatch* object) : object_(object) {}
-  IDispatch* object() const { return object_.get(); }
-  STDMETHODIMP GetIDsOfNames(REFIID id, LPOLESTR* names, UINT count, LCID locale,
-                             DISPID* ids) override {
-    return object_->GetIDsOfNames(id, names, count, locale, ids);
-  }
-  STDMETHODIMP Invoke(DISPID member, REFIID id, LCID locale, WORD flags, DISPPARAMS* given,
-                      VARIANT* result, EXCEPINFO* exception, UINT* wrong) override {
-    for (const int kind :
-         {INVOKE_FUNC, INVOKE_PROPERTYGET, INVOKE_PROPERTYPUT, INVOKE_PROPERTYPUTREF})
-      if (flags & kind) called_.insert({member, static_cast<INVOKEKIND>(kind)});
-    return object_->Invoke(member, id, locale, flags, given, result, exception, wrong);
-  }
-  std::wstring missed() const {
-    ComPtr<ITypeInfo> info;
-    TYPEATTR* attributes = nullptr;
-    object_->GetTypeInfo(0, 0, info.put());
-    info->GetTypeAttr(&attributes);
-    std::wstring result;
-    for (UINT i = 0; i < attributes->cFuncs; ++i) {
-      FUNCDESC* function = nullptr;
-      BSTR name = nullptr;
-      UINT count = 0;
-      info->GetFuncDesc(i, &function);
-      info->GetNames(function->memid, &name, 1, &count);
-      const bool isOfDispatch = function->memid >= 0x60000000;
-      if (!isOfDispatch && !called_.contains({function->memid, function->invkind}))
-        result += std::to_wstring(function->invkind) + L" " + name + L"; ";
-      SysFreeString(name);
-      info->ReleaseFuncDesc(function);
-    }
-    info->ReleaseTypeAttr(attributes);
-    return result;
-  }
-
- private:
-  ComPtr<IDispatch> object_;
-  std::set<Member> called_;
-};
-
-Watched* watchedIn(const VARIANT& value) {
-  return value.vt == VT_DISPATCH ? dynamic_cast<Watched*>(value.pdispVal) : nullptr;
-}
-IDispatch* objectIn(const VARIANT& value) {
-  Watched* const watched = watchedIn(value);
-  return watched ? watched->object() : value.vt == VT_DISPATCH ? value.pdispVal : nullptr;
-}
-
-// ---- Connect ----
-
-/// Passes events to a script, which accepts arguments by reference only as VARIANTs. What the
-/// script writes into them is copied back.
-class Router final : public Dispatcher {
- public:
-  Router(IDispatch* target, std::map<DISPID, std::wstring> names)
-      : target_(target), names_(std::move(names)) {}
-  STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
-  STDMETHODIMP Invoke(DISPID id, REFIID, LCID locale, WORD, DISPPARAMS* given, VARIANT*, EXCEPINFO*,
-                      UINT*) override {
-    const auto found = names_.find(id);
-    const DISPID to = found == names_.end() ? DISPID_UNKNOWN : idOf(target_.get(), found->second);
-    if (to == DISPID_UNKNOWN) return S_OK;  // the script has no such handler
-    std::vector<OleVariant> lent(given->cArgs);
-    std::vector<VARIANT> arguments(given->rgvarg, given->rgvarg + given->cArgs);
-    for (UINT i = 0; i < given->cArgs; ++i)
-      if (arguments[i].vt != (VT_BYREF | VT_VARIANT)) {
-        VariantCopyInd(&lent[i], &given->rgvarg[i]);
-        arguments[i].vt = VT_BYREF | VT_VARIANT;
-        arguments[i].pvarVal = &lent[i];
-      }
-    DISPPARAMS passed{arguments.data(), nullptr, given->cArgs, 0};
-    const ComPtr<IDispatch> target = target_;
-    const HRESULT answer =
-        target->Invoke(to, IID_NULL, locale, DISPATCH_METHOD, &passed, nullptr, nullptr, nullptr);
-    for (UINT i = 0; i < given->cArgs; ++i) {
-      VARIANT& argument = given->rgvarg[i];
-      const auto type = static_cast<VARTYPE>(argument.vt & ~VT_BYREF);
-      if (arguments[i].pvarVal != &lent[i] ||
-          FAILED(VariantChangeType(&lent[i], &lent[i], 0, type)))
-        continue;
-      if (type == VT_BOOL || type == VT_I2) *argument.piVal = lent[i].iVal;
-      if (type == VT_I4 || type == VT_R4) *argument.plVal = lent[i].lVal;
-    }
-    return answer;
-  }
-
- private:
-  ComPtr<IDispatch> target_;
-  std::map<DISPID, std::wstring> names_;
-};
-
-ComPtr<IConnectionPoint> point;
-DWORD cookie;
-
-HRESULT connect(IDispatch* source, IDispatch* target, const std::wstring& prefix) {
-  const auto described = asked<IProvideClassInfo2>(source);
-  const auto container = asked<IConnectionPointContainer>(source);
-  GUID events{};
-  ComPtr<ITypeInfo> info, control;
-  ComPtr<ITypeLib> library;
-  UINT index = 0;
-  if (!described || !container ||
-      FAILED(described->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &events)) ||
-      FAILED(described->GetClassInfo(control.put())) ||
-      FAILED(control->GetContainingTypeLib(library.put(), &index)) ||
-      FAILED(library->GetTypeInfoOfGuid(events, info.put())))
-    return E_FAIL;
-  std::map<DISPID, std::wstring> names;
-  FUNCDESC* function = nullptr;
-  for (UINT i = 0; SUCCEEDED(info->GetFuncDesc(i, &function)); ++i) {
+/// The members that the walks over properties in members.cpp leave out.
+std::wstring membersOf(IDispatch* object) {
+  ComPtr<ITypeInfo> info;
+  object->GetTypeInfo(0, 0, info.put());
+  std::wstring result;
+  FUNCDESC* member = nullptr;
+  for (UINT i = 0; SUCCEEDED(info->GetFuncDesc(i, &member)); ++i) {
+    const bool isOfDispatch = member->memid >= 0x60000000;
     BSTR name = nullptr;
-    UINT count = 0;
-    info->GetNames(function->memid, &name, 1, &count);
-    if (name) names[function->memid] = prefix + name;
+    info->GetDocumentation(member->memid, &name, nullptr, nullptr, nullptr);
+    if (!isOfDispatch &&
+        (member->invkind == INVOKE_FUNC || member->invkind == INVOKE_PROPERTYPUTREF))
+      result += std::wstring(L";") + name;
     SysFreeString(name);
-    info->ReleaseFuncDesc(function);
+    info->ReleaseFuncDesc(member);
   }
-  const ComPtr<IDispatch> router(new Router(target, std::move(names)));
-  const HRESULT answer = container->FindConnectionPoint(events, point.put());
-  return FAILED(answer) ? answer : point->Advise(router.get(), &cookie);
-}
-
-HRESULT disconnect() {
-  if (point) point->Unadvise(cookie);
-  point.reset();
-  return S_OK;
+  return result;
 }
 
 // ---- the two objects ----
@@ -298,19 +161,10 @@ ComPtr<IDispatch> newHelper() {
               CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch, made.putVoid());
           return FAILED(answer) ? answer : answerObject(result, made.get());
         }},
-       {L"Watch",
+       {L"Members",
         [](const Arguments& given, VARIANT* result) {
-          return answerObject(result, ComPtr<IDispatch>(new Watched(objectIn(*given[0]))).get());
+          return answerText(result, membersOf(given[0]->pdispVal));
         }},
-       {L"Missed",
-        [](const Arguments& given, VARIANT* result) {
-          return answerText(result, watchedIn(*given[0])->missed());
-        }},
-       {L"Connect",
-        [](const Arguments& given, VARIANT*) {
-          return connect(objectIn(*given[0]), given[1]->pdispVal, given[2]->bstrVal);
-        }},
-       {L"Disconnect", [](const Arguments&, VARIANT*) { return disconnect(); }},
        {L"Picture",
         [](const Arguments& given, VARIANT* result) {
           ComPtr<IDispatch> picture;
@@ -343,8 +197,10 @@ HRESULT report(const Arguments& given, VARIANT*) {
   if (given.size() != 8 || given[1]->vt != VT_DISPATCH) return DISP_E_BADPARAMCOUNT;
   OleVariant name;
   DISPPARAMS none{};
-  given[1]->pdispVal->Invoke(idOf(given[1]->pdispVal, L"EXEName"), IID_NULL, 0,
-                             DISPATCH_PROPERTYGET, &none, &name, nullptr, nullptr);
+  DISPID id = DISPID_UNKNOWN;
+  auto* property = const_cast<LPOLESTR>(L"EXEName");
+  given[1]->pdispVal->GetIDsOfNames(IID_NULL, &property, 1, 0, &id);
+  given[1]->pdispVal->Invoke(id, IID_NULL, 0, DISPATCH_PROPERTYGET, &none, &name, nullptr, nullptr);
   reports += std::to_wstring(given[2]->lVal) + L" " + given[3]->bstrVal + L" in " +
              given[7]->bstrVal + L"." + given[4]->bstrVal + L" of " +
              (name.vt == VT_BSTR ? name.bstrVal : L"?") + L"; ";
