@@ -27,10 +27,9 @@ constexpr std::size_t unitsFor(std::size_t bytes) {
 const StoredItem::SharedLook StoredItem::blank;
 
 Ref<StoredItem> StoredItem::make(BlockPool& pool, std::string_view text) {
-  static_assert(beforeText == sizeof(StoredItem) - sizeof text_);
-  const std::size_t inside = beforeText + std::max(text.size(), sizeof(char*));
+  const std::size_t inside = beforeText() + std::max(text.size(), sizeof(char*));
   const std::size_t most = BlockPool::mostUnits * BlockPool::unit;
-  const std::size_t units = unitsFor(inside <= most ? inside : beforeText + sizeof(char*));
+  const std::size_t units = unitsFor(inside <= most ? inside : beforeText() + sizeof(char*));
   const BlockPool::Block block = pool.allocate(units);
   Ref<StoredItem> item(new (block.memory) StoredItem(units, block.slot));
   item->Text(text);

@@ -84,8 +84,9 @@ class StoredItem final : public SharedInThread {
 
   std::unique_ptr<Labels> makeLabels(std::string_view key, Variant tag);
   bool isTextInside() const { return textSize_ <= room(); }
+  static constexpr std::size_t beforeText() { return sizeof(StoredItem) - sizeof text_; }
   /// Bytes for a text at `text_`, at least a pointer.
-  std::size_t room() const { return units_ * BlockPool::unit - beforeText; }
+  std::size_t room() const { return units_ * BlockPool::unit - beforeText(); }
   /// The text in memory of its own, to which `text_` holds a pointer.
   char* outside() const;
   void freeText() {
@@ -93,8 +94,6 @@ class StoredItem final : public SharedInThread {
   }
   const SharedLook& shared() const { return look_ ? *look_ : blank; }
   SharedLook& own();
-
-  static constexpr std::size_t beforeText = 28;
 
   const std::uint8_t units_ : 6;  ///< the size of its block
   bool isSelected_ : 1 = false;
