@@ -146,11 +146,11 @@ TEST_F(Persistence, DefaultsAreNotStored) {
   bag = otherBag();
   list.UserControl_WriteProperties(bag);
   EXPECT_EQ(propertyText(bag), "");
-  const int frames = headless.surface().frames();
+  heard();
   list.ItemsAdd("gone");
   list.UserControl_ReadProperties(bag);
   EXPECT_EQ(list.ItemsCount(), 0);
-  EXPECT_EQ(headless.surface().frames(), frames + 3);  // the item, ItemsClear and the end
+  EXPECT_EQ(heard(), "***");  // the item, ItemsClear and the end
 }
 
 TEST_F(Persistence, AValueThatDoesNotFitEndsTheReading) {
