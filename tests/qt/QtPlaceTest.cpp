@@ -8,6 +8,7 @@
 #include <functional>
 
 #include <nvlist/platform/UserControl.h>
+#include <nvlist/platform/qt/place/QtKeys.h>
 #include <nvlist/platform/qt/place/QtTextBox.h>
 #include <nvlist/platform/qt/place/QtTimer.h>
 #include <nvlist/values/Failure.h>
@@ -44,6 +45,10 @@ TEST(QtPlaceTest, PacksAMessageOfTheWheel) {
   EXPECT_FALSE(turn(0, -120));
   place.isDesignMode = true;
   EXPECT_FALSE(turn(-120));
+}
+
+TEST(QtPlaceTest, DeleteTypesNoCharacter) {
+  EXPECT_EQ(characterOf(QKeyEvent(QEvent::KeyPress, Qt::Key_Delete, {}, "\x7f")), 0);
 }
 
 TEST(QtPlaceTest, YieldsAfterHandlersHaveThrown) {

@@ -91,7 +91,7 @@ TEST_F(QtSurfaceTest, linesAndBoxesCoverTheirPixels) {
   for (const auto& test : cases) {
     SCOPED_TRACE(test.name);
     EXPECT_EQ(line(test.mode, test.x1, test.y1, test.x2, test.y2), test.ink);
-    if (!test.ink.isEmpty()) EXPECT_EQ(surface.image().pixel(test.red), redPixel);
+    EXPECT_EQ(surface.image().pixel(test.red) == redPixel, !test.ink.isEmpty());
     EXPECT_EQ(surface.image().pixel(test.white), white);
   }
   line(outlineBox, 20, 10, 3, 4);

@@ -49,6 +49,9 @@ const Scenario ofAList[] = {
   {"a handler empties the list during a drag of the thumb",
    "fill 40; on Scroll clear; pressAt 190 25; dragTo 190 60; heard; dragTo 190 70;"
    "releaseAt 190 70; add new; texts", "Scroll / new"},
+  {"a button of the bar ends its repeats though the widget is disabled",
+   "fill 40; on Scroll enable 0; pressAt 190 194; releaseAt 190 194; enable 1; rest; rest; rest;"
+   "rest; top", "1"},
   {"a drag scrolls by a real timer", "fill 40; AllowItemMoving 1; press 1; dragTo 60 230; reach 28", ""},
   {"a disabled list has no wheel", "fill 40; scroll 5; Enabled 0; wheel -120; top", "6"},
   {"a sideways wheel moves the horizontal bar",
