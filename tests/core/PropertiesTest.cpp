@@ -1,5 +1,6 @@
 #include <nvlist/core/storedProperties.h>
 
+#include <algorithm>
 #include <set>
 
 #include "../HearingList.h"
@@ -150,7 +151,8 @@ TEST_F(Persistence, DefaultsAreNotStored) {
   list.ItemsAdd("gone");
   list.UserControl_ReadProperties(bag);
   EXPECT_EQ(list.ItemsCount(), 0);
-  EXPECT_EQ(heard(), "***");  // the item, ItemsClear and the end
+  // The item, ItemsClear and the end.
+  EXPECT_EQ(std::ranges::count(heard(), '*'), 3);
 }
 
 TEST_F(Persistence, AValueThatDoesNotFitEndsTheReading) {
