@@ -3,38 +3,51 @@
 //     host                          runs the tests; with host.exe.manifest beside it, the library
 //                                   need not be registered
 //     host registry machine|user    counts the registry keys of the library
+#include <algorithm>
+
 #include "Host.h"
 
 using namespace norvane;
 
 namespace {
 
-/// The handles of a new GDI object and a new window. Both grow if earlier objects were not
-/// destroyed.
+/// The greatest of the handles of many new GDI objects, and the handle of a new window. Both grow
+/// if earlier objects were not destroyed.
 std::pair<int, int> nextHandles() {
   const auto number = [](HANDLE handle) { return LOWORD(reinterpret_cast<UINT_PTR>(handle)); };
-  const HPEN pen = CreatePen(PS_SOLID, 1, 0);
+  int greatest = 0;
+  HPEN pens[100];
+  for (HPEN& pen : pens) {
+    pen = CreatePen(PS_SOLID, 1, 0);
+    greatest = std::max(greatest, int{number(pen)});
+  }
+  for (const HPEN pen : pens) DeleteObject(pen);
   const HWND window = CreateWindowExW(0, L"STATIC", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
                                       nullptr, nullptr);
-  const std::pair<int, int> result{number(pen), number(window)};
+  const int windowNumber = number(window);
   DestroyWindow(window);
-  DeleteObject(pen);
-  return result;
+  return {greatest, windowNumber};
 }
 
 void lifetimes() {
   constexpr int count = 1000;
-  const auto useOne = [] {
+  // While another control lives, the windows are not destroyed with those of its apartment.
+  const auto other = make();
+  const HDC memory = CreateCompatibleDC(nullptr);
+  const auto useOne = [&] {
     const auto list = make();
     list->put_ScrollBars(::vbBoth);
     list->put_Style(::cCheckBoxes);
     for (long i = 0; i < 20; ++i) add(list.get(), i);
+    const RECT bounds{0, 0, 20, 20};
+    OleDraw(list.get(), DVASPECT_CONTENT, memory, const_cast<RECT*>(&bounds));
   };
   for (int i = 0; i < 10; ++i) useOne();
   const auto before = nextHandles();
   for (int i = 0; i < count; ++i) useOne();
   pump(50);
   const auto after = nextHandles();
+  DeleteDC(memory);
   check(after.first <= before.first + count / 10, "GDI objects are destroyed");
   check(after.second <= before.second + count / 10, "windows are destroyed");
 }
