@@ -160,7 +160,7 @@ class nvList final : public UserControl,
   /// Appends an item with exactly these fields, for readers of files. Nothing else changes, not
   /// even NewIndex: the item is neither measured nor painted. Call AutoCheckScroll and AutoRedraw
   /// with true after the last one.
-  void ItemsAppend(ListItem added);
+  void ItemsAppend(const ListItem& added);
 
   /// Removes one item and sets `Index` to the rounded 32-bit index. A bad index is ignored without
   /// a report; the bounds are checked before rounding. ListIndex, TopIndex, NewIndex and the anchor
@@ -536,7 +536,7 @@ class nvList final : public UserControl,
   // ---- text files: files/textInput.cpp ----
 
   /// Splits a text file at a delimiter and adds an item for each piece; an empty delimiter does not
-  /// split it. The bytes of the file are taken as UTF-8. Beside the items, the call takes as much
+  /// split it. The bytes of the file are taken as UTF-8. Besides the items, the call takes as much
   /// memory as the file has bytes. AutoRedraw and AutoCheckScroll are off afterwards. Raises
   /// ErrorListInput if the file does not exist. A file that cannot be read is reported and counts
   /// as empty, which is one empty piece. Always returns 0.

@@ -83,14 +83,14 @@ void ItemStore::makeItem(Ref<StoredItem>& reference, std::int32_t index) const {
   reference = std::move(item);
 }
 
-void ItemStore::assign(std::int32_t index, ListItem values) {
+void ItemStore::assign(std::int32_t index, const ListItem& values) {
   const Ref<StoredItem> item = setText(index, values.Text);
   assign(*item, index, values);
 }
 
 /// Sets all fields but the text.
-void ItemStore::assign(StoredItem& item, std::int32_t index, ListItem& values) const {
-  item.KeyAndTag(values.Key, std::move(values.Tag));
+void ItemStore::assign(StoredItem& item, std::int32_t index, const ListItem& values) const {
+  item.KeyAndTag(values.Key, values.Tag);
   item.Checked(values.Checked);
   item.Selected(values.Selected);
   setLook(item, index, values);

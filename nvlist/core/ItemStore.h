@@ -47,7 +47,7 @@ class ItemStore {
   const Ref<StoredItem>& setText(std::int32_t index, std::string_view text);
   void setKey(std::int32_t index, std::string_view key);
   /// Changes all fields of the item in a slot.
-  void assign(std::int32_t index, ListItem values);
+  void assign(std::int32_t index, const ListItem& values);
   /// Sets the look of an item that is, or will be, in the slot `index`. If an item shortly before
   /// it has the same look, they share it.
   void setLook(StoredItem& item, std::int32_t index, const ItemLook& look) const;
@@ -137,7 +137,7 @@ class ItemStore {
     return reference;
   }
   void makeItem(Ref<StoredItem>& reference, std::int32_t index) const;
-  void assign(StoredItem& item, std::int32_t index, ListItem& values) const;
+  void assign(StoredItem& item, std::int32_t index, const ListItem& values) const;
   bool sharesLook(StoredItem& item, std::int32_t index, const ItemLook& look) const;
   void makeAllItems();
 

@@ -116,7 +116,7 @@ void nvList::writeFields(Trap& on, StoredItem& item, NewItem& values) const {
   on.step([&] { item.Key(values.aKey.toText()); });
 }
 
-void nvList::ItemsAppend(ListItem added) {
+void nvList::ItemsAppend(const ListItem& added) {
   trapped(here, "ItemsAppend", [&](Trap& on) {
     on.step([&] {
       ItemStore& items = state_.Items;
@@ -125,9 +125,11 @@ void nvList::ItemsAppend(ListItem added) {
       else
         items.reset();
       state_.ItemsDimensioned = true;
-      const Boolean isSelected = std::exchange(added.Selected, false);
-      items.assign(items.upperBound(), std::move(added));
-      if (isSelected) state_.Selection.set(items, items.upperBound(), isSelected);
+      const std::int32_t index = items.upperBound();
+      items.assign(index, added);
+      if (!added.Selected) return;
+      items.touch(index).Selected(false);
+      state_.Selection.set(items, index, added.Selected);
     });
   });
 }

@@ -4,8 +4,6 @@
 #include <nvlist/nvList.h>
 #include <nvlist/platform/Files.h>
 
-#include <utility>
-
 namespace norvane {
 namespace {
 
@@ -84,7 +82,7 @@ void nvList::inputImageItem(const PropertyImage& image, bool readsProperties) {
   if (!readsProperties) {
     ListItem values = item->record();
     setDefaults(values);
-    state_.Items.assign(state_.LoopIndex, std::move(values));
+    state_.Items.assign(state_.LoopIndex, values);
   } else {
     item->ownLook().AllowEdit = stored("AllowEdit", false).toBoolean();
     item->ownLook().BackColor = stored("BackColor", colours::white);

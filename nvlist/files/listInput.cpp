@@ -9,7 +9,6 @@
 #include <nvlist/values/text.h>
 
 #include <algorithm>
-#include <utility>
 
 namespace norvane {
 namespace {
@@ -130,11 +129,11 @@ void nvList::ListFile::readRecords() {
       try {
         readItem(from, item);
       } catch (...) {
-        items.assign(index, std::move(item));
+        items.assign(index, item);
         throw;
       }
       isSelected = static_cast<bool>(item.Selected);
-      items.assign(index, std::move(item));
+      items.assign(index, item);
     }
     if (isSelected) list_.state_.Selection.setLoaded(items, index);
   }

@@ -42,7 +42,13 @@ bool append(std::string& out, const Picture& value, RecentPictures& pictures) {
   return !value;
 }
 
-void read(std::string& field, const Element& value, RecentPictures&) { field = textOf(value); }
+void read(std::string& field, const Element& value, RecentPictures&) {
+  // Copied into the memory of the field, if it is not encoded in some way.
+  if (std::string_view text; value.get(text) == simdjson::SUCCESS)
+    field = text;
+  else
+    field = textOf(value);
+}
 void read(Boolean& field, const Element& value, RecentPictures&) { field = booleanOf(value); }
 void read(Colour& field, const Element& value, RecentPictures&) { field = colourOf(value); }
 void read(cItemAlignment& field, const Element& value, RecentPictures&) {

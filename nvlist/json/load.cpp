@@ -58,6 +58,7 @@ class Loader {
   std::int64_t announced_ = 0;  ///< number of items by the header
   std::uint64_t done_ = 0;      ///< bytes that `progress` was last called with
   const ListItem blank_ = newItem();
+  ListItem item_;  ///< of the current line; a member, so that its texts keep their memory
   std::size_t nextField_ = 0;
 };
 
@@ -175,7 +176,7 @@ void Loader::readProperties(const Element& value, PropertyBag& bag) {
 }
 
 void Loader::readItem(const dom::object& object) {
-  ListItem item = blank_;
+  item_ = blank_;
   nextField_ = 0;
   for (const dom::key_value_pair pair : object) {
     const ItemField* const field = fieldNamed(pair.key);
@@ -188,13 +189,13 @@ void Loader::readItem(const dom::object& object) {
       continue;
     }
     try {
-      field->read(item, pair.value, pictures_);
+      field->read(item_, pair.value, pictures_);
     } catch (const Unsuitable& unsuitable) {
       problem(std::string(field->name) + ": " + unsuitable.what());
     }
   }
   const std::int32_t before = list_.ItemsCount();
-  list_.ItemsAppend(std::move(item));
+  list_.ItemsAppend(item_);
   if (list_.ItemsCount() == before) throw Failure::outOfMemory();
   ++report_.result.items;
 }

@@ -82,7 +82,7 @@ void takeOption(std::vector<std::string>& rest, Arguments& arguments) {
   rest.erase(rest.begin());
   const auto value = [&] {
     if (rest.empty()) wrong(option + " needs a value");
-    const std::string result = rest.front();
+    std::string result = rest.front();
     rest.erase(rest.begin());
     return result;
   };
