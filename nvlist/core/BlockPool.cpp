@@ -63,6 +63,8 @@ void BlockPool::release(void* block, std::size_t units, std::size_t slot) {
   chunk.free = static_cast<std::uint8_t>(slot);
   if (--chunk.used > 0) return;
   pool.unlink(chunk);
+  pool.sizes_[units].nextSlots =
+      static_cast<std::uint8_t>(std::max<std::size_t>(leastSlots, chunk.slots / 2));
   chunk.~Chunk();
   ::operator delete(&chunk);
 }

@@ -92,8 +92,8 @@ void ItemStore::assign(std::int32_t index, const ListItem& values) {
 void ItemStore::assign(StoredItem& item, std::int32_t index, const ListItem& values) const {
   item.KeyAndTag(values.Key, values.Tag);
   item.Checked(values.Checked);
-  item.Selected(values.Selected);
   setLook(item, index, values);
+  item.Selected(values.Selected);
 }
 
 void ItemStore::setLook(StoredItem& item, std::int32_t index, const ItemLook& look) const {

@@ -47,9 +47,6 @@ void SlotBlocks::keepPlaces(std::size_t count) {
   lastFound_ = std::min(lastFound_, placed_ - 1);
 }
 
-// A reference is only a pointer: those of a block are moved as bytes, which is many times faster
-// than one by one.
-
 void SlotBlocks::append() {
   if (blocks_.empty() || blocks_.back().entries.size() == blockSize) {
     addBlock(blocks_.size()).first = size_;
@@ -59,6 +56,9 @@ void SlotBlocks::append() {
   blocks_.back().isMeasured = false;
   ++size_;
 }
+
+// A reference is only a pointer: those of a block are moved as bytes, which is many times faster
+// than one by one.
 
 void SlotBlocks::insert(std::int32_t index, Slot slot) {
   if (blocks_.empty()) addBlock(0);

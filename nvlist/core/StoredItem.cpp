@@ -105,10 +105,13 @@ void StoredItem::Tag(Variant tag) {
 }
 
 void StoredItem::KeyAndTag(std::string_view key, Variant tag) {
-  if (key.empty() && !labels_)
+  // An empty tag needs no memory, so it is kept even if there is none for the key.
+  if (key.empty() || (tag.isText() && tag.text().empty())) {
     Tag(std::move(tag));
-  else
+    Key(key);
+  } else {
     labels_ = makeLabels(key, std::move(tag));
+  }
 }
 
 bool StoredItem::shareLookOf(const StoredItem& other, const ItemLook& look) {

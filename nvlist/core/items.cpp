@@ -96,18 +96,28 @@ void nvList::writeFields(Trap& on, StoredItem& item, NewItem& values) const {
                         .Icon = std::move(values.aIcon),
                         .IconSelected = std::move(values.aIconSelected)};
   const bool isReadable = isNumber(values.aForeColorDis) && isNumber(values.aBackColorDis);
-  ItemLook* own = &collected;
-  if (!isReadable) on.step([&] { own = &(item.ownLook() = std::move(collected)); });
-  ItemLook& look = *own;
-  on.step([&] { look.ForeColorDis = values.aForeColorDis.toInt32(); });
-  on.step([&] { look.BackColorDis = values.aBackColorDis.toInt32(); });
-  look.AllowEdit = values.aAllowEdit;
-  look.Enabled = values.aEnabled;
-  look.Alignment = values.aAlignment;
-  look.Bold = values.aBold;
-  look.Italic = values.aItalic;
-  look.Underline = values.aUnderline;
-  if (isReadable) on.step([&] { state_.Items.setLook(item, state_.Items.upperBound(), look); });
+  if (!isReadable) on.step([&] { item.ownLook() = std::move(collected); });
+  // Looked up for each field: a conversion may run host code that changes the item.
+  const auto look = [&]() -> ItemLook& { return isReadable ? collected : item.ownLook(); };
+  on.step([&] {
+    const Colour colour = values.aForeColorDis.toInt32();
+    look().ForeColorDis = colour;
+  });
+  on.step([&] {
+    const Colour colour = values.aBackColorDis.toInt32();
+    look().BackColorDis = colour;
+  });
+  on.step([&] {
+    ItemLook& fields = look();
+    fields.AllowEdit = values.aAllowEdit;
+    fields.Enabled = values.aEnabled;
+    fields.Alignment = values.aAlignment;
+    fields.Bold = values.aBold;
+    fields.Italic = values.aItalic;
+    fields.Underline = values.aUnderline;
+  });
+  if (isReadable)
+    on.step([&] { state_.Items.setLook(item, state_.Items.upperBound(), collected); });
   if (values.aKey.isText()) {
     on.step([&] { item.KeyAndTag(values.aKey.text(), std::move(values.aTag)); });
     return;

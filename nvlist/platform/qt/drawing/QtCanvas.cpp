@@ -34,8 +34,8 @@ qsizetype characterLength(QStringView text, qsizetype at) {
                                                                                              : 1;
 }
 
-/// Drawing by Qt can leave the upper halves of vector registers in use. On some processors all code
-/// after it is then slower, up to four times.
+/// Drawing by Qt can leave the upper halves of vector registers in use. On some processors SSE code
+/// then runs up to four times slower.
 void clearVectorRegisters() {
 #if defined(__x86_64__) && defined(__GNUC__)
   if (__builtin_cpu_supports("avx")) asm volatile("vzeroupper" ::: "memory");
@@ -87,7 +87,7 @@ void QtCanvas::resize(QSize logical, qreal dpr) {
   fillAll();
 }
 
-/// Like QImage::fill, which does not leave the vector registers clear.
+/// Replaces QImage::fill, which leaves the upper halves of vector registers in use.
 void QtCanvas::fillAll() {
   std::fill_n(reinterpret_cast<QRgb*>(image_.bits()),
               image_.sizeInBytes() / qsizetype{sizeof(QRgb)}, rgb(backColor_));

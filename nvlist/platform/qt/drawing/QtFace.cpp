@@ -20,7 +20,7 @@ constexpr qsizetype longestCached = 128;
 constexpr int cachedCharacters = 16384;
 
 constexpr unsigned char asciiEnd = 0x80;
-/// In the table of pairs, what is before the first character and after the last one.
+/// The index that stands for the start and the end of a text.
 constexpr std::uint8_t nothing = asciiEnd;
 constexpr int firstIndex = nothing + 1;
 constexpr int lastIndex = 255;
@@ -199,7 +199,7 @@ std::optional<double> QtFace::knownSum(std::string_view utf8) const {
   const unsigned letters = kinds & ~bit(Kind::common);
   if (length == 0 || std::popcount(letters) > 1) return {};
   if ((letters & (bit(Kind::unknown) | bit(Kind::layout))) != 0) return {};
-  if ((beyondAscii & ~provenKinds_) != 0 || std::isnan(width)) return {};
+  if ((beyondAscii & (~provenKinds_ | refutedKinds_)) != 0 || std::isnan(width)) return {};
   if (hasLongLigature || (beyondAscii != 0 && length > pieceLength)) return {};
   if (letters == bit(Kind::wide) && isKerned) return {};
   return width + current.width;
@@ -219,6 +219,7 @@ template <class Reader>
 std::optional<double> QtFace::provenSum(Reader text) {
   unsigned kinds = 0;
   const auto width = sum(text, kinds);
+  if (!width) return {};
   kinds &= ~provenKinds_;
   for (unsigned kind = 0; kinds >> kind != 0; ++kind)
     if ((kinds >> kind & 1) != 0 && !isProven(static_cast<Kind>(kind))) return {};
@@ -276,7 +277,7 @@ bool QtFace::isProven(Kind kind) {
       case Kind::common:
         return u"\u2013 \u201Ea\u201C \u2019b\u2026|\u00A75\u00A0\u20AC|\u00B0\u00D7\u00AB\u00BB";
       case Kind::latin:
-        return u"Gr\u00FC\u00DFe \u00C4V T\u00F6 W\u00E0 \u00FCfi fl ff fj T\u00E9.|"
+        return u"Gr\u00FC\u00DFe \u00C4V T\u00F6 W\u00E0 \u00FCfi fl fj T\u00E9.|\u00FCff|"
                u"\u0141\u00F3d\u017A|\u201ET\u00C5\u201C\u2013V 1/2|P\u00C6,L\u0165\u010F";
       case Kind::greek:
         return u"\u039E\u03B5\u03C3\u03BA \u0391\u03A5 \u0393\u0391 \u03A4\u03BF, 12.|"
@@ -306,19 +307,21 @@ QtFace::Character& QtFace::character(char16_t code) {
   if (!page) page = std::make_unique<Page>();
   Character& known = (*page)[code & 0xFF];
   if (known.kind != Kind::unknown) return known;
-  known.kind = kindOf(code);
-  if (known.kind == Kind::layout) return known;
-  known.width = static_cast<float>(code < 0x80 ? metrics_.horizontalAdvance(QChar(code))
-                                               : metrics_.horizontalAdvance(QString(QChar(code))));
-  if (known.kind == Kind::common && !isSameInAllScripts(code, known.width)) {
-    known.kind = Kind::layout;
-  } else if (known.kind != Kind::wide) {
-    known.index = static_cast<std::uint8_t>(code < asciiEnd ? code : nextIndex_++);
-    rows_[known.index] = static_cast<std::uint8_t>(pairs_.size());
+  // Stored last: if memory runs out, the character stays unknown.
+  Character measured = {.kind = kindOf(code)};
+  if (measured.kind == Kind::layout) return known = measured;
+  measured.width =
+      static_cast<float>(code < asciiEnd ? metrics_.horizontalAdvance(QChar(code))
+                                         : metrics_.horizontalAdvance(QString(QChar(code))));
+  if (measured.kind == Kind::common && !isSameInAllScripts(code, measured.width)) {
+    measured.kind = Kind::layout;
+  } else if (measured.kind != Kind::wide) {
     pairs_.emplace_back().fill(notMeasured);
-    pairs_.back()[nothing] = known.width;
+    pairs_.back()[nothing] = measured.width;
+    measured.index = static_cast<std::uint8_t>(code < asciiEnd ? code : nextIndex_++);
+    rows_[measured.index] = static_cast<std::uint8_t>(pairs_.size() - 1);
   }
-  return known;
+  return known = measured;
 }
 
 QtFace::Kind QtFace::kindOf(char16_t code) {

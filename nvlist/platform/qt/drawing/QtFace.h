@@ -93,7 +93,7 @@ class QtFace {
 
   /// By the high and the low byte of the character.
   std::array<std::unique_ptr<Page>, 256> characters_;
-  /// The index of the next character beyond ASCII, of which each is its own.
+  /// The next free index. ASCII characters are their own indices.
   int nextIndex_;
   /// By index: the row of a first character in `pairs_`. 0: not measured.
   std::array<std::uint8_t, 256> rows_ = {};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QTimer>
 #include <functional>
 
@@ -17,8 +18,8 @@ class QtTimer final : public Timer {
   ~QtTimer() override {
     timer_->stop();
     timer_->disconnect();
-    // Later, since this may be its own tick.
-    timer_->deleteLater();
+    // Later, since this may be its own tick. A program that is closing has no later.
+    QCoreApplication::closingDown() ? delete timer_ : timer_->deleteLater();
   }
 
   std::int32_t Interval() const override { return interval_; }

@@ -64,6 +64,7 @@ bool QtListSignals::isCompared() const {
 }
 
 void QtListSignals::watch() {
+  if (!widget_) return watch_.reset();
   // A list sets its properties often: without a connection, nothing is called.
   auto& onPropertyChanged = widget_->place().onPropertyChanged;
   if (!isConnected<&NvListWidget::propertyChanged>())
@@ -115,7 +116,9 @@ void QtListSignals::emitWaiting() {
   for (const Check& check : flipped)
     ifAlive([&] { emit widget.itemChecked(check.index, !check.wasChecked); });
   for (const auto& emission : happened) ifAlive(emission);
-  if (hasEnded()) QTimer::singleShot(0, [list] { QtPlace::endLater(list); });
+  // Not in 0 ms: Qt would post an event, and hold its lock while a program that is closing discards
+  // the event and so the list.
+  if (hasEnded()) QTimer::singleShot(1, [list] { QtPlace::endLater(list); });
 }
 
 // ---- what happens ----
