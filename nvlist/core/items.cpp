@@ -1,7 +1,9 @@
 #include <nvlist/nvList.h>
 #include <nvlist/values/numbers.h>
 
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -290,6 +292,13 @@ std::int32_t nvList::countItems(const char* procedure, Boolean (StoredItem::*mar
         on.step([&] { state_.SweepIndex = checked::add(state_.SweepIndex, 1); });
       on.step([&] { yield(); });
       on.step([&] { state_.LoopIndex = checked::add(state_.LoopIndex, 1); });
+      // Under SilentError an index without an item counts. A handler can move the position two
+      // thousand million below the first item; those are counted at once.
+      if (state_.LoopIndex < 0 && !on.test([&] { return container_.EventsWaiting(); })) {
+        const std::int64_t counted = std::int64_t{state_.SweepIndex} - state_.LoopIndex;
+        state_.SweepIndex = static_cast<std::int32_t>(std::min<std::int64_t>(counted, INT32_MAX));
+        state_.LoopIndex = 0;
+      }
     }
     count = state_.SweepIndex;
   });
