@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include <nvlist/platform/qt/drawing/vectorRegisters.h>
+
 /// What is measured; each has a column of the table.
 namespace subject {
 inline constexpr const char* nvList = "nvList";
@@ -28,14 +30,6 @@ inline double processorTime() {
 /// From this number of items on, a round is long and uses fresh memory.
 constexpr int manyItems = 100'000;
 
-/// Some of Qt's fills leave the upper halves of vector registers in use, which slows down all code
-/// after them several times on some processors. What ran before a round must not decide that.
-inline void clearVectorRegisters() {
-#if defined(__x86_64__) && defined(__GNUC__)
-  if (__builtin_cpu_supports("avx")) asm volatile("vzeroupper" ::: "memory");
-#endif
-}
-
 /// Times `work(subject)` only; making the subject by `prepare()` and destroying it is not timed.
 template <class Prepare, class Work>
 void measure(benchmark::State& state, bool givesMemoryBack, Prepare&& prepare, Work&& work) {
@@ -43,7 +37,7 @@ void measure(benchmark::State& state, bool givesMemoryBack, Prepare&& prepare, W
     auto prepared = prepare();
     // Otherwise later rounds would reuse memory that earlier ones have already paged in.
     if (givesMemoryBack) malloc_trim(0);
-    clearVectorRegisters();
+    norvane::clearVectorRegisters();
     const double start = processorTime();
     work(prepared);
     state.SetIterationTime(processorTime() - start);

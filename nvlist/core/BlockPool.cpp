@@ -14,9 +14,10 @@ constexpr bool findsMisuse = __has_feature(address_sanitizer);
 constexpr bool findsMisuse = false;
 #endif
 
-/// The sanitizer finds misuse of the blocks of the heap, so with it each block is one.
+/// The address sanitizer checks heap blocks only, so under it each block is a heap block of its
+/// own.
 constexpr std::size_t mostSlots = findsMisuse ? 1 : 128;
-/// A list of a few items takes little memory.
+/// Small, so that a list of a few items takes little memory.
 constexpr std::size_t leastSlots = findsMisuse ? 1 : 8;
 
 /// In a free block: the slot of the next one.

@@ -8,11 +8,11 @@
 
 namespace norvane {
 
-/// Memory for the items of one list. Blocks of the same size are adjacent, in chunks of up to 128.
-/// So a million items take no overhead of the heap, and a search reads memory in order.
+/// Allocates the items of one list. Blocks of the same size are adjacent, in chunks of up to 128,
+/// so an item has no heap overhead of its own and a search reads memory in order.
 ///
-/// The owner of a block keeps its size and its slot, which lead to its chunk. So a block is
-/// released without its pool, which lives as long as its blocks. Not thread-safe, like the list.
+/// The owner of a block keeps its size and slot, from which its chunk is found. So a block can be
+/// released without naming its pool, which its chunks keep alive. Not thread-safe, like the list.
 class BlockPool : public SharedInThread {
  public:
   /// Sizes are multiples of it. Blocks are aligned to it.

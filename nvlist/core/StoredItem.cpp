@@ -105,7 +105,7 @@ void StoredItem::Tag(Variant tag) {
 }
 
 void StoredItem::KeyAndTag(std::string_view key, Variant tag) {
-  // An empty tag needs no memory, so it is kept even if there is none for the key.
+  // Setting an empty tag allocates nothing, so it takes effect even if memory runs out for the key.
   if (key.empty() || (tag.isText() && tag.text().empty())) {
     Tag(std::move(tag));
     Key(key);

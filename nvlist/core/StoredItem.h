@@ -28,7 +28,8 @@ class StoredItem final : public SharedInThread {
 
   /// Valid until the text changes.
   std::string_view Text() const { return {isTextInside() ? text_ : outside(), textSize_}; }
-  /// Forgets the measured width. In a list call ItemStore::setText instead.
+  /// Forgets the measured width. `text` must not be part of the item's own text. In a list call
+  /// ItemStore::setText instead.
   void Text(std::string_view text);
   std::string_view Key() const { return labels_ ? labels_->key() : std::string_view(); }
   void Key(std::string_view key);

@@ -12,7 +12,7 @@
 namespace norvane {
 namespace {
 
-/// The value as a text, which is stored in `converted` if the value is none.
+/// The value as a text, which is stored in `converted` if the value is not a text.
 std::string_view textOf(const Variant& value, std::string& converted) {
   if (value.isText()) return value.text();
   return converted = value.toText();
@@ -292,8 +292,8 @@ std::int32_t nvList::countItems(const char* procedure, Boolean (StoredItem::*mar
         on.step([&] { state_.SweepIndex = checked::add(state_.SweepIndex, 1); });
       on.step([&] { yield(); });
       on.step([&] { state_.LoopIndex = checked::add(state_.LoopIndex, 1); });
-      // Under SilentError an index without an item counts. A handler can move the position two
-      // thousand million below the first item; those are counted at once.
+      // Under SilentError an index without an item counts. A handler can move the position as far
+      // as 2^31 below the first item, so the missing ones are counted at once.
       if (state_.LoopIndex < 0 && !on.test([&] { return container_.EventsWaiting(); })) {
         const std::int64_t counted = std::int64_t{state_.SweepIndex} - state_.LoopIndex;
         state_.SweepIndex = static_cast<std::int32_t>(std::min<std::int64_t>(counted, INT32_MAX));

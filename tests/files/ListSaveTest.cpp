@@ -110,6 +110,16 @@ TEST_F(ListSave, GoesOnFromWhereTheHostPutsIt) {
   }
 }
 
+/// Without a shortcut this would take hours.
+TEST_F(ListSave, MayPutACountFarBelowTheFirstItem) {
+  add({"a", "b"});
+  list.ItemChecked(1, true);
+  onProgress = [](Variant& Index) { Index = -2'000'000'000; };
+  silent();
+  headless.container().post([this] { save(); });
+  EXPECT_EQ(list.ItemsCheckCount(), 1'999'999'999);
+}
+
 TEST_F(ListSave, WritesBigListsInBlocks) {
   for (int i = 10000; i < 40000; ++i) list.ItemsAdd("an item of the list " + std::to_string(i));
   list.ItemText(77, std::string(300'000, 'x'));

@@ -9,6 +9,7 @@
 #include <nvlist/platform/qt/QtFont.h>
 #include <nvlist/platform/qt/QtPicture.h>
 #include <nvlist/platform/qt/drawing/QtColour.h>
+#include <nvlist/platform/qt/drawing/vectorRegisters.h>
 #include <nvlist/values/Failure.h>
 #include <nvlist/values/text.h>
 
@@ -32,14 +33,6 @@ QString decoded(std::string_view text) {
 qsizetype characterLength(QStringView text, qsizetype at) {
   return text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate() ? 2
                                                                                              : 1;
-}
-
-/// Drawing by Qt can leave the upper halves of vector registers in use. On some processors SSE code
-/// then runs up to four times slower.
-void clearVectorRegisters() {
-#if defined(__x86_64__) && defined(__GNUC__)
-  if (__builtin_cpu_supports("avx")) asm volatile("vzeroupper" ::: "memory");
-#endif
 }
 
 double nextTabStop(double x, int tabStop) { return (std::floor(x / tabStop) + 1) * tabStop; }

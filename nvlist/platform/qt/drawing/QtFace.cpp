@@ -3,7 +3,6 @@
 #include <QRawFont>
 #include <QTextLayout>
 #include <algorithm>
-#include <bit>
 #include <cmath>
 #include <limits>
 #include <utility>
@@ -147,8 +146,7 @@ double QtFace::widthOf(QStringView text) {
 }
 
 std::optional<double> QtFace::widthWithoutLayout(std::string_view text) {
-  auto width = asciiSum(text);
-  if (!width) width = knownSum(text);
+  const auto width = asciiSum(text);
   return width ? width : provenSum(Utf8Reader(text));
 }
 
@@ -169,40 +167,6 @@ std::optional<double> QtFace::asciiSum(std::string_view text) const {
   if (all >= asciiEnd || hasLongLigature || text.empty()) return {};
   width += pair(before, nothing);
   return std::isnan(width) ? std::nullopt : std::optional(width);
-}
-
-/// The same for a text in one script.
-std::optional<double> QtFace::knownSum(std::string_view utf8) const {
-  double width = 0;
-  qsizetype length = 0;
-  unsigned kinds = 0;
-  unsigned beyondAscii = 0;
-  bool isKerned = false;
-  bool hasLongLigature = false;
-  char16_t before = 0;
-  Character current = {.index = nothing};
-  for (Utf8Reader text(utf8); !text.isAtEnd(); ++length) {
-    const char16_t code = text.next();
-    const Page* const page = characters_[code >> 8].get();
-    if (!page) return {};
-    const Character next = (*page)[code & 0xFF];
-    kinds |= bit(next.kind);
-    if (code >= asciiEnd) beyondAscii |= bit(next.kind);
-    hasLongLigature = hasLongLigature || (code == u'f' && before == u'f');
-    const bool isAlone = current.kind == Kind::wide || next.kind == Kind::wide;
-    const float added = isAlone ? current.width : pair(current.index, next.index);
-    isKerned = isKerned || added != current.width;
-    width += added;
-    current = next;
-    before = code;
-  }
-  const unsigned letters = kinds & ~bit(Kind::common);
-  if (length == 0 || std::popcount(letters) > 1) return {};
-  if ((letters & (bit(Kind::unknown) | bit(Kind::layout))) != 0) return {};
-  if ((beyondAscii & (~provenKinds_ | refutedKinds_)) != 0 || std::isnan(width)) return {};
-  if (hasLongLigature || (beyondAscii != 0 && length > pieceLength)) return {};
-  if (letters == bit(Kind::wide) && isKerned) return {};
-  return width + current.width;
 }
 
 double QtFace::laidOutWidth(QStringView text) const {

@@ -77,7 +77,6 @@ class QtFace {
   /// not been measured.
   float pair(std::uint8_t first, std::uint8_t second) const { return pairs_[rows_[first]][second]; }
   std::optional<double> asciiSum(std::string_view text) const;
-  std::optional<double> knownSum(std::string_view utf8) const;
   template <class Reader>
   std::optional<double> sum(Reader text, unsigned& kinds);
   template <class Reader>
@@ -97,6 +96,7 @@ class QtFace {
   int nextIndex_;
   /// By index: the row of a first character in `pairs_`. 0: not measured.
   std::array<std::uint8_t, 256> rows_ = {};
+  /// By the index of the second character. Row 0 is NaN throughout.
   std::vector<std::array<float, 256>> pairs_;
   unsigned provenKinds_ = 0;
   unsigned refutedKinds_ = 0;

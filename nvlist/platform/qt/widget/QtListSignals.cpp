@@ -65,7 +65,7 @@ bool QtListSignals::isCompared() const {
 
 void QtListSignals::watch() {
   if (!widget_) return watch_.reset();
-  // A list sets its properties often: without a connection, nothing is called.
+  // A list reports changes of its properties often: without a connection, there is no handler.
   auto& onPropertyChanged = widget_->place().onPropertyChanged;
   if (!isConnected<&NvListWidget::propertyChanged>())
     onPropertyChanged = nullptr;
