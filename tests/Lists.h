@@ -53,6 +53,9 @@ class ListTest : public testing::Test {
 
   ListItem item(int index) { return list.state().Items.at(index); }
 
+  /// Whether a part of the recording of the list's face is this text.
+  bool shows(const std::string& calls) { return headless.face().find(calls) != std::string::npos; }
+
   /// "number procedure" of each report since the last call, separated by commas.
   std::string reports() {
     std::string result;

@@ -99,47 +99,44 @@ TEST(ItemStore, TheWidestTextIsFoundAfterASweepMergesBlocks) {
   }
 }
 
-/// A form on which a message waits at every yield, if it is busy.
-struct Form : HeadlessContainer {
-  using HeadlessContainer::HeadlessContainer;
-  bool isBusy = false;
-  bool EventsWaiting() override { return isBusy; }
-};
-
 using SelectedItems = ListTest;
 
 TEST_F(SelectedItems, AreRemovedAtOnceWithTheResultOfSingleSteps) {
-  struct Case {
-    const char* text;
-    bool (*isSelected)(int);
-    void (*prepare)(nvList&);
-    int frames = 30;
+  /// A form on which a message waits at every yield, if it is busy.
+  struct Form : HeadlessContainer {
+    using HeadlessContainer::HeadlessContainer;
+    bool isBusy = false;
+    bool EventsWaiting() override { return isBusy; }
   };
   const auto everySecond = [](int i) { return i % 2 == 0; };
   const auto all = [](int) { return true; };
   const auto wide = [](nvList& on) { on.ScrollBars(vbBoth); };
-  const Case cases[] = {
-      {"every second", everySecond, [](nvList&) {}},
+  const struct {
+    const char* text;
+    bool (*isSelected)(int);
+    void (*prepare)(nvList&);
+    int frames = 30;
+  } cases[] = {
       {"every second, both bars", everySecond, wide},
       {"all", all, wide, 400},
       {"all, without painting", all, [](nvList& on) { on.AutoRedraw(false); }, 2},
       {"all, without fitting", all, [](nvList& on) { on.AutoCheckScroll(false); }, 400},
-      {"all but the first", [](int i) { return i > 0; }, wide, 400},
       {"behind the view", [](int i) { return i > 30 && i < 290; }, wide},
       {"an item that cannot be painted", everySecond,
        [](nvList& on) { on.ItemForeColorSelect(40, "red"); }},
       {"a row height that fails", everySecond, [](nvList& on) { on.MinHeight(1e30F); }, 400},
       {"the view at the end", everySecond, [](nvList& on) { on.TopIndex(290); }, 400},
   };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     const auto remove = [&](bool inSteps) {
       Form form(200, 100);
       nvList on(form);
       on.UserControl_InitProperties();
       on.AutoRedraw(false);
-      for (int i = 0; i < 300; ++i)
+      for (int i = 0; i < 300; ++i) {
         on.ItemsAdd(std::string(static_cast<std::size_t>(i % 37), 'x') + std::to_string(i));
-      for (int i = 0; i < 300; ++i) on.ItemSelected(i, c.isSelected(i));
+        on.ItemSelected(i, c.isSelected(i));
+      }
       on.TopIndex(0);
       on.AutoRedraw(true);
       c.prepare(on);

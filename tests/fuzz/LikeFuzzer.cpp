@@ -20,7 +20,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   for (const bool ignoreCase : {false, true}) {
     try {
       const bool matches = LikePattern(pattern, ignoreCase).matches(text);
-      if (matches != PlainMatcher(pattern, ignoreCase).matches(charactersOf(text))) std::abort();
+      if (matches != matchesPlainly(pattern, text, ignoreCase)) std::abort();
     } catch (const Failure&) {
       // A malformed pattern.
     }
