@@ -54,7 +54,7 @@ class Disk : public ListTest, protected __nvList {
   Folder folder;
 };
 
-TEST_F(Disk, FindsFilesByWildcards) {
+TEST_F(Disk, FindsFilesByWildcardsAndHoldsTheList) {
   for (const char* name : {"one.txt", "two.list", "bare", "#[1]", "\u00fc.nvl"})
     folder.put(name, name);
   for (const char* there :
@@ -67,14 +67,11 @@ TEST_F(Disk, FindsFilesByWildcards) {
   for (const char* behind : {"", "x", "*"})
     EXPECT_FALSE(FileExists(at("bare") + '\0' + behind)) << behind;
   EXPECT_EQ(reports(), "");
-}
 
-TEST_F(Disk, HoldsTheList) {
   add({"a", "\u00e4"});
-  const std::string path = at("\u00e4.nvl");
-  list.ListSave(path, true);
+  list.ListSave(at("\u00fc.nvl"), true);
   list.ItemsClear();
-  list.ListInput(path, true);
+  list.ListInput(at("\u00fc.nvl"), true);
   EXPECT_EQ(texts(), "a \u00e4");
   EXPECT_EQ(failures, 0);
 }
@@ -136,51 +133,30 @@ TEST_F(Disk, KeepsWhatAFileIs) {
   }
 }
 
-TEST_F(Disk, LocksAFileWhileItIsSaved) {
-  for (const bool isBeside : {false, true}) {
-    files.savesBeside(isBeside);
-    oldFile();
-    int inside = -1;
-    // In a separate process that sees the same files.
-    onSaving = [&] {
-      const pid_t child = fork();
-      if (child == 0) _exit(save(at("old")) ? 1 : 2);
-      ASSERT_EQ(waitpid(child, &inside, 0), child);
-    };
-    EXPECT_TRUE(save(at("old")));
-    EXPECT_EQ(WEXITSTATUS(inside), 2);
-    EXPECT_EQ(contents("old"), saved);
-    EXPECT_TRUE(save(at("old")));
-  }
-}
-
-TEST_F(Disk, OutlivesASaveThatIsKilled) {
-  for (const bool isBeside : {false, true}) {
-    files.savesBeside(isBeside);
-    oldFile();
+TEST_F(Disk, ASaveIsNotDisturbedAndLeavesNothingBehind) {
+  /// Saves in a separate process, which sees the same files, and returns how that ended.
+  const auto saveInAChild = [&] {
+    int status = -1;
     const pid_t child = fork();
-    if (child == 0) {
-      onSaving = [] { raise(SIGKILL); };
-      save(at("old"));
-      _exit(0);
-    }
-    int status = 0;
-    ASSERT_EQ(waitpid(child, &status, 0), child);
-    EXPECT_TRUE(WIFSIGNALED(status));
+    if (child == 0) _exit(save(at("old")) ? 1 : 2);
+    EXPECT_EQ(waitpid(child, &status, 0), child);
+    return status;
+  };
+  for (const bool isBeside : {false, true}) {
+    files.savesBeside(isBeside);
+    oldFile();
+    onSaving = [] { raise(SIGKILL); };
+    EXPECT_TRUE(WIFSIGNALED(saveInAChild()));
     EXPECT_EQ(contents("old"), isBeside ? "old contents" : "");
+    onSaving = [] { throw 1; };
+    EXPECT_FALSE(save(at("old")));
+    EXPECT_EQ(contents("old") == "old contents", isBeside);
+    onSaving = [&] { EXPECT_EQ(WEXITSTATUS(saveInAChild()), 2) << "not locked"; };
     EXPECT_TRUE(save(at("old")));
     EXPECT_EQ(contents("old"), saved);
     EXPECT_FALSE(fs::exists(at("old.nvlist-new")));
+    EXPECT_TRUE(save(at("old")));
   }
-}
-
-TEST_F(Disk, KeepsTheOldFileIfSavingBesideItFails) {
-  files.savesBeside(true);
-  oldFile();
-  onSaving = [] { throw 1; };
-  EXPECT_FALSE(save(at("old")));
-  EXPECT_EQ(contents("old"), "old contents");
-  EXPECT_FALSE(fs::exists(at("old.nvlist-new")));
 }
 
 #endif
