@@ -131,8 +131,8 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     else if (verb == "cancel") cancel = Boolean::ofNumber(code);
     else if (verb == "newButton") newButton = code;
     else if (verb == "newKeyCode") newKeyCode = code;
-    // Outputs. `ticks` counts the repaints in the next milliseconds; `face` takes the beginning of
-    // the calls it outputs.
+    // Outputs. `ticks` counts the repaints in the next milliseconds; `face` and `picture` take the
+    // beginning of the lines they output.
     else if (verb == "forget") heard();
     else if (verb == "events") return heard();
     else if (verb == "now") return now();
@@ -169,7 +169,8 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     else if (verb == "ticks") {
       heard(), wait(code);
       return std::to_string(std::ranges::count(heard(), '*'));
-    } else if (verb == "face") return face(rest);
+    } else if (verb == "face") return lines(headless.face(), rest);
+    else if (verb == "picture") return lines(headless.picture(), rest);
     else ADD_FAILURE() << "no verb " << verb;
     // clang-format on
     return "";
@@ -210,9 +211,9 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
            textOf(bar.Left()) + " " + textOf(bar.Top()) + " " + textOf(bar.Width()) + "x" +
            textOf(bar.Height()) + ")";
   }
-  std::string face(const std::string& beginning) {
+  static std::string lines(const std::string& recording, const std::string& beginning) {
     std::string result;
-    forEachLine(headless.face(), [&](std::string_view line) {
+    forEachLine(recording, [&](std::string_view line) {
       if (line.starts_with(beginning)) result += (result.empty() ? "" : ", ") + std::string(line);
       return true;
     });

@@ -8,33 +8,6 @@ class Mouse : public HearingListTest {
   Mouse() { fill(5); }
 };
 
-TEST_F(Mouse, TheCheckZoneGoesWithTheContent) {
-  const auto zone = [&] {
-    std::string result;
-    bool wasIn = false;
-    for (float x = 0; x < 40; x += 0.5F) {
-      heard();
-      click(2, 0, x);
-      const bool isIn = heard().find("ItemCheck") != std::string::npos;
-      if (std::exchange(wasIn, isIn) != isIn) result += textOf(x) + (isIn ? "-" : "");
-    }
-    return result;
-  };
-  // The frame would receive the mouse events at the edges.
-  list.BorderVisible(false);
-  list.IndentLeft(5.5);
-  EXPECT_EQ(zone(), "6.5-19");
-  list.ScrollBars(vbBoth);
-  list.ItemsAdd(std::string(40, 'w'));
-  HeadlessContainer& bar = *headless.container().children()[1];
-  for (int i = 0; i < 10; ++i) {
-    bar.press(bar.bounds().Width - 5, 8);
-    bar.release(bar.bounds().Width - 5, 8);
-  }
-  EXPECT_EQ(list.horizontalBar().Value(), 10);
-  EXPECT_EQ(zone(), "0-9");
-}
-
 TEST_F(Mouse, TheEditBoxLooksLikeItsRow) {
   list.AllowEdit(true);
   for (const int index : {2, 3}) list.ItemAllowEdit(index, true);
@@ -81,6 +54,40 @@ TEST_F(Mouse, HostsMayComeAndGoInAnEvent) {
     EXPECT_EQ(third.clicks, clicksOfThird);
   }
   EXPECT_EQ(heard(), "MouseDown* MouseUp Click*");
+}
+
+TEST(WheelMessage, IsUnpackedIntoNotchesKeysAndPoint) {
+  struct Ear : WheelEvents {
+    void Wheel1_WheelScroll(std::int16_t& Rotation, std::int16_t& Keys, float& X,
+                            float& Y) override {
+      heard = textOf(Rotation) + " " + textOf(Keys) + " " + textOf(X) + " " + textOf(Y);
+    }
+    std::string heard;
+  } ear;
+  HeadlessContainer place;
+  std::optional<Wheel> wheel(std::in_place, place, ear);
+  wheel->WndProc(120 * 0x10000 + 9, -2 * 0x10000 + 40000);
+  EXPECT_EQ(ear.heard, "1 9 -25536 -2");
+  for (const auto& [delta, notches] : {std::pair(60, "0 "),
+                                       {61, "1 "},
+                                       {180, "2 "},
+                                       {-60, "0 "},
+                                       {-180, "-2 "},
+                                       {-32768, "-273 "}}) {
+    wheel->WndProc(delta * 0x10000, 0);
+    EXPECT_TRUE(ear.heard.starts_with(notches)) << delta;
+  }
+  wheel->EnableWheel();
+  EXPECT_FALSE(place.turnWheel(120));
+  wheel->hWndCapture(1);
+  wheel->EnableWheel();
+  EXPECT_TRUE(place.turnWheel(120));
+  wheel->DisableWheel();
+  EXPECT_FALSE(place.turnWheel(120));
+  wheel->EnableWheel();
+  wheel->hWndCapture(0);
+  wheel.reset();
+  EXPECT_FALSE(place.turnWheel(120));
 }
 
 }  // namespace

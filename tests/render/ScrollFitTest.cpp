@@ -37,6 +37,18 @@ const Scenario scenarios[] = {
    "resize 200 100; ScrollBars 3; wide 20 40; step 0 2 14; remove 1 1 1 1; bars; top; step 1 2 5;"
    "wide 7 1; bars", "on 10 at 14 (182 1 17x81), on 101 at 0 (1 82 181x17) / 14"
    " / off 0 at 0 (182 1 17x0), off 0 at 0 (1 82 0x17)"},
+  {"the frame has the colour of the family, or else the host's or the one before",
+   "BorderColor 255; ColorStyle 2; picture (0, 0) 1x; ColorStyle 1; picture (0, 0) 1x; ColorStyle 99;"
+   "picture (0, 0) 1x; silent; ColorStyle 50; picture (0, 0) 1x",
+   "<(0, 0) 1x133 on #A4B97F> / <(0, 0) 1x133 on #7F9DB9> / <(0, 0) 1x133 on #FF0000> / "
+   "<(0, 0) 1x133 on #FF0000>"},
+  {"the frame lies on the edges, fits a size set while hidden, and keeps presses from the list",
+   "BorderVisible 0; resize 201 134; picture (; BorderVisible 1; picture (; forget;"
+   "pressAt 0.5 50; releaseAt 0.5 50; pressAt 100 133.5; releaseAt 100 133.5; pressAt 200.5 10;"
+   "releaseAt 200.5 10; pressAt 1 1; releaseAt 1 1; events; resize 0 0",
+   "<(0, 0) 201x134 on #FFFFFF> / <(0, 0) 201x134 on #FFFFFF, (0, 0) 201x1 on #7F9DB9, "
+   "(200, 0) 1x134 on #7F9DB9, (0, 133) 201x1 on #7F9DB9, (0, 0) 1x134 on #7F9DB9> / "
+   "MouseDown* MouseUp Click"},
   {"the list follows the buttons",
    "wide 1000 1; forget; step 0 2; events; top; step 0 1; events; top; ScrollBars 3; wide 5 40;"
    "forget; step 1 2; events", "* Scroll / 1 / * Scroll / 0 / * Scroll"},
