@@ -1,3 +1,4 @@
+#include <sstream>
 #include <thread>
 
 #include <nvlist/platform/Files.h>
@@ -6,6 +7,8 @@
 
 namespace norvane {
 namespace {
+
+constexpr Module here{kinds::module, "basList"};
 
 /// A failure in a known procedure, and its consequences.
 class Reporter : public ListTest {
@@ -19,11 +22,10 @@ class Reporter : public ListTest {
     void RaiseError(std::string_view programPath, const ApplicationFacts& program,
                     std::int32_t Number, std::string_view Description, std::string_view Procedure,
                     std::int32_t, std::string_view Kind, std::string_view Module) override {
-      const std::string number = std::to_string(Number);
-      for (const std::string_view each :
-           {programPath, std::string_view(program.EXEName), std::string_view(number), Description,
-            Procedure, Kind, Module})
-        got.append(each).append("|");
+      std::ostringstream all;
+      all << programPath << "|" << program.EXEName << "|" << Number << "|" << Description << "|"
+          << Procedure << "|" << Kind << "|" << Module;
+      got = all.str();
       if (refuses) throw std::runtime_error("not mine");
     }
     std::string got;
@@ -81,7 +83,7 @@ TEST_F(Reporter, AsksTheOutsideHandlerFirst) {
   fail();
   EXPECT_EQ(handler->got,
             "/opt/headless/headless|headless|13|Type mismatch|ItemsAdd|"
-            "Benutzersteuerelement|nvList|");
+            "Benutzersteuerelement|nvList");
   EXPECT_TRUE(application.boxes.empty());
   EXPECT_EQ(application.files.size(), 1U);
 
@@ -90,22 +92,17 @@ TEST_F(Reporter, AsksTheOutsideHandlerFirst) {
   EXPECT_EQ(application.boxes.size(), 1U);
 }
 
-/// A program in which every call runs out of memory, except the message box.
-class NoMemory final : public Program {
- public:
-  ApplicationFacts facts() override { throw std::bad_alloc(); }
-  std::string programPath() override { throw std::bad_alloc(); }
-  Variant readSetting(std::string_view, std::string_view) override { throw std::bad_alloc(); }
-  void MsgBox(std::string_view text, std::int32_t, std::string_view) override {
-    box = text;
-    throw std::bad_alloc();
-  }
-  std::string box;
-};
-
 TEST_F(Reporter, ExhaustedMemoryNeverReachesTheHost) {
-  constexpr Module here{kinds::module, "basList"};
-  NoMemory program;
+  struct NoMemory final : Program {
+    ApplicationFacts facts() override { throw std::bad_alloc(); }
+    std::string programPath() override { throw std::bad_alloc(); }
+    Variant readSetting(std::string_view, std::string_view) override { throw std::bad_alloc(); }
+    void MsgBox(std::string_view text, std::int32_t, std::string_view) override {
+      box = text;
+      throw std::bad_alloc();
+    }
+    std::string box;
+  } program;
   trapped(here, "Proc", [](Trap& on) { on.step([] { throw std::bad_alloc(); }); });
   EXPECT_TRUE(program.box.starts_with("Error no.: 7\r\nError description: Out of memory\r\n"));
   EXPECT_TRUE(program.box.ends_with("/Proc\r\nVersion: 0.0.0"));
@@ -135,7 +132,6 @@ TEST_F(Reporter, ServicesAreInUseFromTheirMakingToTheirEnd) {
 }
 
 TEST_F(Reporter, AFailureEndsOnlyTheProcedureItHappensIn) {
-  constexpr Module here{kinds::module, "basList"};
   std::string trace;
   const auto inner = [&] {
     trapped(here, "Inner", [&](Trap& on) {

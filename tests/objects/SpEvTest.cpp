@@ -71,33 +71,24 @@ TEST_F(SpEvTest, AddsALineAsARow) {
   rows->texts = {"there"};
   folder.put("a", "one\r\n\r\ntwo\nthree\rfour\n\r\nfive");
   helper.ListRead(box, path("a"));
-  EXPECT_EQ(rows->texts,
-            (std::vector<std::string>{"there", "one", "", "two", "three", "four", "", "five"}));
+  using Texts = std::vector<std::string>;
+  EXPECT_EQ(rows->texts, (Texts{"there", "one", "", "two", "three", "four", "", "five"}));
 
   // A line end split between two blocks counts once.
   folder.put("a", std::string(65535, 'l') + "\r\nx");
   rows->texts.clear();
   helper.ListRead(box, path("a"));
-  EXPECT_EQ(rows->texts, (std::vector<std::string>{std::string(65535, 'l'), "x"}));
+  EXPECT_EQ(rows->texts, (Texts{std::string(65535, 'l'), "x"}));
 
   rows->texts = {"Zoë", std::string("a\0b", 3), std::string(20000, 'l')};
   helper.ListSave(box, path("b"), "<", ">");
-  const std::vector<std::string> saved = std::exchange(rows->texts, {});
+  Texts saved = std::exchange(rows->texts, {});
+  for (std::string& text : saved) text = "<" + text + ">";
   helper.ListRead(box, path("b"));
-  ASSERT_EQ(rows->texts.size(), 3U);
-  for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(rows->texts[i], "<" + saved[i] + ">");
+  EXPECT_EQ(rows->texts, saved);
 }
 
-TEST_F(SpEvTest, CountsRowsIn16Bits) {
-  rows->claimed = 32768;
-  helper.ListSave(box, path("a"));
-  EXPECT_EQ(reports(), "6 ListSave");
-  silent();
-  helper.ListSave(box, path("a"));
-  EXPECT_EQ(fs::file_size(folder / "a"), 32768U * 3);
-}
-
-TEST_F(SpEvTest, ABoxIsAnyObjectWithTheMembers) {
+TEST_F(SpEvTest, ABoxIsAnyObjectWithTheMembersAndItsRowsAreCountedIn16Bits) {
   folder.put("a", "line");
   helper.ListRead(Variant(makeRef<Object>()), path("a"));
   helper.ListSave("box", path("a"));
@@ -106,62 +97,60 @@ TEST_F(SpEvTest, ABoxIsAnyObjectWithTheMembers) {
   EXPECT_EQ(folder.bytes("a"), "");
   helper.ListRead("box", path("a"));
   EXPECT_EQ(reports(), "");
+
+  rows->claimed = 32768;
+  helper.ListSave(box, path("a"));
+  EXPECT_EQ(reports(), "6 ListSave");
+  silent();
+  helper.ListSave(box, path("a"));
+  EXPECT_EQ(fs::file_size(folder / "a"), 32768U * 3);
 }
 
-/// Each file operation fails in turn.
+/// Each file operation fails in turn, up to the run in which all succeed.
 TEST_F(SpEvTest, AFailingFileOperationEndsTheHelperUnlessSilent) {
-  std::string trace;
-  const auto failEachIn = [&](const std::function<std::string(MemoryFiles&)>& run) {
-    trace.clear();
+  const auto trace = [&](const std::function<std::string(std::string & file)>& run) {
+    std::string result;
     for (int failing = 1;; ++failing) {
       MemoryFiles memory;
-      memory.files = {{"a", "one\r\ntwo"}};
+      memory.files["a"] = "1\r\n2";
       memory.failing = failing;
-      rows->texts.clear();
-      const std::string result = run(memory);
+      rows->texts = {"x"};
+      result += run(memory.files["a"]) + reports();
       EXPECT_EQ(memory.open, 0);
-      trace += result + reports() + "; ";
-      if (memory.operations < failing) return trace;
+      if (memory.operations < failing) return result;
+      result += ";";
     }
   };
-  const auto readText = [&](MemoryFiles&) { return helper.TextRead("a") + " "; };
-  const auto readRows = [&](MemoryFiles&) {
+  const auto readText = [&](std::string&) { return helper.TextRead("a") + " "; };
+  const auto readRows = [&](std::string&) {
     helper.ListRead(box, "a");
     std::string result;
-    for (const std::string& row : rows->texts) result += row.substr(0, 9) + " ";
+    for (const std::string& row : rows->texts) result += row + " ";
     return result;
   };
-  const auto saveRows = [&](MemoryFiles& memory) {
-    rows->texts = {"x"};
-    helper.ListSave(box, "a");
-    return memory.files["a"] + " ";
-  };
-  EXPECT_EQ(failEachIn(readText),
-            " 57 TextRead;  57 TextRead;  57 TextRead; one\r\ntwo 57 TextRead; one\r\ntwo ; ");
-  EXPECT_EQ(failEachIn(readRows),
-            "57 ListRead; 57 ListRead; one 57 ListRead; one two 57 ListRead; "
-            "one two 57 ListRead; one two ; ");
-  EXPECT_EQ(failEachIn(saveRows),
-            "one\r\ntwo 57 ListSave;  57 ListSave; x\r\n 57 ListSave; x\r\n ; ");
+  const auto saveRows = [&](std::string& file) { return helper.ListSave(box, "a"), file + " "; };
+  EXPECT_EQ(trace(readText), " 57 TextRead; 57 TextRead; 57 TextRead;1\r\n2 57 TextRead;1\r\n2 ");
+  EXPECT_EQ(trace(readRows),
+            "x 57 ListRead;x 57 ListRead;x 1 57 ListRead;x 1 2 57 ListRead;"
+            "x 1 2 57 ListRead;x 1 2 ");
+  EXPECT_EQ(trace(saveRows), "1\r\n2 57 ListSave; 57 ListSave;x\r\n 57 ListSave;x\r\n ");
   silent();
-  EXPECT_EQ(failEachIn(readText), " ;  ;  ; one\r\ntwo ; one\r\ntwo ; ");
+  EXPECT_EQ(trace(readText), " ; ; ;1\r\n2 ;1\r\n2 ");
   // A row that could not be read repeats the previous one.
-  EXPECT_EQ(failEachIn(readRows), "; ; one one ; one two ; one two ; one two ; ");
-  EXPECT_EQ(failEachIn(saveRows), "one\r\ntwo ;  ; x\r\n ; x\r\n ; ");
+  EXPECT_EQ(trace(readRows), "x ;x ;x 1 1 ;x 1 2 ;x 1 2 ;x 1 2 ");
+  EXPECT_EQ(trace(saveRows), "1\r\n2 ; ;x\r\n ;x\r\n ");
 }
 
 TEST_F(SpEvTest, KnowsAThemeByItsColourScheme) {
-  const auto theme = [&](const std::u16string& scheme) {
-    application.theme = {u"Luna.msstyles", scheme, u"NormalSize"};
-    return static_cast<int>(helper.ActiveXPTheme());
-  };
   application.system = {2, 5, 1};
   for (const auto& [scheme, style] : {std::pair(std::u16string(u"NormalColor"), 1),
                                       {u"HomeStead", 3},
                                       {std::u16string(u"Metallic\0rest", 13), 2},
                                       {std::u16string(254, u'x'), 4},
-                                      {std::u16string(255, u'x'), 4}})
-    EXPECT_EQ(theme(scheme), style);
+                                      {std::u16string(255, u'x'), 4}}) {
+    application.theme = {u"Luna.msstyles", scheme, u"NormalSize"};
+    EXPECT_EQ(static_cast<int>(helper.ActiveXPTheme()), style);
+  }
   EXPECT_EQ(reports(), "5 ConvUnicode");
   application.theme->colourScheme = u"NormalColor";
   for (const auto& [major, minor, isXP] :
@@ -174,15 +163,12 @@ TEST_F(SpEvTest, KnowsAThemeByItsColourScheme) {
 }
 
 TEST_F(SpEvTest, ReturnsTheFirstPressedButtonOfThree) {
-  auto& keys = application.keyStates;
-  const auto pressed = [&] { return static_cast<int>(helper.MouseButtonPressed()); };
-  keys[4] = -32768;
-  EXPECT_EQ(pressed(), 4);
-  // Pressed and released since the last query; the other keys are not queried.
-  keys = {{1, 1}, {2, 1}};
-  EXPECT_EQ(pressed(), 1);
-  EXPECT_EQ(pressed(), 2);
-  EXPECT_EQ(pressed(), 0);
+  // The first two were pressed and released since the last query. A query ends with the first key.
+  application.keyStates = {{1, 1}, {2, 1}, {4, -32768}};
+  for (const int button : {1, 2, 4, 4})
+    EXPECT_EQ(static_cast<int>(helper.MouseButtonPressed()), button);
+  application.keyStates.clear();
+  EXPECT_EQ(static_cast<int>(helper.MouseButtonPressed()), 0);
 }
 
 }  // namespace

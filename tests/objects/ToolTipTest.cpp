@@ -1,6 +1,7 @@
 #include <nvlist/objects/QI.h>
 #include <nvlist/objects/nvToolTip.h>
 #include <nvlist/platform/HostWindow.h>
+#include <nvlist/values/numbers.h>
 
 #include "../Lists.h"
 
@@ -8,19 +9,15 @@ namespace norvane {
 namespace {
 
 /// A form, or a control in a container.
-class Window final : public HostWindow {
- public:
-  explicit Window(std::int32_t handle) : isForm_(true), handle_(handle) {}
-  Window(std::int32_t handle, Ref<HostWindow> container)
-      : handle_(handle), container_(std::move(container)) {}
-  bool isForm() const override { return isForm_; }
-  std::int32_t hwnd() override { return handle_; }
-  Ref<HostWindow> Container() override { return isForm_ ? HostWindow::Container() : container_; }
+struct Window final : HostWindow {
+  explicit Window(std::int32_t itsHandle, std::optional<Ref<HostWindow>> itsContainer = {})
+      : handle(itsHandle), container(std::move(itsContainer)) {}
+  bool isForm() const override { return !container; }
+  std::int32_t hwnd() override { return handle; }
+  Ref<HostWindow> Container() override { return container ? *container : HostWindow::Container(); }
 
- private:
-  bool isForm_ = false;
-  std::int32_t handle_;
-  Ref<HostWindow> container_;
+  std::int32_t handle;
+  std::optional<Ref<HostWindow>> container;
 };
 
 class ToolTipTest : public ListTest {
@@ -64,9 +61,8 @@ TEST_F(ToolTipTest, AddsAToolOnceAndReadsItsTextBackWhole) {
   EXPECT_FALSE(tips.AddTool(one, "again"));
   EXPECT_TRUE(tips.AddTool(two, ""));
   const TipTool& tool = window()->tools()[0];
-  EXPECT_EQ(tool.flags, 17U);
-  EXPECT_EQ(tool.owner, 7);
-  EXPECT_EQ(tool.id, 1);
+  EXPECT_EQ(textOf(tool.owner) + " " + textOf(tool.id), "7 1");
+  EXPECT_EQ(tool.flags, TipTool::isWindow | TipTool::receivesMouse);
   tips.ToolText(one, std::string(1000, 'x') + "ü");
   tips.ToolText(two, std::string("cut\0off", 7));
   tips.ToolText(control(3), "nobody's");
@@ -76,19 +72,16 @@ TEST_F(ToolTipTest, AddsAToolOnceAndReadsItsTextBackWhole) {
 
   EXPECT_TRUE(tips.RemoveTool(one).isTrue());
   EXPECT_FALSE(tips.RemoveTool(one));
+  // The number of tools has 16 bits.
+  for (int id = 100; id < 100 + 32766; ++id) window()->addTool({.owner = 7, .id = id});
   EXPECT_EQ(window()->tools()[0].id, 2);
-}
-
-TEST_F(ToolTipTest, CountsToolsIn16Bits) {
-  tips.Create(form);
-  for (int id = 100; id < 100 + 32767; ++id) window()->addTool({.owner = 7, .id = id});
   EXPECT_EQ(tips.ToolCount(), 32767);
   EXPECT_TRUE(tips.AddTool(one, "one too many"));
   EXPECT_EQ(tips.ToolCount(), 0);
   EXPECT_EQ(reports(), "6 ToolCount");
 }
 
-TEST_F(ToolTipTest, DelaysOfFourKinds) {
+TEST_F(ToolTipTest, PassesOnTimesColoursWidthAndMargins) {
   tips.Create(form);
   const auto delays = [&] {
     std::string result;
@@ -104,10 +97,7 @@ TEST_F(ToolTipTest, DelaysOfFourKinds) {
   EXPECT_EQ(delays(), "1000 200 10000 1000 ");
   for (const int kind : {1, 2, 3}) tips.DelayTime(kind, -1);
   EXPECT_EQ(delays(), "500 100 5000 500 ");
-}
 
-TEST_F(ToolTipTest, ColoursWidthAndMargins) {
-  tips.Create(form);
   tips.ForeColor(0x445566);
   EXPECT_EQ(window()->textColour(), 0x445566);
   // Reading sets it to black.
@@ -115,12 +105,10 @@ TEST_F(ToolTipTest, ColoursWidthAndMargins) {
   EXPECT_EQ(window()->textColour(), 0);
   tips.BackColor(0x778899);
   EXPECT_EQ(tips.BackColor(), 0x778899);
-  tips.MaxTipWidth(32767);
-  EXPECT_EQ(tips.MaxTipWidth(), 32767);
-  for (const auto value : std::initializer_list<std::int16_t>{0, -32768}) {
-    tips.MaxTipWidth(20);
-    tips.MaxTipWidth(value);
-    EXPECT_EQ(window()->maxTipWidth(), -1);
+  for (const auto& [value, width] : {std::pair(32767, 32767), {1, 1}, {0, -1}, {-32768, -1}}) {
+    tips.MaxTipWidth(static_cast<std::int16_t>(value));
+    EXPECT_EQ(window()->maxTipWidth(), width);
+    EXPECT_EQ(tips.MaxTipWidth(), width);
   }
   for (const int side : {-1, 0, 1, 2, 3, 4}) tips.Margin(side, 10 + side);
   EXPECT_EQ(window()->margin(), (Rectangle{10, 11, 12, 13}));
@@ -130,14 +118,12 @@ TEST_F(ToolTipTest, ColoursWidthAndMargins) {
 
 TEST_F(ToolTipTest, ControlsWithoutAWindowTakeNoTips) {
   tips.Create(form);
-  const Variant windowless(makeRef<HostWindow>());
-  EXPECT_FALSE(tips.AddTool(windowless, "text"));
-  EXPECT_FALSE(tips.AddTool(form, "a form stands in nothing"));
+  EXPECT_FALSE(tips.AddTool(Variant(makeRef<HostWindow>()), "text"));
+  EXPECT_FALSE(tips.AddTool(form, "a form is in no container"));
   EXPECT_FALSE(tips.RemoveTool("no control"));
   tips.ToolText(Variant(makeRef<Object>()), "text");
-  EXPECT_EQ(reports(), "438 AddTool, 438 AddTool, 424 RemoveTool, 438 ToolText");
   EXPECT_FALSE(tips.AddTool(Variant(makeRef<Window>(1, nullptr)), "text"));
-  EXPECT_EQ(reports(), "91 AddTool");
+  EXPECT_EQ(reports(), "438 AddTool, 438 AddTool, 424 RemoveTool, 438 ToolText, 91 AddTool");
 }
 
 TEST_F(ToolTipTest, QuickTipsTakeOneCall) {
@@ -146,26 +132,23 @@ TEST_F(ToolTipTest, QuickTipsTakeOneCall) {
   quick.Remove(one);
   EXPECT_EQ(reports(), "");
   quick.Create(form, one, "first", 3000, 200);
+  const auto state = [&] {
+    std::string result;
+    for (const TipTool& tool : window()->tools()) result += textOf(tool.id) + tool.text + " ";
+    return result + textOf(window()->delay(TipDelay::autopop)) + " " +
+           textOf(window()->maxTipWidth());
+  };
+  EXPECT_EQ(state(), "1first 3000 200");
   quick.Create(form, two, "second", 4000, 0);
-  ASSERT_EQ(application.tipWindows.size(), 1U);
-  ASSERT_EQ(window()->toolCount(), 2);
-  EXPECT_EQ(window()->tools()[1].text, "second");
-  EXPECT_EQ(window()->delay(TipDelay::autopop), 4000);
-  EXPECT_EQ(window()->maxTipWidth(), -1);
-
+  EXPECT_EQ(state(), "1first 2second 4000 -1");
   quick.Create(form, one, "another", 5000, 100);
-  EXPECT_EQ(window()->toolCount(), 2);
-  EXPECT_EQ(window()->tools()[0].text, "another");
-  EXPECT_EQ(window()->maxTipWidth(), 100);
+  EXPECT_EQ(state(), "1another 2second 5000 100");
   // A failing step does not stop the others.
   quick.Create(form, "no control", "text", 3000, 200);
   EXPECT_EQ(reports(), "424 AddTool, 424 ToolText");
-  EXPECT_EQ(window()->delay(TipDelay::autopop), 3000);
-  EXPECT_EQ(window()->maxTipWidth(), 200);
-
   quick.Remove(one);
-  ASSERT_EQ(window()->toolCount(), 1);
-  EXPECT_EQ(window()->tools()[0].id, 2);
+  EXPECT_EQ(state(), "2second 3000 200");
+  EXPECT_EQ(application.tipWindows.size(), 1U);
 }
 
 }  // namespace

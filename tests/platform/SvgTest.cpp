@@ -10,17 +10,15 @@
 namespace norvane {
 namespace {
 
-struct Drawn {
-  const char* name;
-  void (*draw)(Surface& onto);
-  const char* svg;  ///< part of the document
-};
-
 void write(Surface& onto, std::string_view text, TextFormat format = TextFormat::expandTabs) {
   onto.DrawTextA(onto.hDC(), text, -1, {1, 2, 11, 22}, format);
 }
 
-constexpr Drawn drawings[] = {
+constexpr struct {
+  const char* name;
+  void (*draw)(Surface& onto);
+  const char* svg;  ///< part of the document
+} drawings[] = {
     {"the background", [](Surface& s) { s.BackColor(rgb(1, 2, 3)), s.Cls(); },
      "<rect x=\"0\" y=\"0\" width=\"20\" height=\"10\" fill=\"#010203\"/>"},
     {"Cls covers what was there", [](Surface& s) { s.PSet(1, 1, 0), s.Cls(); },
@@ -68,11 +66,10 @@ constexpr Drawn drawings[] = {
 };
 
 TEST(Svg, DrawsEachCall) {
-  for (const Drawn& drawn : drawings) {
+  for (const auto& [name, draw, svg] : drawings) {
     SvgDocument document(40, 30);
-    drawn.draw(document.add(1, 2, 20, 10));
-    const std::string text = document.text();
-    EXPECT_NE(text.find(drawn.svg), std::string::npos) << drawn.name << "\n" << text;
+    draw(document.add(1, 2, 20, 10));
+    EXPECT_NE(document.text().find(svg), std::string::npos) << name << "\n" << document.text();
   }
 }
 

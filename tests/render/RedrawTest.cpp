@@ -63,89 +63,78 @@ TEST_F(Redraw, RowsWithoutHeightShowNothingAndEnd) {
   EXPECT_EQ(reports(), "11 ItemsAdd");
 }
 
-/// A list whose surface calls the host while a row is painted.
+/// A list whose surface calls the host after each text, and after each colour with "colour".
 struct HostedList {
   struct Surface : RecordingSurface {
     using RecordingSurface::RecordingSurface;
     void DrawTextA(std::uintptr_t hDC, std::string_view text, std::int32_t length,
                    const Rectangle& rectangle, TextFormat format) override {
       RecordingSurface::DrawTextA(hDC, text, length, rectangle, format);
-      onText(text);
+      onCall(text);
     }
     void ForeColor(Colour colour) override {
       RecordingSurface::ForeColor(colour);
-      onColour();
+      onCall("colour");
     }
-    std::function<void()> onColour = [] {};
-    std::function<void(std::string_view)> onText = [](std::string_view) {};
+    std::function<void(std::string_view)> onCall = [](std::string_view) {};
   } surface{200, 100};
   HeadlessContainer container{surface};
   nvList list{container};
 
-  explicit HostedList(const std::vector<std::string>& texts) {
+  HostedList() {
     list.UserControl_InitProperties();
-    for (const std::string& text : texts) list.ItemsAdd(text);
+    for (const char* text : {"a", "b", "c"}) list.ItemsAdd(text);
   }
-  int repaints() {
+  /// The number of repaints after which a statement has ended.
+  int repaintsOf(const std::function<void()>& statement) {
     const int before = surface.frames();
-    list.Redraw();
+    statement();
     return surface.frames() - before;
   }
 };
 
 TEST_F(Redraw, AFailureLeavesTheRepaintInTheMiddle) {
-  HostedList own({"a", "bad", "c"});
-  own.surface.onText = [](std::string_view text) {
-    if (text == "bad") throw std::runtime_error("no ink");
+  HostedList own;
+  own.surface.onCall = [](std::string_view call) {
+    if (call == "b") throw std::runtime_error("no ink");
   };
   silent();
   own.list.Redraw();
-  EXPECT_EQ(rowsOf(own.surface), "a@3 bad@16 c@29");
+  EXPECT_EQ(rowsOf(own.surface), "a@3 b@16 c@29");
   EXPECT_FALSE(own.list.state().IsRedrawing);
 
   Error().SilentError(false);
   own.list.Redraw();
   EXPECT_EQ(reports(), "440 Redraw");
-}
-
-TEST_F(Redraw, AfterAFailedRepaintOnlyAnArrowOrTheWheelPaintsAgain) {
-  HostedList own({"a", "b", "c"});
-  bool isBroken = false;
-  own.surface.onColour = [&] {
-    if (isBroken) throw std::runtime_error("no ink");
-  };
+  // Only an arrow or the wheel paints again.
   const auto press = [&](std::int16_t key) { own.list.UserControl_KeyDown(key, 0); };
   const std::function<void()> repairs[] = {[&] { press(40); }, [&] { press(40); },
                                            [&] { press(38); },
                                            [&] { own.container.turnWheel(120); }};
   for (const auto& repair : repairs) {
-    isBroken = true;
+    const auto failing = std::exchange(own.surface.onCall, [](std::string_view) {});
+    EXPECT_EQ(own.repaintsOf([&] { own.list.Redraw(); }), 0);
+    EXPECT_EQ(own.repaintsOf(repair), 1);
+    own.surface.onCall = failing;
     own.list.Redraw();
-    isBroken = false;
-    EXPECT_EQ(own.repaints(), 0);
-    const int before = own.surface.frames();
-    repair();
-    EXPECT_EQ(own.surface.frames(), before + 1);
   }
 }
 
 TEST_F(Redraw, ACallFromInsideARepaintIsDropped) {
-  HostedList own({"a", "b"});
-  own.surface.onText = [&](std::string_view) { own.list.Redraw(); };
-  EXPECT_EQ(own.repaints(), 1);
-  EXPECT_EQ(rowsOf(own.surface), "a@3 b@16");
+  HostedList own;
+  own.surface.onCall = [&](std::string_view) { own.list.Redraw(); };
+  EXPECT_EQ(own.repaintsOf([&] { own.list.Redraw(); }), 1);
+  EXPECT_EQ(rowsOf(own.surface), "a@3 b@16 c@29");
 }
 
 TEST_F(Redraw, PropertiesReadAnewInTheMiddleOfARowEndTheRepaint) {
-  for (const bool isBeforeText : {true, false}) {
-    HostedList own({"a", "b"});
-    const auto readAnew = [&] { own.list.UserControl_ReadProperties(propertiesOf("Font = 7")); };
-    if (isBeforeText)
-      own.surface.onColour = readAnew;
-    else
-      own.surface.onText = [&](std::string_view) { readAnew(); };
+  for (const std::string_view where : {"colour", "a"}) {
+    HostedList own;
+    own.surface.onCall = [&](std::string_view call) {
+      if (call == where) own.list.UserControl_ReadProperties(propertiesOf("Font = 7"));
+    };
     own.list.Redraw();
-    EXPECT_EQ(rowsOf(own.surface), isBeforeText ? "" : "a@3");
+    EXPECT_EQ(rowsOf(own.surface), where == "a" ? "a@3" : "");
     EXPECT_FALSE(own.list.state().IsRedrawing);
   }
 }
@@ -153,16 +142,15 @@ TEST_F(Redraw, PropertiesReadAnewInTheMiddleOfARowEndTheRepaint) {
 TEST_F(Redraw, ADesignerShowsASampleRowWithTheName) {
   list.ItemsAdd("hidden");
   headless.container().userMode = false;
-  const auto preview = [&](cListStyle style) {
-    list.Style(style);
-    return headless.face();
-  };
   const std::string name = "CurrentY 3\nPrint \"nvList1\"\n";
-  const std::string box = "PaintPicture 13x13 \"check box\" at (3, 3)\n";
-  EXPECT_EQ(preview(cDefault), "Cls\nCurrentX 3\n" + name);
-  const std::string icon = "PaintPicture 32x32 \"sample icon\" at ";
-  EXPECT_EQ(preview(cCheckBoxesIcons),
-            "Cls\n" + box + icon + "(19, 1.5) as 16x16\nCurrentX 37\n" + name);
+  list.Style(cDefault);
+  EXPECT_EQ(headless.face(), "Cls\nCurrentX 3\n" + name);
+  list.Style(cCheckBoxesIcons);
+  EXPECT_EQ(headless.face(),
+            "Cls\nPaintPicture 13x13 \"check box\" at (3, 3)\n"
+            "PaintPicture 32x32 \"sample icon\" at (19, 1.5) as 16x16\n"
+            "CurrentX 37\n" +
+                name);
 }
 
 }  // namespace
