@@ -78,74 +78,8 @@ class HearingListTest : public ListTest, public __nvList {
     list.AutoRedraw(true);
     heard();
   }
-  void disable(std::initializer_list<int> indexes) {
-    for (const int index : indexes) list.ItemEnabled(index, false);
-    heard();
-  }
 
-  /// The texts of the items with a mark.
-  std::string marked(Boolean ListItem::*mark) {
-    std::string result;
-    for (int i = 0; i < list.ItemsCount(); ++i)
-      if (item(i).*mark) result += (result.empty() ? "" : " ") + item(i).Text;
-    return result;
-  }
-  std::string selected() { return marked(&ListItem::Selected); }
-  /// "current: selected", and anything unusual: the top item, checked items.
-  std::string now() {
-    std::string result = std::to_string(list.ListIndex()) + ": " + selected();
-    if (list.TopIndex() > 0) result += ", top " + std::to_string(list.TopIndex());
-    const std::string checked = marked(&ListItem::Checked);
-    return checked.empty() ? result : result + ", checked " + checked;
-  }
-  /// What was recorded, followed by the state.
-  std::string outcome() {
-    const std::string events = heard();
-    return events + " | " + now();
-  }
-
-  // ---- the hand: rows are those of the window, positions outside of the check zone ----
-
-  static constexpr float besideZone = 50;
-  static constexpr float inZone = 8;
-  static constexpr float rowAt(int row) { return 10 + 13.0F * static_cast<float>(row); }
-  void press(int row, std::int16_t shift = 0, float x = besideZone) {
-    headless.container().press(x, rowAt(row), 1, shift);
-  }
-  void drag(int row, std::int16_t buttons = 1) {
-    headless.container().moveTo(besideZone, rowAt(row), buttons);
-  }
-  void release(int row) { headless.container().release(besideZone, rowAt(row)); }
-  void click(int row, std::int16_t shift = 0, float x = besideZone) {
-    press(row, shift, x);
-    release(row);
-  }
-  void doubleClick(int row) {
-    click(row);
-    headless.container().doubleClick(besideZone, rowAt(row));
-    release(row);
-  }
-  std::int16_t key(std::int16_t code, std::int16_t shift = 0) {
-    list.UserControl_KeyDown(code, shift);
-    return code;
-  }
-  static constexpr std::int16_t up = 38;
-  static constexpr std::int16_t down = 40;
-  void wait(int milliseconds) {
-    headless.container().clock().advance(std::chrono::milliseconds(milliseconds));
-  }
-  HeadlessTextBox& box() { return *headless.container().textBoxes().at(0); }
-
-  /// "closed", or the text and bounds of an edit box.
-  static std::string editing(const HeadlessTextBox& in) {
-    const Bounds& at = in.place();
-    return in.Visible() ? in.Text() + " (" + textOf(at.Left) + ", " + textOf(at.Top) + ") " +
-                              textOf(at.Width) + "x" + textOf(at.Height)
-                        : "closed";
-  }
-
-  // ---- the host ----
-
+  // What the host does.
   std::function<void(Variant&)> onWrongIndex = [](Variant& Index) { Index = 0; };
   std::function<void(const std::string& event)> onEvent = [](const std::string&) {};
   std::optional<std::int16_t> newButton;   ///< the button set by the MouseDown handler
@@ -153,7 +87,6 @@ class HearingListTest : public ListTest, public __nvList {
   Boolean cancel;
   std::string arguments;  ///< of the last mouse event
 
- protected:
   void hear(const std::string& event) {
     hearRepaints();
     told += (told.empty() ? "" : " ") + event;

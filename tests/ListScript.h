@@ -42,6 +42,7 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
   }
 
   HeadlessContainer& form = headless.container();
+  HeadlessTextBox& box() { return *form.textBoxes().at(0); }
 
  private:
   using Words = std::vector<std::string>;
@@ -99,19 +100,20 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     else if (verb == "resize") headless.resize(real(0), real(1));
     else if (const auto* property = storedProperty(verb)) property->set(list, value(0));
     // The hand: a row, and Shift or the buttons; a point, a button and Shift; a key and Shift.
-    else if (verb == "press") press(code, number(1));
-    else if (verb == "drag") drag(code, number(1, 1));
-    else if (verb == "release") release(code);
+    else if (verb == "press") form.press(beside, rowAt(code), 1, number(1));
+    else if (verb == "drag") form.moveTo(beside, rowAt(code), number(1, 1));
+    else if (verb == "release") form.release(beside, rowAt(code));
     else if (verb == "click") click(code, number(1));
     else if (verb == "check") click(code, 0, inZone);
-    else if (verb == "double") doubleClick(code);
+    else if (verb == "double")
+      click(code, 0), form.doubleClick(beside, rowAt(code)), form.release(beside, rowAt(code));
     else if (verb == "pressAt") form.press(real(0), real(1), number(2, 1), number(3));
     else if (verb == "moveTo") form.moveTo(real(0), real(1), number(2), number(3));
     else if (verb == "releaseAt") form.release(real(0), real(1), number(2, 1));
     else if (verb == "step") step(value(0).toInt32(), value(1).toInt32(), number(2, 1));
     else if (verb == "wheel") EXPECT_TRUE(form.turnWheel(code));
-    else if (verb == "wait") wait(code);
-    else if (verb == "key") lastCode = textOf(int{key(code, number(1))});
+    else if (verb == "wait") form.clock().advance(std::chrono::milliseconds(code));
+    else if (verb == "key") list.UserControl_KeyDown(code, number(1)), lastCode = textOf(int{code});
     else if (verb == "keyUp") list.UserControl_KeyUp(code, number(1));
     else if (verb == "keyPress") list.UserControl_KeyPress(code);
     else if (verb == "enter") list.UserControl_EnterFocus();
@@ -127,6 +129,8 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
       onEvent = [this, event = words.at(0), deed = rest.substr(words[0].size() + 1)](auto& heard) {
         if (heard.starts_with(event)) obey(deed);
       };
+    else if (verb == "onEach")
+      onEvent = [this, rest](auto& heard) { if (heard[0] != '[') obey(rest); };
     else if (verb == "onWrongIndex") onWrongIndex = [this, rest](Variant&) { obey(rest); };
     else if (verb == "cancel") cancel = Boolean::ofNumber(code);
     else if (verb == "newButton") newButton = code;
@@ -136,7 +140,10 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     else if (verb == "forget") heard();
     else if (verb == "events") return heard();
     else if (verb == "now") return now();
-    else if (verb == "outcome") return outcome();
+    else if (verb == "outcome") {
+      const std::string events = heard();
+      return events + " | " + now();
+    } else if (verb == "arguments") return arguments;
     else if (verb == "reports") return reports();
     else if (verb == "find") return textOf(list.IsInList(value(0).toText()));
     else if (verb == "findText") return textOf(list.IsInList(value(0).toText(), cFindText));
@@ -165,9 +172,9 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
       return std::string(list.state().ShiftDown ? "Shift" : "") + (list.state().CtrlDown ? "Ctrl" : "");
     else if (verb == "code") return lastCode;
     else if (verb == "waiting") return std::to_string(form.waiting());
-    else if (verb == "editing") return editing(box());
+    else if (verb == "editing") return editing();
     else if (verb == "ticks") {
-      heard(), wait(code);
+      heard(), form.clock().advance(std::chrono::milliseconds(code));
       return std::to_string(std::ranges::count(heard(), '*'));
     } else if (verb == "face") return lines(headless.face(), rest);
     else if (verb == "picture") return lines(headless.picture(), rest);
@@ -179,6 +186,34 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     std::string result;
     for (int i = 0; i < list.ItemsCount(); ++i) result += item(i).Key;
     return result;
+  }
+  /// The texts of the items with a mark.
+  std::string marked(Boolean ListItem::*mark) {
+    std::string result;
+    for (int i = 0; i < list.ItemsCount(); ++i)
+      if (item(i).*mark) result += (result.empty() ? "" : " ") + item(i).Text;
+    return result;
+  }
+  /// "current: selected", and anything unusual: the top item, checked items.
+  std::string now() {
+    std::string result = textOf(list.ListIndex()) + ": " + marked(&ListItem::Selected);
+    if (list.TopIndex() > 0) result += ", top " + textOf(list.TopIndex());
+    const std::string checked = marked(&ListItem::Checked);
+    return checked.empty() ? result : result + ", checked " + checked;
+  }
+  /// "closed", or the text and bounds of the edit box.
+  std::string editing() {
+    const Bounds& at = box().place();
+    return box().Visible() ? box().Text() + " (" + textOf(at.Left) + ", " + textOf(at.Top) + ") " +
+                                 textOf(at.Width) + "x" + textOf(at.Height)
+                           : "closed";
+  }
+  static constexpr float beside = 50;  ///< outside of the check zone
+  static constexpr float inZone = 8;
+  static constexpr float rowAt(int row) { return 10 + 13.0F * static_cast<float>(row); }
+  void click(int row, std::int16_t shift, float x = beside) {
+    form.press(x, rowAt(row), 1, shift);
+    form.release(beside, rowAt(row));
   }
   void obey(const std::string& deed) {
     if (deed == "throw") throw Failure(1000, "own");

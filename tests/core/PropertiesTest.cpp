@@ -175,7 +175,8 @@ TEST_F(Persistence, AValueThatDoesNotFitEndsTheReading) {
 TEST_F(Persistence, ReadingForgetsTheHandAndTheFormsLaterFont) {
   list.AllowItemMoving(true);
   add({"a", "b"});
-  press(0), drag(1);
+  headless.container().press(50, 10);
+  headless.container().moveTo(50, 20, 1);
   list.UserControl_ReadProperties(PropertyBag());
   EXPECT_EQ(list.state().SelectAnchor, -1);
   EXPECT_EQ(list.state().HoverIndex, -1);

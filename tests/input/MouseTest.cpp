@@ -1,41 +1,20 @@
-#include "../HearingList.h"
+#include "../ListScript.h"
 
 namespace norvane {
 namespace {
 
-class Mouse : public HearingListTest {
- protected:
-  Mouse() { fill(5); }
-};
+using Mouse = ListScript;
 
 TEST_F(Mouse, TheEditBoxLooksLikeItsRow) {
-  list.AllowEdit(true);
-  for (const int index : {2, 3}) list.ItemAllowEdit(index, true);
-  list.ForeColor(0x123456);
-  list.ItemText(2, "Füße");
-  click(2), click(2);
-  EXPECT_EQ(editing(box()), "Füße (1, 29) 197x14");
+  EXPECT_EQ(run("AllowEdit 1; editable 2 3; ForeColor 1193046; setText 2 'Füße'; click 2; click 2;"
+                "editing"),
+            "Füße (1, 29) 197x14");
   EXPECT_EQ(box().font, list.Font());
-  EXPECT_EQ(box().foreColor, 0x123456);
+  EXPECT_EQ(box().foreColor, 1193046);
   EXPECT_TRUE(box().hasFocus);
   EXPECT_EQ(box().selectionLength, 4);
   box().refusesFocus = true;
-  list.SetEdit("3");
-  EXPECT_EQ(reports(), "5 SetEdit");
-}
-
-TEST_F(Mouse, HandlersSeeWhatHasHappenedSoFar) {
-  std::string seen;
-  onEvent = [&](const std::string& event) { seen += event + ": " + now() + "; "; };
-  headless.container().press(inZone, 40, 1, 2);
-  EXPECT_EQ(arguments, "1 2 8 40");
-  headless.container().moveTo(60, 50, 3, 4);
-  EXPECT_EQ(arguments, "3 4 60 50");
-  headless.container().release(inZone, 41);
-  EXPECT_EQ(arguments, "1 0 8 41");
-  EXPECT_EQ(seen,
-            "MouseDown: -1: ; ItemCheck(2): 2: 2; MouseMove(3 3): 2: 2, checked 2; "
-            "MouseUp: 2: 2, checked 2; Click: 2: 2, checked 2; ");
+  EXPECT_EQ(run("edit '3'; reports"), "5 SetEdit");
 }
 
 TEST_F(Mouse, HostsMayComeAndGoInAnEvent) {
@@ -49,7 +28,7 @@ TEST_F(Mouse, HostsMayComeAndGoInAnEvent) {
   };
   heard();
   for (const int clicksOfThird : {0, 1}) {
-    click(1);
+    run("click 1");
     EXPECT_EQ(second.clicks, 0);
     EXPECT_EQ(third.clicks, clicksOfThird);
   }

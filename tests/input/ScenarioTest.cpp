@@ -47,6 +47,10 @@ const Scenario scenarios[] = {
   {"a range far outside the list is walked as far as the list goes",
    "fill 20; MultiSelect 1; silent; down 0 -2000000000; key 40; anchor; press 3 1; now",
    "-2000000000 / 3: 0 1 2 3"},
+  {"handlers see what has happened so far",
+   "onEach now; pressAt 8 40 1 2; arguments; moveTo 60 50 3 4; arguments; releaseAt 8 41; arguments;"
+   "events", "1 2 8 40 / 3 4 60 50 / 1 0 8 41 / MouseDown [-1: ] ItemCheck(2) [2: 2]* "
+   "MouseMove(3 3) [2: 2, checked 2] MouseUp [2: 2, checked 2] Click [2: 2, checked 2]"},
   {"a failing handler ends the press",
    "on MouseDown throw; press 2; outcome; reports; release 2; on ItemCheck throw; pressAt 8 36;"
    "outcome; reports",

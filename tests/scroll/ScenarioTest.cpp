@@ -146,10 +146,7 @@ TEST_P(Bars, BoxesSayWhatIsWrongAndWhere) {
 
 TEST_P(Bars, PropertiesAreStored) {
   PropertyBag bag;
-  const auto stored = [&] {
-    bar.UserControl_WriteProperties(bag);
-    return propertyText(bag);
-  };
+  const auto stored = [&] { return bar.UserControl_WriteProperties(bag), propertyText(bag); };
   run("min 2; max 7; value 3; gradient 0; style 2; active 0; small 2; large 3; enable 0");
   if (axis == Axis::horizontal) static_cast<nvHScroll&>(bar).BackColor(5);
   const std::string values = stored();
