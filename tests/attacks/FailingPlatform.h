@@ -13,136 +13,128 @@
 
 namespace norvane::attacks {
 
-class FailingSurface final : public Surface {
+/// Forwards to an object of the platform. Each call counts, and may fail.
+template <class Interface>
+class Failing : public Interface {
  public:
-  FailingSurface(Surface& inner, CallOut& out) : to_(inner), on_(out) {}
+  Failing(Interface& inner, CallOut& out) : inner_(inner), on_(out) {}
+  Failing(std::unique_ptr<Interface> inner, CallOut& out)
+      : own_(std::move(inner)), inner_(*own_), on_(out) {}
 
-  void Cls() override { on_(), to_.Cls(); }
+ protected:
+  Interface& to() const { return on_(), inner_; }
+
+ private:
+  std::unique_ptr<Interface> own_;
+
+ protected:
+  Interface& inner_;
+  CallOut& on_;
+};
+
+class FailingSurface final : public Failing<Surface> {
+ public:
+  using Failing::Failing;
+
+  void Cls() override { to().Cls(); }
   void Line(LineMode mode, float x1, float y1, float x2, float y2, Colour colour) override {
-    on_(), to_.Line(mode, x1, y1, x2, y2, colour);
+    to().Line(mode, x1, y1, x2, y2, colour);
   }
-  void PSet(float x, float y, Colour colour) override { on_(), to_.PSet(x, y, colour); }
+  void PSet(float x, float y, Colour colour) override { to().PSet(x, y, colour); }
   void PaintPicture(const Picture& picture, float x, float y) override {
-    on_(), to_.PaintPicture(picture, x, y);
+    to().PaintPicture(picture, x, y);
   }
   void PaintPicture(const Picture& picture, float x, float y, float w, float h) override {
-    on_(), to_.PaintPicture(picture, x, y, w, h);
+    to().PaintPicture(picture, x, y, w, h);
   }
-  float TextWidth(std::string_view text) override { return on_(), to_.TextWidth(text); }
-  float TextHeight(std::string_view text) override { return on_(), to_.TextHeight(text); }
-  float CurrentX() const override { return on_(), to_.CurrentX(); }
-  void CurrentX(float x) override { on_(), to_.CurrentX(x); }
-  float CurrentY() const override { return on_(), to_.CurrentY(); }
-  void CurrentY(float y) override { on_(), to_.CurrentY(y); }
-  float ScaleWidth() const override { return on_(), to_.ScaleWidth(); }
-  float ScaleHeight() const override { return on_(), to_.ScaleHeight(); }
-  void BackColor(Colour colour) override { on_(), to_.BackColor(colour); }
-  void ForeColor(Colour colour) override { on_(), to_.ForeColor(colour); }
-  void Font(const norvane::Font& font) override { on_(), to_.Font(font); }
-  void FontBold(Boolean on) override { on_(), to_.FontBold(on); }
-  void FontItalic(Boolean on) override { on_(), to_.FontItalic(on); }
-  void FontUnderline(Boolean on) override { on_(), to_.FontUnderline(on); }
-  std::uintptr_t hDC() const override { return on_(), to_.hDC(); }
+  float TextWidth(std::string_view text) override { return to().TextWidth(text); }
+  float TextHeight(std::string_view text) override { return to().TextHeight(text); }
+  float CurrentX() const override { return to().CurrentX(); }
+  void CurrentX(float x) override { to().CurrentX(x); }
+  float CurrentY() const override { return to().CurrentY(); }
+  void CurrentY(float y) override { to().CurrentY(y); }
+  float ScaleWidth() const override { return to().ScaleWidth(); }
+  float ScaleHeight() const override { return to().ScaleHeight(); }
+  void BackColor(Colour colour) override { to().BackColor(colour); }
+  void ForeColor(Colour colour) override { to().ForeColor(colour); }
+  void Font(const norvane::Font& font) override { to().Font(font); }
+  void FontBold(Boolean on) override { to().FontBold(on); }
+  void FontItalic(Boolean on) override { to().FontItalic(on); }
+  void FontUnderline(Boolean on) override { to().FontUnderline(on); }
+  std::uintptr_t hDC() const override { return to().hDC(); }
   void DrawTextA(std::uintptr_t hDC, std::string_view text, std::int32_t length,
                  const Rectangle& rectangle, TextFormat format) override {
-    on_(), to_.DrawTextA(hDC, text, length, rectangle, format);
+    to().DrawTextA(hDC, text, length, rectangle, format);
   }
   void DrawFocusRect(std::uintptr_t hDC, const Rectangle& rectangle) override {
-    on_(), to_.DrawFocusRect(hDC, rectangle);
+    to().DrawFocusRect(hDC, rectangle);
   }
   void StretchDIBits(std::uintptr_t hDC, const Rectangle& target, const Bitmap24& bits) override {
-    on_(), to_.StretchDIBits(hDC, target, bits);
+    to().StretchDIBits(hDC, target, bits);
   }
-  void Print(std::string_view text) override { on_(), to_.Print(text); }
-
- private:
-  Surface& to_;
-  CallOut& on_;
+  void Print(std::string_view text) override { to().Print(text); }
 };
 
-class FailingTextBox final : public TextBox {
+class FailingTextBox final : public Failing<TextBox> {
  public:
-  FailingTextBox(std::unique_ptr<TextBox> inner, CallOut& out) : to_(std::move(inner)), on_(out) {}
+  using Failing::Failing;
 
-  void Font(const norvane::Font& font) override { on_(), to_->Font(font); }
-  void ForeColor(Colour colour) override { on_(), to_->ForeColor(colour); }
-  std::string Text() const override { return on_(), to_->Text(); }
-  void Text(const std::string& text) override { on_(), to_->Text(text); }
-  Bounds place() const override { return on_(), to_->place(); }
-  void Move(const Bounds& bounds) override { on_(), to_->Move(bounds); }
-  bool Visible() const override { return on_(), to_->Visible(); }
-  void Visible(bool isVisible) override { on_(), to_->Visible(isVisible); }
-  void SetFocus() override { on_(), to_->SetFocus(); }
-  void select(std::int32_t start, std::int32_t length) override {
-    on_(), to_->select(start, length);
-  }
-
- private:
-  std::unique_ptr<TextBox> to_;
-  CallOut& on_;
+  void Font(const norvane::Font& font) override { to().Font(font); }
+  void ForeColor(Colour colour) override { to().ForeColor(colour); }
+  std::string Text() const override { return to().Text(); }
+  void Text(const std::string& text) override { to().Text(text); }
+  Bounds place() const override { return to().place(); }
+  void Move(const Bounds& bounds) override { to().Move(bounds); }
+  bool Visible() const override { return to().Visible(); }
+  void Visible(bool isVisible) override { to().Visible(isVisible); }
+  void SetFocus() override { to().SetFocus(); }
+  void select(std::int32_t start, std::int32_t length) override { to().select(start, length); }
 };
 
-class FailingTimer final : public Timer {
+class FailingTimer final : public Failing<Timer> {
  public:
-  FailingTimer(std::unique_ptr<Timer> inner, CallOut& out) : to_(std::move(inner)), on_(out) {}
+  using Failing::Failing;
 
-  std::int32_t Interval() const override { return on_(), to_->Interval(); }
-  void Interval(std::int32_t milliseconds) override { on_(), to_->Interval(milliseconds); }
-  Boolean Enabled() const override { return on_(), to_->Enabled(); }
-  void Enabled(Boolean on) override { on_(), to_->Enabled(on); }
-
- private:
-  std::unique_ptr<Timer> to_;
-  CallOut& on_;
+  std::int32_t Interval() const override { return to().Interval(); }
+  void Interval(std::int32_t milliseconds) override { to().Interval(milliseconds); }
+  Boolean Enabled() const override { return to().Enabled(); }
+  void Enabled(Boolean on) override { to().Enabled(on); }
 };
 
-class FailingContainer final : public Container {
+class FailingContainer final : public Failing<Container> {
  public:
-  FailingContainer(Container& inner, CallOut& out)
-      : to_(inner), on_(out), surface_(inner.surface(), out) {}
-  FailingContainer(std::unique_ptr<Container> inner, CallOut& out) : FailingContainer(*inner, out) {
-    own_ = std::move(inner);
-  }
+  using Failing::Failing;
 
-  void attach(UserControl* control) override {
-    on_();
-    to_.attach(control);
-  }
+  void attach(UserControl* control) override { to().attach(control); }
   Surface& surface() override { return surface_; }
-  void PropertyChanged(std::string_view name) override { on_(), to_.PropertyChanged(name); }
-  Boolean UserMode() override { return on_(), to_.UserMode(); }
-  norvane::Font AmbientFont() override { return on_(), to_.AmbientFont(); }
-  std::string Name() override { return on_(), to_.Name(); }
-  bool EventsWaiting() override { return on_(), to_.EventsWaiting(); }
-  void DoEvents() override { on_(), to_.DoEvents(); }
-  void move(const Bounds& bounds) override { on_(), to_.move(bounds); }
-  void show(bool isVisible) override { on_(), to_.show(isVisible); }
-  void enable(bool isEnabled) override { on_(), to_.enable(isEnabled); }
-  void SetCapture() override { on_(), to_.SetCapture(); }
-  void ReleaseCapture() override { on_(), to_.ReleaseCapture(); }
-  std::int32_t hwnd() override { return on_(), to_.hwnd(); }
+  void PropertyChanged(std::string_view name) override { to().PropertyChanged(name); }
+  Boolean UserMode() override { return to().UserMode(); }
+  norvane::Font AmbientFont() override { return to().AmbientFont(); }
+  std::string Name() override { return to().Name(); }
+  bool EventsWaiting() override { return to().EventsWaiting(); }
+  void DoEvents() override { to().DoEvents(); }
+  void move(const Bounds& bounds) override { to().move(bounds); }
+  void show(bool isVisible) override { to().show(isVisible); }
+  void enable(bool isEnabled) override { to().enable(isEnabled); }
+  void SetCapture() override { to().SetCapture(); }
+  void ReleaseCapture() override { to().ReleaseCapture(); }
+  std::int32_t hwnd() override { return to().hwnd(); }
   void hookWheel(std::function<void(std::int32_t, std::int32_t)> procedure) override {
-    on_(), to_.hookWheel(std::move(procedure));
+    to().hookWheel(std::move(procedure));
   }
-  void paintLater() override { on_(), to_.paintLater(); }
+  void paintLater() override { to().paintLater(); }
   std::unique_ptr<Container> addChild() override {
-    on_();
-    return std::make_unique<FailingContainer>(to_.addChild(), on_);
+    return std::make_unique<FailingContainer>(to().addChild(), on_);
   }
   std::unique_ptr<TextBox> addTextBox(std::function<void(std::int16_t&)> keyPress) override {
-    on_();
-    return std::make_unique<FailingTextBox>(to_.addTextBox(std::move(keyPress)), on_);
+    return std::make_unique<FailingTextBox>(to().addTextBox(std::move(keyPress)), on_);
   }
   std::unique_ptr<Timer> addTimer(std::function<void()> tick) override {
-    on_();
-    return std::make_unique<FailingTimer>(to_.addTimer(std::move(tick)), on_);
+    return std::make_unique<FailingTimer>(to().addTimer(std::move(tick)), on_);
   }
 
  private:
-  std::unique_ptr<Container> own_;
-  Container& to_;
-  CallOut& on_;
-  FailingSurface surface_;
+  FailingSurface surface_{inner_.surface(), on_};
 };
 
 class FailingProgram final : public HeadlessApplication {

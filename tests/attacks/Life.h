@@ -130,6 +130,10 @@ inline std::vector<Step> lifeOf(nvList& list, Hand& hand, const std::function<vo
   const auto then = [&](const char* name, std::function<void()> run) {
     life.push_back({name, std::move(run)});
   };
+  const auto click = [&](const char* name, float x, float y, std::int16_t shift = 0) {
+    then(name, [=, &hand] { hand.press(x, y, shift); });
+    then(name, [=, &hand] { hand.release(x, y); });
+  };
   then("scroll bars", [&] { list.ScrollBars(vbBoth); });
   then("add", [&, wide] { list.ItemsAdd(wide); });
   then("add an icon", [&, pictured] { list.ItemsAdd(pictured); });
@@ -148,13 +152,10 @@ inline std::vector<Step> lifeOf(nvList& list, Hand& hand, const std::function<vo
   then("select", [&] { list.ListIndex(3); });
   then("refuse", [&] { list.ListIndex(99); });
   then("property", [&] { list.ItemForeColor(2, 0xFF00); });
-  then("press", [&] { hand.press(30, 20, 0); });
-  then("release", [&] { hand.release(30, 20); });
-  then("check", [&] { hand.press(8, 20, 0); });
-  then("release the check", [&] { hand.release(8, 20); });
+  click("click", 30, 20);
+  click("check", 8, 20);
   then("multi-select", [&] { list.MultiSelect(true); });
-  then("shift and press", [&] { hand.press(30, 33, 1); });
-  then("release with shift", [&] { hand.release(30, 33); });
+  click("click with shift", 30, 33, 1);
   then("double click", [&] { hand.doubleClick(30, 7); });
   then("count", [&] { list.ItemsSelectCount(); });
   then("hover", [&] { hand.drag(30, 30); });
@@ -179,10 +180,8 @@ inline std::vector<Step> lifeOf(nvList& list, Hand& hand, const std::function<vo
   then("thumb", [&] { hand.press(51, 15, 0); });
   then("drag the thumb", [&] { hand.drag(51, 25); });
   then("let go", [&] { hand.release(51, 25); });
-  then("track", [&] { hand.press(51, 27, 0); });
-  then("track up", [&] { hand.release(51, 27); });
-  then("right button", [&] { hand.press(36, 51, 0); });
-  then("right button up", [&] { hand.release(36, 51); });
+  click("track", 51, 27);
+  click("right button", 36, 51);
   then("wheel", [&] { hand.turnWheel(-120); });
   then("wheel selects", [&] { list.WheelFunction(cWheelListIndex); });
   then("wheel down", [&] { hand.turnWheel(-120); });

@@ -51,34 +51,29 @@ class Sweep {
   ~Sweep() { Error().SilentError(false); }
 
   Outcome run() {
-    // A constructor may throw.
-    const allocations::Watch memory(plan_.allocation, plan_.onward);
-    ignoringFailures([&] {
-      place_.emplace(form_, calls_);
-      list_ = std::make_unique<nvList>(*place_);
-    });
-    if (list_) live();
-    outcome_.allocations = memory.count();
-    return outcome_;
-  }
-  /// Checks the list after its life, without trouble.
-  void check() {
-    lifeCalls_ = std::exchange(calls_.calls, 0);
+    {
+      // A constructor may throw.
+      const allocations::Watch memory(plan_.allocation, plan_.onward);
+      ignoringFailures([&] {
+        place_.emplace(form_, calls_);
+        list_ = std::make_unique<nvList>(*place_);
+      });
+      if (list_) live();
+      outcome_.allocations = memory.count();
+    }
+    const long calls = std::exchange(calls_.calls, 0);
     calls_.at = 0;
     if (list_) checkUse();
     if (files_.open != 0) fault("a file is still open");
     if (Trap::anyRuns()) fault("a procedure has not ended");
-  }
-  /// Destroys the list, with trouble again if it is onward.
-  void end() {
-    calls_.calls = lifeCalls_;
+    // Trouble that is onward also meets the end of the list.
+    calls_.calls = calls;
     calls_.at = plan_.call;
-    const bool isMemoryGone = plan_.onward && plan_.allocation > 0;
-    const allocations::Watch memory(isMemoryGone ? 1 : 0, true);
+    const allocations::Watch memory(plan_.onward && plan_.allocation > 0 ? 1 : 0, true);
     list_.reset();
     outcome_.calls = calls_.calls;
+    return outcome_;
   }
-  const Outcome& outcome() const { return outcome_; }
 
  private:
   void fail() const {
@@ -145,7 +140,6 @@ class Sweep {
 
   const Plan plan_;
   CallOut calls_;
-  long lifeCalls_ = 0;
   FailingProgram program_{calls_};
   FailingFiles files_{calls_};
   HeadlessContainer form_{60, 60};
@@ -154,28 +148,20 @@ class Sweep {
   Outcome outcome_;
 };
 
-Outcome outcomeOf(const Plan& plan) {
-  Sweep sweep(plan);
-  sweep.run();
-  sweep.check();
-  sweep.end();
-  return sweep.outcome();
-}
-
 class SweepTest : public testing::TestWithParam<std::pair<bool, bool>> {
  protected:
   void sweep(long Plan::*what, long Outcome::*number) {
     const auto [onward, silent] = GetParam();
     Plan plan{0, 0, onward, silent};
     // The first life allocates what the library keeps.
-    outcomeOf(plan);
-    const Outcome whole = outcomeOf(plan);
+    Sweep(plan).run();
+    const Outcome whole = Sweep(plan).run();
     ASSERT_EQ(whole.fault, nullptr);
     ASSERT_GT(whole.*number, 300);
     RecordProperty("calls", std::to_string(whole.*number));
     for (plan.*what = 1; plan.*what <= whole.*number; plan.*what += strideOr(97)) {
       const long blocks = allocations::blocks();
-      const Outcome outcome = outcomeOf(plan);
+      const Outcome outcome = Sweep(plan).run();
       EXPECT_EQ(allocations::blocks(), blocks) << "leak, number " << plan.*what;
       EXPECT_EQ(outcome.fault, nullptr)
           << outcome.fault << " in " << outcome.step << ", number " << plan.*what;
