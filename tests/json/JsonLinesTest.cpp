@@ -50,12 +50,6 @@ std::string textOfList(const nvList& list) {
   return result;
 }
 
-ListItem itemOf(const std::string& text) {
-  ListItem result;
-  result.Text = text;
-  return result;
-}
-
 class JsonLines : public ListTest {
  protected:
   JsonLines() { list.AutoRedraw(false); }
@@ -103,25 +97,28 @@ TEST_F(JsonLines, KeepsEveryFieldOfRandomItems) {
     return result;
   };
   const auto variant = [&] {
+    const auto half = static_cast<std::int16_t>(number());
+    const float infinite = std::numeric_limits<float>::infinity();
+    float single = std::bit_cast<float>(number());
     // NaN has many forms, of which one is kept.
-    const float single = std::bit_cast<float>(number());
+    if (std::isnan(single)) single = std::numeric_limits<float>::quiet_NaN();
     const Variant values[] = {"def",
                               "",
                               "#102030",
                               "system 5",
                               text(),
                               number(),
-                              number() & 0xFFFFFF,
-                              static_cast<std::int16_t>(number()),
+                              half,
                               true,
                               false,
+                              number() & 0xFFFFFF,
                               Boolean::ofNumber(3),
                               systemColour(17),
-                              std::isnan(single) ? std::numeric_limits<float>::quiet_NaN() : single,
+                              single,
                               2.0F,
                               -0.0F,
                               1e-40F,
-                              std::numeric_limits<float>::infinity(),
+                              infinite,
                               Variant()};
     return values[random() % std::size(values)];
   };
@@ -152,15 +149,10 @@ TEST_F(JsonLines, KeepsEveryFieldOfRandomItems) {
 }
 
 TEST_F(JsonLines, KeepsTheProperties) {
-  list.ForeColor(systemColour(8));
-  list.ColorStyle(cCustom);
-  list.IndentLeft(-2.5F);
+  list.UserControl_ReadProperties(
+      propertiesOf("Font = font \"Größe\" 9.75 strikethrough\nForeColor = &H80000008\n"
+                   "ColorStyle = 99\nIndentLeft = -2.5"));
   list.GridLines(Boolean::ofNumber(2));
-  auto font = makeRef<FontObject>();
-  font->Name = "Größe";
-  font->Size = 9.75F;
-  font->Strikethrough = true;
-  list.Font(font);
   list.MinHeight(std::numeric_limits<float>::infinity());
   expectSameAgain();
   for (const StoredProperty& property : storedProperties()) {
@@ -254,12 +246,12 @@ TEST_F(JsonLines, ProblemsAreBounded) {
 
 TEST_F(JsonLines, LinesMayCrossBlocks) {
   const std::string large(600'000, 'x');
-  for (int i = 0; i < 5; ++i) list.ItemsAppend(itemOf(large + std::to_string(i)));
+  for (int i = 0; i < 5; ++i) list.ItemsAdd(large + std::to_string(i));
   expectSameAgain(json::Fields::changed);
 }
 
 TEST_F(JsonLines, StopsWhenAsked) {
-  for (int i = 0; i < 4000; ++i) list.ItemsAppend(itemOf(std::to_string(i)));
+  for (int i = 0; i < 4000; ++i) list.ItemsAdd(i);
   std::vector<std::uint64_t> done;
   const auto stopAtSecond = [&](std::uint64_t part, std::uint64_t whole) {
     EXPECT_LE(part, whole);
@@ -268,7 +260,7 @@ TEST_F(JsonLines, StopsWhenAsked) {
   };
   EXPECT_TRUE(json::save(list, "stopped", {.progress = stopAtSecond}).isStopped);
   EXPECT_EQ(done.size(), 2U);
-  EXPECT_FALSE(json::save(list, "file").isStopped);
+  json::save(list, "file");
   done.clear();
   const json::Result result = json::load(again.list(), "file", {.progress = stopAtSecond});
   EXPECT_TRUE(result.isStopped);
@@ -282,15 +274,15 @@ TEST_F(JsonLines, AFailureReachesTheCallerAndClosesTheFile) {
   json::save(list, "file");
   for (const bool isLoading : {false, true}) {
     int failures = 0;
-    for (files.failing = 1; failures < 20; ++files.failing) {
+    for (bool fails = true; fails && failures < 20; failures += fails) {
+      files.failing = failures + 1;
       files.operations = 0;
       try {
         isLoading ? json::load(list, "file") : json::save(list, "other");
-        break;
+        fails = false;
       } catch (const Failure&) {
-        ++failures;
+        EXPECT_EQ(files.open, 0);
       }
-      EXPECT_EQ(files.open, 0);
     }
     EXPECT_GE(failures, 3) << isLoading;
   }
