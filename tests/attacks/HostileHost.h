@@ -28,7 +28,7 @@ class HostileProgram final : public HeadlessApplication {
 };
 
 /// A host whose every handler is a call-out.
-class HostileHost final : public __nvList {
+class HostileHost : public __nvList {
  public:
   explicit HostileHost(CallOut& out) : out_(out) {}
 

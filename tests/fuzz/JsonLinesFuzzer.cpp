@@ -1,23 +1,16 @@
 // Loads random JSON Lines. What was loaded must survive saving and loading.
 
-#include <cstdint>
-#include <cstdlib>
-#include <string>
-
 #include <nvlist/json/JsonLines.h>
 #include <nvlist/platform/headless/HeadlessApplication.h>
 #include <nvlist/platform/headless/HeadlessList.h>
 #include <nvlist/values/Failure.h>
 
 #include "../files/MemoryFiles.h"
+#include "Input.h"
 
 namespace {
 
 using namespace norvane;
-
-void require(bool condition) {
-  if (!condition) std::abort();
-}
 
 std::string saved(nvList& list, MemoryFiles& files, json::Fields fields) {
   json::save(list, "out", {.fields = fields});

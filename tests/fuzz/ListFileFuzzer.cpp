@@ -2,15 +2,13 @@
 // loading, and items that were not accessed yet must move like others.
 
 #include <algorithm>
-#include <cstdint>
-#include <cstdlib>
-#include <string>
 
 #include <nvlist/objects/Error.h>
 #include <nvlist/platform/headless/HeadlessApplication.h>
 #include <nvlist/platform/headless/HeadlessList.h>
 
 #include "../files/MemoryFiles.h"
+#include "Input.h"
 
 namespace {
 
@@ -22,10 +20,6 @@ class Host final : public __nvList {
   void ErrorListInput() override { ++failures; }
   void ErrorListSave() override { ++failures; }
 };
-
-void require(bool condition) {
-  if (!condition) std::abort();
-}
 
 /// Whether two items agree in everything that a list file preserves. It does not preserve a colour
 /// that is neither "def" nor a plain number.
@@ -52,24 +46,16 @@ void requireSameItems(nvList& a, nvList& b) {
 }
 
 void change(nvList& list, int way) {
-  switch (way >> 3 & 7) {
-    case 0:
-      return list.ItemsAdd("added", 0);
-    case 1:
-      return list.ItemsRemove(Variant(list.ItemsCount() / 2));
-    case 2:
-      return list.Sort(cAscending);
-    case 3:
-      return list.MoveItemUp(list.ItemsCount() - 1, 2);
-    case 4:
-      return list.ItemText(list.ItemsCount() / 2, "other");
-    case 5:
-      return list.ListIndex(list.ItemsCount() - 1);
-    case 6:
-      return list.ItemsSelectedRemove();
-    default:
-      return list.CheckScroll();
-  }
+  constexpr void (*changes[])(nvList & list, std::int32_t last) = {
+      [](nvList& list, std::int32_t) { list.ItemsAdd("added", 0); },
+      [](nvList& list, std::int32_t last) { list.ItemsRemove(Variant(last / 2)); },
+      [](nvList& list, std::int32_t) { list.Sort(cAscending); },
+      [](nvList& list, std::int32_t last) { list.MoveItemUp(last, 2); },
+      [](nvList& list, std::int32_t last) { list.ItemText(last / 2, "other"); },
+      [](nvList& list, std::int32_t last) { list.ListIndex(last); },
+      [](nvList& list, std::int32_t) { list.ItemsSelectedRemove(); },
+      [](nvList& list, std::int32_t) { list.CheckScroll(); }};
+  changes[way >> 3 & 7](list, list.ItemsCount() - 1);
 }
 
 }  // namespace

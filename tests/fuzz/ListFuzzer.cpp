@@ -2,97 +2,24 @@
 // timers and messages run, and saves and loads files in memory. Hosts answer some events with calls
 // of their own. The sanitizers find what goes wrong; nothing may come out of an operation.
 
-#include <cmath>
-#include <cstdint>
-#include <limits>
 #include <string>
 
 #include <nvlist/core/storedProperties.h>
-#include <nvlist/drawing/DrawnPicture.h>
-#include <nvlist/files/Recordset.h>
 #include <nvlist/objects/Error.h>
 #include <nvlist/platform/headless/HeadlessApplication.h>
 #include <nvlist/platform/headless/HeadlessList.h>
 
-#include "../files/MemoryFiles.h"
-#include "oneOf.h"
+#include "../attacks/HostileHost.h"
+#include "Input.h"
 
 namespace {
 
 using namespace norvane;
 
-/// What the input makes happen, value by value.
-class Input : public FuzzedDataProvider {
- public:
-  using FuzzedDataProvider::FuzzedDataProvider;
-
-  bool isEmpty() { return remaining_bytes() == 0; }
-  int below(int end) { return ConsumeIntegralInRange(0, end - 1); }
-  bool flag() { return ConsumeBool(); }
-  /// Mostly small, or at a limit.
-  std::int32_t number() {
-    using Limits = std::numeric_limits<std::int32_t>;
-    std::int32_t result = below(24) - 4;
-    oneOf(
-        *this, [] {}, [&] { result = Limits::max() - below(3); },
-        [&] { result = Limits::min() + below(3); },
-        [&] { result = ConsumeIntegral<std::int32_t>(); });
-    return result;
-  }
-  float length() {
-    constexpr float special[] = {-1, 0, 0.4F, 0.5F, 13, 1e9F, -1e9F, 3e38F};
-    float result = static_cast<float>(below(80) - 8);
-    oneOf(
-        *this, [] {}, [] {}, [&] { result = special[below(8)]; },
-        [&] { result = flag() ? std::numeric_limits<float>::infinity() : std::nanf(""); });
-    return result;
-  }
-  std::string text() {
-    constexpr const char* special[] = {"",      "def",       "1",       "2.5",
-                                       "a & b", "c|right=d", "x\ty\nz", "\xC3"};
-    return flag() ? special[below(8)] : ConsumeRandomLengthString(12);
-  }
-  Variant value() {
-    Variant result;
-    oneOf(
-        *this, [] {}, [&] { result = text(); }, [&] { result = length(); },
-        [&] { result = Boolean(flag()); }, [&] { result = Ref<Object>(makeRef<Object>()); },
-        [&] { result = number(); });
-    return result;
-  }
-  Boolean boolean() { return Boolean::ofNumber(static_cast<std::int16_t>(below(4) - 2)); }
-  std::int16_t small() { return static_cast<std::int16_t>(number()); }
-  Picture picture() {
-    if (!flag()) return nullptr;
-    return art::drawn("", 1 + below(3), 1, [](int, int) { return art::white; });
-  }
-  template <class Enumeration>
-  Enumeration of() {
-    return static_cast<Enumeration>(below(7) - 1);
-  }
-};
-
-class Rows final : public Recordset {
- public:
-  explicit Rows(int count) : count_(count) {}
-  std::int32_t RecordCount() override { return count_; }
-  void MoveFirst() override { at_ = 0; }
-  void MoveNext() override { ++at_; }
-  Boolean Eof() override { return at_ >= count_; }
-  std::optional<Variant> Value(std::int32_t) override {
-    if (at_ == 2) return std::nullopt;
-    return Variant(at_);
-  }
-
- private:
-  int count_;
-  int at_ = 0;
-};
-
 /// One random life.
-class Life final : private __nvList {
+class Life final : private attacks::HostileHost {
  public:
-  explicit Life(Input& input) : input_(input) {
+  explicit Life(Input& input) : HostileHost(reaction_), input_(input) {
     list_.addSink(*this);
     Error().SilentError(input_.flag());
   }
@@ -212,7 +139,7 @@ class Life final : private __nvList {
             bytes[static_cast<std::size_t>(input_.below(256)) % bytes.size()] =
                 static_cast<char>(input_.below(256));
         },
-        [&] { list_.Recordset(makeRef<Rows>(input_.below(5))); },
+        [&] { list_.Recordset(makeRef<attacks::Rows>([this] { react(); })); },
         [&] {
           PropertyBag bag;
           list_.UserControl_WriteProperties(bag);
@@ -244,13 +171,6 @@ class Life final : private __nvList {
     if (input_.below(16) == 0) throw Failure(5, "host");
   }
 
-  void Click() override { react(); }
-  void DblClick() override { react(); }
-  void ItemCheck(std::int32_t&, Boolean&) override { react(); }
-  void MouseUp(std::int16_t&, std::int16_t&, float&, float&) override { react(); }
-  void MouseMove(Variant&, std::int32_t&, std::int16_t&, std::int16_t&, float&, float&) override {
-    react();
-  }
   void MouseDown(std::int16_t& Button, std::int16_t&, float&, float&) override {
     if (input_.below(8) == 0) Button = input_.small();
     react();
@@ -261,10 +181,8 @@ class Life final : private __nvList {
     react();
   }
   void ListReading(Variant& Index) override { ListSaving(Index); }
-  void Scroll() override { react(); }
-  void KeyDown(std::int16_t&, std::int16_t&) override { react(); }
-  void ErrorWrongIndex(Variant&) override { react(); }
 
+  attacks::CallOut reaction_{0, 1, true, [this] { react(); }};
   Input& input_;
   HeadlessApplication program_;
   MemoryFiles files_;
