@@ -13,19 +13,17 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Rows in memory, or as many as it claims to have.
-class Rows final : public ListBox {
- public:
-  std::vector<std::string> texts;
-  std::int32_t claimed = -1;
+using Texts = std::vector<std::string>;
 
-  std::int32_t ListCount() override {
-    return claimed < 0 ? static_cast<std::int32_t>(texts.size()) : claimed;
-  }
+/// Rows in memory.
+struct Rows final : ListBox {
+  std::int32_t ListCount() override { return static_cast<std::int32_t>(texts.size()); }
   std::string List(std::int32_t index) override {
-    return claimed < 0 ? texts.at(static_cast<std::size_t>(index)) : "r";
+    return texts.at(static_cast<std::size_t>(index));
   }
   void AddItem(const std::string& text) override { texts.push_back(text); }
+
+  Texts texts;
 };
 
 class SpEvTest : public ListTest {
@@ -71,7 +69,6 @@ TEST_F(SpEvTest, AddsALineAsARow) {
   rows->texts = {"there"};
   folder.put("a", "one\r\n\r\ntwo\nthree\rfour\n\r\nfive");
   helper.ListRead(box, path("a"));
-  using Texts = std::vector<std::string>;
   EXPECT_EQ(rows->texts, (Texts{"there", "one", "", "two", "three", "four", "", "five"}));
 
   // A line end split between two blocks counts once.
@@ -98,7 +95,7 @@ TEST_F(SpEvTest, ABoxIsAnyObjectWithTheMembersAndItsRowsAreCountedIn16Bits) {
   helper.ListRead("box", path("a"));
   EXPECT_EQ(reports(), "");
 
-  rows->claimed = 32768;
+  rows->texts = Texts(32768, "r");
   helper.ListSave(box, path("a"));
   EXPECT_EQ(reports(), "6 ListSave");
   silent();

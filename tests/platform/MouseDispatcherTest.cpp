@@ -2,13 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <optional>
 #include <sstream>
-#include <string>
 
 #include <nvlist/platform/UserControl.h>
 #include <nvlist/platform/headless/HeadlessContainer.h>
+#include <nvlist/values/numbers.h>
 
 namespace norvane {
 namespace {
@@ -19,9 +18,9 @@ class Form {
  public:
   Form() {
     r.emplace(*this, "r", place);
-    a.emplace(*this, "a", place.addChild(), Bounds{10, 10, 40, 40});
-    c.emplace(*this, "c", a->place().addChild(), Bounds{5, 5, 10, 10});
-    b.emplace(*this, "b", place.addChild(), Bounds{30, 30, 40, 40});
+    a.emplace(*this, "a", place.addChild()).Move({10, 10, 40, 40});
+    c.emplace(*this, "c", a->place().addChild()).Move({5, 5, 10, 10});
+    b.emplace(*this, "b", place.addChild()).Move({30, 30, 40, 40});
   }
 
   /// Runs commands, separated by semicolons, and returns what the controls received. `press`,
@@ -35,37 +34,30 @@ class Form {
 
  private:
   struct Control : UserControl {
-    Control(Form& itsForm, const char* itsName, Container& place)
-        : UserControl(place), form(itsForm), name(itsName) {}
-    Control(Form& itsForm, const char* itsName, std::unique_ptr<Container> place,
-            const Bounds& bounds)
-        : UserControl(std::move(place)), form(itsForm), name(itsName) {
-      Move(bounds);
-    }
+    Control(Form& itsForm, const char* itsName, auto&& place)
+        : UserControl(std::forward<decltype(place)>(place)), form(itsForm), name(itsName) {}
     using UserControl::listenToMouse;
 
     HeadlessContainer& place() { return static_cast<HeadlessContainer&>(container_); }
-    void hear(const std::string& what) {
+    void hear(const char* event, const std::string& details = "") {
       Form& all = form;
-      const std::string event = name + what.substr(0, what.find(' '));
-      all.heard += (all.heard.empty() ? "" : " ") + (name + what);
+      const std::string what = name + event;
+      all.heard += (all.heard.empty() ? "" : " ") + what + details;
       // This may be `a`: none of its members is used from here on.
-      if (event == all.endsIn) all.endA();
-      if (event == all.throwsIn) throw 1;
+      if (what == all.endsIn) all.c.reset(), all.a.reset();
+      if (what == all.throwsIn) throw 1;
     }
-    std::string at(const char* what, int button, float x, float y) {
-      std::ostringstream text;
-      text << '.' << what << ' ' << button << '@' << x << ',' << y;
-      return text.str();
+    static std::string at(int button, float x, float y) {
+      return " " + textOf(button) + "@" + textOf(x) + "," + textOf(y);
     }
     void UserControl_MouseDown(std::int16_t button, std::int16_t, float x, float y) override {
-      hear(at("down", button, x, y));
+      hear(".down", at(button, x, y));
     }
     void UserControl_MouseMove(std::int16_t buttons, std::int16_t, float x, float y) override {
-      hear(at("move", buttons, x, y));
+      hear(".move", at(buttons, x, y));
     }
     void UserControl_MouseUp(std::int16_t button, std::int16_t, float x, float y) override {
-      hear(at("up", button, x, y));
+      hear(".up", at(button, x, y));
     }
     void UserControl_Click() override { hear(".click"); }
     bool UserControl_DblClick() override {
@@ -77,37 +69,33 @@ class Form {
     const std::string name;
   };
 
-  void endA() {
-    c.reset();
-    a.reset();
-  }
-  Control& named(const std::string& name) {
-    return name == "a" ? *a : name == "b" ? *b : name == "c" ? *c : *r;
-  }
-
   void runOne(const std::string& command) {
     std::istringstream words(command);
     std::string verb, name;
-    float x = 0, y = 0;
-    std::int16_t button = 1;
     words >> verb;
     MouseDispatcher& mouse = place.mouse();
+    const auto named = [&]() -> Control& {
+      words >> name;
+      return name == "a" ? *a : name == "b" ? *b : *r;
+    };
     if (verb == "leave") return mouse.pointerLeft(0);
     if (verb == "lost") return mouse.holdLost();
     if (verb == "endIn") return void(words >> endsIn);
     if (verb == "throwIn") return void(words >> throwsIn);
     if (verb == "captured") return void(heard += mouse.captured() ? " some" : " none");
-    if (verb == "capture") return words >> name, place.mouse().capture(named(name).place());
-    if (verb == "hide") return words >> name, named(name).Visible(false);
-    if (verb == "disable") return words >> name, named(name).listenToMouse(false);
+    if (verb == "capture") return mouse.capture(named().place());
+    if (verb == "hide") return named().Visible(false);
+    if (verb == "disable") return named().listenToMouse(false);
+    float x = 0, y = 0;
+    std::int16_t button = 1;
     words >> x >> y >> button;
     try {
       if (verb == "press") mouse.press({x, y}, button, 0);
       if (verb == "double") mouse.doubleClick({x, y}, button, 0);
       if (verb == "release") mouse.release({x, y}, button, 0);
+      if (verb == "move") mouse.move({x, y}, 0, 0);
     } catch (int) {
     }
-    if (verb == "move") mouse.move({x, y}, 0, 0);
   }
 
   HeadlessContainer place{100, 100};
