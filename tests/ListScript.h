@@ -146,7 +146,6 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     } else if (verb == "arguments") return arguments;
     else if (verb == "reports") return reports();
     else if (verb == "find") return textOf(list.IsInList(value(0).toText()));
-    else if (verb == "findText") return textOf(list.IsInList(value(0).toText(), cFindText));
     else if (verb == "findKey") return textOf(list.IndexByKey(value(0)));
     else if (verb == "checkedCount") return textOf(list.ItemsCheckCount());
     else if (verb == "texts") return "<" + texts() + ">";

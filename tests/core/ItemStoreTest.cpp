@@ -29,6 +29,22 @@ TEST(ItemStore, EqualsAVectorThroughAllChanges) {
     const auto length = static_cast<std::size_t>(below(2) * below(300));
     return std::to_string(step % 700) + std::string(length, 'x');
   };
+  /// The length of the longest text. Only texts that are not known to be measured are visited.
+  const auto widest = [&] {
+    int result = 0;
+    for (std::int32_t i = 0; i <= store.upperBound();) {
+      if (const auto measured = store.measuredFrom(i)) {
+        result = std::max<int>(result, measured->widest);
+        i = measured->end;
+      } else {
+        StoredItem& item = store.touch(i++);
+        if (item.textWidth == StoredItem::notMeasured)
+          item.textWidth = static_cast<std::uint16_t>(item.Text().size());
+        result = std::max<int>(result, item.textWidth);
+      }
+    }
+    return static_cast<std::size_t>(result);
+  };
   for (int step = 0; step < 8'000; ++step) {
     // Grows to more than a thousand, shrinks to a few, and grows again.
     const bool grows = step % 4'000 < 2'400;
@@ -76,6 +92,9 @@ TEST(ItemStore, EqualsAVectorThroughAllChanges) {
     }
     ASSERT_EQ(store.upperBound() + 1, static_cast<std::int32_t>(model.size())) << step;
     expectSame(below(model.size()));
+    if (step % 3 == 0) {
+      ASSERT_EQ(widest(), std::ranges::max(model, {}, &std::string::size).size()) << step;
+    }
     // The second search builds an index, which any change drops.
     for (int search = 0; step % 20 == 0 && search < 3; ++search) {
       const std::string text = search == 2 ? "none" : *at(below(model.size()));
@@ -85,18 +104,6 @@ TEST(ItemStore, EqualsAVectorThroughAllChanges) {
     }
   }
   for (std::int32_t i = 0; i <= store.upperBound(); ++i) expectSame(i);
-}
-
-TEST(ItemStore, TheWidestTextIsFoundAfterASweepMergesBlocks) {
-  ItemStore store;
-  for (int i = 1; i < 600; ++i) store.grow();
-  for (int i = 0; i < 600; ++i) store.touch(i).textWidth = static_cast<std::uint16_t>(i);
-  // The first sweep leaves a short block. The second removes nothing of it.
-  for (const std::int32_t end : {256, 261}) {
-    for (std::int32_t i = 10; i < end; ++i) store.touch(i).Selected(true);
-    store.removeSelected(0, end);
-    EXPECT_EQ(store.measuredFrom(0)->widest, 599) << end;
-  }
 }
 
 using SelectedItems = ListTest;

@@ -134,23 +134,5 @@ TEST(Variant, AnObjectMayBeAValue) {
   }
 }
 
-TEST(Variant, SharesTextsAndObjectsAndLetsThemGo) {
-  struct Counted : Object {
-    explicit Counted(int& count) : alive(count) { ++alive; }
-    ~Counted() override { --alive; }
-    int& alive;
-  };
-  int alive = 0;
-  Variant holder = Ref<Object>(makeRef<Counted>(alive));
-  Variant copy = holder;
-  holder = "a text long enough to stand on its own";
-  EXPECT_EQ(alive, 1);
-  copy = std::move(holder);
-  EXPECT_EQ(alive, 0);
-  EXPECT_TRUE(holder.isEmpty());
-  const Variant twin = copy;
-  EXPECT_EQ(copy.toText(), twin.text());
-}
-
 }  // namespace
 }  // namespace norvane

@@ -41,15 +41,12 @@ TEST_F(Reporter, ShowsSixLinesInABox) {
   ASSERT_EQ(application.boxes.size(), 1U);
   const auto& box = application.boxes[0];
   EXPECT_EQ(box.title + std::to_string(box.style), "Error16");
-  const std::size_t line = box.text.find("Procedure: ") + 11;
-  EXPECT_GT(std::stoi(box.text.substr(line)), 0);
-  EXPECT_EQ(box.text.substr(0, line),
-            "Error no.: 13\r\n"
-            "Error description: Type mismatch\r\n"
-            "Project: host\r\n"
-            "Module: Benutzersteuerelement nvList\r\n"
-            "Line/Procedure: ");
-  EXPECT_EQ(box.text.substr(box.text.find('/', line)), "/ItemsAdd\r\nVersion: 3.4.5");
+  const std::string beforeLine =
+      "Error no.: 13\r\nError description: Type mismatch\r\nProject: host\r\n"
+      "Module: Benutzersteuerelement nvList\r\nLine/Procedure: ";
+  EXPECT_TRUE(box.text.starts_with(beforeLine)) << box.text;
+  EXPECT_GT(std::stoi(box.text.substr(beforeLine.size())), 0);
+  EXPECT_TRUE(box.text.ends_with("/ItemsAdd\r\nVersion: 3.4.5")) << box.text;
 }
 
 TEST_F(Reporter, LogsWhereTheSettingSays) {
@@ -111,15 +108,12 @@ TEST_F(Reporter, ExhaustedMemoryNeverReachesTheHost) {
 /// A host implements the services it has; the previous service is restored when its own is
 /// destroyed.
 TEST_F(Reporter, ServicesAreInUseFromTheirMakingToTheirEnd) {
-  EXPECT_EQ(&Program::inUse(), &application);
   EXPECT_FALSE(Files::anyInUse());
   {
     auto first = std::make_unique<Program>();
     Program second;
-    EXPECT_EQ(&Program::inUse(), &second);
     EXPECT_EQ(&Desktop::inUse(), &application);
     first.reset();
-    EXPECT_EQ(&Program::inUse(), &second);
     std::thread([] {
       EXPECT_FALSE(Program::anyInUse());
       Program threads;
