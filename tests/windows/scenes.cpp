@@ -16,13 +16,11 @@ Picture icon(int size) {
   });
 }
 
-/// Wide enough for a horizontal bar.
-const std::string blanks(60, ' ');
-
 void addItems(nvList& list, int count) {
   const Picture small = icon(16);
   for (int i = 0; i < count; ++i)
-    list.ItemsAdd({.aText = i % 3 == 1 ? blanks : std::string(4, ' '),
+    // Every third text is wide enough for a horizontal bar.
+    list.ItemsAdd({.aText = std::string(i % 3 == 1 ? 60 : 4, ' '),
                    .aIcon = i % 4 == 3 ? nullptr : small,
                    .aChecked = i % 2 == 0,
                    .aBackColor = i % 5 == 2 ? Variant(rgb(255, 240, 200)) : Variant(defaultMark),
@@ -32,70 +30,24 @@ void addItems(nvList& list, int count) {
                    .aBackColorDis = rgb(225, 225, 225)});
 }
 
-struct Scene {
+const struct {
   const char* name;
-  std::function<void(HeadlessList&)> build;
-};
-
-const Scene all[] = {
-    {"plain", [](HeadlessList& it) { addItems(it.list(), 3); }},
-    {"boxes",
-     [](HeadlessList& it) {
-       it.list().Style(cCheckBoxes);
-       it.list().GridLines(true);
-       it.list().ScrollBars(vbVertical);
-       addItems(it.list(), 40);
-       it.list().ListIndex(2);
-     }},
-    {"icons-silver",
-     [](HeadlessList& it) {
-       it.list().Style(cIcons);
-       it.list().ColorStyle(cXPSilver);
-       it.list().ScrollBars(vbBoth);
-       addItems(it.list(), 200);
-       it.list().ListIndex(100);
-     }},
-    {"both-olive",
-     [](HeadlessList& it) {
-       it.list().Style(cCheckBoxesIcons);
-       it.list().ColorStyle(cXPOlive);
-       it.list().FullRowSelect(true);
-       it.list().MultiSelect(true);
-       it.list().ScrollBars(vbBoth);
-       addItems(it.list(), 30);
-       for (const int i : {1, 2, 3, 5}) it.list().ItemSelected(i, true);
-     }},
-    {"custom",
-     [](HeadlessList& it) {
-       it.list().ColorStyle(cCustom);
-       it.list().ValueColor(rgb(150, 70, 160));
-       it.list().BackColor(rgb(250, 245, 255));
-       it.list().ScrollBars(vbVertical);
-       it.list().MinHeight(24);
-       addItems(it.list(), 30);
-       it.list().ListIndex(3);
-     }},
-    {"disabled",
-     [](HeadlessList& it) {
-       it.list().Style(cCheckBoxesIcons);
-       addItems(it.list(), 8);
-       it.list().Enabled(false);
-     }},
-    {"bar-pressed",
-     [](HeadlessList& it) {
-       it.list().ScrollBars(vbVertical);
-       addItems(it.list(), 60);
-       it.list().TopIndex(20);
-       // The button at the lower end of the bar.
-       it.container().press(190, 90);
-     }},
-    {"preview",
-     [](HeadlessList& it) {
-       it.container().userMode = false;
-       it.container().name = "  ";
-       it.list().Style(cCheckBoxes);
-       it.list().Redraw();
-     }},
+  int items;
+  int current;
+  const char* properties;
+} scenes[] = {
+    {"plain", 3, -1, ""},
+    {"boxes", 40, 2, "Style = 1\nGridLines = true\nScrollBars = 2"},
+    {"icons-silver", 200, 100, "Style = 2\nColorStyle = 1\nScrollColorStyle = 1\nScrollBars = 3"},
+    {"both-olive", 30, 2,
+     "Style = 3\nColorStyle = 2\nScrollColorStyle = 2\nScrollBars = 3\nFullRowSelect = true\n"
+     "MultiSelect = true"},
+    {"custom", 30, 3,
+     "ColorStyle = 99\nValueColor = &HA04696\nBackColor = &HFFF5FA\nScrollBars = 2\n"
+     "MinHeight = 24"},
+    {"disabled", 8, -1, "Style = 3\nEnabled = false"},
+    {"bar-pressed", 60, 20, "ScrollBars = 2"},
+    {"preview", 0, -1, "Style = 1"},
 };
 
 void visit(const std::string& name, HeadlessContainer& place,
@@ -112,11 +64,19 @@ void visit(const std::string& name, HeadlessContainer& place,
 }  // namespace
 
 void forEachImage(const std::function<void(const Image&)>& take) {
-  for (const Scene& scene : all) {
+  for (const auto& [name, items, current, properties] : scenes) {
     HeadlessList list(200, 100);
-    scene.build(list);
+    const bool isPreview = items == 0;
+    list.container().userMode = !isPreview;
+    list.container().name = "  ";
+    list.list().UserControl_ReadProperties(propertiesOf(properties));
+    addItems(list.list(), items);
+    list.list().ListIndex(current);
+    for (int i = 1; i < 6; i += 2) list.list().ItemSelected(i, list.list().MultiSelect());
+    // The button at the lower end of the bar.
+    if (std::string_view(name) == "bar-pressed") list.container().press(190, 90);
     list.surface().image();  // draws pending calls
-    visit(scene.name, list.container(), take);
+    visit(name, list.container(), take);
   }
 }
 

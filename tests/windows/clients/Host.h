@@ -1,45 +1,60 @@
 #pragma once
 
-#include "Check.h"
+#include <cstdio>
+
 #include "Container.h"
 
 namespace norvane {
 
-inline const VARIANT missing = [] {
-  VARIANT value;
-  VariantInit(&value);
-  value.vt = VT_ERROR;
-  value.scode = DISP_E_PARAMNOTFOUND;
-  return value;
-}();
+/// Counts checks and prints each one that fails.
+struct Checks {
+  int passed = 0, failed = 0;
 
-inline VARIANT number(long value) {
+  void operator()(bool isRight, const char* what) {
+    isRight ? ++passed : ++failed;
+    if (!isRight) std::printf("FAIL %s\n", what);
+    std::fflush(stdout);
+  }
+  /// The same, with what is printed if the two differ.
+  void same(const std::wstring& got, const std::wstring& expected, const char* what) {
+    (*this)(got == expected, what);
+    if (got != expected) std::printf("  %ls\n", got.c_str());
+  }
+};
+
+inline Checks check;
+
+inline void pump(DWORD milliseconds) {
+  const DWORD end = GetTickCount() + milliseconds;
+  do {
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+      TranslateMessage(&message);
+      DispatchMessageW(&message);
+    }
+    Sleep(1);
+  } while (static_cast<LONG>(end - GetTickCount()) > 0);
+}
+
+inline VARIANT number(long value, VARTYPE type = VT_I4) {
   VARIANT result;
   VariantInit(&result);
-  result.vt = VT_I4;
+  result.vt = type;
   result.lVal = value;
   return result;
 }
 
 inline void add(::_nvList* list, long text) {
+  const VARIANT missing = number(DISP_E_PARAMNOTFOUND, VT_ERROR);
   list->ItemsAdd(number(text), missing, nullptr, nullptr, 0, missing, missing, 0, ::cLeft, missing,
                  missing, VARIANT_TRUE, missing, missing, missing, 0, 0, 0, missing);
 }
 
-template <class T = ::_nvList>
-ComPtr<T> make() {
-  ComPtr<T> result;
-  CoCreateInstance(__uuidof(::nvList), nullptr, CLSCTX_INPROC_SERVER, __uuidof(T),
+inline ComPtr<::_nvList> make() {
+  ComPtr<::_nvList> result;
+  CoCreateInstance(__uuidof(::nvList), nullptr, CLSCTX_INPROC_SERVER, __uuidof(::_nvList),
                    result.putVoid());
   return result;
-}
-
-inline bool canUnload() {
-  using Ask = HRESULT(WINAPI*)();
-  const HMODULE library = GetModuleHandleW(L"nvList.ocx");
-  const auto ask =
-      reinterpret_cast<Ask>(reinterpret_cast<void*>(GetProcAddress(library, "DllCanUnloadNow")));
-  return ask && ask() == S_OK;
 }
 
 inline DWORD connect(IUnknown* source, REFIID id, IUnknown* sink, ComPtr<IConnectionPoint>& point) {
