@@ -96,42 +96,38 @@ struct NamedTrouble {
 
 /// Everything that needs the list alone.
 inline std::vector<NamedTrouble> troublesForAList() {
-  const auto toList = [](const char* name, void (*run)(nvList&)) {
-    return NamedTrouble{name, [run](HostileLife&, nvList& list) { run(list); }};
-  };
   return {
       {"the same again", [](HostileLife& life, nvList&) { life.current->run(); }},
       {"unregister", [](HostileLife& life, nvList& list) { list.removeSink(life.host); }},
-      toList("clear", [](nvList& list) { list.ItemsClear(); }),
-      toList("remove", [](nvList& list) { list.ItemsRemove(0); }),
-      toList("remove all but one",
-             [](nvList& list) {
-               while (list.ItemsCount() > 1) list.ItemsRemove(list.ItemsCount() - 1);
-             }),
-      toList("add", [](nvList& list) { list.ItemsAdd({.aText = "new", .aIndex = 0}); }),
-      toList("add many",
-             [](nvList& list) {
-               list.AutoRedraw(false);
-               for (int i = 0; i < 200; ++i) list.ItemsAdd(i);
-               list.AutoRedraw(true);
-             }),
-      toList("sort", [](nvList& list) { list.Sort(cAscending); }),
-      toList("select", [](nvList& list) { list.ListIndex(list.ItemsCount() - 1); }),
-      toList("scroll far", [](nvList& list) { list.TopIndex(1'000'000); }),
-      toList("load", [](nvList& list) { list.ListInput("image", true); }),
-      toList("save", [](nvList& list) { list.ListSave("other", true); }),
-      toList("duplicates", [](nvList& list) { list.ItemsRemoveDouble(); }),
-      toList("read properties",
-             [](nvList& list) { list.UserControl_ReadProperties(PropertyBag()); }),
-      toList("edit", [](nvList& list) { list.SetEdit(0); }),
-      toList("wheel",
-             [](nvList& list) {
-               std::int16_t rotation = -1, keys = 0;
-               float x = 0, y = 0;
-               list.Wheel1_WheelScroll(rotation, keys, x, y);
-             }),
-      toList("throw a failure", [](nvList&) { throw Failure(5, "the host failed"); }),
-      toList("throw anything", [](nvList&) { throw 1; }),
+      {"clear", [](HostileLife&, nvList& list) { list.ItemsClear(); }},
+      {"remove", [](HostileLife&, nvList& list) { list.ItemsRemove(0); }},
+      {"remove all but one",
+       [](HostileLife&, nvList& list) {
+         while (list.ItemsCount() > 1) list.ItemsRemove(list.ItemsCount() - 1);
+       }},
+      {"add many",
+       [](HostileLife&, nvList& list) {
+         list.AutoRedraw(false);
+         for (int i = 0; i < 200; ++i) list.ItemsAdd({.aText = i, .aIndex = 0});
+         list.AutoRedraw(true);
+       }},
+      {"sort", [](HostileLife&, nvList& list) { list.Sort(cAscending); }},
+      {"select", [](HostileLife&, nvList& list) { list.ListIndex(list.ItemsCount() - 1); }},
+      {"scroll far", [](HostileLife&, nvList& list) { list.TopIndex(1'000'000); }},
+      {"load", [](HostileLife&, nvList& list) { list.ListInput("image", true); }},
+      {"save", [](HostileLife&, nvList& list) { list.ListSave("other", true); }},
+      {"duplicates", [](HostileLife&, nvList& list) { list.ItemsRemoveDouble(); }},
+      {"read properties",
+       [](HostileLife&, nvList& list) { list.UserControl_ReadProperties(PropertyBag()); }},
+      {"edit", [](HostileLife&, nvList& list) { list.SetEdit(0); }},
+      {"wheel",
+       [](HostileLife&, nvList& list) {
+         std::int16_t rotation = -1, keys = 0;
+         float x = 0, y = 0;
+         list.Wheel1_WheelScroll(rotation, keys, x, y);
+       }},
+      {"throw a failure", [](HostileLife&, nvList&) { throw Failure(5, "the host failed"); }},
+      {"throw anything", [](HostileLife&, nvList&) { throw 1; }},
   };
 }
 

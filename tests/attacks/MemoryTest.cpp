@@ -10,7 +10,7 @@ using MemoryOfFiles = FileTest;
 
 TEST_F(MemoryOfFiles, BelievesNoLength) {
   const std::string some(64, '0'), record = text("a") + fields();
-  const allocations::Watch watch;
+  allocations::Watch watch;
   for (const int bad : {-2147483647 - 1, -1, 65, 2147483647}) {
     const std::string what = std::to_string(bad), length = int32(bad) + some;
     expectRefused(header(0, false) + length, "text " + what);
@@ -21,16 +21,16 @@ TEST_F(MemoryOfFiles, BelievesNoLength) {
   }
   for (const char* digits : {"   -1", "99999", "abcde", "     "})
     expectRefused(header(0, false, 270) + "12345678901" + digits + some, digits);
-  EXPECT_LE(watch.largest(), 8192U);  // a chunk of items
+  EXPECT_LE(watch.largest, 8192U);  // a chunk of items
 }
 
 TEST_F(MemoryOfFiles, BelievesNoCount) {
-  const allocations::Watch watch;
+  allocations::Watch watch;
   for (const int last : {-2, -2147483647 - 1, 2000000000, 2147483647})
     for (const int version : {100, 270, 273})
       for (const bool properties : {false, true})
         expectRefused(header(last, properties, version) + zeros(1000), std::to_string(last));
-  EXPECT_LE(watch.largest(), 8192U);  // a chunk of items
+  EXPECT_LE(watch.largest, 8192U);  // a chunk of items
   // As many as the bytes can hold, and one more.
   input(header(4999, false, 271) + zeros(5000 * 4));
   expectRefused(header(5000, false) + zeros(5001 * 4 - 1), "one too many");
@@ -52,9 +52,9 @@ TEST_F(MemoryOfFiles, ATextFileTakesItsSizeBesideTheItems) {
     for (std::size_t at = piece; at <= size; at += piece) text[at - 1] = ',';
     list.ItemsClear();
     const std::size_t before = allocations::bytes();
-    const allocations::Watch watch;
+    allocations::Watch watch;
     list.ListInput2("text", ",");
-    EXPECT_LT(watch.peak(), size + (allocations::bytes() - before) + 200'000) << piece;
+    EXPECT_LT(watch.peak, size + (allocations::bytes() - before) + 200'000) << piece;
   }
 }
 

@@ -53,13 +53,13 @@ class Sweep {
   Outcome run() {
     {
       // A constructor may throw.
-      const allocations::Watch memory(plan_.allocation, plan_.onward);
+      allocations::Watch memory(plan_.allocation, plan_.onward);
       ignoringFailures([&] {
         place_.emplace(form_, calls_);
         list_ = std::make_unique<nvList>(*place_);
       });
       if (list_) live();
-      outcome_.allocations = memory.count();
+      outcome_.allocations = memory.count;
     }
     const long calls = std::exchange(calls_.calls, 0);
     calls_.at = 0;
@@ -69,7 +69,7 @@ class Sweep {
     // Trouble that is onward also meets the end of the list.
     calls_.calls = calls;
     calls_.at = plan_.call;
-    const allocations::Watch memory(plan_.onward && plan_.allocation > 0 ? 1 : 0, true);
+    allocations::Watch memory(plan_.onward && plan_.allocation > 0 ? 1 : 0, true);
     list_.reset();
     outcome_.calls = calls_.calls;
     return outcome_;
