@@ -9,7 +9,7 @@
 namespace norvane {
 namespace {
 
-constexpr Module here = {kinds::module, "basList"};
+constexpr Module here{kinds::module, "basList"};
 
 /// Red, green and blue. Division truncates towards zero, also for negative colours.
 std::array<Colour, 3> channelsOf(Colour color) {

@@ -6,7 +6,7 @@
 namespace norvane {
 
 Boolean FileExists(const std::string& path) {
-  static constexpr Module here = {kinds::module, "basList"};
+  static constexpr Module here{kinds::module, "basList"};
   Boolean result;
   trapped(here, "FileExists",
           [&](Trap& on) { on.step([&] { result = Files::inUse().holdsFile(path); }); });

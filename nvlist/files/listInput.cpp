@@ -282,7 +282,7 @@ void nvList::inputItems(const std::string& Filename, Boolean ReadItemPropertiesI
 Variant nvList::HTML2VBColor(std::string_view Text) {
   Variant result;
   trapped(here, "HTML2VBColor", [&](Trap& on) {
-    if (trimmedBlanks(Text) == defaultMark) {
+    if (trimmed(Text, " ") == defaultMark) {
       result = defaultMark;
       return;
     }

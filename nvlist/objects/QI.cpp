@@ -4,11 +4,8 @@
 #include <nvlist/objects/about.h>
 
 namespace norvane {
-namespace {
 
-constexpr Module here{kinds::classModule, "QI"};
-
-}  // namespace
+constinit const Module QI::here{kinds::classModule, "QI"};
 
 void QI::Create(const Variant& form, const Variant& control, const std::string& text,
                 std::int32_t displayTime, std::int16_t maxWidth) {

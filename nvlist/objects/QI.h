@@ -8,6 +8,8 @@
 
 namespace norvane {
 
+struct Module;
+
 /// A simple interface to tool tips. Each object serves one form, the first one passed to Create.
 ///
 /// Forms and controls are variants that hold a norvane::HostWindow.
@@ -24,6 +26,8 @@ class QI {
   void About();
 
  private:
+  static const Module here;
+
   /// Has no window before the first Create with a form.
   nvToolTip ToolTip_;
 };

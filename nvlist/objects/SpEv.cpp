@@ -11,8 +11,6 @@
 namespace norvane {
 namespace {
 
-constexpr Module here{kinds::classModule, "SpEv"};
-
 /// The names compared with the text are ASCII. Any other character becomes '?', so that it matches
 /// none of them.
 std::string narrowed(std::u16string_view text) {
@@ -29,6 +27,8 @@ cActiveXPTheme styleOf(std::string_view colourScheme) {
 }
 
 }  // namespace
+
+constinit const Module SpEv::here{kinds::classModule, "SpEv"};
 
 std::string SpEv::TextRead(const std::string& Filename) {
   std::string text;

@@ -10,6 +10,8 @@
 
 namespace norvane {
 
+struct Module;
+
 /// Helpers for hosts: text files, sound, list boxes in files, the theme and the mouse. It has no
 /// state.
 ///
@@ -46,6 +48,8 @@ class SpEv {
   cMouseButton MouseButtonPressed();
 
  private:
+  static const Module here;
+
   static Boolean IsWinXP();
   /// The text up to its first zero character, with one byte a character. Reports Failure 5 if it
   /// has no zero character.

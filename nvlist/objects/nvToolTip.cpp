@@ -11,8 +11,6 @@
 namespace norvane {
 namespace {
 
-constexpr Module here{kinds::classModule, "nvToolTip"};
-
 TipDelay delayOf(std::int32_t kind) { return static_cast<TipDelay>(kind & 3); }
 
 /// The side with that number, or nullptr.
@@ -43,6 +41,8 @@ bool isForm(const Variant& object) {
 }
 
 }  // namespace
+
+constinit const Module nvToolTip::here{kinds::classModule, "nvToolTip"};
 
 Boolean nvToolTip::Create(const Variant& form) {
   Boolean result;

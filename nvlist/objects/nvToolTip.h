@@ -12,6 +12,8 @@
 
 namespace norvane {
 
+struct Module;
+
 /// A tip window of the platform for any number of controls of one form.
 ///
 /// Controls and forms are variants that hold a norvane::HostWindow. Before a successful Create, all
@@ -63,6 +65,8 @@ class nvToolTip {
   std::int32_t hwnd();
 
  private:
+  static const Module here;
+
   bool IsWindow() const { return TipWindow_ != nullptr; }
   /// Finds the tool of a control. `record` receives it or, if it is not found, the last tool.
   Boolean GetToolInfo(std::int32_t controlHandle, TipTool& record, bool wantText = false);

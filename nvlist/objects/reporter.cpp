@@ -99,7 +99,7 @@ void report(const Report& failure) {
 
   ifMemoryLasts([&] {
     const std::string folder = logSetting(program);
-    if (!trimmedBlanks(folder).empty()) writeLog(program, folder, message);
+    if (!trimmed(folder, " ").empty()) writeLog(program, folder, message);
   });
 
   const bool isTakenOver =

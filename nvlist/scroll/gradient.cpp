@@ -11,7 +11,7 @@
 namespace norvane {
 namespace {
 
-constexpr Module here = {kinds::module, "basList"};
+constexpr Module here{kinds::module, "basList"};
 
 /// The width of an upright gradient. Rows of four pixels need no padding.
 constexpr std::int32_t columns = 4;

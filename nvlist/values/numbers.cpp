@@ -4,17 +4,12 @@
 #include <locale>
 #include <sstream>
 
+#include <nvlist/values/text.h>
+
 namespace norvane {
 namespace {
 
 constexpr bool isDigit(char c) { return c >= '0' && c <= '9'; }
-
-std::string_view trimmed(std::string_view text) {
-  constexpr std::string_view blanks = " \t\n\v\f\r";
-  const auto first = text.find_first_not_of(blanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
 
 std::optional<double> prefixedNumber(std::string_view digits, int base) {
   std::uint32_t value = 0;
@@ -53,7 +48,7 @@ bool isDecimal(std::string_view text) {
 }  // namespace
 
 std::optional<double> numberOf(std::string_view text) {
-  text = trimmed(text);
+  text = trimmed(text, " \t\n\v\f\r");
   if (text.size() > 2 && text[0] == '&') {
     if (text[1] == 'H' || text[1] == 'h') return prefixedNumber(text.substr(2), 16);
     if (text[1] == 'O' || text[1] == 'o') return prefixedNumber(text.substr(2), 8);

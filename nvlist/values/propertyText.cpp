@@ -9,6 +9,7 @@
 #include <nvlist/values/Font.h>
 #include <nvlist/values/PropertyBag.h>
 #include <nvlist/values/numbers.h>
+#include <nvlist/values/text.h>
 
 namespace norvane {
 namespace {
@@ -24,12 +25,6 @@ constexpr FontFlag fontFlags[] = {{"bold", &FontObject::Bold},
                                   {"italic", &FontObject::Italic},
                                   {"underline", &FontObject::Underline},
                                   {"strikethrough", &FontObject::Strikethrough}};
-
-std::string_view trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(blanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
 
 std::string inQuotes(std::string_view text) {
   std::string result = "\"";
@@ -99,13 +94,13 @@ std::optional<Variant> fontOf(std::string_view text) {
   const auto name = takeQuoted(text);
   if (!name) return std::nullopt;
   font->Name = *name;
-  text = trimmed(text);
+  text = trimmed(text, blanks);
   const std::size_t end = text.find_first_of(blanks);
   const auto size = numberOf(text.substr(0, end));
   if (!size) return std::nullopt;
   font->Size = static_cast<float>(*size);
-  while (
-      !(text = trimmed(text.substr(std::min(text.find_first_of(blanks), text.size())))).empty()) {
+  while (!(text = trimmed(text.substr(std::min(text.find_first_of(blanks), text.size())), blanks))
+              .empty()) {
     bool isKnown = false;
     for (const FontFlag& flag : fontFlags)
       if (text.substr(0, text.find_first_of(blanks)) == flag.word) {
@@ -120,13 +115,13 @@ std::optional<Variant> fontOf(std::string_view text) {
 std::optional<Variant> valueOf(std::string_view text) {
   if (text.starts_with('"')) {
     const auto inside = takeQuoted(text);
-    if (!inside || !trimmed(text).empty()) return std::nullopt;
+    if (!inside || !trimmed(text, blanks).empty()) return std::nullopt;
     return Variant(*inside);
   }
   if (text == "True") return Variant(true);
   if (text == "False") return Variant(false);
   if (text.starts_with(fontWord))
-    if (const auto font = fontOf(trimmed(text.substr(fontWord.size())))) return font;
+    if (auto font = fontOf(trimmed(text.substr(fontWord.size()), blanks))) return font;
   const auto number = numberOf(text);
   if (!number) return Variant(text);
   constexpr double least = std::numeric_limits<std::int32_t>::min();
@@ -149,14 +144,14 @@ PropertyBag propertiesOf(std::string_view text) {
   PropertyBag bag;
   for (int number = 1; !text.empty(); ++number) {
     const std::size_t end = text.find('\n');
-    const std::string_view line = trimmed(text.substr(0, end));
+    const std::string_view line = trimmed(text.substr(0, end), blanks);
     text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
     if (line.empty() || line.starts_with('#')) continue;
     const std::size_t equals = line.find('=');
-    const std::string_view name = trimmed(line.substr(0, equals));
+    const std::string_view name = trimmed(line.substr(0, equals), blanks);
     const auto value = equals == std::string_view::npos || name.empty()
                            ? std::nullopt
-                           : valueOf(trimmed(line.substr(equals + 1)));
+                           : valueOf(trimmed(line.substr(equals + 1), blanks));
     if (!value) throw Failure(321, "Invalid file format in line " + std::to_string(number));
     bag.WriteProperty(name, *value, Variant(Ref<Object>()));
   }

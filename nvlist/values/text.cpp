@@ -100,10 +100,10 @@ std::string upperCase(std::string_view text) {
 
 char32_t foldLong(char32_t character) { return mapCase(foldCaseTable(), character); }
 
-std::string_view trimmedBlanks(std::string_view text) {
-  const auto first = text.find_first_not_of(' ');
+std::string_view trimmed(std::string_view text, std::string_view blanks) {
+  const auto first = text.find_first_not_of(blanks);
   if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
 }  // namespace norvane

@@ -53,8 +53,8 @@ inline char32_t foldCase(char32_t character) {
   return character >= U'A' && character <= U'Z' ? character + (U'a' - U'A') : character;
 }
 
-/// The text without leading and trailing blanks.
-std::string_view trimmedBlanks(std::string_view text);
+/// The text without the leading and trailing characters that are one of `blanks`.
+std::string_view trimmed(std::string_view text, std::string_view blanks);
 
 /// Calls `take` with each line of the text until it returns false. A line ends with CR, LF or CR
 /// LF, which are not part of it. An empty text is one empty line.

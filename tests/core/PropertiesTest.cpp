@@ -157,7 +157,7 @@ TEST_F(Persistence, DefaultsAreNotStored) {
 }
 
 TEST_F(Persistence, AValueThatDoesNotFitEndsTheReading) {
-  const PropertyBag bag = propertiesOf("BackColor = 255\nStyle = many\nGridLines = True\n");
+  const PropertyBag bag = propertiesOf("\tBackColor\t= 255\r\nStyle = many\nGridLines = True\n");
   list.UserControl_ReadProperties(bag);
   EXPECT_EQ(reports(), "13 UserControl_ReadProperties");
   EXPECT_EQ(list.BackColor(), 255);

@@ -201,10 +201,6 @@ void NvListWidget::followScroller(const QScrollEvent& event) {
 
 namespace {
 
-QString qtText(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 /// A pattern that matches the text alone.
 std::string patternOf(const QString& text) {
   std::string pattern;
@@ -228,14 +224,16 @@ int NvListWidget::addItem(const QString& text, const QString& key) {
   return list().NewIndex();
 }
 
-QString NvListWidget::itemText(int index) const { return qtText(core_->list.ItemText(index)); }
+QString NvListWidget::itemText(int index) const {
+  return QString::fromUtf8(core_->list.ItemText(index));
+}
 
 void NvListWidget::setItemText(int index, const QString& text) {
   list().ItemText(index, text.toStdString());
 }
 
 QString NvListWidget::itemKey(int index) const {
-  return qtText(core_->list.ItemKey(index).toText());
+  return QString::fromUtf8(core_->list.ItemKey(index).toText());
 }
 
 void NvListWidget::setItemKey(int index, const QString& key) {

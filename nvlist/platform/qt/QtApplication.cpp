@@ -30,10 +30,6 @@ bool isWindows() {
   return QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows;
 }
 
-QString qtText(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 /// What a settings file has behind `name =`, as written; null if there is no such line or if it
 /// needs more than reading.
 QString lineOf(const QString& path, const QString& name) {
@@ -58,7 +54,7 @@ QVariant settingOf(const QString& key, const QString& name) {
   if (program.isEmpty()) return {};
   QSettings settings(QSettings::UserScope, program);
   settings.setFallbacksEnabled(false);
-  const QVariant value = settings.value(name);
+  QVariant value = settings.value(name);
   if (value.typeId() != QMetaType::QStringList) return value;
   // An unquoted text with commas. QSettings takes it for a list and drops the blanks around them.
   const QString line = lineOf(settings.fileName(), name);
@@ -117,7 +113,7 @@ QtDesktop::~QtDesktop() {
 
 ApplicationFacts QtProgram::facts() {
   ApplicationFacts facts;
-  const QFileInfo program(qtText(programPath()));
+  const QFileInfo program(QString::fromUtf8(programPath()));
   if (!QCoreApplication::instance()) return facts;
   const auto version = QVersionNumber::fromString(QCoreApplication::applicationVersion());
   // A dot elsewhere in the name begins no extension, as in "host-1.2".
@@ -136,7 +132,7 @@ std::string QtProgram::programPath() {
 }
 
 Variant QtProgram::readSetting(std::string_view key, std::string_view name) {
-  const QVariant value = settingOf(qtText(key), qtText(name));
+  const QVariant value = settingOf(QString::fromUtf8(key), QString::fromUtf8(name));
   if (!value.isValid()) return {};
   const QString text = value.toString();
   bool isNumber = false;
@@ -153,7 +149,7 @@ std::shared_ptr<ErrorHandler> QtProgram::createErrorHandler() {
 }
 
 void QtProgram::appendToFile(const std::string& path, const std::string& text) {
-  QString name = qtText(path);
+  QString name = QString::fromUtf8(path);
   if (!isWindows()) name.replace(u'\\', u'/');
   QFile file(name);
   const bool isWritten = file.open(QIODevice::WriteOnly | QIODevice::Append) &&
@@ -186,7 +182,7 @@ std::int16_t QtDesktop::asyncKeyState(std::int32_t key) {
 void QtDesktop::playSound(const std::string& path) {
   if (!canShow()) return;
   if (!sound_) sound_ = new QtSound(QCoreApplication::instance());
-  sound_->play(qtText(path));
+  sound_->play(QString::fromUtf8(path));
 }
 
 std::shared_ptr<TipWindow> QtDesktop::createTipWindow(std::int32_t form) {
@@ -205,9 +201,9 @@ void QtProgram::MsgBox(std::string_view text, std::int32_t style, std::string_vi
     return;
   }
   // The window, and the box with it, may be destroyed while the box is open.
-  const QPointer<QMessageBox> box =
-      new QMessageBox(iconOf(style), qtText(title), qtText(text).replace("\r\n", "\n"),
-                      QMessageBox::Ok, QApplication::activeWindow());
+  const QPointer<QMessageBox> box = new QMessageBox(iconOf(style), QString::fromUtf8(title),
+                                                    QString::fromUtf8(text).replace("\r\n", "\n"),
+                                                    QMessageBox::Ok, QApplication::activeWindow());
   box->setTextFormat(Qt::PlainText);
   box->exec();
   delete box;

@@ -14,10 +14,6 @@ Q_LOGGING_CATEGORY(category, "nvlist")
 /// Threads with lists of their own report, too.
 std::atomic<QtFailures::Mode> currentMode = QtFailures::Mode::Box;
 
-QString qtText(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 }  // namespace
 
 class QtFailureHandler final : public ErrorHandler {
@@ -26,9 +22,10 @@ class QtFailureHandler final : public ErrorHandler {
                   std::string_view Description, std::string_view Procedure, std::int32_t Line,
                   std::string_view, std::string_view Module) override {
     if (currentMode == QtFailures::Mode::Silent) return;
-    const QString description = qtText(Description);
-    const QString where =
-        QString("%1.%2, line %3").arg(qtText(Module), qtText(Procedure)).arg(Line);
+    const QString description = QString::fromUtf8(Description);
+    const QString where = QString("%1.%2, line %3")
+                              .arg(QString::fromUtf8(Module), QString::fromUtf8(Procedure))
+                              .arg(Line);
     QtFailures& sender = QtFailures::instance();
     const bool isSignal = currentMode == QtFailures::Mode::Signal &&
                           sender.isSignalConnected(QMetaMethod::fromSignal(&QtFailures::reported));

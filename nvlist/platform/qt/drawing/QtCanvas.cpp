@@ -26,10 +26,6 @@ int lineCount(std::string_view text) {
   return count;
 }
 
-QString decoded(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 qsizetype characterLength(QStringView text, qsizetype at) {
   return text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate() ? 2
                                                                                              : 1;
@@ -330,7 +326,7 @@ float QtCanvas::TextWidth(std::string_view text) {
     return static_cast<float>(std::nearbyint(*width));
   double widest = 0;
   forEachLine(text, [&](std::string_view line) {
-    widest = std::max(widest, widthWithTabs(decoded(line)));
+    widest = std::max(widest, widthWithTabs(QString::fromUtf8(line)));
     return true;
   });
   return static_cast<float>(std::nearbyint(widest));
@@ -396,7 +392,7 @@ void QtCanvas::DrawTextA(std::uintptr_t hDC, std::string_view text, std::int32_t
     if (top > clip.bottom()) return false;
     if (top + face.lineHeight > clip.top()) {
       const bool isRight = format == TextFormat::right;
-      const ShownLine shown(decoded(line), isRight);
+      const ShownLine shown(QString::fromUtf8(line), isRight);
       const double left =
           isRight ? rectangle.Right - std::nearbyint(face.widthOf(shown.text)) : rectangle.Left;
       drawLine(shown, left, rectangle.Left, static_cast<double>(top) + face.ascent, clip);
@@ -415,7 +411,7 @@ void QtCanvas::Print(std::string_view text) {
   forEachLine(text, [&](std::string_view line) {
     if (top > whole.bottom()) return false;
     if (top + face.lineHeight > 0)
-      drawLine(ShownLine(decoded(line)), x, 0, top + face.ascent, whole);
+      drawLine(ShownLine(QString::fromUtf8(line)), x, 0, top + face.ascent, whole);
     x = 0;
     top += face.lineHeight;
     return true;

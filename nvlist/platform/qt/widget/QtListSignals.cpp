@@ -125,8 +125,7 @@ void QtListSignals::emitWaiting() {
 
 void QtListSignals::propertyChanged(std::string_view name) {
   if (!isConnected<&NvListWidget::propertyChanged>()) return watch();
-  emit widget_->propertyChanged(
-      QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+  emit widget_->propertyChanged(QString::fromUtf8(name));
 }
 
 void QtListSignals::Click() { later<&NvListWidget::clicked>(); }

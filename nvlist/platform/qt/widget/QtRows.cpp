@@ -52,7 +52,7 @@ int leftOfTexts(const nvList& list) {
 }  // namespace
 
 QString readableText(std::string_view text) {
-  QString result = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+  QString result = QString::fromUtf8(text);
   if (const auto column = result.indexOf("|right=", 0, Qt::CaseInsensitive); column >= 0)
     result.replace(column, 7, '\t');
   // "&&" shows one &.
