@@ -47,7 +47,7 @@ std::optional<QColor> shownColour(const Variant& value) {
   return QColor(colour & 255, colour >> 8 & 255, colour >> 16 & 255);
 }
 
-Variant hostColour(const QColor& colour) {
+Variant storedColour(const QColor& colour) {
   return colour.red() | colour.green() << 8 | colour.blue() << 16;
 }
 
@@ -65,10 +65,10 @@ std::optional<Variant> colourNamed(const QString& name) {
   if (isNumber && index >= 0 && index <= 255)
     return norvane::systemColour(static_cast<std::uint8_t>(index));
   const QColor colour(word);
-  return colour.isValid() ? std::optional(hostColour(colour)) : std::nullopt;
+  return colour.isValid() ? std::optional(storedColour(colour)) : std::nullopt;
 }
 
-QIcon swatch(const std::optional<QColor>& colour) {
+QIcon swatchIcon(const std::optional<QColor>& colour) {
   QPixmap pixmap(swatchSize, swatchSize);
   pixmap.fill(Qt::transparent);
   QPainter painter(&pixmap);
@@ -79,15 +79,15 @@ QIcon swatch(const std::optional<QColor>& colour) {
 }
 
 /// A line edit with a swatch that opens the colour dialog.
-Editor<Variant> colourEditor(Default mark, Edited<Variant> edited) {
+Editor<Variant> colourEditor(Default mark, const Edited<Variant>& edited) {
   auto* line = new QLineEdit;
-  QAction* pick = line->addAction(swatch({}), QLineEdit::LeadingPosition);
+  QAction* pick = line->addAction(swatchIcon({}), QLineEdit::LeadingPosition);
   pick->setToolTip("Choose a colour");
   const auto now = std::make_shared<Variant>();
 
   const auto show = [=](const Variant& value) {
     *now = value;
-    pick->setIcon(swatch(shownColour(value)));
+    pick->setIcon(swatchIcon(shownColour(value)));
     if (!line->isModified()) line->setText(nameOf(value));
   };
   QObject::connect(line, &QLineEdit::editingFinished, [=] {
@@ -103,7 +103,7 @@ Editor<Variant> colourEditor(Default mark, Edited<Variant> edited) {
   QObject::connect(pick, &QAction::triggered, [=] {
     const QColor before = shownColour(*now).value_or(Qt::white);
     const QColor chosen = QColorDialog::getColor(before, line->window());
-    if (chosen.isValid()) edited(hostColour(chosen), chosen.name().toUpper());
+    if (chosen.isValid()) edited(storedColour(chosen), chosen.name().toUpper());
   });
   return {line, show};
 }
@@ -122,7 +122,7 @@ QString nameOf(const Picture& picture) {
 }
 
 template <class Value, class Box>
-Editor<Value> spinEditor(Box* box, Edited<Value> edited) {
+Editor<Value> spinEditor(Box* box, const Edited<Value>& edited) {
   box->setKeyboardTracking(false);
   using Shown = decltype(box->value());
   QObject::connect(box, qOverload<Shown>(&Box::valueChanged),
@@ -136,7 +136,7 @@ Editor<Value> spinEditor(Box* box, Edited<Value> edited) {
 }  // namespace
 
 MakeEditor<Boolean> flag() {
-  return [](Edited<Boolean> edited) -> Editor<Boolean> {
+  return [](const Edited<Boolean>& edited) -> Editor<Boolean> {
     auto* box = new QCheckBox;
     QObject::connect(box, &QCheckBox::toggled, [=](bool on) { edited(on, on ? "True" : "False"); });
     return {box, [box](const Boolean& value) {
@@ -147,24 +147,24 @@ MakeEditor<Boolean> flag() {
 }
 
 MakeEditor<std::int32_t> number() {
-  return [](Edited<std::int32_t> edited) {
+  return [](const Edited<std::int32_t>& edited) {
     auto* box = new QSpinBox;
     box->setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
-    return spinEditor<std::int32_t>(box, std::move(edited));
+    return spinEditor<std::int32_t>(box, edited);
   };
 }
 
 MakeEditor<float> length() {
-  return [](Edited<float> edited) {
+  return [](const Edited<float>& edited) {
     auto* box = new LengthBox;
     box->setRange(-1e6, 1e6);
     box->setDecimals(3);
-    return spinEditor<float>(box, std::move(edited));
+    return spinEditor<float>(box, edited);
   };
 }
 
 MakeEditor<std::string> text() {
-  return [](Edited<std::string> edited) -> Editor<std::string> {
+  return [](const Edited<std::string>& edited) -> Editor<std::string> {
     auto* line = new QLineEdit;
     QObject::connect(line, &QLineEdit::editingFinished, [=] {
       if (!line->isModified()) return;
@@ -180,7 +180,7 @@ MakeEditor<std::string> text() {
 }
 
 MakeEditor<Variant> value() {
-  return [](Edited<Variant> edited) -> Editor<Variant> {
+  return [](const Edited<Variant>& edited) -> Editor<Variant> {
     const auto line = text()([edited](const std::string& value, const QString& shown) {
       edited(Variant(value), shown);
     });
@@ -191,7 +191,7 @@ MakeEditor<Variant> value() {
 }
 
 MakeEditor<Colour> colour() {
-  return [](Edited<Colour> edited) -> Editor<Colour> {
+  return [](const Edited<Colour>& edited) -> Editor<Colour> {
     const auto editor = colourEditor(
         Default::shown,
         [edited](const Variant& value, const QString& text) { edited(value.toInt32(), text); });
@@ -200,11 +200,11 @@ MakeEditor<Colour> colour() {
 }
 
 MakeEditor<Variant> itemColour(Default mark) {
-  return [mark](Edited<Variant> edited) { return colourEditor(mark, std::move(edited)); };
+  return [mark](const Edited<Variant>& edited) { return colourEditor(mark, edited); };
 }
 
 MakeEditor<norvane::Font> font() {
-  return [](Edited<norvane::Font> edited) -> Editor<norvane::Font> {
+  return [](const Edited<norvane::Font>& edited) -> Editor<norvane::Font> {
     auto* button = new QPushButton;
     auto shown = std::make_shared<norvane::Font>();
     QObject::connect(button, &QPushButton::clicked, [=] {
@@ -224,7 +224,7 @@ MakeEditor<norvane::Font> font() {
 }
 
 MakeEditor<Picture> picture() {
-  return [](Edited<Picture> edited) -> Editor<Picture> {
+  return [](const Edited<Picture>& edited) -> Editor<Picture> {
     auto* button = new QPushButton;
     auto* menu = new QMenu(button);
     menu->addAction("Open...", [=] {
@@ -244,7 +244,7 @@ MakeEditor<Picture> picture() {
 }
 
 MakeEditor<int> choiceOf(std::vector<Choice> choices) {
-  return [choices = std::move(choices)](Edited<int> edited) -> Editor<int> {
+  return [choices = std::move(choices)](const Edited<int>& edited) -> Editor<int> {
     auto* box = new QComboBox;
     for (const Choice& choice : choices) box->addItem(choice.name, choice.value);
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);

@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include <nvlist/core/storedProperties.h>
@@ -21,7 +20,7 @@ namespace {
 /// A store that remembers which property was read last.
 class WatchedBag final : public PropertyBag {
  public:
-  explicit WatchedBag(PropertyBag bag) : PropertyBag(std::move(bag)) {}
+  explicit WatchedBag(const PropertyBag& bag) : PropertyBag(bag) {}
 
   Variant ReadProperty(std::string_view name, const Variant& defaultValue) const override {
     lastRead_ = name;

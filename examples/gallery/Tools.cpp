@@ -102,7 +102,7 @@ QWidget* Tools::addSwitch(const Switch& entry) {
     if (onUsed) onUsed(QString("%1 = %2").arg(entry.property, on ? "True" : "False"));
     (subject_.list().*entry.write)(on);
   });
-  refreshers_.push_back([this, &entry, result] {
+  refreshers_.emplace_back([this, &entry, result] {
     result->setChecked(static_cast<bool>((subject_.list().*entry.read)()));
   });
   return result;
@@ -118,7 +118,7 @@ QWidget* Tools::addWheel() {
   });
   editor.widget->setObjectName("wheel");
   editor.widget->setMinimumWidth(wheelWidth);
-  refreshers_.push_back([this, editor] { editor.show(subject_.list().WheelFunction()); });
+  refreshers_.emplace_back([this, editor] { editor.show(subject_.list().WheelFunction()); });
   return editor.widget;
 }
 
@@ -128,7 +128,7 @@ QWidget* Tools::addCommand(const Command& entry) {
     if (onUsed) onUsed(entry.call(subject_.list()));
     entry.run(subject_.list());
   });
-  refreshers_.push_back(
+  refreshers_.emplace_back(
       [this, &entry, result] { result->setEnabled(entry.isPossible(subject_.list())); });
   return result;
 }

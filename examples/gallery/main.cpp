@@ -110,8 +110,8 @@ int main(int argumentCount, char** arguments) {
       qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
     qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argumentCount, arguments);
-  application.setApplicationName("gallery");
-  application.setApplicationVersion(NVLIST_VERSION);
+  QApplication::setApplicationName("gallery");
+  QApplication::setApplicationVersion(NVLIST_VERSION);
   options.process(application);
   if (options.isSet(dark)) QApplication::setPalette(gallery::darkPalette());
 

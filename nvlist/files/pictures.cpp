@@ -11,7 +11,7 @@ std::string nvList::GetPictureString(const Picture& picture, std::int32_t& lengt
   trapped(here, "GetPictureString", [&](Trap& on) {
     on.step([&] {
       // fileBytes() may run code of the host that drops the picture.
-      const Picture held = picture;
+      const Picture held = picture;  // NOLINT(performance-unnecessary-copy-initialization)
       const std::vector<std::byte> file = held->fileBytes();
       if (file.empty()) throw Failure::invalidPicture();
       std::string bytes(reinterpret_cast<const char*>(file.data()), file.size());

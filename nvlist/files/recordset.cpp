@@ -1,8 +1,6 @@
 #include <nvlist/files/Recordset.h>
 #include <nvlist/nvList.h>
 
-#include <utility>
-
 namespace norvane {
 namespace {
 
@@ -53,7 +51,7 @@ void nvList::addRows(Trap& on, const Ref<Object>& rows) {
       text = firstFieldOf(rows);
       answers = true;
     });
-    on.step([&] { ItemsAdd(std::move(text)); });
+    on.step([&] { ItemsAdd(text); });
     on.step([&] {
       recordsetOf(rows).MoveNext();
       answers = true;

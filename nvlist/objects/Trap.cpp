@@ -66,6 +66,7 @@ Trap::Watch::~Watch() {
 void Trap::ended() {
   if (anyRuns()) return;
   ++watchLoops;
+  // NOLINTNEXTLINE(modernize-loop-convert): a function may add a watch.
   for (std::size_t i = 0; i < watches.size(); ++i) {
     if (!watches[i]) continue;
     // A copy: the function may destroy its watch.

@@ -19,7 +19,7 @@ class FileLock {
   ~FileLock();
 
   /// Waits until the contents of the file are on the disk.
-  void flush();
+  void flush() const;
 
  private:
   std::intptr_t handle_;

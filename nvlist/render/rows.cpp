@@ -102,7 +102,7 @@ void nvList::Row::paintIcon() {
     const Picture chosen = item().look().IconSelected;
     const Picture icon = isSelected && isShown(chosen) ? chosen : item().look().Icon;
     if (!isShown(icon)) return;
-    float x = static_cast<float>(repaint_.ItemLeft);
+    auto x = static_cast<float>(repaint_.ItemLeft);
     if (hasCheckBox(state_.Style)) x += checkBoxWidth() + gapBetweenPictures;
     surface_.PaintPicture(icon, x, (height() - state_.IconH) / 2 + surface_.CurrentY(),
                           state_.IconW, state_.IconH);

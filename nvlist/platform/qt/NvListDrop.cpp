@@ -24,10 +24,10 @@ constexpr int scrollInterval = 80;
 
 }  // namespace
 
-NvListDrop::NvListDrop(NvListWidget& widget) : QObject(&widget), widget_(widget) {
+NvListDrop::NvListDrop(NvListWidget& widget)
+    : QObject(&widget), widget_(widget), mark_(new QWidget(&widget)) {
   widget_.setAcceptDrops(true);
   widget_.installEventFilter(this);
-  mark_ = new QWidget(&widget_);
   mark_->setAutoFillBackground(true);
   mark_->setPalette(QPalette(Qt::black));
   mark_->setAttribute(Qt::WA_TransparentForMouseEvents);

@@ -29,10 +29,10 @@ struct NvScrollWidget::Core final : nvVScrollEvents, nvHScrollEvents {
   void HScroll1_Change() override { changed(); }
   void HScroll1_Scroll() override { scrolled(); }
 
-  void changed() {
+  void changed() const {
     if (widget) emit widget->changed(bar->Value());
   }
-  void scrolled() {
+  void scrolled() const {
     if (widget) emit widget->scrolled(bar->Value());
   }
 

@@ -40,7 +40,7 @@ struct Cache {
 
 /// Never destroyed: static objects of a host may hold pictures.
 Cache& cache() {
-  static Cache* const cache = new Cache;
+  static auto* const cache = new Cache;
   return *cache;
 }
 

@@ -54,7 +54,7 @@ FileLock::FileLock(const std::filesystem::path& file) {
 
 FileLock::~FileLock() { CloseHandle(handleOf(handle_)); }
 
-void FileLock::flush() {
+void FileLock::flush() const {
   if (!FlushFileBuffers(handleOf(handle_))) throw notAccessible();
 }
 
@@ -87,7 +87,7 @@ FileLock::FileLock(const std::filesystem::path& file) {
 
 FileLock::~FileLock() { ::close(static_cast<int>(handle_)); }
 
-void FileLock::flush() {
+void FileLock::flush() const {
   if (fsync(static_cast<int>(handle_)) != 0) throw notAccessible();
 }
 

@@ -31,7 +31,7 @@ class AccessibleList final : public QAccessibleWidget, public QAccessibleTableIn
 
   QAccessibleInterface* caption() const override { return nullptr; }
   QAccessibleInterface* summary() const override { return nullptr; }
-  QAccessibleInterface* cellAt(int row, int column) const override;
+  QAccessibleInterface* cellAt(int index, int column) const override;
   int selectedCellCount() const override { return selectedRowCount(); }
   /// Of a large selection, the first rows.
   QList<QAccessibleInterface*> selectedCells() const override;
@@ -44,10 +44,10 @@ class AccessibleList final : public QAccessibleWidget, public QAccessibleTableIn
   QList<int> selectedColumns() const override { return {}; }
   QList<int> selectedRows() const override;
   bool isColumnSelected(int) const override { return false; }
-  bool isRowSelected(int row) const override;
-  bool selectRow(int row) override;
+  bool isRowSelected(int index) const override;
+  bool selectRow(int index) override;
   bool selectColumn(int) override { return false; }
-  bool unselectRow(int row) override;
+  bool unselectRow(int index) override;
   bool unselectColumn(int) override { return false; }
   void modelChange(QAccessibleTableModelChangeEvent*) override {}
 

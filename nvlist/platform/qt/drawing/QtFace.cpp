@@ -288,7 +288,7 @@ QtFace::Character& QtFace::character(char16_t code) {
   return known = measured;
 }
 
-QtFace::Kind QtFace::kindOf(char16_t code) {
+QtFace::Kind QtFace::kindOf(char16_t code) const {
   const QChar character(code);
   if (!standsAlone(character)) return Kind::layout;
   const bool hasIndex = code < asciiEnd || nextIndex_ <= lastIndex;

@@ -84,7 +84,7 @@ class QtFace {
   bool isProven(Kind kind);
   double laidOutWidth(QStringView text) const;
   Character& character(char16_t code);
-  Kind kindOf(char16_t code);
+  Kind kindOf(char16_t code) const;
   bool isSameInAllScripts(char16_t code, float width) const;
   float pairWidth(const Character& first, char16_t code, const Character& second,
                   char16_t secondCode);
