@@ -11,6 +11,7 @@
 
 #include <examples/gallery/GalleryWindow.h>
 #include <examples/gallery/ListFiles.h>
+#include <examples/gallery/Settings.h>
 
 namespace gallery {
 namespace {
@@ -23,19 +24,17 @@ class GalleryWindowTest : public testing::Test {
     window.showPage(0);
   }
 
-  norvane::NvListWidget* widget(const char* name) {
-    return window.findChild<norvane::NvListWidget*>(name);
-  }
   /// The list on the page of that name, which is then shown.
   norvane::nvList& listOn(const char* page) {
-    for (int i = 0; !widget(page); ++i) window.showPage(i);
-    return widget(page)->list();
+    for (int i = 0;; ++i) {
+      if (auto* widget = window.findChild<norvane::NvListWidget*>(page)) return widget->list();
+      window.showPage(i);
+    }
   }
-  /// A tool or a check box.
-  QAbstractButton* button(const char* name) { return window.findChild<QAbstractButton*>(name); }
-  void use(const char* name) {
-    button(name)->click();
+  /// A tool or a check box, when the window has followed the list.
+  QAbstractButton& button(const char* name) {
     QCoreApplication::processEvents();
+    return *window.findChild<QAbstractButton*>(name);
   }
   bool isShown(const QString& beginning) {
     for (const QLabel* label : window.findChildren<QLabel*>())
@@ -54,14 +53,14 @@ class GalleryWindowTest : public testing::Test {
   }
 
   QTemporaryDir folder;
-  QString path = folder.filePath("a list.nvl");
+  const QString path = folder.filePath("a list.nvl");
   GalleryWindow window{allPages({"A text", {"one", "two", "three"}})};
   EventLog* log = window.findChild<EventLog*>();
 };
 
 TEST_F(GalleryWindowTest, everyPageIsChosenByItsRowAndShowsSomethingElse) {
-  auto* chooser = widget("chooser");
-  norvane::nvList& names = chooser->list();
+  norvane::nvList& names = listOn("chooser");
+  auto* const chooser = window.findChild<QWidget*>("chooser");
   std::set<QString> titles;
   for (int i = 0; i < names.ItemsCount(); ++i) {
     const float y = names.IndentTop() + (static_cast<float>(i) + 0.5F) * names.MinHeight();
@@ -73,43 +72,33 @@ TEST_F(GalleryWindowTest, everyPageIsChosenByItsRowAndShowsSomethingElse) {
   EXPECT_TRUE(titles.count("A text - nvList"));
 }
 
-TEST_F(GalleryWindowTest, theToolsWorkOnTheListAndFollowIt) {
+TEST_F(GalleryWindowTest, theToolsAndSheetsWorkOnTheListAndFollowIt) {
   norvane::nvList& list = listOn("text");
-  use("Edit");
+  button("Edit").click();
   EXPECT_TRUE(list.AllowEdit());
   EXPECT_TRUE(logged().endsWith("AllowEdit = True"));
   list.AllowItemMoving(true);
-  QCoreApplication::processEvents();
-  EXPECT_TRUE(button("Move")->isChecked());
+  EXPECT_TRUE(button("Move").isChecked());
 
   // After sorting, the current item is still the same one.
   list.ListIndex(1);
-  use("Z-A");
-  EXPECT_EQ(list.ItemText(0), "two");
-  EXPECT_EQ(list.ListIndex(), 0);
-  use("A-Z");
-  EXPECT_EQ(list.ListIndex(), 2);
-  use("\u25B2");
-  EXPECT_EQ(list.ItemText(1), "two");
-  EXPECT_EQ(list.ListIndex(), 1);
-}
+  const std::pair<const char*, int> tools[] = {{"Z-A", 0}, {"A-Z", 2}, {"\u25B2", 1}};
+  for (const auto& [tool, index] : tools) {
+    button(tool).click();
+    EXPECT_EQ(list.ItemText(index), "two") << tool;
+    EXPECT_EQ(list.ListIndex(), index) << tool;
+  }
 
-TEST_F(GalleryWindowTest, theSheetsFollowTheListAndItsCurrentItem) {
-  norvane::nvList& list = listOn("text");
-  list.ListIndex(2);
-  list.ItemBold(2, true);
-  QCoreApplication::processEvents();
-  EXPECT_TRUE(button("ItemBold")->isChecked());
-
+  list.ItemBold(1, true);
+  EXPECT_TRUE(button("ItemBold").isChecked());
   // Without a current item the first selected one is shown; without a selection, nothing.
-  list.ItemSelected(1, true);
+  list.ItemSelected(0, true);
   EXPECT_EQ(list.ListIndex(), -1);
-  QCoreApplication::processEvents();
-  button("ItemItalic")->click();
-  EXPECT_TRUE(list.ItemItalic(1));
+  button("ItemItalic").click();
+  EXPECT_TRUE(list.ItemItalic(0));
   list.ItemsClear();
-  QCoreApplication::processEvents();
-  EXPECT_FALSE(button("ItemItalic")->isEnabled());
+  for (const char* disabled : {"ItemItalic", "A-Z", "\u25B2", "\u25BC"})
+    EXPECT_FALSE(button(disabled).isEnabled()) << disabled;
 }
 
 TEST_F(GalleryWindowTest, theLogKeepsTheLastMoveCountsRepetitionsAndHearsFailures) {
@@ -144,27 +133,18 @@ TEST_F(GalleryWindowTest, AListComesBackFromItsFileAndTheProgressIsShown) {
   EXPECT_EQ(files.ItemsSelectCount(), 1);
 
   openListFile(files, folder.filePath("missing"), Properties::kept);
-  EXPECT_TRUE(logged().endsWith("ErrorListInput"));
   EXPECT_EQ(files.ItemsCount(), count);
-  // A truncated file leaves the list empty and the tools disabled.
   ASSERT_TRUE(QFile::resize(path, 100));
   openListFile(files, path, Properties::kept);
   EXPECT_EQ(files.ItemsCount(), 0);
   EXPECT_TRUE(logged().endsWith("ErrorListInput   (2 times)"));
-  for (const char* tool : {"A-Z", "\u25B2", "\u25BC"})
-    EXPECT_FALSE(button(tool)->isEnabled()) << tool;
-}
 
-TEST_F(GalleryWindowTest, AnOlderFileBringsTheTextsAndItsReadingIsShown) {
-  norvane::nvList& files = listOn("files");
-  const int count = files.ItemsCount();
-  files.ItemText(1, "\u00c4 \u20ac");
+  files.ItemsAdd("\u00c4 \u20ac");
   EXPECT_EQ(saveOlderFile(files, path), "");
-  files.ItemsClear();
+  QTest::qWait(50);  // Progress is shown now and then only.
   openListFile(files, path, Properties::kept);
-  EXPECT_TRUE(isShown(QString("Reading item 0 of %1").arg(count)));
-  ASSERT_EQ(files.ItemsCount(), count);
-  EXPECT_EQ(files.ItemText(1), "\u00c4 \u20ac");
+  EXPECT_TRUE(isShown("Reading item 0 of 1"));
+  EXPECT_EQ(files.ItemText(0), "\u00c4 \u20ac");
 }
 
 TEST_F(GalleryWindowTest, AQueryFillsTheListAndABadOneIsLogged) {
@@ -172,18 +152,18 @@ TEST_F(GalleryWindowTest, AQueryFillsTheListAndABadOneIsLogged) {
   auto* query = window.findChild<QComboBox*>("query");
   if (!query) GTEST_SKIP() << "no database here";
   EXPECT_EQ(rows.ItemsCount(), 200);
-  const auto fillFrom = [&](const char* statement) {
+  const std::pair<const char*, int> statements[] = {
+      {"SELECT name FROM places WHERE country LIKE 'Congo, The %'", 26},
+      {"DROP TABLE places", 26},
+      {"SELECT name FROM nowhere", 26},
+      {"SELECT 'a' UNION ALL SELECT NULL UNION ALL SELECT 'b'", 1}};
+  for (const auto& [statement, count] : statements) {
     query->setCurrentText(statement);
     for (auto* tool : window.findChildren<QAbstractButton*>())
       if (tool->text() == "Fill") tool->click();
-    return rows.ItemsCount();
-  };
-  EXPECT_EQ(fillFrom("SELECT name FROM places WHERE country LIKE 'Congo, The %'"), 26);
-  EXPECT_EQ(fillFrom("DROP TABLE places"), 26);
-  EXPECT_EQ(fillFrom("SELECT name FROM nowhere"), 26);
-  EXPECT_TRUE(logged().contains("Automation error: no such table: nowhere"))
-      << qPrintable(logged());
-  EXPECT_EQ(fillFrom("SELECT 'a' UNION ALL SELECT NULL UNION ALL SELECT 'b'"), 1);
+    EXPECT_EQ(rows.ItemsCount(), count) << statement;
+  }
+  EXPECT_TRUE(logged().contains("Automation error: no such table: nowhere"));
   EXPECT_TRUE(rows.AutoRedraw());
 }
 
@@ -203,12 +183,9 @@ TEST_F(GalleryWindowTest, AnyFileIsOpenedByItsContentsOrRefused) {
   for (const auto& [name, bytes, shown, count] : cases) {
     const QString file = write(name, bytes);
     window.openFile(file);
-    if (count > 0) {
-      EXPECT_EQ(files.ItemsCount(), count) << name;
-      EXPECT_EQ(files.ItemText(0), shown) << name;
-    } else {
-      EXPECT_TRUE(logged().contains(file + " " + shown)) << name;
-    }
+    if (count > 0) EXPECT_EQ(files.ItemsCount(), count) << name;
+    EXPECT_TRUE(count > 0 ? files.ItemText(0) == shown : logged().contains(file + " " + shown))
+        << name;
   }
   EXPECT_TRUE(logged().contains("No field is called x"));
   EXPECT_TRUE(logged().contains("Line 3: invalid JSON"));
@@ -222,6 +199,50 @@ TEST_F(GalleryWindowTest, ALongTextIsStoppedWhenAsked) {
               [](int percent) { return percent < 50; });
   EXPECT_GE(files.ItemsCount(), 25000);
   EXPECT_LT(files.ItemsCount(), 50000);
+}
+
+TEST_F(GalleryWindowTest, SettingsComeBackFromAFileAndTheItemsStay) {
+  norvane::nvList& list = listOn("text");
+  for (int i = 0; i < 100; ++i) list.ItemsAdd({.aText = i, .aChecked = true, .aKey = "key"});
+  list.Style(norvane::cCheckBoxes);
+  list.ListIndex(90);
+  const std::int32_t top = list.TopIndex();
+  ASSERT_GT(top, 0);
+  saveSettings(list, path);
+  list.Style(norvane::cDefault);
+  EXPECT_EQ(loadSettings(list, path), QStringList());
+  EXPECT_EQ(list.Style(), norvane::cCheckBoxes);
+  EXPECT_EQ(list.ItemsCount(), 103);
+  EXPECT_TRUE(list.ItemChecked(90) && list.ItemSelected(90));
+  EXPECT_EQ(list.ItemKey(90).toText(), "key");
+  EXPECT_EQ(list.ListIndex(), 90);
+  EXPECT_EQ(list.TopIndex(), top);
+}
+
+TEST_F(GalleryWindowTest, ARefusedSettingLeavesAllAsItWas) {
+  norvane::nvList& list = listOn("text");
+  const auto before = list.Style();
+  list.ItemSelected(0, true);
+  list.ItemSelected(2, true);
+  EXPECT_EQ(
+      loadSettings(list, write("list.txt", "Style = 3\nMinHeight = \"tall\"\nGridLines = True\n")),
+      QStringList("MinHeight refused its value: all settings stay as they were"));
+  EXPECT_EQ(list.Style(), before);
+  EXPECT_EQ(list.ItemsSelectCount(), 2);
+  EXPECT_FALSE(list.state().SuppressRedraw);
+  EXPECT_EQ(loadSettings(list, write("list.txt", "GridLine = True\nStyle = 1\n")),
+            QStringList("No property is called GridLine"));
+
+  const auto failure = [&](const QString& file) {
+    try {
+      return loadSettings(list, file).join("");
+    } catch (const QString& message) {
+      return message;
+    }
+  };
+  EXPECT_EQ(failure(write("list.txt", "# a comment\nStyle = 2\nGridLines\n")),
+            "Cannot read " + folder.filePath("list.txt") + ": Invalid file format in line 3");
+  EXPECT_TRUE(failure(folder.filePath("missing")).startsWith("Cannot read "));
 }
 
 }  // namespace
