@@ -8,10 +8,12 @@
 #include <functional>
 
 #include <nvlist/platform/UserControl.h>
+#include <nvlist/platform/qt/QtListBox.h>
+#include <nvlist/platform/qt/QtWindow.h>
 #include <nvlist/platform/qt/place/QtKeys.h>
 #include <nvlist/platform/qt/place/QtTextBox.h>
-#include <nvlist/platform/qt/place/QtTimer.h>
-#include <nvlist/values/Failure.h>
+
+#include "../failureOf.h"
 
 namespace norvane {
 namespace {
@@ -23,25 +25,24 @@ TEST(QtPlaceTest, PacksAMessageOfTheWheel) {
   QWidget widget;
   QtPlace place(widget);
   Control control(place);
-  std::uint32_t first = 0;
-  std::uint32_t second = 0;
-  place.hookWheel([&](std::int32_t wParam, std::int32_t lParam) {
-    first = static_cast<std::uint32_t>(wParam);
-    second = static_cast<std::uint32_t>(lParam);
-  });
+  std::pair<std::int32_t, std::int32_t> message;
+  place.hookWheel([&](std::int32_t wParam, std::int32_t lParam) { message = {wParam, lParam}; });
+  // A position of (258, -2); the buttons and keys are 2 right, 8 Ctrl, 16 middle.
+  const auto packed = [](std::int16_t turn) {
+    return std::pair<std::int32_t, std::int32_t>(turn * 0x10000 + 0x1A, -2 * 0x10000 + 0x102);
+  };
   const auto turn = [&](int delta, int sideways = 0, Qt::KeyboardModifier key = {}) {
     QWheelEvent event({1, 2}, {258, -2}, {}, {sideways, delta}, Qt::MiddleButton | Qt::RightButton,
                       Qt::ControlModifier | key, Qt::NoScrollPhase, false);
     return place.event(&event);
   };
   EXPECT_TRUE(turn(-120));
-  EXPECT_EQ(first, 0xFF88001A);  // 2 right, 8 Ctrl, 16 middle
-  EXPECT_EQ(second, 0xFFFE0102);
+  EXPECT_EQ(message, packed(-120));
   EXPECT_TRUE(turn(100000));
-  EXPECT_EQ(first, 0x7FFF001A);
+  EXPECT_EQ(message, packed(32767));
   // Some systems turn the wheel sideways while Alt is down.
   EXPECT_TRUE(turn(0, -120, Qt::AltModifier));
-  EXPECT_EQ(first, 0xFF88001A);
+  EXPECT_EQ(message, packed(-120));
   EXPECT_FALSE(turn(0, -120));
   place.isDesignMode = true;
   EXPECT_FALSE(turn(-120));
@@ -69,7 +70,7 @@ TEST(QtPlaceTest, YieldsAfterHandlersHaveThrown) {
   EXPECT_EQ(failures, 1);
 }
 
-TEST(QtTextBoxTest, CountsCharactersAndTakesTheFocusOnlyWhereItShows) {
+TEST(QtPlaceTest, ATextBoxCountsCharactersAndTakesTheFocusOnlyWhereItShows) {
   QWidget form;
   QtTextBox box(form, {[](std::int16_t&) {}, [](QEvent::Type) {}, {}});
   const QLineEdit& edit = *form.findChild<QLineEdit*>();
@@ -77,20 +78,42 @@ TEST(QtTextBoxTest, CountsCharactersAndTakesTheFocusOnlyWhereItShows) {
   box.select(2, INT32_MAX);
   EXPECT_EQ(edit.selectedText().toStdString(), "b\U0001F600");
   box.Visible(true);
-  EXPECT_THROW(box.SetFocus(), Failure);
+  EXPECT_EQ(failureOf([&] { box.SetFocus(); }), 5);
 }
 
-TEST(QtTimerTest, BeginsItsIntervalAnewWhenThatIsSet) {
-  int ticks = 0;
-  const auto hasTicked = [&] { return std::exchange(ticks, 0) > 0; };
-  QtTimer timer([&] { ++ticks; });
-  timer.Enabled(true);
-  timer.Interval(1000000);
-  timer.Interval(100);
-  // Turning on a running timer lets it run on.
-  EXPECT_TRUE(QTest::qWaitFor([&] { return timer.Enabled(true), hasTicked(); }));
-  timer.Interval(0);
-  EXPECT_FALSE(QTest::qWaitFor(hasTicked, 150));
+TEST(QtPlaceTest, ListBoxesAndWindowsFailWithoutTheirWidgets) {
+  QWidget form;
+  auto* list = new QListWidget(&form);
+  list->addItem("Zoë");
+  QtListBox box(*list);
+  QtWindow window(form);
+  QtWindow control(*list);
+  box.AddItem(box.List(0) + "Ω");
+  EXPECT_EQ(box.ListCount(), 2);
+  EXPECT_EQ(list->item(1)->text(), "ZoëΩ");
+  EXPECT_EQ(failureOf([&] { box.List(2); }), 381);
+  EXPECT_EQ(control.Container()->hwnd(), handleOf(form));
+  EXPECT_EQ(failureOf([&] { window.Container(); }), 438);
+
+  const std::int32_t gone = handleOf(*list);
+  EXPECT_EQ(widgetOf(gone), list);
+  delete list;
+  EXPECT_EQ(widgetOf(gone), nullptr);
+  EXPECT_EQ(failureOf([&] { box.ListCount(); }), 91);
+  EXPECT_EQ(failureOf([&] { control.hwnd(); }), 91);
+}
+
+TEST(QtPlaceTest, WidgetsAtTheSameAddressHaveDifferentHandles) {
+  alignas(QWidget) std::byte place[sizeof(QWidget)];
+  auto* widget = new (place) QWidget;
+  const std::int32_t first = handleOf(*widget);
+  // From then on its destruction is not reported.
+  widget->disconnect();
+  widget->~QWidget();
+  widget = new (place) QWidget;
+  EXPECT_NE(handleOf(*widget), first);
+  EXPECT_EQ(widgetOf(handleOf(*widget)), widget);
+  widget->~QWidget();
 }
 
 }  // namespace

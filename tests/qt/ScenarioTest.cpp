@@ -1,14 +1,16 @@
 // What users and hosts do to a list widget, as scripts.
 
 #include "../Scenario.h"
-#include "WidgetScript.h"
+#include "WidgetTest.h"
 
 namespace norvane {
 namespace {
 
-class WidgetScenario : public WidgetScript, public testing::WithParamInterface<Scenario> {
+class WidgetScenario : public WidgetTest, public testing::WithParamInterface<Scenario> {
  protected:
-  void check() { EXPECT_EQ(run(GetParam().script), GetParam().expected); }
+  void check(const std::string& setUp) {
+    EXPECT_EQ(run(setUp + GetParam().script), GetParam().expected);
+  }
 };
 
 // clang-format off
@@ -42,7 +44,7 @@ const Scenario ofAList[] = {
    "fill 40; swallowKeys; type a; key Tab; heard; focus", "KeyDown 65 0, KeyUp 65 / other"},
   {"a wheel scrolls by whole notches, and by parts where asked to",
    "fill 40; wheel -30; wheel -30; wheel -30; top; wheel -30; top; wheel -110; wheel 20; top;"
-   "wheel -240; top; fineWheel 1; wheel -120; wheel 0; top; wheel 30; top",
+   "wheel -240; top; passesFineWheel 1; wheel -120; wheel 0; top; wheel 30; top",
    "0 / 1 / 1 / 2 / 3 / 28"},
   {"the edit box composes and undoes",
    "AllowEdit 1; fill 3; edit 2; editing; compose 你好; editing; key Ctrl+Z; editing", "2 / 你好 / 2"},
@@ -50,7 +52,7 @@ const Scenario ofAList[] = {
    "fill 40; on Scroll clear; pressAt 190 25; dragTo 190 60; heard; dragTo 190 70;"
    "releaseAt 190 70; add new; texts", "Scroll / new"},
   {"a button of the bar ends its repeats though the widget is disabled",
-   "fill 40; on Scroll enable 0; pressAt 190 194; releaseAt 190 194; enable 1; rest; rest; rest;"
+   "fill 40; on Scroll enabled 0; pressAt 190 194; releaseAt 190 194; enabled 1; rest; rest; rest;"
    "rest; top", "1"},
   {"a drag scrolls by a real timer", "fill 40; AllowItemMoving 1; press 1; dragTo 60 230; reach 28", ""},
   {"a disabled list has no wheel", "fill 40; scroll 5; Enabled 0; wheel -120; top", "6"},
@@ -66,10 +68,9 @@ const Scenario ofAList[] = {
 /// In both layouts.
 const Scenario ofItsPlaces[] = {
   {"rows and bars",
-   "fill 40; scroll 3; rect 3; rect 14; rect 0; rect 40; readable 3; readable 40; at 30 100;"
-   "at 175 100; at 190 100; at 60 2; at 60 199",
-   "1 3 181x16 / 1 179 181x16 / 1 -45 181x16 / none / 1 3 181x16 / 182 1 17x198 / 9 / 9 / -1 / "
-   "2 / -1"},
+   "fill 40; scroll 3; rect 3; rect 14; rect 0; rect 40; at 30 100; at 175 100; at 190 100; at 60 2;"
+   "at 60 199",
+   "1 3 181x16 / 1 179 181x16 / 1 -45 181x16 / none / 9 / 9 / -1 / 2 / -1"},
   {"clicks on rows, a check box and a button of the bar",
    "fill 40; scroll 3; click 2; state; click 4 175; state; Style 1; click 5 9; checked 8;"
    "click 11 190; top", "5 (5) / 7 (7) / yes / 4"},
@@ -82,7 +83,7 @@ const Scenario ofItsPlaces[] = {
   {"tips of cut texts",
    "resize 100 100; add short; add A text with <b>& more than fits into a row;"
    "add Another text that is long|right=9; add left column|right=right column; add ; tip 0; tip 1;"
-   "tip 2; tip 3; tip 4; tip 5; tips 0; tip 1; tips 1; toolTip the host's; tip 1; toolTip ;"
+   "tip 2; tip 3; tip 4; tip 5; showsCutTexts 0; tip 1; showsCutTexts 1; toolTip the host's; tip 1; toolTip ;"
    "resize 600 100; tip 1",
    "- / A text with &lt;b&gt; more than fits into a row / Another text that is long\t9 / "
    "left column\tright column / - / - / - / the host's / -"},
@@ -90,7 +91,7 @@ const Scenario ofItsPlaces[] = {
    "fill 3; drops; hold 24; mark; dragOff; mark; drop 24; drop 90; drop 1; heard; mark",
    "1 19 198x2 / 1 19 198x2 / - / dropped text 1, dropped text 3, dropped text 0 / -"},
   {"files and texts alone are taken, while the list is enabled",
-   "fill 3; drops; holdColour 24; enable 0; hold 24", "refused / refused"},
+   "fill 3; drops; holdColour 24; enabled 0; hold 24", "refused / refused"},
   {"the list scrolls while something is held at an edge",
    "fill 40; drops; hold 195; hold 100; rest; hold 195; dragOff; rest; top; hold 195; reach 28;"
    "hold 3; reach 0",
@@ -147,8 +148,9 @@ const Scenario withKeys[] = {
    "state; key Shift+Up; state; key Ctrl+A; state; key Ctrl+Space; state; key Down; state",
    "5 (5) / 5 (3 5) / 8 (3 5 6 7 8) / 0 (0 1 2 3) / 2 (2 3) / 1 (1 2 3) / 1 (0 1 2 3 5 6 7 8) / "
    "1 (0 2 3 5 6 7 8) / 2 (2)"},
-  {"Space checks unless a handler refuses",
-   "fill 3; select 1; key Space; checked 1; refuseChecks; key Space; checked 1", "yes / yes"},
+  {"Space checks unless a slot prevents it",
+   "fill 3; hearSignals; select 1; key Space; checked 1; preventChecks 1; key Space; checked 1",
+   "yes / yes"},
   {"F2 edits, Escape gives up and Return writes",
    "AllowEdit 1; fill 30; select 20; key F2; type gone; key Esc; editing; focus; text 20;"
    "select 0; key F2; type first; key Return; text 0; key Down; state",
@@ -180,45 +182,21 @@ const Scenario withKeys[] = {
 };
 // clang-format on
 
-class OfAList : public WidgetScenario {
- protected:
-  OfAList() { hearEvents(); }
-};
-TEST_P(OfAList, GivesItsOutputs) { check(); }
+using OfAList = WidgetScenario;
+TEST_P(OfAList, GivesItsOutputs) { check("hearEvents;"); }
 INSTANTIATE_TEST_SUITE_P(Widget, OfAList, testing::ValuesIn(ofAList), nameOf);
 
-class OfItsPlaces : public WidgetScenario {};
-TEST_P(OfItsPlaces, GivesItsOutputs) { check(); }
+using OfItsPlaces = WidgetScenario;
+TEST_P(OfItsPlaces, GivesItsOutputs) { check(""); }
+TEST_P(OfItsPlaces, GivesThemMirrored) { check("mirror;"); }
 INSTANTIATE_TEST_SUITE_P(Widget, OfItsPlaces, testing::ValuesIn(ofItsPlaces), nameOf);
 
-class OfItsMirroredPlaces : public WidgetScenario {
- protected:
-  OfItsMirroredPlaces() { mirror(); }
-};
-TEST_P(OfItsMirroredPlaces, GivesItsOutputs) { check(); }
-INSTANTIATE_TEST_SUITE_P(Widget, OfItsMirroredPlaces, testing::ValuesIn(ofItsPlaces), nameOf);
-
-class OfItsSignals : public WidgetScenario {
- protected:
-  OfItsSignals() {
-    list().Style(cCheckBoxes);
-    list().MultiSelect(true);
-    fill(20);
-    hearSignals();
-  }
-};
-TEST_P(OfItsSignals, GivesItsOutputs) { check(); }
+using OfItsSignals = WidgetScenario;
+TEST_P(OfItsSignals, GivesItsOutputs) { check("Style 1; MultiSelect 1; fill 20; hearSignals;"); }
 INSTANTIATE_TEST_SUITE_P(Widget, OfItsSignals, testing::ValuesIn(ofItsSignals), nameOf);
 
-class WithKeys : public WidgetScenario {
- protected:
-  WithKeys() {
-    list().Style(cCheckBoxes);
-    run("keys");
-    hearEvents();
-  }
-};
-TEST_P(WithKeys, GivesItsOutputs) { check(); }
+using WithKeys = WidgetScenario;
+TEST_P(WithKeys, GivesItsOutputs) { check("Style 1; keys; hearEvents;"); }
 INSTANTIATE_TEST_SUITE_P(Widget, WithKeys, testing::ValuesIn(withKeys), nameOf);
 
 }  // namespace

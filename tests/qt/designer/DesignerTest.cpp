@@ -45,7 +45,6 @@ TEST(Designer, theLoaderMakesListsAndBars) {
   EXPECT_EQ(list->property("listStyle").toInt(), 1);
   EXPECT_EQ(list->property("colorStyle").toInt(), 2);
   EXPECT_EQ(list->property("scrollColorStyle").toInt(), 2);
-  EXPECT_TRUE(list->property("multiSelect").toBool());
   EXPECT_EQ(list->property("minHeight").toDouble(), 20.5);
   EXPECT_EQ(list->property("foreColor").value<QColor>(), QColor(1, 2, 3));
   EXPECT_EQ(list->font().pointSize(), 15);
@@ -62,19 +61,15 @@ TEST(Designer, showsAPreviewOfTheListAndAnIcon) {
   for (QDesignerCustomWidgetInterface* entry : collection->customWidgets()) {
     EXPECT_FALSE(entry->icon().isNull());
     EXPECT_TRUE(entry->domXml().contains(entry->name()));
-    const auto inkOf = [&] {
+    const auto picture = [&] {
       const std::unique_ptr<QWidget> widget(entry->createWidget(nullptr));
       EXPECT_EQ(widget->metaObject()->className(), entry->name());
       widget->setObjectName("preview");
-      const QImage image = widget->grab().toImage();
-      int ink = 0;
-      for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x) ink += image.pixelColor(x, y) == Qt::black;
-      return ink;
+      return widget->grab().toImage();
     };
-    const int running = inkOf();
+    const QImage running = picture();
     entry->initialize(nullptr);
-    if (entry->name().contains("List")) EXPECT_GT(inkOf(), running);
+    EXPECT_EQ(picture() != running, entry->name().contains("List"));
   }
 }
 
