@@ -90,6 +90,18 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     else if (verb == "select") each([&](auto& index) { list.ItemSelected(index, true); });
     else if (verb == "deselect") each([&](auto& index) { list.ItemSelected(index, false); });
     else if (verb == "setText") list.ItemText(value(0), value(1).toText());
+    else if (verb == "setBold") list.ItemBold(value(0), value(1).toBoolean());
+    else if (verb == "setItalic") list.ItemItalic(value(0), value(1).toBoolean());
+    else if (verb == "setUnderline") list.ItemUnderline(value(0), value(1).toBoolean());
+    else if (verb == "setAlignment") list.ItemAlignment(value(0), static_cast<cItemAlignment>(number(1)));
+    else if (verb == "setForeColor") list.ItemForeColor(value(0), number(1));
+    else if (verb == "setBackColor") list.ItemBackColor(value(0), number(1));
+    else if (verb == "setSelectColors")
+      list.ItemForeColorSelect(value(0), value(1)), list.ItemBackColorSelect(value(0), value(2));
+    else if (verb == "setDisabledColor") list.ItemBackColorDis(value(0), value(1));
+    else if (verb == "setIcons")
+      list.ItemIcon(value(0), makeRef<NamedPicture>(words.at(1))),
+          list.ItemIconSelected(value(0), makeRef<NamedPicture>(words.at(2)));
     else if (verb == "edit") list.SetEdit(value(0));
     else if (verb == "up") list.MoveItemUp(value(0), value(1));
     else if (verb == "down") list.MoveItemDown(value(0), value(1));
@@ -136,7 +148,7 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     else if (verb == "newButton") newButton = code;
     else if (verb == "newKeyCode") newKeyCode = code;
     // Outputs. `ticks` counts the repaints in the next milliseconds; `face` and `picture` take the
-    // beginning of the lines they output.
+    // possible beginnings of the lines they output; `seen` outputs what a repaint shows.
     else if (verb == "forget") heard();
     else if (verb == "events") return heard();
     else if (verb == "now") return now();
@@ -176,6 +188,8 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
       heard(), form.clock().advance(std::chrono::milliseconds(code));
       return std::to_string(std::ranges::count(heard(), '*'));
     } else if (verb == "face") return lines(headless.face(), rest);
+    else if (verb == "seen")
+      return lines(headless.face(), "Line|PaintPicture|DrawTextA|DrawFocusRect|ForeColor");
     else if (verb == "picture") return lines(headless.picture(), rest);
     else ADD_FAILURE() << "no verb " << verb;
     // clang-format on
@@ -245,10 +259,13 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
            textOf(bar.Left()) + " " + textOf(bar.Top()) + " " + textOf(bar.Width()) + "x" +
            textOf(bar.Height()) + ")";
   }
-  static std::string lines(const std::string& recording, const std::string& beginning) {
+  /// The lines that begin with one of several texts, which are separated by bars.
+  static std::string lines(const std::string& recording, const std::string& beginnings) {
     std::string result;
     forEachLine(recording, [&](std::string_view line) {
-      if (line.starts_with(beginning)) result += (result.empty() ? "" : ", ") + std::string(line);
+      std::istringstream each(beginnings);
+      for (std::string text; std::getline(each, text, '|');)
+        if (line.starts_with(text)) result += (result.empty() ? "" : ", ") + std::string(line);
       return true;
     });
     return "<" + result + ">";

@@ -24,12 +24,13 @@ inline std::string rowsOf(const RecordingSurface& surface) {
 
 /// A picture without pixels, with a description.
 struct NamedPicture final : PictureObject {
-  explicit NamedPicture(const char* text, std::uintptr_t any = 1) : name(text), number(any) {}
+  explicit NamedPicture(std::string text, std::uintptr_t any = 1)
+      : name(std::move(text)), number(any) {}
   std::uintptr_t handle() const override { return number; }
   float width() const override { return 32; }
   float height() const override { return 24; }
   std::string description() const override { return name; }
-  const char* name;
+  const std::string name;
   std::uintptr_t number;
 };
 

@@ -9,6 +9,7 @@
 
 #include <nvlist/scroll/nvHScroll.h>
 #include <nvlist/scroll/nvVScroll.h>
+#include <nvlist/values/text.h>
 
 namespace norvane {
 namespace scroll {
@@ -61,17 +62,24 @@ class BarTest : public ListTest, public nvVScrollEvents, public nvHScrollEvents 
     return outputs;
   }
 
-  static std::string drawn(HeadlessContainer& place) { return place.ownSurface().image().text(); }
+ private:
   /// The name of the last picture of a surface.
   static std::string picture(HeadlessContainer& place) {
-    const std::string calls = drawn(place);
+    const std::string calls = place.ownSurface().image().text();
     const std::size_t name = calls.rfind(" \"") + 2;
     return calls.substr(name, calls.find('"', name) - name);
   }
-
- private:
+  static std::string calls(HeadlessContainer& place, int first) {
+    std::string result;
+    forEachLine(place.ownSurface().image().text(), [&](std::string_view line) {
+      if (first-- <= 0 && !line.empty()) result.append(result.empty() ? "" : ", ").append(line);
+      return true;
+    });
+    return "<" + result + ">";
+  }
   /// The mouse takes a position along, a position across and buttons, all else one number. Events
-  /// are output with the value, and times in milliseconds since their last output.
+  /// are output with the value, times in milliseconds since their last output, and what is drawn
+  /// from a call on.
   std::string perform(const std::string& verb, double a, double b, double c) {
     const auto x = static_cast<float>(either(b, a));
     const auto y = static_cast<float>(either(a, b));
@@ -112,6 +120,13 @@ class BarTest : public ListTest, public nvVScrollEvents, public nvHScrollEvents 
     else if (verb == "near") output << picture(nearButton).substr(7);
     else if (verb == "far") output << picture(farButton).substr(7);
     else if (verb == "body") output << picture(thumb).substr(picture(thumb).find("thumb"));
+    else if (verb == "draw") output << calls(place, whole);
+    else if (verb == "drawThumb") output << calls(thumb, whole);
+    else if (verb == "drawNear") output << calls(nearButton, whole);
+    else if (verb == "drawFar") output << calls(farButton, whole);
+    else if (verb == "forget") place.ownSurface().forget();
+    else if (verb == "colours") output << background(place) << ' ' << background(thumb) << ' '
+        << background(nearButton);
     else if (verb == "frames") output << thumb.ownSurface().frames();
     else if (verb == "capture") output << thumb.hasCapture() << farButton.hasCapture();
     else if (verb != "press") ADD_FAILURE() << "no verb " << verb;

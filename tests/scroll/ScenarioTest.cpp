@@ -110,6 +110,53 @@ const Scenario scenarios[] = {
   {"DisabledBarsHaveNoThumbAndIgnoreTheMouse",
    "enable 0; visible; click 50; click 150; click 190; events; enable 1; visible",
    "hidden | <> | shown"},
+  {"ATrackPressDarkensTheSideOfThePress",
+   "press 150; draw 1; release; draw; value 100; press 30; draw 2; release; gradient 0; press 150; draw;"
+   "colours; release; gradient 1; enable 0; draw; enable 1; forget; paint; draw 1",
+   "<StretchDIBits 17x1 (0, 0)-(17, 200) #F3F1EC..#FDFDFA, "
+   "StretchDIBits 17x1 (0, 84)-(17, 200) #E3DED3..#FCFCF9> | "
+   "<Cls, StretchDIBits 17x1 (0, 0)-(17, 200) #F3F1EC..#FDFDFA> | "
+   "<StretchDIBits 17x1 (0, 17)-(17, 116) #E3DED3..#FCFCF9> | <Cls> | 16777215 16777215 16777215 | "
+   "<Cls> | <StretchDIBits 17x1 (0, 0)-(17, 200) #F3F1EC..#FDFDFA>",
+   "<StretchDIBits 4x17 (0, 0)-(200, 17) #FEFEFB..#F3F1EC, "
+   "StretchDIBits 4x17 (84, 0)-(200, 17) #FEFEFB..#E3DED4> | "
+   "<Cls, StretchDIBits 4x17 (0, 0)-(200, 17) #FEFEFB..#F3F1EC> | "
+   "<StretchDIBits 4x17 (17, 0)-(116, 17) #FEFEFB..#E3DED4> | <Cls> | 16777215 16777215 16777215 | "
+   "<Cls> | <StretchDIBits 4x17 (0, 0)-(200, 17) #FEFEFB..#F3F1EC>"},
+  {"TheThumbHasEdgesAndAGrip",
+   "max 146; drawThumb; style 2; drawThumb 3; style 0; max 153; body; max 152; body",
+   R"(<Cls, PaintPicture 13x14 "vertical thumb 3" at (1, 0) as 14x299, Line 22 (0, 0)-(15, 18) #FFFFFF, )"
+   "Line 6 (2, 19)-(15, 19) #7C9FD3, PSet (0, 19) #EEEDE5, PSet (0, 18) #9AB5DC, PSet (1, 19) #9AB5DC, "
+   R"(PSet (15, 19) #EEEDE5, PSet (15, 18) #9AB5DC, PaintPicture 7x8 "vertical thumb 6" at (4.5, 6)> | )"
+   "<Line 6 (2, 19)-(15, 19) #829061, PSet (0, 19) #EEEDE5, PSet (0, 18) #8F9975, PSet (1, 19) #8F9975, "
+   R"(PSet (15, 19) #EEEDE5, PSet (15, 18) #8F9975, PaintPicture 7x8 "vertical thumb 18" at (4.5, 6)>)"
+   " | thumb 3 | thumb 6",
+   R"(<Cls, PaintPicture 14x13 "horizontal thumb 3" at (1, 0) as 18x239, Line 22 (0, 0)-(18, 14) #FFFFFF, )"
+   "Line 6 (2, 15)-(19, 15) #7C9FD3, PSet (0, 15) #EEEDE5, PSet (0, 14) #9AB5DC, PSet (1, 15) #9AB5DC, "
+   R"(PSet (19, 15) #EEEDE5, PSet (19, 14) #9AB5DC, PaintPicture 8x7 "horizontal thumb 6" at (6, 4.5)> | )"
+   "<Line 6 (2, 15)-(19, 15) #829061, PSet (0, 15) #EEEDE5, PSet (0, 14) #8F9975, PSet (1, 15) #8F9975, "
+   R"(PSet (19, 15) #EEEDE5, PSet (19, 14) #8F9975, PaintPicture 8x7 "horizontal thumb 18" at (6, 4.5)>)"
+   " | thumb 3 | thumb 6"},
+  {"ASilverThumbHasAnOutlineThatChangesUnderThePointer",
+   "max 153; style 1; drawThumb 9; hover 20; drawThumb 9",
+   "<Line 6 (0, 1)-(0, 11) #9495A2, Line 6 (15, 1)-(15, 11) #9495A2, PSet (1, 0) #9495A2, "
+   "PSet (15, 0) #9495A2, Line 6 (14, 2)-(14, 10) #FFFFFF, Line 6 (1, 0)-(14, 0) #B7B7BF, "
+   "Line 6 (1, 11)-(14, 11) #D0D1DF> | <Line 6 (0, 1)-(0, 11) #5B6665, "
+   "Line 6 (15, 1)-(15, 11) #5B6665, Line 6 (2, 12)-(15, 12) #5B6665, Line 6 (1, 0)-(14, 0) #5B6665, "
+   "Line 6 (1, 11)-(14, 11) #D0D1DF>",
+   "<Line 6 (0, 1)-(0, 14) #9495A2, Line 6 (12, 1)-(12, 14) #9495A2, PSet (1, 0) #9495A2, "
+   "PSet (12, 0) #9495A2, Line 6 (11, 2)-(11, 13) #FFFFFF, Line 6 (1, 0)-(11, 0) #B7B7BF, "
+   "Line 6 (1, 14)-(11, 14) #D0D1DF> | <Line 6 (0, 1)-(0, 14) #5B6665, "
+   "Line 6 (12, 1)-(12, 14) #5B6665, Line 6 (2, 15)-(12, 15) #5B6665, Line 6 (1, 0)-(11, 0) #5B6665, "
+   "Line 6 (1, 14)-(11, 14) #D0D1DF>"},
+  {"AStyleWithoutPicturesLeavesThePartsUnpainted",
+   "style 7; reports; drawThumb; draw 1; style -1; reports; press 190; events; release; style 0;"
+   "style 1073741824; drawThumb 9",
+   "<340 RedrawScroll, 340 C, 340 C> | <Cls> | <StretchDIBits 17x1 (0, 0)-(17, 200) #F3F1EC..#FDFDFA>"
+   " | <340 RedrawScroll, 340 C, 340 C> | <> | <PaintPicture 7x8 \"vertical thumb 6\" at (4.5, 29)>",
+   "<340 RedrawScroll, 340 PaintState, 340 PaintState> | <Cls> | "
+   "<StretchDIBits 4x17 (0, 0)-(200, 17) #FEFEFB..#F3F1EC> | "
+   "<340 RedrawScroll, 340 PaintState, 340 PaintState> | <Change 1> | <>"},
 };
 // clang-format on
 
@@ -162,6 +209,37 @@ TEST_P(Bars, PropertiesAreStored) {
   // The minimum is compared with the old maximum, as the new one is read after it.
   bar.UserControl_ReadProperties(propertiesOf("Min = 8\nMax = 20\n"));
   EXPECT_EQ(run("range"), "2..20");
+}
+
+/// The other bar has no pictures in that style.
+struct HorizontalBar : BarTest {
+  HorizontalBar() : BarTest(Axis::horizontal) {}
+};
+
+TEST_F(HorizontalBar, HasACustomStyle) {
+  auto& horizontal = static_cast<nvHScroll&>(bar);
+  horizontal.SetNewProperty(propertiesOf(
+      "ScrollBar = 1\nScrollBarHover = 2\nScrollBarDown = 3\nScrollButtons = 4\n"
+      "ScrollButtonsHover = 5\nScrollButtonsDown = 6\nScrollArrows = 7\nScrollArrowsHover = 8\n"
+      "ScrollArrowsDown = 9\nScrollBackColor = 10"));
+  EXPECT_EQ(
+      run("style 99; press 150; draw; release; hover 50; drawThumb; colours; drawNear 7; press 50;"
+          "colours; move 50 60; release 50 60; colours; hover 3 3; colours; drawNear 7; press 3 3;"
+          "colours; drawNear; drawFar 8"),
+      "<Cls> | <Cls> | 10 2 4 | <Line 6 (6, 9)-(10, 13) #070000, Line 6 (8, 9)-(11, 12) #070000> "
+      "| 10 3 4 | 10 1 4 | 10 1 5 | <Line 6 (6, 9)-(10, 13) #080000, "
+      "Line 6 (8, 9)-(11, 12) #080000> | 10 1 6 | <Cls, ForeColor #090000, "
+      "Line 6 (9, 4)-(5, 8) #090000, Line 6 (9, 5)-(5, 9) #090000, "
+      "Line 6 (10, 5)-(5, 10) #090000, PSet (5, 8) #090000, Line 6 (5, 8)-(11, 12) #090000, "
+      "Line 6 (6, 9)-(10, 13) #090000, Line 6 (8, 9)-(11, 12) #090000> | "
+      "<Line 6 (10, 9)-(6, 13) #070000>");
+  // Colours read before an invalid value are kept; an empty store gives the defaults.
+  horizontal.SetNewProperty(propertiesOf("ScrollBarDown = red\nScrollBackColor = 11"));
+  EXPECT_EQ(run("reports"), "<13 SetNewProperty>");
+  EXPECT_EQ(horizontal.BackColor(), 11);
+  horizontal.SetNewProperty(PropertyBag());
+  EXPECT_EQ(horizontal.BackColor(), colours::white);
+  EXPECT_EQ(background(thumb), systemColour(15));
 }
 
 }  // namespace
