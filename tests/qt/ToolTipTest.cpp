@@ -133,19 +133,18 @@ TEST_F(ToolTips, ReplaceThoseOfCutTexts) {
 
 TEST_F(ToolTips, OutliveTheirForm) {
   auto window = std::make_unique<QWidget>();
-  auto* const inside = new QWidget(window.get());
+  auto& inside = *new QWidget(window.get());
   window->setGeometry(500, 100, 100, 100);
   window->show();
   EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
   nvToolTip ofWindow;
   ofWindow.Create(QtWindow::of(*window));
-  ofWindow.AddTool(QtWindow::of(*inside), "inside");
-  moveOver(*inside);
+  ofWindow.AddTool(QtWindow::of(inside), "inside");
+  moveOver(inside);
   expect("inside");
   window.reset();
   EXPECT_EQ(shown(), "-");
   ofWindow.ForeColor(0);
-  ofWindow.MaxTipWidth(10);
 }
 
 TEST_F(ToolTips, StayOnTheirScreenAndBreakLinesAtTheirWidth) {
