@@ -173,16 +173,15 @@ TEST_F(Persistence, AValueThatDoesNotFitEndsTheReading) {
 }
 
 TEST_F(Persistence, ReadingForgetsTheHandAndTheFormsLaterFont) {
+  HeadlessContainer& form = headless.container();
   list.AllowItemMoving(true);
   add({"a", "b"});
-  headless.container().press(50, 10);
-  headless.container().moveTo(50, 20, 1);
+  form.press(50, 10), form.moveTo(50, 20, 1);
   list.UserControl_ReadProperties(PropertyBag());
   EXPECT_EQ(list.state().SelectAnchor, -1);
   EXPECT_EQ(list.state().HoverIndex, -1);
-  auto font = makeRef<FontObject>();
-  font->Size = 20;
-  headless.container().ambientFont = font;
+  form.ambientFont = makeRef<FontObject>();
+  form.ambientFont->Size = 20;
   EXPECT_EQ(stored(), "");
 }
 

@@ -5,11 +5,10 @@
 #include <csignal>
 #endif
 
-#include "../Lists.h"
+#include "FileTest.h"
 #include "Folder.h"
 
 #include <nvlist/files/fileExists.h>
-#include <nvlist/platform/Files.h>
 
 namespace norvane {
 namespace {
@@ -17,18 +16,9 @@ namespace {
 namespace fs = std::filesystem;
 
 /// Real files in a temporary folder.
-class Disk : public ListTest, protected __nvList {
+class Disk : public FileTest {
  protected:
-  Disk() {
-    fs::create_directory(folder / "folder");
-    list.addSink(*this);
-  }
-  ~Disk() override { list.removeSink(*this); }
-  void ErrorListSave() override { ++failures; }
-  void ErrorListInput() override { ++failures; }
-  void ListSaving(Variant&) override {
-    std::exchange(onSaving, [] {})();
-  }
+  Disk() { fs::create_directory(folder / "folder"); }
 
   std::string at(const std::string& name) { return folder.at(name); }
   std::string contents(const std::string& name) { return folder.bytes(name); }
@@ -41,16 +31,13 @@ class Disk : public ListTest, protected __nvList {
   bool save(const std::string& path) {
     list.ItemsClear();
     list.ItemsAdd("a");
-    const int before = failures;
     list.ListSave(path);
-    return failures == before;
+    return heardNow().find("save!") == std::string::npos;
   }
-  const std::string saved = std::string("\0\0\0\0\0\x11\x01\1\0\0\0a", 12);
+  std::string heardNow() { return std::exchange(heard, ""); }
+  const std::string saved = header(0, false) + text("a");
 
   Files files;
-  int failures = 0;
-  /// Runs once.
-  std::function<void()> onSaving = [] {};
   Folder folder;
 };
 
@@ -72,8 +59,7 @@ TEST_F(Disk, FindsFilesByWildcardsAndHoldsTheList) {
   list.ListSave(at("\u00fc.nvl"), true);
   list.ItemsClear();
   list.ListInput(at("\u00fc.nvl"), true);
-  EXPECT_EQ(texts(), "a \u00e4");
-  EXPECT_EQ(failures, 0);
+  EXPECT_EQ(texts() + heardNow(), "a \u00e40 1 ");
 }
 
 TEST_F(Disk, RefusesWhatIsNoFile) {
@@ -84,9 +70,8 @@ TEST_F(Disk, RefusesWhatIsNoFile) {
       EXPECT_FALSE(save(path)) << path;
     EXPECT_EQ(contents("old"), "old contents");
   }
-  failures = 0;
   for (const std::string& path : {at("folder"), at("fold*")}) list.ListInput(path);
-  EXPECT_EQ(failures, 2);
+  EXPECT_EQ(heardNow(), "input! input! ");
 }
 
 #ifndef _WIN32
@@ -124,10 +109,8 @@ TEST_F(Disk, KeepsWhatAFileIs) {
     // A pipe without a reader would block, and a device would be read endlessly.
     ASSERT_EQ(mkfifo(at("pipe").c_str(), 0600), 0);
     EXPECT_FALSE(save(at("pipe")));
-    failures = 0;
-    list.ListInput(at("pipe"));
-    list.ListInput(at("device"));
-    EXPECT_EQ(failures, 2);
+    for (const char* endless : {"pipe", "device"}) list.ListInput(at(endless));
+    EXPECT_EQ(heardNow(), "input! input! ");
     for (const char* name : {"link", "dangling", "device", "second name", "pipe", "read only"})
       fs::remove(at(name));
   }
@@ -145,14 +128,17 @@ TEST_F(Disk, ASaveIsNotDisturbedAndLeavesNothingBehind) {
   for (const bool isBeside : {false, true}) {
     files.savesBeside(isBeside);
     oldFile();
-    onSaving = [] { raise(SIGKILL); };
+    onProgress = [](Variant&) { raise(SIGKILL); };
     EXPECT_TRUE(WIFSIGNALED(saveInAChild()));
     EXPECT_EQ(contents("old"), isBeside ? "old contents" : "");
-    onSaving = [] { throw 1; };
+    onProgress = [](Variant&) { throw 1; };
     EXPECT_FALSE(save(at("old")));
     EXPECT_EQ(contents("old") == "old contents", isBeside);
-    onSaving = [&] { EXPECT_EQ(WEXITSTATUS(saveInAChild()), 2) << "not locked"; };
+    onProgress = [&, isParent = true](Variant&) mutable {
+      if (std::exchange(isParent, false)) EXPECT_EQ(WEXITSTATUS(saveInAChild()), 2) << "not locked";
+    };
     EXPECT_TRUE(save(at("old")));
+    onProgress = nullptr;
     EXPECT_EQ(contents("old"), saved);
     EXPECT_FALSE(fs::exists(at("old.nvlist-new")));
     EXPECT_TRUE(save(at("old")));

@@ -75,17 +75,14 @@ TEST_F(ImageInput, LetsTheHostInBetweenTheItems) {
 }
 
 TEST_F(ImageInput, RaisesTheEventOnTheWay) {
-  const struct {
-    std::string properties;
-    std::string heard;
-    int count;
-  } cases[] = {{number("count", 0), "", 2},
-               {number("count", -2), "input! ", 2},
-               {number("count", 4097), "input! ", 2},
-               {words("count", "some"), "input! ", 0},
-               {number("count", 3) + picture("i1Text", "no text"), "0 input! ", 3},
-               {full + picture("i1Icon", ""), "0 input! ", 2},
-               {full + words("i1ForeColorDis", "def"), "0 input! ", 2}};
+  const std::tuple<std::string, const char*, int> cases[] = {
+      {number("count", 0), "", 2},
+      {number("count", -2), "input! ", 2},
+      {number("count", 4097), "input! ", 2},
+      {words("count", "some"), "input! ", 0},
+      {number("count", 3) + picture("i1Text", "no text"), "0 input! ", 3},
+      {full + picture("i1Icon", ""), "0 input! ", 2},
+      {full + words("i1ForeColorDis", "def"), "0 input! ", 2}};
   for (const auto& [properties, expected, count] : cases) {
     list.ItemsClear();
     add({"old", "older"});

@@ -13,18 +13,14 @@ TEST_F(ListInput, ReadsEveryVersion) {
   const std::string old = "12345678901    2ab", ab = text("ab"), properties = fields() + noIcons,
                     all = fields() + flagsAndKeys("k", "t") + noIcons;
   const std::string some = "|1100000 1 10 11 12 13 14 15||";
-  const struct {
-    int version;
-    bool hasProperties;
-    std::string record;
-    std::string told;
-  } cases[] = {{-1, false, "", ordinaryItem("")},
-               {269, true, properties, some},
-               {270, false, old, ordinaryItem("ab")},
-               {270, true, old + properties, "ab" + some},
-               {271, true, ab + properties, "ab" + some},
-               {273, false, ab, ordinaryItem("ab")},
-               {273, true, ab + all, "ab|1101101 1 10 11 12 13 14 15|k|t"}};
+  const std::tuple<int, bool, std::string, std::string> cases[] = {
+      {-1, false, "", ordinaryItem("")},
+      {269, true, properties, some},
+      {270, false, old, ordinaryItem("ab")},
+      {270, true, old + properties, "ab" + some},
+      {271, true, ab + properties, "ab" + some},
+      {273, false, ab, ordinaryItem("ab")},
+      {273, true, ab + all, "ab|1101101 1 10 11 12 13 14 15|k|t"}};
   for (const auto& [version, hasProperties, record, expected] : cases) {
     input(header(1, hasProperties, version) + record + record);
     EXPECT_EQ(events(), "") << version;

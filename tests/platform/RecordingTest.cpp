@@ -25,24 +25,14 @@ TEST(Recording, KeepsEveryCallAndReplaysIt) {
   surface.DrawFocusRect(surface.hDC(), {1, 2, 3, 4});
   surface.StretchDIBits(surface.hDC(), {0, 0, 9, 4}, {1, 2, {0xFF, 0x80, 0, 0xEE, 1, 2, 3, 0xEE}});
   surface.Print("a \"b\"");
-  EXPECT_EQ(surface.image().text(),
-            "Cls\n"
-            "Line 6 (0, 1.5)-(10, 1.5) system 17\n"
-            "Line 22 (0, 0)-(4, 4) #FF0000\n"
-            "PaintPicture 32x24 \"flag\" at (1, 2)\n"
-            "PaintPicture 32x24 \"flag\" at (1, 2) as 16x16\n"
-            "CurrentX 7\n"
-            "CurrentY 8\n"
-            "BackColor #0000FF\n"
-            "ForeColor #00FF00\n"
-            "Font \"Tahoma\" 8.25\n"
-            "FontBold on\n"
-            "FontItalic on\n"
-            "FontUnderline off\n"
-            "DrawTextA \"cut\" (1, 2)-(3, 4) 2\n"
-            "DrawFocusRect (1, 2)-(3, 4)\n"
-            "StretchDIBits 1x2 (0, 0)-(9, 4) #0080FF..#030201\n"
-            "Print \"a \\\"b\\\"\"\n");
+  EXPECT_EQ(
+      surface.image().text(),
+      "Cls\nLine 6 (0, 1.5)-(10, 1.5) system 17\nLine 22 (0, 0)-(4, 4) #FF0000\n"
+      "PaintPicture 32x24 \"flag\" at (1, 2)\nPaintPicture 32x24 \"flag\" at (1, 2) as 16x16\n"
+      "CurrentX 7\nCurrentY 8\nBackColor #0000FF\nForeColor #00FF00\nFont \"Tahoma\" 8.25\n"
+      "FontBold on\nFontItalic on\nFontUnderline off\nDrawTextA \"cut\" (1, 2)-(3, 4) 2\n"
+      "DrawFocusRect (1, 2)-(3, 4)\nStretchDIBits 1x2 (0, 0)-(9, 4) #0080FF..#030201\n"
+      "Print \"a \\\"b\\\"\"\n");
   EXPECT_EQ(surface.CurrentX(), 0);
   EXPECT_EQ(surface.CurrentY(), 21);
 
@@ -72,11 +62,11 @@ TEST(Recording, AnImageBeginsWithTheSettingsOfItsTime) {
 
 TEST(Recording, MeasuresTextsByCharacters) {
   RecordingSurface surface(20, 20);
-  EXPECT_EQ(surface.TextWidth(""), 0);
-  EXPECT_EQ(surface.TextHeight(""), 13);
-  EXPECT_EQ(surface.TextWidth("\u00e4\xff"), 14);
-  EXPECT_EQ(surface.TextWidth("ab\r\nabcd\rx\n"), 28);
-  EXPECT_EQ(surface.TextHeight("ab\r\nabcd\rx\n"), 52);
+  for (const auto& [text, width, height] :
+       {std::tuple("", 0, 13), {"\u00e4\xff", 14, 13}, {"ab\r\nabcd\rx\n", 28, 52}}) {
+    EXPECT_EQ(surface.TextWidth(text), width) << text;
+    EXPECT_EQ(surface.TextHeight(text), height) << text;
+  }
   surface.FontBold(true);
   EXPECT_EQ(surface.TextWidth("ab"), 16);
   surface.fontMeasure({1, 2, 3});

@@ -1,8 +1,6 @@
 #include "../ListScript.h"
 
 #include <cmath>
-#include <functional>
-#include <limits>
 #include <stdexcept>
 
 namespace norvane {

@@ -51,6 +51,11 @@ const Scenario scenarios[] = {
    "Line 6 (0, 29)-(200, 29) #FF0000, Line 6 (0, 29)-(200, 29) #FF0000> / "
    "<Line 6 (0, 16)-(200, 16) #FF0000, Line 6 (0, 16)-(200, 16) #FF0000, "
    "Line 6 (0, 29)-(200, 29) #FF0000, Line 6 (0, 29)-(200, 29) #FF0000> / <>"},
+  {"a text in two columns",
+   "clear; add 'Wörter|RIGHT=12|right=3&' '|right=' 'none|right'; face DrawTextA",
+   R"(<DrawTextA "Wörter" (3, 3)-(200, 133) 64, DrawTextA "12|right=3&" (3, 3)-(197, 133) 2, )"
+   R"(DrawTextA "" (3, 16)-(200, 133) 64, DrawTextA "" (3, 16)-(197, 133) 2, )"
+   R"(DrawTextA "none|right" (3, 29)-(200, 133) 64>)"},
   // The content is 284 pixels wide with the padding, plus the width of the vertical bar. The right
   // text is at 301 - 17 - 10 - 14 - 3, the one in the middle at (301 - 17 - 14) / 2 - 10.
   {"bars take their width and a scroll its distance, but not from the selection",
@@ -97,19 +102,6 @@ TEST_F(Rows, ASelectedRowWithPicturesCallByCall) {
             "CurrentX 37\n");
   list.UserControl_LostFocus();
   EXPECT_FALSE(shows("DrawFocusRect"));
-}
-
-TEST_F(Rows, TextsInTwoColumns) {
-  for (const auto& [text, drawn] :
-       {std::pair("Wörter|RIGHT=12|right=3\t&",
-                  "DrawTextA \"Wörter\" (3, 3)-(200, 100) 64\n"
-                  "DrawTextA \"12|right=3\\x09&\" (3, 3)-(197, 100) 2\n"),
-        {"|right=", "DrawTextA \"\" (3, 3)-(200, 100) 64\nDrawTextA \"\" (3, 3)-(197, 100) 2\n"},
-        {"none|right", "DrawTextA \"none|right\" (3, 3)-(200, 100) 64\n"}}) {
-    list.ItemsClear();
-    list.ItemsAdd(text);
-    EXPECT_TRUE(shows(std::string("FontUnderline off\n") + drawn + "CurrentY")) << headless.face();
-  }
 }
 
 TEST_F(Rows, PicturesThatAreNoneAreSkipped) {
