@@ -1,4 +1,4 @@
-#include "../ListScript.h"
+#include "../HearingList.h"
 
 #include <cmath>
 #include <stdexcept>
@@ -6,46 +6,7 @@
 namespace norvane {
 namespace {
 
-// clang-format off
-const Scenario scenarios[] = {
-  {"whole rows only",
-   "resize 200 29; visible; resize 200 28; rows; visible; resize 200 15; rows; visible",
-   "2 / <0@3> / 1 / <> / 0"},
-  {"row heights are rounded for counting only",
-   "fill 3; MinHeight 16.5; rows; visible; MinHeight 17.5; visible", "<0@5 1@21 2@38> / 8 / 7"},
-  {"the top index keeps the last row in the window",
-   "resize 200 55; fill 40; setTop 5; rows; setTop 1000; bar; setTop -4; top; setTop 2147483647;"
-   "reports", "<5@3 6@16 7@29 8@42> / 36 / 0 / 6 TopIndex"},
-  {"a short list may have a negative top index and is still shown",
-   "resize 200 100; fill 2; setTop 0; top; rows", "-5 / <0@3 1@16>"},
-  {"the top index of a list that has grown is repaired",
-   "fill 2; setTop 0; redraw; top; many 38; redraw; top; setIndex 3; top", "-8 / 0 / 0"},
-  {"a top index past the end is repaired",
-   "fill 40; setTop 30; AutoRedraw 0; removeFirst 38; AutoRedraw 1; rows; top",
-   "<38@3 39@16> / 0"},
-  {"a new size is fitted and painted twice and measures nothing",
-   "fill 20; add '0'; width; forget; resize 200 100; events; width; range", "22 / ** / 22 / 14"},
-};
-// clang-format on
-
-using RedrawScenarios = ListScript;
-TEST_P(RedrawScenarios, GiveTheirOutputs) { check(); }
-INSTANTIATE_TEST_SUITE_P(Render, RedrawScenarios, testing::ValuesIn(scenarios), nameOf);
-
 using Redraw = ListTest;
-
-TEST_F(Redraw, RowsAboveTheSurfaceArePassedOver) {
-  list.AutoRedraw(false);
-  for (int i = 0; i < 10'000; ++i) list.ItemsAdd(i);
-  list.IndentTop(-130 * 13);
-  list.Redraw();
-  EXPECT_EQ(rowsOf(headless.surface()).substr(0, 30), "128@-26 129@-13 130@0 131@13 1");
-  EXPECT_EQ(list.state().LoopIndex, 137);
-  list.IndentTop(-1e9F);
-  list.Redraw();
-  EXPECT_LT(headless.surface().image().calls.size(), 50U);
-  EXPECT_EQ(list.state().LoopIndex, 10'000);
-}
 
 TEST_F(Redraw, RowsWithoutHeightShowNothingAndEnd) {
   add({"a", "b"});
@@ -149,6 +110,78 @@ TEST_F(Redraw, ADesignerShowsASampleRowWithTheName) {
             "PaintPicture 32x32 \"sample icon\" at (19, 1.5) as 16x16\n"
             "CurrentX 37\n" +
                 name);
+}
+
+using Rows = ListTest;
+
+TEST_F(Rows, ASelectedRowWithPicturesCallByCall) {
+  list.Style(cCheckBoxesIcons);
+  list.ShowFocusRect(true);
+  list.UserControl_GotFocus();
+  list.ItemsAdd({.aText = "ab", .aIcon = makeRef<NamedPicture>("flag")});
+  list.ItemSelected(0, true);
+  EXPECT_EQ(headless.face(),
+            "Cls\n"
+            "CurrentY 3\n"
+            "CurrentX 37\n"
+            "Line 38 (37, 3)-(200, 16) #316AC5\n"
+            "DrawFocusRect (21, 3)-(200, 16)\n"
+            "Line 38 (0, 3)-(37, 16) #316AC5\n"
+            "CurrentY 3\n"
+            "CurrentY 3\n"
+            "CurrentX 37\n"
+            "PaintPicture 13x13 \"check box\" at (3, 3)\n"
+            "PaintPicture 32x24 \"flag\" at (19, 1.5) as 16x16\n"
+            "ForeColor #FFFFFF\n"
+            "FontBold off\n"
+            "FontItalic off\n"
+            "FontUnderline off\n"
+            "DrawTextA \"ab\" (37, 3)-(200, 100) 64\n"
+            "CurrentY 16\n"
+            "CurrentX 37\n");
+  list.UserControl_LostFocus();
+  EXPECT_FALSE(shows("DrawFocusRect"));
+}
+
+TEST_F(Rows, PicturesThatAreNoneAreSkipped) {
+  struct Broken final : PictureObject {
+    std::uintptr_t handle() const override { throw std::runtime_error("no handle"); }
+    float width() const override { return 1; }
+    float height() const override { return 1; }
+  };
+  list.Style(cIcons);
+  list.ItemsAdd("a");
+  list.ItemsAdd({.aText = "b",
+                 .aIcon = makeRef<NamedPicture>("flag"),
+                 .aIconSelected = makeRef<NamedPicture>("empty", 0U)});
+  list.ItemsAdd({.aText = "c", .aIcon = makeRef<Broken>()});
+  list.ItemSelected(1, true);
+  const std::string face = headless.face();
+  EXPECT_EQ(face.find("PaintPicture"), face.find("PaintPicture 32x24 \"flag\" at (3, 14.5)"));
+  EXPECT_EQ(reports(), "");
+}
+
+using ScrollFit = HearingListTest;
+
+TEST_F(ScrollFit, AWidthIsKeptUntilTheTextOrTheFontChanges) {
+  // Measures the items.
+  RecordingSurface& label = headless.container().children().at(6)->ownSurface();
+  const auto widthNow = [&] {
+    list.AutoCheckScroll(true);
+    return list.state().MaxItemWidth;
+  };
+  list.AutoRedraw(false);
+  add({"mmmmmmmmmm", "i", "i"});
+  widthNow();
+  list.AutoRedraw(true);
+  label.fontMeasure({9, 9, 13});
+  list.ItemText(0, "mmmmm");
+  EXPECT_EQ(widthNow(), 5 * 9 + 4);
+  list.ItemsAdd("mmmmmmm");
+  label.fontMeasure({20.5F, 20, 13});
+  EXPECT_EQ(widthNow(), 7 * 9 + 4);
+  list.Font(list.Font());
+  for (int i = 0; i < 2; ++i) EXPECT_EQ(widthNow(), 144 + 4);  // 143.5
 }
 
 }  // namespace
