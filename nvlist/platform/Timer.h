@@ -14,11 +14,28 @@ class Timer {
 
   /// The interval in milliseconds. With 0, the default, the timer does not tick. Setting it
   /// restarts the interval.
-  virtual std::int32_t Interval() const = 0;
-  virtual void Interval(std::int32_t milliseconds) = 0;
+  std::int32_t Interval() const { return interval_; }
+  void Interval(std::int32_t milliseconds) { set(milliseconds, enabled_); }
   /// Default: false. Enabling it restarts the interval; setting the current value has no effect.
-  virtual Boolean Enabled() const = 0;
-  virtual void Enabled(Boolean on) = 0;
+  Boolean Enabled() const { return enabled_; }
+  void Enabled(Boolean on) {
+    if (static_cast<bool>(on) != static_cast<bool>(enabled_)) set(interval_, on);
+  }
+
+ protected:
+  /// Ticks whenever `milliseconds` have passed from now on.
+  virtual void start(std::int32_t milliseconds) = 0;
+  virtual void stop() = 0;
+
+ private:
+  void set(std::int32_t interval, Boolean enabled) {
+    enabled&& interval > 0 ? start(interval) : stop();
+    interval_ = interval;
+    enabled_ = enabled;
+  }
+
+  std::int32_t interval_ = 0;
+  Boolean enabled_ = false;
 };
 
 }  // namespace norvane

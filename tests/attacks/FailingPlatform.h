@@ -95,10 +95,12 @@ class FailingTimer final : public Failing<Timer> {
  public:
   using Failing::Failing;
 
-  std::int32_t Interval() const override { return to().Interval(); }
-  void Interval(std::int32_t milliseconds) override { to().Interval(milliseconds); }
-  Boolean Enabled() const override { return to().Enabled(); }
-  void Enabled(Boolean on) override { to().Enabled(on); }
+ private:
+  void start(std::int32_t milliseconds) override {
+    to().Interval(milliseconds);
+    to().Enabled(true);
+  }
+  void stop() override { to().Enabled(false); }
 };
 
 class FailingContainer final : public Failing<Container> {

@@ -12,19 +12,8 @@ class HeadlessClock::ClockTimer final : public Timer {
   }
   ~ClockTimer() override { std::erase(clock_.timers_, this); }
 
-  std::int32_t Interval() const override { return interval_; }
-  void Interval(std::int32_t milliseconds) override {
-    interval_ = milliseconds;
-    begin();
-  }
-  Boolean Enabled() const override { return enabled_; }
-  void Enabled(Boolean on) override {
-    if (!enabled_ && on) begin();
-    enabled_ = on;
-  }
-
-  bool isRunning() const { return enabled_ && interval_ > 0; }
-  Time due() const { return begun_ + std::chrono::milliseconds(interval_); }
+  bool isRunning() const { return running_ > running_.zero(); }
+  Time due() const { return begun_ + running_; }
   void begin() { begun_ = clock_.now_; }
   void tick() {
     begin();
@@ -34,10 +23,15 @@ class HeadlessClock::ClockTimer final : public Timer {
   }
 
  private:
+  void start(std::int32_t milliseconds) override {
+    running_ = std::chrono::milliseconds(milliseconds);
+    begin();
+  }
+  void stop() override { running_ = {}; }
+
   HeadlessClock& clock_;
   std::function<void()> tick_;
-  std::int32_t interval_ = 0;
-  Boolean enabled_ = false;
+  std::chrono::milliseconds running_{};  ///< 0 while stopped
   Time begun_;
 };
 

@@ -22,27 +22,11 @@ class QtTimer final : public Timer {
     QCoreApplication::closingDown() ? delete timer_ : timer_->deleteLater();
   }
 
-  std::int32_t Interval() const override { return interval_; }
-  void Interval(std::int32_t milliseconds) override {
-    interval_ = milliseconds;
-    begin();
-  }
-  Boolean Enabled() const override { return enabled_; }
-  void Enabled(Boolean on) override {
-    if (enabled_ == on) return;
-    enabled_ = on;
-    begin();
-  }
-
  private:
-  void begin() {
-    timer_->stop();
-    if (enabled_ && interval_ > 0) timer_->start(interval_);
-  }
+  void start(std::int32_t milliseconds) override { timer_->start(milliseconds); }
+  void stop() override { timer_->stop(); }
 
   QTimer* const timer_ = new QTimer;
-  std::int32_t interval_ = 0;
-  Boolean enabled_ = false;
 };
 
 }  // namespace norvane
