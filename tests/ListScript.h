@@ -93,7 +93,8 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     else if (verb == "setBold") list.ItemBold(value(0), value(1).toBoolean());
     else if (verb == "setItalic") list.ItemItalic(value(0), value(1).toBoolean());
     else if (verb == "setUnderline") list.ItemUnderline(value(0), value(1).toBoolean());
-    else if (verb == "setAlignment") list.ItemAlignment(value(0), static_cast<cItemAlignment>(number(1)));
+    else if (verb == "setAlignment")
+      list.ItemAlignment(value(0), static_cast<cItemAlignment>(number(1)));
     else if (verb == "setForeColor") list.ItemForeColor(value(0), number(1));
     else if (verb == "setBackColor") list.ItemBackColor(value(0), number(1));
     else if (verb == "setSelectColors")

@@ -25,12 +25,12 @@ const Scenario scenarios[] = {
    "clear; add 'a' 'A' 'b' 'a'; removeDouble 1; texts; clear; add 'a' 'A' 'b' 'a'; removeDouble 0;"
    "texts; clear; add '\u00e4' '\u00c4'; removeDouble 1; texts", "<a b> / <a A b> / <\u00e4>"},
   {"items are found by key",
-   "clear; addKey 'abc' '10'; addKey 'Abd' 'k'; add 'z'; findKey 'k'; findKey 'K'; loop; findKey '';"
-   "findKey 10; findKey 11; reports", "1 / -1 / 3 / 2 / 0 / -1 / 13 IndexByKey"},
+   "clear; addKey 'abc' '10'; addKey 'Abd' 'k'; add 'z'; findKey 'k'; findKey 'K'; loop;"
+   "findKey ''; findKey 10; findKey 11; reports", "1 / -1 / 3 / 2 / 0 / -1 / 13 IndexByKey"},
   {"a search knows of every change",
    "clear; addKey 'a' 'a'; addKey 'b' 'b'; add 'c'; find 'b'; find 'b'; setText 0 'b'; find 'b';"
-   "find 'b'; findKey 'b'; findKey 'b'; up 1 1; findKey 'b'; find 'c'; find 'c'; down 2 -2; find 'c';"
-   "find 'c'; clear; find 'c'", "1 / 1 / 0 / 0 / 1 / 1 / 0 / 2 / 2 / 0 / 0 / -1"},
+   "find 'b'; findKey 'b'; findKey 'b'; up 1 1; findKey 'b'; find 'c'; find 'c'; down 2 -2;"
+   "find 'c'; find 'c'; clear; find 'c'", "1 / 1 / 0 / 0 / 1 / 1 / 0 / 2 / 2 / 0 / 0 / -1"},
   {"an index that is no number leaves the item at the end",
    "clear; add 'a' 'b'; insert 'x' 'front'; reports; texts; width; silent; insert 'y' 'front';"
    "texts; width", "13 ItemsAdd / <a b > / 15 / <a b  y> / 19"},
@@ -74,8 +74,8 @@ const Scenario scenarios[] = {
    "setTop 50; forget; setIndex 59; events; top",
    "ListIndex TopIndex** / 50 / 86 / 10 / 80 / 49 / ListIndex* / 50"},
   {"Text is that of the current item and chooses by text",
-   "clear; add 'A' 'a' 'b' 'a' 'off'; disable 4; forget; choose 'a'; outcome; choose ''; choose 'a*';"
-   "choose 'off'; events; chosen; choose 'b'; remove 0 0 0; chosen; reports",
+   "clear; add 'A' 'a' 'b' 'a' 'off'; disable 4; forget; choose 'a'; outcome; choose '';"
+   "choose 'a*'; choose 'off'; events; chosen; choose 'b'; remove 0 0 0; chosen; reports",
    "ListIndex* | 1: a / (4) / a / 9 Text"},
   {"selecting an item stores the truth value as the current index",
    "setIndex 1; forget; select 4; outcome; deselect 1; index", "ItemSelected* | -1: 1 4 / 0"},
@@ -108,9 +108,9 @@ const Scenario scenarios[] = {
    "<1> / 9 ItemsSelectedRemove"},
   // Order.
   {"moves take the items on the way along",
-   "begin; up 2 1; outcome; texts; begin; up '2' '5'; outcome; texts; begin; up 0 3; outcome; texts;"
-   "begin; down @ 2; outcome; texts; begin; down 2 9; outcome; texts; begin; down 4 1; outcome;"
-   "texts",
+   "begin; up 2 1; outcome; texts; begin; up '2' '5'; outcome; texts; begin; up 0 3; outcome;"
+   "texts; begin; down @ 2; outcome; texts; begin; down 2 9; outcome; texts; begin; down 4 1;"
+   "outcome; texts",
    "* | 1: 2 / <0 2 1 3 4> / * | 0: 2 / <2 0 1 3 4> /  | 2: 2 / <0 1 2 3 4> / * | 4: 2 / "
    "<1 2 0 3 4> / * | 4: 2 / <0 1 3 4 2> /  | 2: 2 / <0 1 2 3 4>"},
   {"a move from a bad index does nothing",

@@ -40,16 +40,17 @@ const Scenario scenarios[] = {
    "2: 0 1 2 / 2: 2 / 4: 2 4 / 0: 0 1 2 / 2:  / 4: 4 / 1: 1 4 / 4: 1 / 0: 0 / 0: 0 / 2: 2"},
   {"the check zone goes with the content",
    "BorderVisible 0; IndentLeft 5.5; forget; pressAt 6 36; pressAt 6.5 36; pressAt 18.5 36;"
-   "pressAt 19 36; events; ScrollBars 3; wide 5 40; step 1 2 10; forget; pressAt 0 36; pressAt 8.5 36;"
-   "pressAt 9 36; events",
+   "pressAt 19 36; events; ScrollBars 3; wide 5 40; step 1 2 10; forget; pressAt 0 36;"
+   "pressAt 8.5 36; pressAt 9 36; events",
    "MouseDown* MouseDown ItemCheck(2)* MouseDown ItemCheck(2)* MouseDown* / "
    "MouseDown ItemCheck(2)* MouseDown ItemCheck(2)* MouseDown*"},
   {"a range far outside the list is walked as far as the list goes",
    "fill 20; MultiSelect 1; silent; down 0 -2000000000; key 40; anchor; press 3 1; now",
    "-2000000000 / 3: 0 1 2 3"},
   {"handlers see what has happened so far",
-   "onEach now; pressAt 8 40 1 2; arguments; moveTo 60 50 3 4; arguments; releaseAt 8 41; arguments;"
-   "events", "1 2 8 40 / 3 4 60 50 / 1 0 8 41 / MouseDown [-1: ] ItemCheck(2) [2: 2]* "
+   "onEach now; pressAt 8 40 1 2; arguments; moveTo 60 50 3 4; arguments; releaseAt 8 41;"
+   "arguments; events",
+   "1 2 8 40 / 3 4 60 50 / 1 0 8 41 / MouseDown [-1: ] ItemCheck(2) [2: 2]* "
    "MouseMove(3 3) [2: 2, checked 2] MouseUp [2: 2, checked 2] Click [2: 2, checked 2]"},
   {"a failing handler ends the press",
    "on MouseDown throw; press 2; outcome; reports; release 2; on ItemCheck throw; pressAt 8 36;"
@@ -89,8 +90,8 @@ const Scenario scenarios[] = {
    "AllowItemMoving 1; fill 40; setTop 5; press 3; moveTo 50 -1 1; wait 9; top; hover",
    "MouseMove(4 4) TopIndex* TopIndex* TopIndex* TopIndex* | 8: 8, top 1 / 1 / 1"},
   {"past the bottom it scrolls to the end and on",
-   "fill 40; setTop 26; press 3; moveTo 50 130.5 1; wait 9; top; hover; ticks 5; release 0; ticks 5;"
-   "AllowItemMoving 1; fill 40; setTop 20; press 3; moveTo 50 130.5 1; wait 3; top; hover",
+   "fill 40; setTop 26; press 3; moveTo 50 130.5 1; wait 9; top; hover; ticks 5; release 0;"
+   "ticks 5; AllowItemMoving 1; fill 40; setTop 20; press 3; moveTo 50 130.5 1; wait 3; top; hover",
    "30 / -1 / 5 / 0 / 23 / 32"},
   {"another button stops the scrolling",
    "fill 40; setTop 10; press 3; moveTo 50 130.5 1; pressAt 50 130.5 2; releaseAt 50 130.5 2;"
@@ -140,21 +141,22 @@ const Scenario scenarios[] = {
   {"a wheel of an unknown function only paints",
    "fill 40; WheelFunction 2; forget; wheel -120; outcome", "* | -1: "},
   {"the wheel scrolls by lines and snaps to the ends",
-   "fill 40; WheelScrollLines 1; setTop 0; forget; wheel -360; events; bar; setTop 30; wheel -120; bar;"
-   "setTop 3; wheel -30; bar; setTop 3; wheel 60; bar; setTop 0; forget; wheel 120; events; bar;"
-   "WheelScrollLines 5; setTop 24; wheel -120; bar; setTop 25; wheel -120; bar;"
-   "WheelScrollLines 3; setTop 10; wheel 240; bar; setTop 3; wheel 120; bar; setTop 4; wheel 120; bar;"
-   "setTop 10; WheelScrollLines 40; wheel -120; bar; setTop 10; WheelScrollLines -2; wheel -120; bar",
-   "* Scroll Scroll* / 1 / 30 / 30 / 30 / * / 0 / 29 / 30 / 7 / 0 / 1 / 30 / 8"},
+   "fill 40; WheelScrollLines 1; setTop 0; forget; wheel -360; events; bar; setTop 30; wheel -120;"
+   "bar; setTop 3; wheel -30; bar; setTop 3; wheel 60; bar; setTop 0; forget; wheel 120; events;"
+   "bar; WheelScrollLines 5; setTop 24; wheel -120; bar; setTop 25; wheel -120; bar;"
+   "WheelScrollLines 3; setTop 10; wheel 240; bar; setTop 3; wheel 120; bar; setTop 4; wheel 120;"
+   "bar; setTop 10; WheelScrollLines 40; wheel -120; bar; setTop 10; WheelScrollLines -2;"
+   "wheel -120; bar", "* Scroll Scroll* / 1 / 30 / 30 / 30 / * / 0 / 29 / 30 / 7 / 0 / 1 / 30 / 8"},
   {"the wheel makes the next enabled row current",
-   "WheelFunction 1; disable 0 1; forget; wheel -120; outcome; fill 5; setIndex 1; forget; wheel -240;"
-   "outcome; setIndex 2; forget; wheel -240; outcome; forget; wheel -120; outcome; setIndex 1; forget;"
-   "wheel 30; outcome; setIndex 3; forget; wheel 360; outcome; setIndex 0; forget; wheel 120; outcome",
-   "ListIndex Scroll* | 2: 2 / ListIndex Scroll* | 2: 2 / ListIndex Scroll* | 4: 4 / "
-   "ListIndex* | 4: 4 / ListIndex Scroll* | 4: 4 / ListIndex Scroll* | 2: 2 / ListIndex* | 0: 0"},
+   "WheelFunction 1; disable 0 1; forget; wheel -120; outcome; fill 5; setIndex 1; forget;"
+   "wheel -240; outcome; setIndex 2; forget; wheel -240; outcome; forget; wheel -120; outcome;"
+   "setIndex 1; forget; wheel 30; outcome; setIndex 3; forget; wheel 360; outcome; setIndex 0;"
+   "forget; wheel 120; outcome",
+   "ListIndex Scroll* | 2: 2 / ListIndex Scroll* | 2: 2 / ListIndex Scroll* | 4: 4 / ListIndex* | "
+   "4: 4 / ListIndex Scroll* | 4: 4 / ListIndex Scroll* | 2: 2 / ListIndex* | 0: 0"},
   {"the wheel over disabled rows",
-   "WheelFunction 1; setIndex 3; disable 4; forget; wheel -120; outcome; setIndex 2; disable 3; forget;"
-   "wheel -120; outcome; fill 5; setIndex 3; disable 1 2; forget; wheel 120; outcome;"
+   "WheelFunction 1; setIndex 3; disable 4; forget; wheel -120; outcome; setIndex 2; disable 3;"
+   "forget; wheel -120; outcome; fill 5; setIndex 3; disable 1 2; forget; wheel 120; outcome;"
    "fill 5; disable 0; forget; wheel 120; outcome; setIndex 1; forget; wheel 120; outcome",
    "(4) Scroll* | 3: 3 / * | 2: 2 / ListIndex Scroll* | 0: 0 / (0) Scroll* | -1:  / * | 1: 1"},
   {"a wheel that overflows",

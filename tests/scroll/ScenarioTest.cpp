@@ -111,49 +111,51 @@ const Scenario scenarios[] = {
    "enable 0; visible; click 50; click 150; click 190; events; enable 1; visible",
    "hidden | <> | shown"},
   {"ATrackPressDarkensTheSideOfThePress",
-   "press 150; draw 1; release; draw; value 100; press 30; draw 2; release; gradient 0; press 150; draw;"
-   "colours; release; gradient 1; enable 0; draw; enable 1; forget; paint; draw 1",
+   "press 150; draw 1; release; draw; value 100; press 30; draw 2; release; gradient 0; press 150;"
+   "draw; colours; release; gradient 1; enable 0; draw; enable 1; forget; paint; draw 1",
    "<StretchDIBits 17x1 (0, 0)-(17, 200) #F3F1EC..#FDFDFA, "
-   "StretchDIBits 17x1 (0, 84)-(17, 200) #E3DED3..#FCFCF9> | "
-   "<Cls, StretchDIBits 17x1 (0, 0)-(17, 200) #F3F1EC..#FDFDFA> | "
+   "StretchDIBits 17x1 (0, 84)-(17, 200) #E3DED3..#FCFCF9> | <Cls, "
+   "StretchDIBits 17x1 (0, 0)-(17, 200) #F3F1EC..#FDFDFA> | "
    "<StretchDIBits 17x1 (0, 17)-(17, 116) #E3DED3..#FCFCF9> | <Cls> | 16777215 16777215 16777215 | "
    "<Cls> | <StretchDIBits 17x1 (0, 0)-(17, 200) #F3F1EC..#FDFDFA>",
    "<StretchDIBits 4x17 (0, 0)-(200, 17) #FEFEFB..#F3F1EC, "
-   "StretchDIBits 4x17 (84, 0)-(200, 17) #FEFEFB..#E3DED4> | "
-   "<Cls, StretchDIBits 4x17 (0, 0)-(200, 17) #FEFEFB..#F3F1EC> | "
+   "StretchDIBits 4x17 (84, 0)-(200, 17) #FEFEFB..#E3DED4> | <Cls, "
+   "StretchDIBits 4x17 (0, 0)-(200, 17) #FEFEFB..#F3F1EC> | "
    "<StretchDIBits 4x17 (17, 0)-(116, 17) #FEFEFB..#E3DED4> | <Cls> | 16777215 16777215 16777215 | "
    "<Cls> | <StretchDIBits 4x17 (0, 0)-(200, 17) #FEFEFB..#F3F1EC>"},
   {"TheThumbHasEdgesAndAGrip",
    "max 146; drawThumb; style 2; drawThumb 3; style 0; max 153; body; max 152; body",
-   R"(<Cls, PaintPicture 13x14 "vertical thumb 3" at (1, 0) as 14x299, Line 22 (0, 0)-(15, 18) #FFFFFF, )"
-   "Line 6 (2, 19)-(15, 19) #7C9FD3, PSet (0, 19) #EEEDE5, PSet (0, 18) #9AB5DC, PSet (1, 19) #9AB5DC, "
-   R"(PSet (15, 19) #EEEDE5, PSet (15, 18) #9AB5DC, PaintPicture 7x8 "vertical thumb 6" at (4.5, 6)> | )"
-   "<Line 6 (2, 19)-(15, 19) #829061, PSet (0, 19) #EEEDE5, PSet (0, 18) #8F9975, PSet (1, 19) #8F9975, "
-   R"(PSet (15, 19) #EEEDE5, PSet (15, 18) #8F9975, PaintPicture 7x8 "vertical thumb 18" at (4.5, 6)>)"
-   " | thumb 3 | thumb 6",
-   R"(<Cls, PaintPicture 14x13 "horizontal thumb 3" at (1, 0) as 18x239, Line 22 (0, 0)-(18, 14) #FFFFFF, )"
-   "Line 6 (2, 15)-(19, 15) #7C9FD3, PSet (0, 15) #EEEDE5, PSet (0, 14) #9AB5DC, PSet (1, 15) #9AB5DC, "
-   R"(PSet (19, 15) #EEEDE5, PSet (19, 14) #9AB5DC, PaintPicture 8x7 "horizontal thumb 6" at (6, 4.5)> | )"
-   "<Line 6 (2, 15)-(19, 15) #829061, PSet (0, 15) #EEEDE5, PSet (0, 14) #8F9975, PSet (1, 15) #8F9975, "
-   R"(PSet (19, 15) #EEEDE5, PSet (19, 14) #8F9975, PaintPicture 8x7 "horizontal thumb 18" at (6, 4.5)>)"
-   " | thumb 3 | thumb 6"},
+   "<Cls, PaintPicture 13x14 \"vertical thumb 3\" at (1, 0) as 14x299, "
+   "Line 22 (0, 0)-(15, 18) #FFFFFF, Line 6 (2, 19)-(15, 19) #7C9FD3, PSet (0, 19) #EEEDE5, "
+   "PSet (0, 18) #9AB5DC, PSet (1, 19) #9AB5DC, PSet (15, 19) #EEEDE5, PSet (15, 18) #9AB5DC, "
+   "PaintPicture 7x8 \"vertical thumb 6\" at (4.5, 6)> | <Line 6 (2, 19)-(15, 19) #829061, "
+   "PSet (0, 19) #EEEDE5, PSet (0, 18) #8F9975, PSet (1, 19) #8F9975, PSet (15, 19) #EEEDE5, "
+   "PSet (15, 18) #8F9975, PaintPicture 7x8 \"vertical thumb 18\" at (4.5, 6)> | thumb 3 | thumb 6",
+   "<Cls, PaintPicture 14x13 \"horizontal thumb 3\" at (1, 0) as 18x239, "
+   "Line 22 (0, 0)-(18, 14) #FFFFFF, Line 6 (2, 15)-(19, 15) #7C9FD3, PSet (0, 15) #EEEDE5, "
+   "PSet (0, 14) #9AB5DC, PSet (1, 15) #9AB5DC, PSet (19, 15) #EEEDE5, PSet (19, 14) #9AB5DC, "
+   "PaintPicture 8x7 \"horizontal thumb 6\" at (6, 4.5)> | <Line 6 (2, 15)-(19, 15) #829061, "
+   "PSet (0, 15) #EEEDE5, PSet (0, 14) #8F9975, PSet (1, 15) #8F9975, PSet (19, 15) #EEEDE5, "
+   "PSet (19, 14) #8F9975, PaintPicture 8x7 \"horizontal thumb 18\" at (6, 4.5)> | thumb 3 | "
+   "thumb 6"},
   {"ASilverThumbHasAnOutlineThatChangesUnderThePointer",
    "max 153; style 1; drawThumb 9; hover 20; drawThumb 9",
    "<Line 6 (0, 1)-(0, 11) #9495A2, Line 6 (15, 1)-(15, 11) #9495A2, PSet (1, 0) #9495A2, "
    "PSet (15, 0) #9495A2, Line 6 (14, 2)-(14, 10) #FFFFFF, Line 6 (1, 0)-(14, 0) #B7B7BF, "
    "Line 6 (1, 11)-(14, 11) #D0D1DF> | <Line 6 (0, 1)-(0, 11) #5B6665, "
-   "Line 6 (15, 1)-(15, 11) #5B6665, Line 6 (2, 12)-(15, 12) #5B6665, Line 6 (1, 0)-(14, 0) #5B6665, "
-   "Line 6 (1, 11)-(14, 11) #D0D1DF>",
+   "Line 6 (15, 1)-(15, 11) #5B6665, Line 6 (2, 12)-(15, 12) #5B6665, "
+   "Line 6 (1, 0)-(14, 0) #5B6665, Line 6 (1, 11)-(14, 11) #D0D1DF>",
    "<Line 6 (0, 1)-(0, 14) #9495A2, Line 6 (12, 1)-(12, 14) #9495A2, PSet (1, 0) #9495A2, "
    "PSet (12, 0) #9495A2, Line 6 (11, 2)-(11, 13) #FFFFFF, Line 6 (1, 0)-(11, 0) #B7B7BF, "
    "Line 6 (1, 14)-(11, 14) #D0D1DF> | <Line 6 (0, 1)-(0, 14) #5B6665, "
-   "Line 6 (12, 1)-(12, 14) #5B6665, Line 6 (2, 15)-(12, 15) #5B6665, Line 6 (1, 0)-(11, 0) #5B6665, "
-   "Line 6 (1, 14)-(11, 14) #D0D1DF>"},
+   "Line 6 (12, 1)-(12, 14) #5B6665, Line 6 (2, 15)-(12, 15) #5B6665, "
+   "Line 6 (1, 0)-(11, 0) #5B6665, Line 6 (1, 14)-(11, 14) #D0D1DF>"},
   {"AStyleWithoutPicturesLeavesThePartsUnpainted",
    "style 7; reports; drawThumb; draw 1; style -1; reports; press 190; events; release; style 0;"
    "style 1073741824; drawThumb 9",
-   "<340 RedrawScroll, 340 C, 340 C> | <Cls> | <StretchDIBits 17x1 (0, 0)-(17, 200) #F3F1EC..#FDFDFA>"
-   " | <340 RedrawScroll, 340 C, 340 C> | <> | <PaintPicture 7x8 \"vertical thumb 6\" at (4.5, 29)>",
+   "<340 RedrawScroll, 340 C, 340 C> | <Cls> | "
+   "<StretchDIBits 17x1 (0, 0)-(17, 200) #F3F1EC..#FDFDFA> | <340 RedrawScroll, 340 C, 340 C> | "
+   "<> | <PaintPicture 7x8 \"vertical thumb 6\" at (4.5, 29)>",
    "<340 RedrawScroll, 340 PaintState, 340 PaintState> | <Cls> | "
    "<StretchDIBits 4x17 (0, 0)-(200, 17) #FEFEFB..#F3F1EC> | "
    "<340 RedrawScroll, 340 PaintState, 340 PaintState> | <Change 1> | <>"},
