@@ -83,8 +83,7 @@ TEST_F(AccessibilityTest, Acts) {
   act(4, Action::pressAction());
   act(5, Action::toggleAction());
   EXPECT_EQ(run("heard; checked 5; Style 0"), "Click, ItemCheck 5 / yes");
-  act(5, Action::toggleAction());
-  EXPECT_EQ(run("checked 5"), "yes") << "without check boxes";
+  EXPECT_FALSE(child(5).actionInterface()->actionNames().contains(Action::toggleAction()));
   for (const int row : {2, 3}) child(row).setText(QAccessible::Name, "new");
   EXPECT_EQ(run("text 2; text 3"), "&row|right=2 / new");
 
@@ -136,7 +135,6 @@ TEST_F(AccessibilityTest, AMillionRowsCostNothingUntilAskedFor) {
   EXPECT_FALSE(QAccessible::accessibleInterface(first));
   EXPECT_EQ(described(0), "row, 0 focused selected checkable");
   run("clear; rest");
-  EXPECT_EQ(top().childCount(), 0);
   EXPECT_EQ(top().child(0), nullptr);
 }
 

@@ -30,6 +30,13 @@ class NvListWidgetTest : public WidgetTest {
 
   QImage shown() { return widget->grab().toImage().convertToFormat(QImage::Format_RGB32); }
   int inkIn(const QRect& area) { return inkOf(widget->grab(area).toImage()); }
+  void setColours(const QColor& base, const QColor& text, const QColor& disabled) {
+    QPalette palette;
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::Text, text);
+    palette.setColor(QPalette::Disabled, QPalette::Text, disabled);
+    widget->setPalette(palette);
+  }
 };
 
 TEST_F(NvListWidgetTest, FollowsOnlyWhatLooksDifferent) {
@@ -148,10 +155,7 @@ TEST_F(NvListWidgetTest, EveryStoredPropertyIsOneOfQt) {
 }
 
 TEST_F(NvListWidgetTest, SystemColoursAreThoseOfThePaletteAndAreKept) {
-  QPalette palette;
-  palette.setColor(QPalette::Active, QPalette::Base, QColor(1, 2, 3));
-  palette.setColor(QPalette::Disabled, QPalette::Text, QColor(4, 5, 6));
-  widget->setPalette(palette);
+  setColours({1, 2, 3}, Qt::black, {4, 5, 6});
   const std::pair<Colour, QRgb> cases[] = {{colours::window, qRgb(1, 2, 3)},
                                            {colours::greyText, qRgb(4, 5, 6)},
                                            {systemColour(255), qRgb(0, 0, 0)},
@@ -166,16 +170,13 @@ TEST_F(NvListWidgetTest, SystemColoursAreThoseOfThePaletteAndAreKept) {
 }
 
 TEST_F(NvListWidgetTest, AFontOfTheHostStaysUntilTheWidgetGetsOne) {
-  const auto size = [&] { return list().Font()->Size; };
   form.setFont(QFont("Sans", 14));
-  EXPECT_EQ(size(), 14);
-  auto own = makeRef<FontObject>();
-  own->Size = 30;
-  list().Font(own);
+  EXPECT_EQ(list().Font()->Size, 14);
+  list().Font(fontFrom(QFont("Sans", 30)));
   form.setFont(QFont("Sans", 15));
-  EXPECT_EQ(size(), 30);
+  EXPECT_EQ(list().Font()->Size, 30);
   widget->setFont(QFont("Sans", 16));
-  EXPECT_EQ(size(), 16);
+  EXPECT_EQ(list().Font()->Size, 16);
 }
 
 /// The colours of the list and of disabled rows, on palettes of all kinds.
@@ -191,11 +192,7 @@ TEST_F(NvListWidgetTest, RowsAreReadableInEveryPalette) {
   // A block has pixels of the full colour.
   list().ItemsAdd({.aText = "\u2588\u2588\u2588", .aEnabled = false});
   for (const auto& p : palettes) {
-    QPalette palette;
-    palette.setColor(QPalette::Base, p.base);
-    palette.setColor(QPalette::Text, p.text);
-    palette.setColor(QPalette::Disabled, QPalette::Text, p.disabled);
-    widget->setPalette(palette);
+    setColours(p.base, p.text, p.disabled);
     EXPECT_EQ(widget->foreColor(), p.text) << p.name;
     const QImage image = shown();
     EXPECT_EQ(image.pixelColor(100, 100), p.base) << p.name;
@@ -216,12 +213,10 @@ TEST_F(NvListWidgetTest, WhatIsEditedCanBeReadOnADesktopOfAnyColours) {
   list().AllowEdit(true);
   fill(3);
   const auto background = [&](Qt::GlobalColor desktop, Colour text) {
-    QPalette palette = form.palette();
-    palette.setColor(QPalette::Base, desktop);
-    form.setPalette(palette);
+    setColours(desktop, Qt::red, Qt::red);
     list().ForeColor(text);
     list().SetEdit(2);
-    EXPECT_EQ(edit().palette().color(QPalette::Text), QColor(rgbOf(text, palette)));
+    EXPECT_EQ(edit().palette().color(QPalette::Text), QColor(rgbOf(text, {})));
     return edit().palette().color(QPalette::Base);
   };
   EXPECT_EQ(background(Qt::yellow, 0), QColor(Qt::yellow));

@@ -15,7 +15,6 @@
 #include <utility>
 
 #include <nvlist/objects/SpEv.h>
-#include <nvlist/objects/about.h>
 #include <nvlist/objects/reporter.h>
 #include <nvlist/platform/qt/QtPicture.h>
 #include <nvlist/values/Failure.h>

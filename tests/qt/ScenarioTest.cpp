@@ -173,9 +173,6 @@ const Scenario withKeys[] = {
   {"a click moves nothing, a drag does",
    "fill 5; AllowItemMoving 1; click 2; texts; press 2; drag 0; release 0; texts",
    "0 1 2 3 4 / 2 0 1 3 4"},
-  {"without the keys the list is as before",
-   "fill 5; noKeys; AllowItemMoving 1; select 1; key End; state; click 2; texts",
-   "1 (1) / 2 0 1 3 4"},
 };
 // clang-format on
 

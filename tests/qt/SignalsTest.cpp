@@ -71,9 +71,8 @@ TEST_F(Signals, MayOpenADialog) {
 /// The index of a point is that of the row which a press there hits, also on the bar and the frame.
 TEST_F(Signals, TheIndexAtAPointIsTheOneThatAClickHits) {
   // Rows from the first one on, from another one on, and too few to fill the list.
-  for (const auto& [count, top] : {std::pair(20, 0), std::pair(20, 7), std::pair(3, 0)}) {
-    while (widget->count() > count) list().ItemsRemove(0);
-    list().TopIndex(top);
+  for (const char* rows : {"scroll 0", "scroll 7", "clear; fill 3"}) {
+    run(rows);
     for (int y = -2; y < 210; ++y)
       for (const int x : {-1, 60, 190}) {
         widget->clearSelection();
@@ -82,7 +81,7 @@ TEST_F(Signals, TheIndexAtAPointIsTheOneThatAClickHits) {
         const auto hit = widget->selectedIndexes();
         release({x, y});
         ASSERT_EQ(hit, index < 0 ? QList<int>() : QList<int>{index})
-            << count << " " << top << " " << x << "," << y;
+            << rows << " " << x << "," << y;
       }
   }
 }

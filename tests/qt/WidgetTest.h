@@ -218,7 +218,6 @@ class WidgetTest : public testing::Test, public __nvList {
     else if (verb == "keys")
       QObject::connect(new NvListKeys(*widget), &NvListKeys::deleteRequested,
                        [this] { hear("deleteRequested"); });
-    else if (verb == "noKeys") delete widget->findChild<NvListKeys*>();
     else if (verb == "drops") allowDrops();
     else if (verb == "end") delete widget;
     else if (verb == "endSoon") QTimer::singleShot(0, widget, [this] { delete widget; });
