@@ -90,9 +90,9 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     else if (verb == "select") each([&](auto& index) { list.ItemSelected(index, true); });
     else if (verb == "deselect") each([&](auto& index) { list.ItemSelected(index, false); });
     else if (verb == "setText") list.ItemText(value(0), value(1).toText());
-    else if (verb == "setBold") list.ItemBold(value(0), value(1).toBoolean());
-    else if (verb == "setItalic") list.ItemItalic(value(0), value(1).toBoolean());
-    else if (verb == "setUnderline") list.ItemUnderline(value(0), value(1).toBoolean());
+    else if (verb == "setFont")
+      list.ItemBold(value(0), number(1) != 0), list.ItemItalic(value(0), number(2) != 0),
+          list.ItemUnderline(value(0), number(3) != 0);
     else if (verb == "setAlignment")
       list.ItemAlignment(value(0), static_cast<cItemAlignment>(number(1)));
     else if (verb == "setForeColor") list.ItemForeColor(value(0), number(1));

@@ -76,35 +76,31 @@ TEST_F(RecordsetBinding, ReportsWhatIsMissingAndEndsUnlessSilent) {
   uncounted->count = -1;
   const Ref<Object> other = makeRef<Object>();
   // AutoRedraw and AutoCheckScroll, the number of items and their texts.
-  const struct {
-    const char* name;
-    bool isSilent;
-    Ref<Object> object;
-    std::string left, report;
-  } cases[] = {{"rows that cannot be counted", false, uncounted, "11 1:old", ""},
-               {"no rows", false, rows({}), "11 1:old", ""},
-               {"nothing", false, nullptr, "11 1:old", "91 Recordset"},
-               {"no recordset", false, other, "11 1:old", "438 Recordset"},
-               {"no MoveFirst", false, lacking("F"), "00 0:", "438 Recordset"},
-               {"no Value", false, lacking("0"), "00 0:", "438 Recordset"},
-               {"no Eof", false, lacking("E"), "00 1:a", "438 Recordset"},
-               {"a Null", false, rows({"a", std::nullopt, "c"}), "00 1:a", "94 Recordset"},
-               {"an object", false, rows({"a", other}), "00 1:a", "13 Recordset"},
-               {"silently a Null", true, rows({"a", std::nullopt, "c"}), "11 3:a  c", ""},
-               {"silently no Eof, until the rows run out", true, lacking("E"), "11 3:a b ", ""},
-               {"silently nothing but a count", true, lacking("FNE0"), "11 1:", ""},
-               {"silently no recordset", true, other, "11 1:", ""}};
-  for (const auto& c : cases) {
-    Error().SilentError(c.isSilent);
+  const std::tuple<const char*, bool, Ref<Object>, const char*, const char*> cases[] = {
+      {"rows that cannot be counted", false, uncounted, "11 1:old", ""},
+      {"no rows", false, rows({}), "11 1:old", ""},
+      {"nothing", false, nullptr, "11 1:old", "91 Recordset"},
+      {"no recordset", false, other, "11 1:old", "438 Recordset"},
+      {"no MoveFirst", false, lacking("F"), "00 0:", "438 Recordset"},
+      {"no Value", false, lacking("0"), "00 0:", "438 Recordset"},
+      {"no Eof", false, lacking("E"), "00 1:a", "438 Recordset"},
+      {"a Null", false, rows({"a", std::nullopt, "c"}), "00 1:a", "94 Recordset"},
+      {"an object", false, rows({"a", other}), "00 1:a", "13 Recordset"},
+      {"silently a Null", true, rows({"a", std::nullopt, "c"}), "11 3:a  c", ""},
+      {"silently no Eof, until the rows run out", true, lacking("E"), "11 3:a b ", ""},
+      {"silently nothing but a count", true, lacking("FNE0"), "11 1:", ""},
+      {"silently no recordset", true, other, "11 1:", ""}};
+  for (const auto& [name, isSilent, object, left, report] : cases) {
+    Error().SilentError(isSilent);
     list.AutoRedraw(true);
     list.AutoCheckScroll(true);
     list.ItemsClear();
     add({"old"});
-    list.Recordset(c.object);
-    EXPECT_EQ(list.Recordset(), c.object) << c.name;
+    list.Recordset(object);
+    EXPECT_EQ(list.Recordset(), object) << name;
     const std::string flags = {list.AutoRedraw() ? '1' : '0', list.AutoCheckScroll() ? '1' : '0'};
-    EXPECT_EQ(flags + " " + std::to_string(list.ItemsCount()) + ":" + texts(), c.left) << c.name;
-    EXPECT_EQ(reports(), c.report) << c.name;
+    EXPECT_EQ(flags + " " + std::to_string(list.ItemsCount()) + ":" + texts(), left) << name;
+    EXPECT_EQ(reports(), report) << name;
   }
   EXPECT_EQ(uncounted->calls, "C");
 }

@@ -89,10 +89,8 @@ TEST_F(PictureOfAForm, HoldsItsControls) {
   form.children()[0]->children()[0]->move({1, 50, 16, 18});
   const std::string picture = headless.picture();
   EXPECT_TRUE(
-      picture.starts_with("(0, 0) 100x60 on #FFFFFF\n"
-                          "  Cls\n"
-                          "  Line 38 (0, 3)-(100, 16) #FFFFFF\n"
-                          "  ForeColor #000000\n"))
+      picture.starts_with("(0, 0) 100x60 on #FFFFFF\n  Cls\n"
+                          "  Line 38 (0, 3)-(100, 16) #FFFFFF\n  ForeColor #000000\n"))
       << picture;
   std::string places;
   forEachLine(picture, [&](std::string_view line) {

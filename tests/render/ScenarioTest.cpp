@@ -61,9 +61,9 @@ const Scenario scenarios[] = {
    "PaintPicture 32x24 \"flag\" at (19, 1.5) as 16x16, ForeColor system 17, "
    "DrawTextA \"ab\" (37, 3)-(200, 133) 64>"},
   {"a row is measured with the font of the row above, the first one with that of the last",
-   "AutoRedraw 0; clear; add 'abcd' 'abcd'; setAlignment 0 2; setAlignment 1 2; setBold 0 1;"
-   "setUnderline 0 1; redraw; face DrawTextA; setItalic 1 1; setBold 1 1; redraw; face Font;"
-   "redraw; face DrawTextA",
+   "AutoRedraw 0; clear; add 'abcd' 'abcd'; setAlignment 0 2; setAlignment 1 2;"
+   "setFont 0 1 0 1; redraw; face DrawTextA; setFont 1 1 1 0; redraw; face Font; redraw;"
+   "face DrawTextA",
    "<DrawTextA \"abcd\" (169, 3)-(200, 133) 64, DrawTextA \"abcd\" (165, 16)-(200, 133) 64> / "
    "<FontBold on, FontItalic off, FontUnderline on, FontBold on, FontItalic on, "
    "FontUnderline off> / <DrawTextA \"abcd\" (165, 3)-(200, 133) 64, "
