@@ -113,57 +113,22 @@ std::vector<std::byte> bytesOf(std::string_view hex) {
   return result;
 }
 
-/// A metafile of 8 by 8 red pixels: the placeable form of 16 bits, or the enhanced one.
-std::vector<std::byte> metafile(bool isEnhanced) {
-  const SIZEL size = himetricOf({8, 8});
-  const RECT frame{0, 0, size.cx, size.cy};
-  const RECT whole{0, 0, 8, 8};
-  const HDC dc =
-      isEnhanced ? CreateEnhMetaFileW(nullptr, nullptr, &frame, nullptr) : CreateMetaFileW(nullptr);
-  if (!isEnhanced) SetWindowExtEx(dc, 8, 8, nullptr);
-  const HBRUSH brush = CreateSolidBrush(RGB(255, 0, 0));
-  FillRect(dc, &whole, brush);
-  DeleteObject(brush);
-  std::vector<std::byte> result;
-  if (isEnhanced) {
-    const HENHMETAFILE file = CloseEnhMetaFile(dc);
-    result.resize(GetEnhMetaFileBits(file, 0, nullptr));
-    GetEnhMetaFileBits(file, static_cast<UINT>(result.size()),
-                       reinterpret_cast<BYTE*>(result.data()));
-    DeleteEnhMetaFile(file);
-    return result;
-  }
-  // Signature, bounds, 96 units an inch, checksum.
-  result = bytesOf("d7cdc69a000000000000080008006000000000007157");
-  const HMETAFILE file = CloseMetaFile(dc);
-  const UINT count = GetMetaFileBitsEx(file, 0, nullptr);
-  result.resize(22 + count);
-  GetMetaFileBitsEx(file, count, result.data() + 22);
-  DeleteMetaFile(file);
-  return result;
-}
-
 TEST(Gdi, ShowsAndKeepsPictures) {
   CoInitialize(nullptr);
   const struct {
     const char* name;
     std::vector<std::byte> file;
-    int width;
-    std::vector<std::uint32_t> first;  ///< pixels
+    std::vector<std::uint32_t> pixels;  ///< of one row
   } cases[] = {
       {"png with transparent and half transparent pixels",
        bytesOf("89504e470d0a1a0a0000000d49484452000000030000000108060000001be014b400000011494441"
                "54789c63f8cfc0f01f081b401400206f047d3d9f67300000000049454e44ae426082"),
-       3,
        {0xFF0000, 0x7FFF7F, 0xFFFFFF}},
       {"gif",
        bytesOf("47494638396102000100f00000ff000000000021f90400000000002c0000000002000100000202040a"
                "003b"),
-       2,
-       {0xFF0000, 0xFF0000}},
-      {"wmf", metafile(false), 8, {0xFF0000}},
-      {"emf", metafile(true), 8, {0xFF0000}}};
-  for (const auto& [name, file, width, first] : cases) {
+       {0xFF0000, 0xFF0000}}};
+  for (const auto& [name, file, pixels] : cases) {
     const Picture picture = OlePicture::fromBytes(file);
     ASSERT_TRUE(picture) << name;
     EXPECT_TRUE(file == picture->fileBytes()) << name;
@@ -171,12 +136,11 @@ TEST(Gdi, ShowsAndKeepsPictures) {
     ComPtr<IPictureDisp> handed;
     *handed.put() = newPictureDisp(picture);
     for (const Picture& shown : {picture, OlePicture::of(handed.get())}) {
-      EXPECT_EQ(width, shown->width()) << name;
+      EXPECT_EQ(pixels.size(), shown->width()) << name;
       GdiCanvas canvas;
-      canvas.resize(width, 1);
+      canvas.resize(static_cast<int>(pixels.size()), 1);
       canvas.PaintPicture(shown, 0, 0);
-      const std::vector<std::uint32_t> drawn = pixelsOf(canvas);
-      EXPECT_TRUE(std::equal(first.begin(), first.end(), drawn.begin(), isSame)) << name;
+      EXPECT_TRUE(std::ranges::equal(pixels, pixelsOf(canvas), isSame)) << name;
     }
   }
   EXPECT_FALSE(OlePicture::fromBytes({cases[0].file.data(), 20}));

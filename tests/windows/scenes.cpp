@@ -72,7 +72,8 @@ void forEachImage(const std::function<void(const Image&)>& take) {
     list.list().UserControl_ReadProperties(propertiesOf(properties));
     addItems(list.list(), items);
     list.list().ListIndex(current);
-    for (int i = 1; i < 6; i += 2) list.list().ItemSelected(i, list.list().MultiSelect());
+    if (list.list().MultiSelect())
+      for (const int i : {1, 3, 5}) list.list().ItemSelected(i, true);
     // The button at the lower end of the bar.
     if (std::string_view(name) == "bar-pressed") list.container().press(190, 90);
     list.surface().image();  // draws pending calls

@@ -53,26 +53,20 @@ void lifetimes() {
 DWORD WINAPI useControl(void* given) {
   OleInitialize(nullptr);
   const auto index = static_cast<long>(reinterpret_cast<INT_PTR>(given));
-  DWORD result = 0;
-  {
-    Container site;
-    const auto list = make();
-    asked<IOleObject>(list.get())->SetClientSite(&site);
-    site.activate(list.get());
-    for (long i = 0; i < 300; ++i) {
-      add(list.get(), i);
-      list->put_ListIndex(i);
-      if (i % 30 == 0) pump(1);
-    }
-    list->put_ListIndex(index);
-    PostMessageW(windowOf(list.get()), WM_KEYDOWN, VK_DOWN, 0);
-    pump(50);
-    result = listIndex(list.get()) == index + 1;
-    asked<IOleObject>(list.get())->SetClientSite(nullptr);
+  auto list = make();
+  for (long i = 0; i < 300; ++i) {
+    add(list.get(), i);
+    list->put_ListIndex(i);
+    if (i % 30 == 0) pump(1);
   }
+  list->put_ListIndex(index);
+  PostMessageW(windowOf(list.get()), WM_KEYDOWN, VK_DOWN, 0);
+  pump(50);
+  const bool isRight = listIndex(list.get()) == index + 1;
+  list.reset();
   pump(20);
   OleUninitialize();
-  return result;
+  return isRight;
 }
 
 void apartments() {
@@ -92,6 +86,7 @@ void apartments() {
   }
 }
 
+// The enumerators of the type library.
 static_assert(::cXPBlue == 0 && ::cXPSilver == 1 && ::cXPOlive == 2 && ::cCustom == 99);
 static_assert(::cXPScrollBlue == 0 && ::cXPScrollSilver == 1 && ::cXPScrollOlive == 2);
 static_assert(::cDefault == 0 && ::cCheckBoxes == 1 && ::cIcons == 2 && ::cCheckBoxesIcons == 3);
