@@ -56,7 +56,7 @@ class HearingListTest : public ListTest, public __nvList {
   }
   void ErrorWrongIndex(Variant& Index) override {
     hearRepaints();
-    told += "(" + Index.toText() + ")";
+    recorded += "(" + Index.toText() + ")";
     onWrongIndex(Index);
   }
 
@@ -64,7 +64,7 @@ class HearingListTest : public ListTest, public __nvList {
   /// indexes in brackets, and a * for each repaint.
   std::string heard() {
     hearRepaints();
-    return std::exchange(told, {});
+    return std::exchange(recorded, {});
   }
 
   /// Clears the list and adds items with the texts 0, 1, ..., none of them current.
@@ -89,7 +89,7 @@ class HearingListTest : public ListTest, public __nvList {
 
   void hear(const std::string& event) {
     hearRepaints();
-    told += (told.empty() ? "" : " ") + event;
+    recorded += (recorded.empty() ? "" : " ") + event;
     onEvent(event);
   }
 
@@ -97,7 +97,7 @@ class HearingListTest : public ListTest, public __nvList {
   void hearRepaints() {
     const int repaints =
         headless.surface().frames() - std::exchange(frames, headless.surface().frames());
-    told += std::string(static_cast<std::size_t>(repaints), '*');
+    recorded += std::string(static_cast<std::size_t>(repaints), '*');
   }
   void hearMouse(const std::string& event, std::int16_t Button, std::int16_t& Shift, float& X,
                  float& Y) {
@@ -106,7 +106,7 @@ class HearingListTest : public ListTest, public __nvList {
     hear(event);
   }
 
-  std::string told;
+  std::string recorded;
   int frames = 0;
 };
 

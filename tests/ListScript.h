@@ -112,7 +112,7 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     else if (verb == "silent") Error().SilentError(number(0, 1) != 0);
     else if (verb == "resize") headless.resize(real(0), real(1));
     else if (const auto* property = storedProperty(verb)) property->set(list, value(0));
-    // The hand: a row, and Shift or the buttons; a point, a button and Shift; a key and Shift.
+    // The user: a row, and Shift or the buttons; a point, a button and Shift; a key and Shift.
     else if (verb == "press") form.press(beside, rowAt(code), 1, number(1));
     else if (verb == "drag") form.moveTo(beside, rowAt(code), number(1, 1));
     else if (verb == "release") form.release(beside, rowAt(code));
@@ -134,7 +134,8 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     else if (verb == "ambient") list.UserControl_AmbientChanged(rest);
     else if (verb == "type") box().typeText(rest);
     else if (verb == "character") return box().typeCharacter(code) ? "kept" : "taken";
-    // What happens in events and messages: "throw", or a command, whose output becomes an event.
+    // What a handler does in one event, in each event or in a message: "throw", or a command, whose
+    // output becomes an event.
     else if (verb == "posts") for (int i = 0; i < code; ++i) form.post({});
     else if (verb == "drain") while (form.waiting() > 0) form.DoEvents();
     else if (verb == "post") form.post([this, rest] { obey(rest); });
@@ -166,7 +167,8 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     else if (verb == "index") return textOf(list.ListIndex());
     else if (verb == "chosen") return list.Text();
     else if (verb == "top") return textOf(list.TopIndex());
-    else if (verb == "bars") return told(list.verticalBar()) + ", " + told(list.horizontalBar());
+    else if (verb == "bars")
+      return barText(list.verticalBar()) + ", " + barText(list.horizontalBar());
     else if (verb == "range") return textOf(list.verticalBar().Max());
     else if (verb == "bar") return textOf(list.verticalBar().Value());
     else if (verb == "new") return textOf(list.NewIndex());
@@ -233,7 +235,7 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
     if (deed == "throw") throw Failure(1000, "own");
     if (const std::string output = run(deed); !output.empty()) hear("[" + output + "]");
   }
-  /// So many items, the first one of a number of characters, with everything fitted anew.
+  /// Fills the list with items, the first of which has a text of that many characters.
   void wide(int count, std::int16_t characters) {
     list.AutoCheckScroll(false);
     fill(0);
@@ -253,7 +255,7 @@ class ListScript : public HearingListTest, public testing::WithParamInterface<Sc
   }
   /// "on 13 at 5 (182 1 17x98)": whether the list shows the bar, its maximum, value and bounds.
   template <class Bar>
-  static std::string told(const Bar& bar) {
+  static std::string barText(const Bar& bar) {
     const bool isOn = bar.Tag() == "True";
     EXPECT_EQ(static_cast<bool>(bar.Visible()), isOn);
     return (isOn ? "on " : "off ") + textOf(bar.Max()) + " at " + textOf(bar.Value()) + " (" +

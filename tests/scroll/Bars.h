@@ -77,9 +77,9 @@ class BarTest : public ListTest, public nvVScrollEvents, public nvHScrollEvents 
     });
     return "<" + result + ">";
   }
-  /// The mouse takes a position along, a position across and buttons, all else one number. Events
-  /// are output with the value, times in milliseconds since their last output, and what is drawn
-  /// from a call on.
+  /// The mouse takes a position along, a position across and buttons, all else one number, which
+  /// for `draw` and its kind is the first call to output. Events are output with the value, and
+  /// times in milliseconds since their last output.
   std::string perform(const std::string& verb, double a, double b, double c) {
     const auto x = static_cast<float>(either(b, a));
     const auto y = static_cast<float>(either(a, b));
