@@ -18,7 +18,7 @@
 namespace norvane {
 namespace {
 
-TEST(QtPlaceTest, PacksAMessageOfTheWheel) {
+TEST(QtPlaceTest, PacksAMessageOfTheWheelAndReadsCharacters) {
   struct Control : UserControl {
     explicit Control(Container& place) : UserControl(place) {}
   };
@@ -46,9 +46,7 @@ TEST(QtPlaceTest, PacksAMessageOfTheWheel) {
   EXPECT_FALSE(turn(0, -120));
   place.isDesignMode = true;
   EXPECT_FALSE(turn(-120));
-}
-
-TEST(QtPlaceTest, DeleteTypesNoCharacter) {
+  // Delete types no character, though Qt reports one.
   EXPECT_EQ(characterOf(QKeyEvent(QEvent::KeyPress, Qt::Key_Delete, {}, "\x7f")), 0);
 }
 
@@ -89,8 +87,7 @@ TEST(QtPlaceTest, ListBoxesAndWindowsFailWithoutTheirWidgets) {
   QtWindow window(form);
   QtWindow control(*list);
   box.AddItem(box.List(0) + "Ω");
-  EXPECT_EQ(box.ListCount(), 2);
-  EXPECT_EQ(list->item(1)->text(), "ZoëΩ");
+  EXPECT_EQ(box.List(1), "ZoëΩ");
   EXPECT_EQ(failureOf([&] { box.List(2); }), 381);
   EXPECT_EQ(control.Container()->hwnd(), handleOf(form));
   EXPECT_EQ(failureOf([&] { window.Container(); }), 438);

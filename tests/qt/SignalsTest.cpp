@@ -32,20 +32,18 @@ TEST_F(Signals, EndWithTheWidget) {
 
 /// Also where the receiver has ended.
 TEST_F(Signals, AreConnectedAtAnyTime) {
-  std::string names;
-  auto receiver = std::make_unique<QObject>();
-  const auto connect = [&] {
-    return QObject::connect(widget, &NvListWidget::propertyChanged, receiver.get(),
-                            [&](const QString& name) { names += name.toStdString() + " "; });
-  };
-  const auto connection = connect();
-  list().MinHeight(20);
+  QString names;
+  const auto hear = [&](const QString& name) { names += name + " "; };
+  const auto connection = QObject::connect(widget, &NvListWidget::propertyChanged, hear);
+  run("MinHeight 20");
   QObject::disconnect(connection);
-  list().AllowEdit(true);
-  connect();
-  list().Enabled(true);
-  receiver.reset();
-  list().AllowEdit(true);
+  run("AllowEdit 1");
+  {
+    QObject receiver;
+    QObject::connect(widget, &NvListWidget::propertyChanged, &receiver, hear);
+    run("Enabled 1");
+  }
+  run("AllowEdit 1");
   EXPECT_EQ(names, "MinHeight Enabled ");
 }
 
