@@ -93,19 +93,17 @@ class FileTest : public ListTest, protected __nvList {
 };
 
 /// A picture with the given bytes.
-class BytePicture final : public PictureObject {
- public:
-  explicit BytePicture(std::string bytes) : bytes_(std::move(bytes)) {}
+struct BytePicture final : PictureObject {
+  explicit BytePicture(std::string itsBytes) : bytes(std::move(itsBytes)) {}
   float width() const override { return 1; }
   float height() const override { return 1; }
   std::vector<std::byte> fileBytes() const override {
-    if (bytes_ == "broken") throw std::runtime_error("no bytes");
-    const auto* first = reinterpret_cast<const std::byte*>(bytes_.data());
-    return {first, first + bytes_.size()};
+    if (bytes == "broken") throw std::runtime_error("no bytes");
+    const auto* first = reinterpret_cast<const std::byte*>(bytes.data());
+    return {first, first + bytes.size()};
   }
 
- private:
-  std::string bytes_;
+  std::string bytes;
 };
 
 inline std::string fileOf(const Picture& picture) {

@@ -8,38 +8,31 @@ namespace {
 using Values = std::vector<std::optional<Variant>>;
 
 /// Rows of one field, never Null. Any member can be removed.
-class Rows final : public Recordset {
- public:
-  Rows(Values rows, std::string lacks)
-      : count(static_cast<std::int32_t>(rows.size())),
-        rows_(std::move(rows)),
-        lacks_(std::move(lacks)) {}
-
-  std::int32_t count;
-  std::string calls;
+struct Rows final : Recordset {
+  Rows(Values itsRows, std::string itsLacks)
+      : rows(std::move(itsRows)), lacks(std::move(itsLacks)) {}
 
   std::int32_t RecordCount() override { return called('C'), count; }
-  void MoveFirst() override { called('F'), at_ = 0; }
+  void MoveFirst() override { called('F'), at = 0; }
   void MoveNext() override {
     called('N');
-    if (at_ == rows_.size()) throw Failure(3021, "no current row");
-    ++at_;
+    if (at == rows.size()) throw Failure(3021, "no current row");
+    ++at;
   }
-  Boolean Eof() override { return called('E'), at_ == rows_.size(); }
+  Boolean Eof() override { return called('E'), at == rows.size(); }
   std::optional<Variant> Value(std::int32_t field) override {
     called(static_cast<char>('0' + field));
-    return rows_.at(at_);
+    return rows.at(at);
   }
-
- private:
   void called(char member) {
     calls += member;
-    if (lacks_.find(member) != std::string::npos) Recordset::MoveFirst();
+    if (lacks.find(member) != std::string::npos) Recordset::MoveFirst();
   }
 
-  Values rows_;
-  std::string lacks_;
-  std::size_t at_ = 0;
+  Values rows;
+  std::string lacks, calls;
+  std::int32_t count = static_cast<std::int32_t>(rows.size());
+  std::size_t at = 0;
 };
 
 using RecordsetBinding = ListTest;

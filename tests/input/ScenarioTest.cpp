@@ -263,17 +263,14 @@ TEST(WheelMessage, IsUnpackedIntoNotchesKeysAndPoint) {
     wheel->WndProc(delta * 0x10000, 0);
     EXPECT_TRUE(ear.heard.starts_with(notches)) << delta;
   }
-  wheel->EnableWheel();
-  EXPECT_FALSE(place.turnWheel(120));
-  wheel->hWndCapture(1);
-  wheel->EnableWheel();
-  EXPECT_TRUE(place.turnWheel(120));
-  wheel->DisableWheel();
-  EXPECT_FALSE(place.turnWheel(120));
-  wheel->EnableWheel();
-  wheel->hWndCapture(0);
-  wheel.reset();
-  EXPECT_FALSE(place.turnWheel(120));
+  // Messages arrive from EnableWheel with a window to DisableWheel or the end.
+  const auto turns = [&] { return static_cast<int>(place.turnWheel(120)); };
+  std::string arrives;
+  wheel->EnableWheel(), arrives += textOf(turns());
+  wheel->hWndCapture(1), wheel->EnableWheel(), arrives += textOf(turns());
+  wheel->DisableWheel(), arrives += textOf(turns());
+  wheel->EnableWheel(), wheel->hWndCapture(0), wheel.reset(), arrives += textOf(turns());
+  EXPECT_EQ(arrives, "0100");
 }
 
 }  // namespace

@@ -83,20 +83,17 @@ TEST_F(ToolTipTest, AddsAToolOnceAndReadsItsTextBackWhole) {
 
 TEST_F(ToolTipTest, PassesOnTimesColoursWidthAndMargins) {
   tips.Create(form);
-  const auto delays = [&] {
-    std::string result;
-    for (const int kind : {0, 1, 2, 3}) result += std::to_string(tips.DelayTime(kind)) + " ";
-    return result;
-  };
-  EXPECT_EQ(delays(), "500 100 5000 500 ");
-  tips.DelayTime(2, 70000);
-  tips.DelayTime(1 + 4, 30);
-  tips.DelayTime(-1, 40);
-  EXPECT_EQ(delays(), "40 30 70000 40 ");
-  tips.DelayTime(4, 1000);
-  EXPECT_EQ(delays(), "1000 200 10000 1000 ");
-  for (const int kind : {1, 2, 3}) tips.DelayTime(kind, -1);
-  EXPECT_EQ(delays(), "500 100 5000 500 ");
+  const std::tuple<int, int, const char*> delays[] = {
+      {2, -1, "500 100 5000 500 "},      {2, 70000, "500 100 70000 500 "},
+      {1 + 4, 30, "500 30 70000 500 "},  {-1, 40, "40 30 70000 40 "},
+      {4, 1000, "1000 200 10000 1000 "}, {1, -1, "1000 100 10000 1000 "},
+      {2, -1, "1000 100 5000 1000 "},    {3, -1, "500 100 5000 500 "}};
+  for (const auto& [changed, time, expected] : delays) {
+    tips.DelayTime(changed, time);
+    std::string times;
+    for (const int kind : {0, 1, 2, 3}) times += textOf(tips.DelayTime(kind)) + " ";
+    EXPECT_EQ(times, expected);
+  }
 
   tips.ForeColor(0x445566);
   EXPECT_EQ(window()->textColour(), 0x445566);
