@@ -57,6 +57,7 @@ target_sources(nvlist PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FI
   nvlist/render/colours.h
   nvlist/scroll/Axis.h
   nvlist/scroll/Bar.h
+  nvlist/scroll/Part.h
   nvlist/scroll/RepeatButton.h
   nvlist/scroll/Thumb.h
   nvlist/scroll/art.h

@@ -14,7 +14,7 @@ constexpr std::int32_t repeatInterval = 100;
 
 RepeatButton::RepeatButton(std::unique_ptr<Container> place, ButtonEvents& owner,
                            const ButtonKind& kind)
-    : UserControl(std::move(place)),
+    : Part(std::move(place), kind.module),
       owner_(owner),
       kind_(kind),
       // The reporter may fail, and a timer has no caller.
@@ -22,23 +22,6 @@ RepeatButton::RepeatButton(std::unique_ptr<Container> place, ButtonEvents& owner
   const Picture picture = art::button(kind_.arrow, 1);
   Move({0, 0, picture->width(), picture->height()});
 }
-
-template <class Field>
-void RepeatButton::assign(const char* name, Field& field, Field value) {
-  trapped(kind_.module, name, [&](Trap& on) {
-    field = value;
-    on.step([&] { show(restState()); });
-  });
-}
-
-void RepeatButton::C(std::int32_t value) { assign("C", C_, value); }
-void RepeatButton::En(Boolean value) { assign("En", En_, value); }
-void RepeatButton::Arrow(Colour value) { assign("Arrow", arrow_.rest, value); }
-void RepeatButton::ArrowDown(Colour value) { assign("ArrowDown", arrow_.down, value); }
-void RepeatButton::ArrowHover(Colour value) { assign("ArrowHover", arrow_.hover, value); }
-void RepeatButton::Button(Colour value) { assign("Button", face_.rest, value); }
-void RepeatButton::ButtonDown(Colour value) { assign("ButtonDown", face_.down, value); }
-void RepeatButton::ButtonHover(Colour value) { assign("ButtonHover", face_.hover, value); }
 
 void RepeatButton::UserControl_InitProperties() {
   trapped(kind_.module, "UserControl_InitProperties",
@@ -53,18 +36,6 @@ void RepeatButton::UserControl_Resize() {
 }
 
 // ---- mouse and timer ----
-
-/// Captures the mouse while the pointer hovers, to see it leave. While a button is down the
-/// platform delivers all moves anyway.
-void RepeatButton::MouseOut(float X, float Y) {
-  trapped(kind_.module, "MouseOut", [&](Trap& on) {
-    const bool isOutside = on.test(
-        [&] { return X < 0 || Y < 0 || X > surface_.ScaleWidth() || Y > surface_.ScaleHeight(); });
-    if (PressState_ != Press::down)
-      on.step([&] { isOutside ? container_.ReleaseCapture() : container_.SetCapture(); });
-    MouseInside_ = !isOutside;
-  });
-}
 
 void RepeatButton::raiseEvent() { kind_.raisesValueUp ? owner_.ValueUp() : owner_.ValueDown(); }
 
@@ -134,7 +105,7 @@ void RepeatButton::show(State chosen) { kind_.paintsState ? PaintState() : paint
 
 void RepeatButton::paint(State state) {
   const std::int32_t index =
-      checked::add(checked::multiply(C_, 4), static_cast<std::int32_t>(state));
+      checked::add(checked::multiply(C(), 4), static_cast<std::int32_t>(state));
   const Picture picture = art::button(kind_.arrow, index);
   surface_.PaintPicture(picture, 0, 0);
   shown_ = picture;
@@ -152,10 +123,10 @@ void RepeatButton::UserControl_Paint() {
 
 void RepeatButton::PaintState() {
   trapped(kind_.module, "PaintState", [&](Trap& on) {
-    if (kind_.chevron && C_ == customStyle)
+    if (kind_.chevron && C() == customStyle)
       paintCustom(on);
     else
-      on.step([&] { paint(En_ ? mouseState() : State::disabled); });
+      on.step([&] { paint(En() ? mouseState() : State::disabled); });
   });
 }
 

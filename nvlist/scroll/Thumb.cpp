@@ -18,33 +18,7 @@ constexpr int gripImages = 3;
 
 }  // namespace
 
-template <class Field>
-void Thumb::assign(const char* name, Field& field, Field value) {
-  trapped(kind_.module, name, [&](Trap& on) {
-    field = value;
-    on.step([&] { RedrawScroll(); });
-  });
-}
-
-void Thumb::C(std::int32_t value) { assign("C", C_, value); }
-void Thumb::En(Boolean value) { assign("En", En_, value); }
-void Thumb::Bar(Colour value) { assign("Bar", fill_.rest, value); }
-void Thumb::BarDown(Colour value) { assign("BarDown", fill_.down, value); }
-void Thumb::BarHover(Colour value) { assign("BarHover", fill_.hover, value); }
-
 // ---- mouse ----
-
-/// Captures the mouse while the pointer hovers, to see it leave. While a button is down the
-/// platform delivers all moves anyway.
-void Thumb::MouseOut(float X, float Y) {
-  trapped(kind_.module, "MouseOut", [&](Trap& on) {
-    const bool isOutside = on.test(
-        [&] { return X < 0 || Y < 0 || X > surface_.ScaleWidth() || Y > surface_.ScaleHeight(); });
-    if (PressState_ != Press::down)
-      on.step([&] { isOutside ? container_.ReleaseCapture() : container_.SetCapture(); });
-    MouseInside_ = !isOutside;
-  });
-}
 
 void Thumb::UserControl_MouseDown(std::int16_t Button, std::int16_t, float X, float Y) {
   trapped(kind_.module, "UserControl_MouseDown", [&](Trap& on) {
@@ -86,7 +60,7 @@ void Thumb::RedrawScroll() {
     });
     if (kind_.choosesBeforeClearing) on.step([&] { chooseImage(); });
     on.step([&] { surface_.Cls(); });
-    if (kind_.hasCustomStyle && C_ == customStyle) {
+    if (kind_.hasCustomStyle && C() == customStyle) {
       on.step([&] { fill(surface_, fill_.of(MouseInside_, PressState_)); });
       return;
     }
@@ -95,14 +69,14 @@ void Thumb::RedrawScroll() {
     paintBody(on, W);
     paintEdges(on, W, H);
     if (along(kind_.axis, W, H) >= shortestGripped) paintGrip(on, W, H);
-    if (C_ == cXPScrollSilver) paintSilverOutline(on, W, H);
+    if (C() == cXPScrollSilver) paintSilverOutline(on, W, H);
   });
 }
 
 /// Chooses the picture of the body: pressed, hovered or normal.
 void Thumb::chooseImage() {
   const std::int32_t state = PressState_ == Press::down ? 1 : MouseInside_ ? 2 : 3;
-  ThumbImage_ = checked::narrow<std::int16_t>(checked::add(checked::multiply(C_, 6), state));
+  ThumbImage_ = checked::narrow<std::int16_t>(checked::add(checked::multiply(C(), 6), state));
 }
 
 /// Chooses the colours of the edges; a style without pictures leaves them as they are.
@@ -113,7 +87,7 @@ void Thumb::chooseEdgeColors() {
       {cutOff, colour(0x9D9EAC), colour(0x8B8C9A)},  // silver
       {cutOff, colour(0x829061), colour(0x8F9975)},  // olive
   }};
-  const auto style = static_cast<std::size_t>(C_);
+  const auto style = static_cast<std::size_t>(C());
   if (style < ofStyle.size()) EdgeColors_ = ofStyle[style];
 }
 

@@ -4,8 +4,7 @@
 #include <memory>
 
 #include <nvlist/drawing/Surface.h>
-#include <nvlist/objects/Trap.h>
-#include <nvlist/platform/UserControl.h>
+#include <nvlist/scroll/Part.h>
 #include <nvlist/scroll/differences.h>
 #include <nvlist/scroll/values.h>
 
@@ -23,16 +22,8 @@ struct ThumbEvents {
 
 /// The thumb of a bar. It paints itself by hover and press and forwards the mouse to its bar, which
 /// moves and sizes it. It does not know the value or the range.
-class Thumb : public UserControl {
+class Thumb : public Part {
  public:
-  /// The style: blue 0, silver 1, olive 2, or custom 99 if its kind has that. Any other style
-  /// leaves the thumb unpainted, and each repaint reports Failure 340. Default: 0.
-  std::int32_t C() const { return C_; }
-  void C(std::int32_t value);
-  /// Stored only; the picture does not depend on it. Default: false.
-  Boolean En() const { return En_; }
-  void En(Boolean value);
-
   void UserControl_MouseDown(std::int16_t Button, std::int16_t Shift, float X, float Y) override;
   void UserControl_MouseMove(std::int16_t Button, std::int16_t Shift, float X, float Y) override;
   void UserControl_MouseUp(std::int16_t Button, std::int16_t Shift, float X, float Y) override;
@@ -42,15 +33,15 @@ class Thumb : public UserControl {
  protected:
   /// The owner outlives the thumb.
   Thumb(std::unique_ptr<Container> place, ThumbEvents& owner, const ThumbKind& kind)
-      : UserControl(std::move(place)), owner_(owner), kind_(kind) {}
+      : Part(std::move(place), kind.module), owner_(owner), kind_(kind) {}
 
   /// The fill in custom style: at rest, while pressed and while hovered. Default: the button face.
   Colour Bar() const { return fill_.rest; }
-  void Bar(Colour value);
+  void Bar(Colour value) { assign("Bar", fill_.rest, value); }
   Colour BarDown() const { return fill_.down; }
-  void BarDown(Colour value);
+  void BarDown(Colour value) { assign("BarDown", fill_.down, value); }
   Colour BarHover() const { return fill_.hover; }
-  void BarHover(Colour value);
+  void BarHover(Colour value) { assign("BarHover", fill_.hover, value); }
 
  private:
   /// The colours of the edges in a style.
@@ -60,9 +51,7 @@ class Thumb : public UserControl {
     Colour round = 0;   ///< the pixels beside a corner
   };
 
-  template <class Field>
-  void assign(const char* name, Field& field, Field value);
-  void MouseOut(float X, float Y);
+  void repaint() override { RedrawScroll(); }
   void RedrawScroll();
   void chooseImage();
   void chooseEdgeColors();
@@ -75,11 +64,7 @@ class Thumb : public UserControl {
 
   ThumbEvents& owner_;
   const ThumbKind& kind_;
-  std::int32_t C_ = 0;
-  Boolean En_;
   StateColours fill_;
-  Press PressState_ = Press::none;
-  Boolean MouseInside_;
   std::int16_t ThumbImage_ = 0;
   EdgeColors EdgeColors_;
 };

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include <nvlist/platform/windows/ComObject.h>
 #include <nvlist/platform/windows/failures.h>
 
 namespace norvane {
@@ -16,26 +17,13 @@ inline void release(const FORMATETC&) {}
 
 /// A COM enumerator over a copy of the items made at its creation.
 template <class Interface, class Item>
-class Enumerator final : public Interface {
+class Enumerator final : public ComObject<Interface> {
  public:
   explicit Enumerator(std::vector<Item> items, std::size_t next = 0)
-      : items_(std::move(items)), next_(next) {
+      : ComObject<Interface>(1), items_(std::move(items)), next_(next) {
     for (const Item& item : items_) retain(item);
   }
 
-  STDMETHODIMP QueryInterface(REFIID id, void** out) override {
-    if (!out) return E_POINTER;
-    *out = id == IID_IUnknown || id == __uuidof(Interface) ? this : nullptr;
-    if (!*out) return E_NOINTERFACE;
-    AddRef();
-    return S_OK;
-  }
-  STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
-  STDMETHODIMP_(ULONG) Release() override {
-    const ULONG left = --references_;
-    if (left == 0) delete this;
-    return left;
-  }
   STDMETHODIMP Next(ULONG count, Item* out, ULONG* got) override {
     if (!out || (!got && count != 1)) return E_POINTER;
     ULONG given = 0;
@@ -62,13 +50,12 @@ class Enumerator final : public Interface {
   }
 
  private:
-  ~Enumerator() {
+  ~Enumerator() override {
     for (const Item& item : items_) release(item);
   }
 
   std::vector<Item> items_;
   std::size_t next_;
-  ULONG references_ = 1;
 };
 
 }  // namespace norvane

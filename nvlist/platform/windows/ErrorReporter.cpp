@@ -3,28 +3,17 @@
 #include <algorithm>
 #include <iterator>
 
+#include <nvlist/platform/windows/ComObject.h>
+
 namespace norvane {
 namespace {
 
 /// The program as an object, for handlers that query its name and version. It lives as long as it
 /// is referenced.
-class ProgramObject final : public IDispatch {
+class ProgramObject final : public ComObject<IDispatch> {
  public:
   explicit ProgramObject(const ApplicationFacts& facts) : facts_(facts) {}
 
-  STDMETHODIMP QueryInterface(REFIID id, void** out) override {
-    if (!out) return E_POINTER;
-    const bool isKnown = id == IID_IUnknown || id == IID_IDispatch;
-    *out = isKnown ? static_cast<IDispatch*>(this) : nullptr;
-    if (isKnown) AddRef();
-    return isKnown ? S_OK : E_NOINTERFACE;
-  }
-  STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
-  STDMETHODIMP_(ULONG) Release() override {
-    const ULONG left = --references_;
-    if (left == 0) delete this;
-    return left;
-  }
   STDMETHODIMP GetTypeInfoCount(UINT* count) override {
     if (!count) return E_POINTER;
     *count = 0;
@@ -72,10 +61,7 @@ class ProgramObject final : public IDispatch {
   static constexpr const wchar_t* members[] = {L"EXEName", L"Major", L"Minor", L"Revision",
                                                L"Path"};
 
-  ~ProgramObject() = default;
-
   const ApplicationFacts facts_;
-  ULONG references_ = 0;
 };
 
 }  // namespace

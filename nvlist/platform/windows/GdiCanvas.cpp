@@ -41,7 +41,7 @@ void GdiCanvas::resize(int width, int height) {
 }
 
 void GdiCanvas::resolution(int dpi) {
-  if (std::exchange(dpi_, dpi) != dpi) faces_ = {};
+  if (std::exchange(dpi_, dpi) != dpi) faces_.drop();
 }
 
 void GdiCanvas::dropImage() {
@@ -180,28 +180,11 @@ void GdiCanvas::DrawFocusRect(std::uintptr_t hDC, const Rectangle& rectangle) {
 
 // ---- texts ----
 
-void GdiCanvas::Font(const norvane::Font& font) {
-  if (!font) return;
-  flags_ = 0;
-  setFlag(bold, font->Bold);
-  setFlag(italic, font->Italic);
-  setFlag(underline, font->Underline);
-  const bool isSame = font->Name == font_.Name && font->Size == font_.Size &&
-                      font->Strikethrough == font_.Strikethrough;
-  if (isSame) return;
-  font_ = *font;
-  faces_ = {};
-}
-
 GdiFace& GdiCanvas::face() {
-  std::shared_ptr<GdiFace>& face = faces_[flags_];
+  std::shared_ptr<GdiFace>& face = faces_.current();
   if (!face) {
-    FontObject wanted = font_;
-    wanted.Bold = (flags_ & bold) != 0;
-    wanted.Italic = (flags_ & italic) != 0;
-    wanted.Underline = (flags_ & underline) != 0;
     if (dpi_ == 0) dpi_ = screenResolution().cy;
-    face = apartment_->faces().face(wanted, dpi_);
+    face = apartment_->faces().face(faces_.font(), dpi_);
   }
   return *face;
 }

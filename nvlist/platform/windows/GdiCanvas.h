@@ -1,9 +1,9 @@
 #pragma once
 
-#include <array>
 #include <memory>
 #include <vector>
 
+#include <nvlist/drawing/FontFaces.h>
 #include <nvlist/drawing/Surface.h>
 #include <nvlist/platform/windows/Apartment.h>
 
@@ -50,10 +50,10 @@ class GdiCanvas final : public Surface {
   float ScaleHeight() const override { return static_cast<float>(height_); }
   void BackColor(Colour colour) override { backColor_ = colour; }
   void ForeColor(Colour colour) override { foreColor_ = colour; }
-  void Font(const norvane::Font& font) override;
-  void FontBold(Boolean on) override { setFlag(bold, on); }
-  void FontItalic(Boolean on) override { setFlag(italic, on); }
-  void FontUnderline(Boolean on) override { setFlag(underline, on); }
+  void Font(const norvane::Font& font) override { faces_.font(font); }
+  void FontBold(Boolean on) override { faces_.bold(on); }
+  void FontItalic(Boolean on) override { faces_.italic(on); }
+  void FontUnderline(Boolean on) override { faces_.underline(on); }
   /// Identifies this surface; it is not a system handle. Calls that take a handle throw Failure 5
   /// for any other.
   std::uintptr_t hDC() const override { return reinterpret_cast<std::uintptr_t>(this); }
@@ -67,9 +67,6 @@ class GdiCanvas final : public Surface {
   static COLORREF colourRef(Colour colour);
 
  private:
-  enum Flag : unsigned { bold = 1, italic = 2, underline = 4 };
-
-  void setFlag(Flag flag, Boolean on) { flags_ = on ? flags_ | flag : flags_ & ~flag; }
   GdiFace& face();
   /// The device context of the image, which is created if necessary.
   HDC dc();
@@ -92,10 +89,8 @@ class GdiCanvas final : public Surface {
   float currentY_ = 0;
   Colour backColor_ = colours::white;
   Colour foreColor_ = 0;
-  FontObject font_;
   int dpi_ = 0;  ///< 0 until a text is measured or resolution() is called
-  unsigned flags_ = 0;
-  std::array<std::shared_ptr<GdiFace>, 8> faces_;
+  FontFaces<std::shared_ptr<GdiFace>> faces_;
 };
 
 }  // namespace norvane

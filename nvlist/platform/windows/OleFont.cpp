@@ -1,5 +1,6 @@
 #include <nvlist/platform/windows/OleFont.h>
 
+#include <nvlist/platform/windows/ComObject.h>
 #include <nvlist/platform/windows/failures.h>
 
 namespace norvane {
@@ -51,31 +52,16 @@ ComPtr<IFontDisp> newFontDisp(const Font& font) {
 }
 
 /// Listens to a font that the host may keep longer than the control.
-class OleFont::Listener final : public IPropertyNotifySink {
+class OleFont::Listener final : public ComObject<IPropertyNotifySink> {
  public:
   explicit Listener(OleFont& owner) : owner_(owner) {}
-  STDMETHODIMP QueryInterface(REFIID id, void** out) override {
-    if (!out) return E_POINTER;
-    *out = id == IID_IUnknown || id == IID_IPropertyNotifySink ? this : nullptr;
-    if (!*out) return E_NOINTERFACE;
-    AddRef();
-    return S_OK;
-  }
-  STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
-  STDMETHODIMP_(ULONG) Release() override {
-    const ULONG left = --references_;
-    if (left == 0) delete this;
-    return left;
-  }
   STDMETHODIMP OnChanged(DISPID) override {
     return guarded([&] { owner_.hostChanged(); });
   }
   STDMETHODIMP OnRequestEdit(DISPID) override { return S_OK; }
 
  private:
-  ~Listener() = default;
   OleFont& owner_;
-  ULONG references_ = 0;
 };
 
 IFontDisp* OleFont::handOut(const Font& font) {

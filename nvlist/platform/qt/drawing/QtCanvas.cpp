@@ -62,7 +62,7 @@ void QtCanvas::resize(QSize logical, qreal dpr) {
   endPainter();
   size_ = logical.expandedTo(QSize(0, 0)).boundedTo(QSize(farthestPixel, farthestPixel));
   if (!(dpr > 0 && dpr < 100)) dpr = 1;
-  if (dpr != dpr_) faces_ = {};
+  if (dpr != dpr_) faces_.drop();
   dpr_ = dpr;
 
   // Without an area there is still an image to draw on, which is not shown.
@@ -284,28 +284,12 @@ void QtCanvas::StretchDIBits(std::uintptr_t hDC, const Rectangle& target, const 
 // ---- texts ----
 
 void QtCanvas::Font(const norvane::Font& font) {
-  if (!font) return;
-  flags_ = 0;
-  setFlag(bold, font->Bold);
-  setFlag(italic, font->Italic);
-  setFlag(underline, font->Underline);
-  const bool isSame = font->Name == font_.Name && font->Size == font_.Size &&
-                      font->Strikethrough == font_.Strikethrough;
-  if (isSame) return;
-  font_ = *font;
-  faces_ = {};
-  painterFace_ = nullptr;
+  if (faces_.font(font)) painterFace_ = nullptr;
 }
 
 QtFace& QtCanvas::face() {
-  std::unique_ptr<QtFace>& face = faces_[flags_];
-  if (!face) {
-    QFont font = toQFont(font_);
-    font.setBold((flags_ & bold) != 0);
-    font.setItalic((flags_ & italic) != 0);
-    font.setUnderline((flags_ & underline) != 0);
-    face = std::make_unique<QtFace>(font, &image_);
-  }
+  std::unique_ptr<QtFace>& face = faces_.current();
+  if (!face) face = std::make_unique<QtFace>(toQFont(faces_.font()), &image_);
   return *face;
 }
 

@@ -5,10 +5,10 @@
 #include <QPalette>
 #include <QRect>
 #include <QSize>
-#include <array>
 #include <map>
 #include <memory>
 
+#include <nvlist/drawing/FontFaces.h>
 #include <nvlist/drawing/Surface.h>
 #include <nvlist/platform/qt/drawing/QtFace.h>
 
@@ -66,9 +66,9 @@ class QtCanvas final : public Surface {
   void BackColor(Colour colour) override { backColor_ = colour; }
   void ForeColor(Colour colour) override { foreColor_ = colour; }
   void Font(const norvane::Font& font) override;
-  void FontBold(Boolean on) override { setFlag(bold, on); }
-  void FontItalic(Boolean on) override { setFlag(italic, on); }
-  void FontUnderline(Boolean on) override { setFlag(underline, on); }
+  void FontBold(Boolean on) override { faces_.bold(on); }
+  void FontItalic(Boolean on) override { faces_.italic(on); }
+  void FontUnderline(Boolean on) override { faces_.underline(on); }
   /// The address of the image; the calls that take a handle throw Failure 5 for any other.
   std::uintptr_t hDC() const override { return reinterpret_cast<std::uintptr_t>(&image_); }
   void DrawTextA(std::uintptr_t hDC, std::string_view text, std::int32_t length,
@@ -79,11 +79,8 @@ class QtCanvas final : public Surface {
   void Print(std::string_view text) override;
 
  private:
-  enum Flag : unsigned { bold = 1, italic = 2, underline = 4 };
-
   struct ShownLine;
 
-  void setFlag(Flag flag, Boolean on) { flags_ = on ? flags_ | flag : flags_ & ~flag; }
   QtFace& face();
   QRgb rgb(Colour colour) const;
 
@@ -116,10 +113,8 @@ class QtCanvas final : public Surface {
   float currentY_ = 0;
   Colour backColor_ = colours::white;
   Colour foreColor_ = 0;
-  FontObject font_;
-  unsigned flags_ = 0;
   bool isPictureMissing_ = false;
-  std::array<std::unique_ptr<QtFace>, 8> faces_;
+  FontFaces<std::unique_ptr<QtFace>> faces_;
   /// Pictures of other platforms with their conversions. The reference keeps the address unique.
   std::map<const PictureObject*, std::pair<Picture, Picture>> foreign_;
 };
