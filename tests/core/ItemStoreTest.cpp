@@ -106,6 +106,18 @@ TEST(ItemStore, EqualsAVectorThroughAllChanges) {
   for (std::int32_t i = 0; i <= store.upperBound(); ++i) expectSame(i);
 }
 
+TEST(ItemStore, TheWidestTextIsFoundAfterASweepMergesBlocks) {
+  ItemStore store;
+  for (int i = 1; i < 600; ++i) store.grow();
+  for (int i = 0; i < 600; ++i) store.touch(i).textWidth = static_cast<std::uint16_t>(i);
+  // The first sweep leaves a short block. The second removes nothing of it.
+  for (const std::int32_t end : {256, 261}) {
+    for (std::int32_t i = 10; i < end; ++i) store.touch(i).Selected(true);
+    store.removeSelected(0, end);
+    EXPECT_EQ(store.measuredFrom(0)->widest, 599) << end;
+  }
+}
+
 using SelectedItems = ListTest;
 
 TEST_F(SelectedItems, AreRemovedAtOnceWithTheResultOfSingleSteps) {
