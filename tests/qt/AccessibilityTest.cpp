@@ -60,7 +60,6 @@ TEST_F(AccessibilityTest, DescribesRowsBarAndEditBox) {
   EXPECT_EQ(described(2), "row, 2 checkable disabled");
   EXPECT_EQ(described(15), "row, 15 checkable offscreen");
   EXPECT_EQ(top().focusChild(), &child(0));
-  EXPECT_EQ(top().tableInterface()->rowCount(), 20);
   list().SetEdit(0);
   ASSERT_EQ(top().childCount(), 22);
   EXPECT_EQ(child(21).object(), widget->editBox());
@@ -114,8 +113,7 @@ TEST_F(AccessibilityTest, ReportsChanges) {
       {"setText 3 x; setText 18 out of view", "Name(3) "},
       {"disable 3; check 3 1", "State(3) State(3) "},
       {"scroll 4", "Value "},
-      {"remove 19", "Rows "},
-      {"scroll 4", ""}};
+      {"remove 19", "Rows "}};
   for (const auto& change : changes) {
     ear->events.clear();
     run(change.first);

@@ -157,7 +157,6 @@ class BarsOfTheirOwn : public testing::TestWithParam<Qt::Orientation> {
   }
   void moveTo(int along) { mouse.moveTo(isVertical ? QPoint(8, along) : QPoint(along, 8)); }
   void press(int along) { moveTo(along), mouse.press(); }
-  void release() { mouse.release(); }
   /// The first pixel of the thumb, and the first one behind it.
   std::pair<int, int> thumb() {
     const QRect area = childOf(childOf(widget->place(), 0), 0).geometry();
@@ -174,9 +173,9 @@ class BarsOfTheirOwn : public testing::TestWithParam<Qt::Orientation> {
 };
 
 TEST_P(BarsOfTheirOwn, AreSteppedAndDraggedAtEachLength) {
-  press(195), release();
+  press(195), mouse.release();
   EXPECT_EQ(heard(), "Change 1");
-  press(50), moveTo(60), moveTo(199), release();
+  press(50), moveTo(60), moveTo(199), mouse.release();
   EXPECT_EQ(heard(), "Scroll 11, Scroll 100, Change 100");
   for (const int pixels : {300, 150}) {
     length(pixels);
@@ -200,18 +199,18 @@ TEST_P(BarsOfTheirOwn, EndAPressWhereAHandlerTakesTheMouseAway) {
     press(195);
     // A hidden window may not receive it.
     const bool isHidden = !form.isVisible();
-    if (!isHidden) release();
+    if (!isHidden) mouse.release();
     EXPECT_EQ(heard(), "Change 1");
     QTest::qWait(700);
     EXPECT_EQ(heard(), "") << "repeated";
     widget->bar().Enabled(true);
     form.show();
-    if (isHidden) release();
+    if (isHidden) mouse.release();
   }
   onEvent = [&](const std::string& event) {
     if (event == "Scroll") openDialog(event);
   };
-  press(50), moveTo(60), release();
+  press(50), moveTo(60), mouse.release();
   QTest::qWait(10);
   widget->setValue(0);
   EXPECT_EQ(thumb().first, 17) << "the thumb is not left where the mouse has had it";
@@ -221,7 +220,7 @@ TEST_P(BarsOfTheirOwn, MayEndInAHandler) {
   onEvent = [&](auto&) { delete widget; };
   press(50), moveTo(60);
   EXPECT_FALSE(widget);
-  release();
+  mouse.release();
   // The bar itself ends later.
   QTest::qWait(20);
 }

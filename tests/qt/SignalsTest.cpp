@@ -1,5 +1,3 @@
-#include <QDialog>
-
 #include <nvlist/objects/Trap.h>
 
 #include "WidgetTest.h"
@@ -45,25 +43,6 @@ TEST_F(Signals, AreConnectedAtAnyTime) {
   }
   run("AllowEdit 1");
   EXPECT_EQ(names, "MinHeight Enabled ");
-}
-
-/// A slot may open a dialog with another list, whose signals work meanwhile.
-TEST_F(Signals, MayOpenADialog) {
-  std::string inDialog;
-  QDialog dialog;
-  NvListWidget other(&dialog);
-  other.addItem("a");
-  QObject::connect(&other, &NvListWidget::currentChanged, [&](int index) {
-    inDialog += std::to_string(index);
-    dialog.accept();
-  });
-  onEvent = [&](const std::string& name) {
-    if (name != "current") return;
-    QTimer::singleShot(0, &other, [&] { other.setCurrentIndex(0); });
-    dialog.exec();
-  };
-  click(2);
-  EXPECT_EQ(inDialog, "0");
 }
 
 /// The index of a point is that of the row which a press there hits, also on the bar and the frame.

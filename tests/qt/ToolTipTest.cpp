@@ -1,7 +1,5 @@
 #include <QElapsedTimer>
-#include <QHelpEvent>
 #include <QPushButton>
-#include <QToolTip>
 
 #include <nvlist/objects/nvToolTip.h>
 #include <nvlist/platform/qt/QtApplication.h>
