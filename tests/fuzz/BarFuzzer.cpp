@@ -1,4 +1,4 @@
-// Does random things to a scroll bar that stands alone on a form.
+// Does random things to a scroll bar that is alone on a form.
 
 #include <nvlist/objects/Error.h>
 #include <nvlist/platform/headless/HeadlessApplication.h>

@@ -51,13 +51,13 @@ class WinWindowTest : public testing::Test, protected __nvList {
   }
   ~WinWindowTest() override { list.removeSink(*this); }
 
-  void Click() override { heard += "click "; }
+  void Click() override { events += "click "; }
   void KeyDown(std::int16_t& KeyCode, std::int16_t&) override {
-    heard += "down " + std::to_string(KeyCode) + " ";
+    events += "down " + std::to_string(KeyCode) + " ";
     if (KeyCode == 'S') KeyCode = 0;
   }
   void KeyPress(std::int16_t& KeyAscii) override {
-    heard += "press " + std::to_string(KeyAscii) + " ";
+    events += "press " + std::to_string(KeyAscii) + " ";
   }
 
   HWND window() const { return winList.window(); }
@@ -70,7 +70,7 @@ class WinWindowTest : public testing::Test, protected __nvList {
   Form form;
   WinList winList{form.window, {10, 10, 210, 110}};
   nvList& list = winList.list();
-  std::string heard;
+  std::string events;
 };
 
 TEST_F(WinWindowTest, PassesTheMouseToTheControlUnderIt) {
@@ -84,7 +84,7 @@ TEST_F(WinWindowTest, PassesTheMouseToTheControlUnderIt) {
   send(WM_LBUTTONUP, 0, 190, 92);
   pump();
   EXPECT_EQ(1, list.TopIndex());
-  EXPECT_EQ("click ", heard);
+  EXPECT_EQ("click ", events);
   // A message box opened during a press takes the capture, and the button stops.
   send(WM_LBUTTONDOWN, MK_LBUTTON, 190, 92);
   send(WM_CAPTURECHANGED);
@@ -136,7 +136,7 @@ TEST_F(WinWindowTest, EditsInAWindowOfItsOwn) {
 TEST_F(WinWindowTest, ASwallowedKeyHasNoCharacter) {
   for (const WPARAM key : {'S', 'A'}) PostMessageW(window(), WM_KEYDOWN, key, 0);
   pump();
-  EXPECT_EQ("down 83 down 65 press 97 ", heard);
+  EXPECT_EQ("down 83 down 65 press 97 ", events);
 }
 
 TEST_F(WinWindowTest, OnlyTheFirstRepaintInvalidates) {

@@ -42,7 +42,7 @@ class Container final : public Standing<IOleClientSite, IOleInPlaceSite, IOleInP
   std::wstring name = L"List1";
   int nameReads = 0;
   ComPtr<IFontDisp> font;
-  std::string heard;  ///< the calls of the control so far
+  std::string calls;  ///< those of the control so far
   ~Container() { DestroyWindow(frame); }
 
   HRESULT activate(::_nvList* list, LONG verb = OLEIVERB_INPLACEACTIVATE) {
@@ -50,18 +50,18 @@ class Container final : public Standing<IOleClientSite, IOleInPlaceSite, IOleInP
   }
 
   // IOleClientSite
-  STDMETHODIMP SaveObject() override { return hear("save "); }
+  STDMETHODIMP SaveObject() override { return record("save "); }
   STDMETHODIMP GetMoniker(DWORD, DWORD, IMoniker**) override { return E_NOTIMPL; }
   STDMETHODIMP GetContainer(IOleContainer**) override { return E_NOINTERFACE; }
-  STDMETHODIMP ShowObject() override { return hear("show "); }
+  STDMETHODIMP ShowObject() override { return record("show "); }
   STDMETHODIMP OnShowWindow(BOOL) override { return S_OK; }
   STDMETHODIMP RequestNewObjectLayout() override { return E_NOTIMPL; }
   // IOleInPlaceSite
   STDMETHODIMP GetWindow(HWND* out) override { return *out = frame, S_OK; }
   STDMETHODIMP ContextSensitiveHelp(BOOL) override { return E_NOTIMPL; }
   STDMETHODIMP CanInPlaceActivate() override { return refusesActivation ? S_FALSE : S_OK; }
-  STDMETHODIMP OnInPlaceActivate() override { return hear("in place "); }
-  STDMETHODIMP OnUIActivate() override { return hear("UI "); }
+  STDMETHODIMP OnInPlaceActivate() override { return record("in place "); }
+  STDMETHODIMP OnUIActivate() override { return record("UI "); }
   STDMETHODIMP GetWindowContext(IOleInPlaceFrame** out, IOleInPlaceUIWindow** document,
                                 RECT* position, RECT* clip, OLEINPLACEFRAMEINFO*) override {
     AddRef();
@@ -71,8 +71,8 @@ class Container final : public Standing<IOleClientSite, IOleInPlaceSite, IOleInP
     return S_OK;
   }
   STDMETHODIMP Scroll(SIZE) override { return E_NOTIMPL; }
-  STDMETHODIMP OnUIDeactivate(BOOL) override { return hear("no UI "); }
-  STDMETHODIMP OnInPlaceDeactivate() override { return hear("out of place "); }
+  STDMETHODIMP OnUIDeactivate(BOOL) override { return record("no UI "); }
+  STDMETHODIMP OnInPlaceDeactivate() override { return record("out of place "); }
   STDMETHODIMP DiscardUndoState() override { return S_OK; }
   STDMETHODIMP DeactivateAndUndo() override { return S_OK; }
   STDMETHODIMP OnPosRectChange(LPCRECT) override { return S_OK; }
@@ -81,7 +81,7 @@ class Container final : public Standing<IOleClientSite, IOleInPlaceSite, IOleInP
   STDMETHODIMP RequestBorderSpace(LPCBORDERWIDTHS) override { return E_NOTIMPL; }
   STDMETHODIMP SetBorderSpace(LPCBORDERWIDTHS) override { return S_OK; }
   STDMETHODIMP SetActiveObject(IOleInPlaceActiveObject* object, LPCOLESTR) override {
-    return hear(object ? "active " : "inactive ");
+    return record(object ? "active " : "inactive ");
   }
   STDMETHODIMP InsertMenus(HMENU, OLEMENUGROUPWIDTHS*) override { return E_NOTIMPL; }
   STDMETHODIMP SetMenu(HMENU, HOLEMENU, HWND) override { return S_OK; }
@@ -95,7 +95,7 @@ class Container final : public Standing<IOleClientSite, IOleInPlaceSite, IOleInP
   STDMETHODIMP GetExtendedControl(IDispatch**) override { return E_NOTIMPL; }
   STDMETHODIMP TransformCoords(POINTL*, POINTF*, DWORD) override { return E_NOTIMPL; }
   STDMETHODIMP TranslateAccelerator(MSG*, DWORD) override {
-    return hear("key "), takesAccelerators ? S_OK : S_FALSE;
+    return record("key "), takesAccelerators ? S_OK : S_FALSE;
   }
   STDMETHODIMP OnFocus(BOOL) override { return S_OK; }
   STDMETHODIMP ShowPropertyFrame() override { return E_NOTIMPL; }
@@ -122,7 +122,7 @@ class Container final : public Standing<IOleClientSite, IOleInPlaceSite, IOleInP
   }
 
  private:
-  HRESULT hear(const char* call) { return heard += call, S_OK; }
+  HRESULT record(const char* call) { return calls += call, S_OK; }
 };
 
 /// A sink of the list's events, of changed properties and of changed views.
@@ -130,7 +130,7 @@ class Sink final : public Standing<IDispatch, IPropertyNotifySink, IAdviseSink> 
  public:
   /// The events so far, each with the types and values of its arguments in order: "3 3:1 11:0; ".
   /// An exclamation mark follows an argument by value.
-  std::wstring heard;
+  std::wstring events;
   std::vector<DISPID> properties;
   int views = 0;
   std::function<void(DISPID, DISPPARAMS&)> onEvent = [](DISPID, DISPPARAMS&) {};
@@ -140,15 +140,15 @@ class Sink final : public Standing<IDispatch, IPropertyNotifySink, IAdviseSink> 
   STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
   STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* given, VARIANT*, EXCEPINFO*,
                       UINT*) override {
-    heard += std::to_wstring(id);
+    events += std::to_wstring(id);
     for (UINT i = given->cArgs; i-- > 0;) {
       const VARIANT& argument = given->rgvarg[i];
       OleVariant text(argument);
       VariantChangeType(&text, &text, 0, VT_BSTR);
-      heard += L" " + std::to_wstring(argument.vt & ~VT_BYREF) + L":" + text.bstrVal +
-               (argument.vt & VT_BYREF ? L"" : L"!");
+      events += L" " + std::to_wstring(argument.vt & ~VT_BYREF) + L":" + text.bstrVal +
+                (argument.vt & VT_BYREF ? L"" : L"!");
     }
-    heard += L"; ";
+    events += L"; ";
     onEvent(id, *given);
     return S_OK;
   }

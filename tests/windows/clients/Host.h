@@ -15,7 +15,7 @@ struct Checks {
     if (!isRight) std::printf("FAIL %s\n", what);
     std::fflush(stdout);
   }
-  /// The same, with what is printed if the two differ.
+  /// Checks that two texts are equal. Prints the first if they differ.
   void same(const std::wstring& got, const std::wstring& expected, const char* what) {
     (*this)(got == expected, what);
     if (got != expected) std::printf("  %ls\n", got.c_str());

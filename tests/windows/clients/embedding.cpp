@@ -41,8 +41,8 @@ void activate(Container& site, Sink& sink) {
     asked<IOleControl>(list.get())->GetControlInfo(&info);
     return info.dwFlags == CTRLINFO_EATS_RETURN;
   };
-  const auto expect = [&](HRESULT answer, HRESULT expected, const char* heard, const char* what) {
-    check(answer == expected && std::exchange(site.heard, {}) == heard, what);
+  const auto expect = [&](HRESULT answer, HRESULT expected, const char* calls, const char* what) {
+    check(answer == expected && std::exchange(site.calls, {}) == calls, what);
   };
   site.refusesActivation = true;
   expect(verb(OLEIVERB_INPLACEACTIVATE), E_FAIL, "", "a container may refuse");
@@ -167,7 +167,7 @@ void connections() {
   check(points->Reset() == S_OK && points->Skip(1) == S_OK && points->Clone(clone.put()) == S_OK &&
             points->Skip(2) == S_FALSE && clone->Next(1, second.put(), nullptr) == S_OK &&
             second.get() == found[1],
-        "an enumerator skips, starts again and is cloned where it stands");
+        "an enumerator skips, starts again, and is cloned with its position");
   IID id{};
   ComPtr<IConnectionPointContainer> owner;
   const ULONG before = list->AddRef();
@@ -192,7 +192,7 @@ void connections() {
     list->ItemsClear();
   };
   list->put_ListIndex(9);
-  check(first.heard == L"21 12:9; " && other.heard.empty(), "a disconnected sink is not called");
+  check(first.events == L"21 12:9; " && other.events.empty(), "a disconnected sink is not called");
   check(found[0]->Unadvise(cookies[1]) == CONNECT_E_NOCONNECTION, "disconnected twice");
   check(found[0]->Advise(nullptr, cookies) == E_POINTER, "no sink");
   for (IConnectionPoint* each : {found[0], found[1]}) each->Release();
@@ -229,14 +229,14 @@ void events() {
   };
   const auto send = [&](UINT message, WPARAM wParam, int x = 0, int y = 0) {
     SendMessageW(windowOf(list.get()), message, wParam, MAKELPARAM(x, y));
-    return std::exchange(sink.heard, {});
+    return std::exchange(sink.events, {});
   };
   const struct {
     const char* name;
     UINT message;
     WPARAM wParam;
     int x, y;
-    const wchar_t* heard;
+    const wchar_t* events;
   } messages[] = {
       {"press", WM_LBUTTONDOWN, MK_LBUTTON, 60, 30, L"6 2:1 2:0 4:60 4:30; "},
       {"release", WM_LBUTTONUP, 0, 61, 30, L"4 2:1 2:0 4:61 4:30; 1; "},
@@ -249,7 +249,7 @@ void events() {
       {"key up", WM_KEYUP, VK_F6, 0, 0, L"14 2:117 2:0; "},
       {"swallowed key", WM_KEYDOWN, VK_UP, 0, 0, L"12 2:38 2:0; "}};
   for (const auto& each : messages)
-    check.same(send(each.message, each.wParam, each.x, each.y), each.heard, each.name);
+    check.same(send(each.message, each.wParam, each.x, each.y), each.events, each.name);
   long checked = -1;
   check(list->ItemsCheckCount(&checked) == S_OK && checked == 0, "Cancel is read back");
   check(listIndex(list.get()) == 2, "KeyCode is read back");
@@ -265,7 +265,7 @@ void events() {
     BSTR name = SysAllocString(path);
     isSaved ? list->ListSave(&name, 0) : list->ListInput(&name, 0);
     SysFreeString(name);
-    return std::exchange(sink.heard, {});
+    return std::exchange(sink.events, {});
   };
   check.same(file(true, saved), L"9 12:0; ", "ListSaving, Index read back");
   check.same(file(true, L"C:\\none\\none"), L"8; ", "ErrorListSave");
