@@ -224,13 +224,13 @@ TEST_F(NvListWidgetTest, WhatIsEditedCanBeReadOnADesktopOfAnyColours) {
 
 TEST_F(NvListWidgetTest, FailuresGoWhereTheProgramWants) {
   static QString logged;
-  QString told;
+  QString reported;
   const auto failing = [&](QtFailures::Mode mode) {
     QtFailures::setMode(mode);
-    logged = told = "";
+    logged = reported = "";
     list().ItemText(7);
     QtFailures::setMode(QtFailures::Mode::Box);
-    return told + " / " + logged.section(',', 0, 0);
+    return reported + " / " + logged.section(',', 0, 0);
   };
   QtApplication services;
   const auto usual = qInstallMessageHandler(
@@ -239,7 +239,7 @@ TEST_F(NvListWidgetTest, FailuresGoWhereTheProgramWants) {
   const auto reporter = QObject::connect(
       &QtFailures::instance(), &QtFailures::reported,
       [&](int number, const QString& description, const QString& where) {
-        told = QString::number(number) + " " + description + " " + where.section(',', 0, 0);
+        reported = QString::number(number) + " " + description + " " + where.section(',', 0, 0);
       });
   EXPECT_EQ(failing(QtFailures::Mode::Signal), "9 Subscript out of range nvList.ItemText / ");
   EXPECT_EQ(failing(QtFailures::Mode::Silent), " / ");

@@ -62,7 +62,7 @@ TEST_F(QtRecordsetTest, fillsAListWithTheFirstFieldUpToWhatFails) {
   for (const auto& [query, result] : cases) {
     const auto source = rows(query);
     EXPECT_EQ(filled(source).substr(0, result.size()), result) << query.toStdString();
-    if (result.ends_with('|')) EXPECT_EQ(filled(source), result) << "a second time";
+    EXPECT_TRUE(!result.ends_with('|') || filled(source) == result) << "a second time";
   }
 }
 

@@ -115,7 +115,7 @@ TEST_F(WidgetTest, AHandlerMayDoAnything) {
       application.boxes.clear();
       EXPECT_FALSE(Trap::anyRuns());
       onEvent = [](const std::string&) {};
-      if (deed == "end") EXPECT_FALSE(widget);
+      EXPECT_TRUE(deed != "end" || !widget);
       EXPECT_EQ(run("clear; add x; texts"), widget ? "x" : "");
       QTest::qWait(deed == "end" ? 3 : 0);
     }
