@@ -77,6 +77,26 @@ TEST_F(ItemProperties, EachWritesAFieldOfItsOwnAndNotifiesTheHost) {
   // Alike again, and changed again.
   for (const Accessor& each : accessors) each.write(list, 2);
   EXPECT_EQ(fields(1), fields(2));
+  // The names mean the same to ItemsAdd.
+  list.ItemsAdd({.aText = "a text",
+                 .aIcon = icon,
+                 .aIconSelected = other,
+                 .aChecked = true,
+                 .aForeColor = 1,
+                 .aBackColor = 2,
+                 .aAllowEdit = true,
+                 .aAlignment = cItemAlignment{77},
+                 .aForeColorSelected = "3",
+                 .aBackColorSelected = 4,
+                 .aEnabled = false,
+                 .aTag = 7.5,
+                 .aForeColorDis = 5,
+                 .aBackColorDis = 6,
+                 .aBold = Boolean::ofNumber(5),
+                 .aItalic = true,
+                 .aUnderline = true,
+                 .aKey = "a key of some length"});
+  EXPECT_EQ(fields(1), fields(3));
   list.ItemChecked(2, Boolean::ofNumber(7));
   EXPECT_EQ(list.ItemChecked(1).number(), -1);
 }
