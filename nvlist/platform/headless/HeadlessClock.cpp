@@ -12,7 +12,7 @@ class HeadlessClock::ClockTimer final : public Timer {
   }
   ~ClockTimer() override { std::erase(clock_.timers_, this); }
 
-  bool isRunning() const { return running_ > running_.zero(); }
+  bool isRunning() const { return running_.count() > 0; }
   Time due() const { return begun_ + running_; }
   void begin() { begun_ = clock_.now_; }
   void tick() {
