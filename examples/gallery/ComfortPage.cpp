@@ -64,7 +64,7 @@ void addVerses(Stage& stage, const QString& name, const QString& caption, bool c
   list.MinHeight(22);
   for (const char* text :
        {"One line", "A row of two lines:\nthe second has no room", "Another single line",
-        "This line is longer than any row of this page, so a tip shows the whole text of it here",
+        "This line is longer than any row of this page, even a wide one: a tip shows all of it",
         "Three lines in\na row that has room\nfor one of them", "The last line"})
     list.ItemsAdd({.aText = text, .aAllowEdit = true});
 }

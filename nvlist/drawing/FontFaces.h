@@ -12,8 +12,8 @@ template <class Face>
 class FontFaces {
  public:
   const FontObject& font() const { return font_; }
-  /// Does nothing without a font. Returns whether the faces were dropped, which another name, size
-  /// or strikethrough does.
+  /// Sets the font; an empty reference is ignored. Drops the faces if name, size or strikethrough
+  /// differ, and returns whether it did.
   bool font(const Font& font) {
     if (!font) return false;
     const bool isSame = font->Name == font_.Name && font->Size == font_.Size &&

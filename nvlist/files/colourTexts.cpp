@@ -9,8 +9,6 @@
 namespace norvane {
 namespace {
 
-constexpr Module here{kinds::module, "basList"};
-
 /// Red, green and blue. Division truncates towards zero, also for negative colours.
 std::array<Colour, 3> channelsOf(Colour color) {
   return {color & 255, color / 256 & 255, color / 65536 & 255};
@@ -29,7 +27,7 @@ Colour digitOf(char hex) {
 
 std::string CHex(std::int32_t value, std::int16_t width) {
   std::string result;
-  trapped(here, "CHex", [&](Trap& on) {
+  trapped(basList, "CHex", [&](Trap& on) {
     on.step([&] { result = hexTextOf(static_cast<std::uint32_t>(value), width); });
   });
   return result;
@@ -37,7 +35,7 @@ std::string CHex(std::int32_t value, std::int16_t width) {
 
 std::string RGB2HTML(std::int16_t red, std::int16_t green, std::int16_t blue) {
   std::string result;
-  trapped(here, "RGB2HTML", [&](Trap& on) {
+  trapped(basList, "RGB2HTML", [&](Trap& on) {
     on.step([&] { result = CHex(red, 2) + CHex(green, 2) + CHex(blue, 2); });
   });
   return result;
@@ -45,7 +43,7 @@ std::string RGB2HTML(std::int16_t red, std::int16_t green, std::int16_t blue) {
 
 std::string VBColor2HTML(Colour color) {
   std::string result;
-  trapped(here, "VBColor2HTML", [&](Trap& on) {
+  trapped(basList, "VBColor2HTML", [&](Trap& on) {
     on.step([&] {
       const auto [red, green, blue] = channelsOf(color);
       result = RGB2HTML(static_cast<std::int16_t>(red), static_cast<std::int16_t>(green),
@@ -57,7 +55,7 @@ std::string VBColor2HTML(Colour color) {
 
 std::string GetCorrectColor(std::string_view text) {
   std::string result;
-  trapped(here, "GetCorrectColor", [&](Trap& on) {
+  trapped(basList, "GetCorrectColor", [&](Trap& on) {
     if (text == defaultMark) {
       on.step([&] { result = std::string(3, ' ').append(text); });
     } else if (const auto number = numberOf(text)) {

@@ -6,9 +6,8 @@
 namespace norvane {
 
 Boolean FileExists(const std::string& path) {
-  static constexpr Module here{kinds::module, "basList"};
   Boolean result;
-  trapped(here, "FileExists",
+  trapped(basList, "FileExists",
           [&](Trap& on) { on.step([&] { result = Files::inUse().holdsFile(path); }); });
   return result;
 }

@@ -20,6 +20,9 @@ inline constexpr const char* classModule = "Klassenmodul";
 inline constexpr const char* module = "Modul";
 }  // namespace kinds
 
+/// The module of the procedures that belong to no class.
+inline constexpr Module basList{kinds::module, "basList"};
+
 /// The handling of failures in the library. Each procedure runs its body under a trap, and each
 /// statement of it that can fail is one step:
 ///

@@ -23,13 +23,16 @@ class Timer {
   }
 
  protected:
-  /// Ticks whenever `milliseconds` have passed from now on.
+  /// Begins to tick every `milliseconds`, from now on. If it throws, the timer is as it was before.
   virtual void start(std::int32_t milliseconds) = 0;
   virtual void stop() = 0;
 
  private:
   void set(std::int32_t interval, Boolean enabled) {
-    enabled&& interval > 0 ? start(interval) : stop();
+    if (enabled && interval > 0)
+      start(interval);
+    else
+      stop();
     interval_ = interval;
     enabled_ = enabled;
   }

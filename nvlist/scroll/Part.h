@@ -9,8 +9,7 @@
 
 namespace norvane::scroll {
 
-/// What the thumb and the buttons of a bar have in common: a style, and the mouse that hovers over
-/// them and presses them.
+/// The base of the thumb and the buttons of a bar: style, hover and press.
 class Part : public UserControl {
  public:
   /// The style: blue 0, silver 1, olive 2, or custom 99 if its kind has that. For any other style
@@ -23,7 +22,7 @@ class Part : public UserControl {
   void En(Boolean value) { assign("En", En_, value); }
 
  protected:
-  /// `module` is that of the kind, for reports.
+  /// `module`, which reports name, must outlive the part.
   Part(std::unique_ptr<Container> place, const Module& module)
       : UserControl(std::move(place)), module_(module) {}
 

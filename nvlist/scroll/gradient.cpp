@@ -11,8 +11,6 @@
 namespace norvane {
 namespace {
 
-constexpr Module here{kinds::module, "basList"};
-
 /// The width of an upright gradient. Rows of four pixels need no padding.
 constexpr std::int32_t columns = 4;
 
@@ -47,7 +45,7 @@ std::vector<std::uint8_t> pixelsBetween(Colour color1, Colour color2, std::int32
 
 void DrawGradient(Surface& surface, const Rectangle& rectangle, Colour color1, Colour color2,
                   std::int32_t direction) {
-  trapped(here, "DrawGradient", [&](Trap& on) {
+  trapped(basList, "DrawGradient", [&](Trap& on) {
     // One step, so that nothing is drawn after a failure that is ignored.
     on.step([&] {
       const std::int32_t width = checked::subtract(rectangle.Right, rectangle.Left);

@@ -53,7 +53,7 @@ inline char32_t foldCase(char32_t character) {
   return character >= U'A' && character <= U'Z' ? character + (U'a' - U'A') : character;
 }
 
-/// The text without the leading and trailing characters that are one of `blanks`.
+/// The text without leading and trailing characters from `blanks`.
 std::string_view trimmed(std::string_view text, std::string_view blanks);
 
 /// Calls `take` with each line of the text until it returns false. A line ends with CR, LF or CR

@@ -99,6 +99,9 @@ class Sweep {
     {
       const allocations::Pause pause;
       hand = handOn(form_, *list_);
+      hand.wait = [this, wait = hand.wait](int time) {
+        if (!ignoringFailures([&] { wait(time); })) fault("a tick failed");
+      };
       life = lifeOf(*list_, hand, [this] { calls_(); });
       list_->addSink(host);
     }

@@ -134,6 +134,7 @@ TEST_F(Disk, ASaveIsNotDisturbedAndLeavesNothingBehind) {
     onProgress = [](Variant&) { throw 1; };
     EXPECT_FALSE(save(at("old")));
     EXPECT_EQ(contents("old") == "old contents", isBeside);
+    EXPECT_FALSE(fs::exists(at("old.nvlist-new")));
     onProgress = [&, isParent = true](Variant&) mutable {
       if (!std::exchange(isParent, false)) return;
       EXPECT_EQ(WEXITSTATUS(saveInAChild()), 2) << "not locked";

@@ -110,7 +110,8 @@ TEST_F(SpEvTest, AFailingFileOperationEndsTheHelperUnlessSilent) {
       memory.files["a"] = "1\r\n2";
       memory.failing = failing;
       rows->texts = {"x"};
-      result += run(memory.files["a"]) + reports();
+      result += run(memory.files["a"]);
+      result += reports();
       EXPECT_EQ(memory.open, 0);
       if (memory.operations < failing) return result;
       result += ";";

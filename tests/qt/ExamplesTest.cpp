@@ -4,6 +4,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "../../examples/million/MillionWindow.h"
 #include "../../examples/todo/TodoWindow.h"
 
 namespace {
@@ -47,6 +48,20 @@ TEST(Examples, todo) {
   ASSERT_EQ(list.count(), 3);
   EXPECT_EQ(list.itemText(0), "Call Mira and Jon");
   EXPECT_TRUE(list.list().ItemChecked(0) && list.list().ItemAllowEdit(2));
+}
+
+TEST(Examples, million) {
+  constexpr int rows = 50'000;
+  MillionWindow window(rows);
+  norvane::NvListWidget& list = listOf(window);
+  auto* search = window.findChild<QLineEdit*>();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return search->isEnabled(); }, 60'000));
+  ASSERT_EQ(list.count(), rows);
+  QTest::keyClicks(search, "049998x");
+  EXPECT_EQ(list.list().ListIndex(), 49'998);
+  search->clear();
+  enter(search, "morat");
+  EXPECT_EQ(list.list().ListIndex(), 3) << "from the top again";
 }
 
 }  // namespace

@@ -17,8 +17,9 @@ class WinTimer final : public Timer {
 
  private:
   void start(std::int32_t milliseconds) override {
+    const UINT_PTR started = apartment_->startTimer(static_cast<UINT>(milliseconds), tick_);
     stop();
-    timer_ = apartment_->startTimer(static_cast<UINT>(milliseconds), tick_);
+    timer_ = started;
   }
   void stop() override { apartment_->stopTimer(std::exchange(timer_, 0)); }
 

@@ -1,6 +1,7 @@
 // A DLL that script clients use, as NvListTest.Helper:
 //
 //     Make(name)         a new object; CreateObject of Wine keeps its class object
+//     Members(object)    the names of its functions and of its properties that hold objects
 //     Picture(path)      the picture in a file
 //     Report             the reports received since the last call; empty: none
 //     Handle kind        the error handler "takes" reports, "fails" or "is missing"
@@ -121,6 +122,25 @@ HRESULT report(const Arguments& given, VARIANT&) {
   return S_OK;
 }
 
+/// The members that the walks over properties in members.cpp leave out.
+std::wstring membersOf(IDispatch* object) {
+  ComPtr<ITypeInfo> info;
+  object->GetTypeInfo(0, 0, info.put());
+  std::wstring result;
+  FUNCDESC* member = nullptr;
+  for (UINT i = 0; SUCCEEDED(info->GetFuncDesc(i, &member)); ++i) {
+    const bool isOfDispatch = member->memid >= 0x60000000;
+    BSTR name = nullptr;
+    info->GetDocumentation(member->memid, &name, nullptr, nullptr, nullptr);
+    if (!isOfDispatch &&
+        (member->invkind == INVOKE_FUNC || member->invkind == INVOKE_PROPERTYPUTREF))
+      result += std::wstring(L";") + name;
+    SysFreeString(name);
+    info->ReleaseFuncDesc(member);
+  }
+  return result;
+}
+
 Object helper{
     {0x14144801, 0x62ca, 0x4e03, {0xad, 0x91, 0x3c, 0x5f, 0x0f, 0x2d, 0xcf, 0x19}},
     L"NvListTest.Helper",
@@ -134,6 +154,8 @@ Object helper{
             CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch, made.putVoid()),
             made);
       }},
+     {L"Members", [](const Arguments& given,
+                     VARIANT& result) { return answerText(result, membersOf(given[0].pdispVal)); }},
      {L"Picture",
       [](const Arguments& given, VARIANT& result) {
         ComPtr<IDispatch> picture;

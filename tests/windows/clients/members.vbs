@@ -226,8 +226,17 @@ s.ListSave b, folder & "text.txt" : Set b = New Box
 s.ListRead b, folder & "text.txt" : Check "ListRead", b.ListCount & b.List(1), "2y"
 s.ListRead 5, folder & "text.txt" : Check "a list box that is none", Left(helper.Report, 3), "424"
 
-' ---- speed, end ----
+' ---- completeness, speed, end ----
 Check "reports at the end", helper.Report, ""
+Dim called : Set called = New RegExp
+Dim source : source = files.OpenTextFile(WScript.ScriptFullName).ReadAll
+Dim m, unseen
+For Each m In Split(helper.Members(c) & helper.Members(s), ";")
+    called.Pattern = "\b[cs]\." & m & "\b"
+    If Not called.Test(source) Then unseen = unseen & m & ";"
+Next
+Check "never called", unseen, ""
+
 Dim d, t
 c.ItemsClear : c.AutoRedraw = False
 t = Timer : For i = 1 To 20000 : c.ItemsAdd "item " & i : Next : t = Timer - t
