@@ -13,6 +13,7 @@ target_sources(nvlist PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FI
   nvlist/core/storedProperties.h
   nvlist/drawing/DeferredSurface.h
   nvlist/drawing/DrawnPicture.h
+  nvlist/drawing/FontFaces.h
   nvlist/drawing/MirroredSurface.h
   nvlist/drawing/Recording.h
   nvlist/drawing/RecordingSurface.h
