@@ -49,7 +49,8 @@ TEST_F(ListSave, WritesSixCharactersForAnyColour) {
   for (const auto& [colour, written] : cases) {
     list.ItemsClear();
     list.ItemsAdd({.aText = "", .aBackColor = colour});
-    EXPECT_EQ(save().substr(12, 6) + " " + events(), written) << colour.toText();
+    const std::string saved = save().substr(12, 6);
+    EXPECT_EQ(saved + " " + events(), written) << colour.toText();
   }
 }
 
